@@ -1,0 +1,152 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "form/Event.h"
+#include "form/Geometry.h"
+
+namespace vantor::form {
+
+class Form;
+
+enum class ControlKind {
+  TextBox,
+  CommandButton,
+  CheckBox,
+  OptionButton,
+  ComboBox,
+  Label,
+  Frame,
+  Image,
+  PictureBox,
+  DriveList,
+  FolderList,
+  FileList,
+};
+
+/// What about a control changed, for the window that mirrors it.
+enum class Property {
+  Bounds,
+  Visible,
+  Enabled,
+  Colors,
+  ToolTip,
+  Text,
+  Selection,
+  Caption,
+  Picture,
+  Value,
+  List,       // any change of a list's entries
+  ListIndex,
+};
+
+/// The window behind a control, if there is one. Back ends derive from it.
+class ControlWindow {
+ public:
+  virtual ~ControlWindow() = default;
+  /// Shows the control's new state. Never raises an event of the control.
+  virtual void Changed(Property property) = 0;
+  virtual void TakeFocus() = 0;
+
+ protected:
+  ControlWindow() = default;
+  ControlWindow(const ControlWindow&) = default;
+  ControlWindow& operator=(const ControlWindow&) = default;
+};
+
+/// What all controls have. A control is whole without a window: its state lives here, and a window only shows
+/// it and reports what the user does through the Input… functions of the derived classes. Input to a control
+/// that is disabled, hidden, inside such a frame, or behind a modal form is ignored.
+class Control {
+ public:
+  /// Puts the control on a form, last in tab order and on top of the controls before it.
+  Control(Form& form, std::wstring_view name, ControlKind kind);
+  /// Puts the control into a frame, or any other control that serves as container.
+  Control(Control& container, std::wstring_view name, ControlKind kind);
+  virtual ~Control();
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  [[nodiscard]] const std::wstring& Name() const { return name_; }
+  [[nodiscard]] ControlKind Kind() const { return kind_; }
+  [[nodiscard]] Form& OwnerForm() const { return form_; }
+  /// The frame that the control is in; null for one that stands on the form itself.
+  [[nodiscard]] Control* Container() const { return container_; }
+
+  /// Place and size in twips, relative to the container.
+  [[nodiscard]] const Rect& Bounds() const { return bounds_; }
+  void SetBounds(const Rect& bounds);
+  [[nodiscard]] Twips Left() const { return bounds_.Left; }
+  [[nodiscard]] Twips Top() const { return bounds_.Top; }
+  [[nodiscard]] Twips Width() const { return bounds_.Width; }
+  [[nodiscard]] Twips Height() const { return bounds_.Height; }
+  [[nodiscard]] Twips Right() const { return bounds_.Right(); }
+  [[nodiscard]] Twips Bottom() const { return bounds_.Bottom(); }
+
+  [[nodiscard]] bool Visible() const { return visible_; }
+  void SetVisible(bool visible);
+  [[nodiscard]] bool Enabled() const { return enabled_; }
+  void SetEnabled(bool enabled);
+  /// Whether the user can reach the control now: it and its containers are visible and enabled, its form is
+  /// shown, and no modal form stands before that form.
+  [[nodiscard]] bool AcceptsInput() const;
+
+  [[nodiscard]] Color BackColor() const { return backColor_; }
+  void SetBackColor(Color color);
+  [[nodiscard]] Color ForeColor() const { return foreColor_; }
+  void SetForeColor(Color color);
+
+  [[nodiscard]] const std::wstring& ToolTip() const { return toolTip_; }
+  void SetToolTip(std::wstring_view text);
+  /// What a screen reader calls the control: the name set, else the tool tip's text before "---".
+  [[nodiscard]] std::wstring AccessibleName() const;
+  void SetAccessibleName(std::wstring_view name);
+
+  /// Place in the order in which Tab walks; 0 comes first. Starts as the order of construction.
+  [[nodiscard]] int TabIndex() const { return tabIndex_; }
+  void SetTabIndex(int index) { tabIndex_ = index; }
+  /// Whether Tab stops here; true from the start for the kinds that take the focus.
+  [[nodiscard]] bool TabStop() const { return tabStop_; }
+  void SetTabStop(bool tabStop) { tabStop_ = tabStop; }
+
+  /// Whether the kind takes the focus at all.
+  [[nodiscard]] bool IsFocusable() const;
+  /// Gives the control the focus; does nothing when the control is not focusable, hidden or disabled. On a form
+  /// that is not shown yet the control gets the focus when it is.
+  void SetFocus();
+  [[nodiscard]] bool HasFocus() const;
+
+  Event<> GotFocus;
+  Event<> LostFocus;
+
+  /// The window that mirrors the control, set by the back end that made it; null without one.
+  void AttachWindow(ControlWindow* window) { window_ = window; }
+  [[nodiscard]] ControlWindow* Window() const { return window_; }
+
+ protected:
+  void NotifyWindow(Property property) const;
+
+ private:
+  /// Visible and enabled, with every container of it.
+  [[nodiscard]] bool IsReachable() const;
+
+  Form& form_;
+  Control* container_ = nullptr;
+  std::wstring name_;
+  ControlKind kind_;
+  Rect bounds_;
+  bool visible_ = true;
+  bool enabled_ = true;
+  bool tabStop_;
+  int tabIndex_;
+  Color backColor_ = Color::ButtonFace;
+  Color foreColor_ = Color::ButtonText;
+  std::wstring toolTip_;
+  std::wstring accessibleName_;
+  ControlWindow* window_ = nullptr;
+
+  friend class Form;
+};
+
+}  // namespace vantor::form

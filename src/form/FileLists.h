@@ -1,0 +1,86 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "form/ListControl.h"
+#include "service/FileSystem.h"
+
+namespace vantor::form {
+
+/// The drives of the computer as a drop-down list, "c: [label]" each.
+class DriveList : public ListControl {
+ public:
+  template <class Parent>
+  DriveList(Parent& parent, std::wstring_view name, service::FileSystem& files)
+      : ListControl(parent, name, ControlKind::DriveList), files_(files) {}
+
+  /// Reads the drives anew, keeping the chosen one. Raises nothing.
+  void Refresh();
+  /// The chosen drive, such as "c:"; "" before the first choice.
+  [[nodiscard]] std::wstring Drive() const;
+  /// Chooses the drive of a path ("c:", "C:\x") and raises Change; the drive chosen already raises nothing, and
+  /// one that is not in the list is added to it.
+  void SetDrive(std::wstring_view path);
+
+  Event<> Change;
+
+ private:
+  service::FileSystem& files_;
+};
+
+/// The way from a drive's root to the current folder, and that folder's own folders below it, indented. A
+/// double click or Enter goes to the entry.
+class FolderList : public ListControl {
+ public:
+  template <class Parent>
+  FolderList(Parent& parent, std::wstring_view name, service::FileSystem& files)
+      : ListControl(parent, name, ControlKind::FolderList), files_(files) {}
+
+  /// The current folder; a trailing backslash only at a drive's root.
+  [[nodiscard]] const std::wstring& Path() const { return path_; }
+  /// Goes to a folder and raises Change; the current one raises nothing. Returns false, changing nothing, when
+  /// the drive is not ready or there is no such folder.
+  bool SetPath(std::wstring_view path);
+  void Refresh();
+  /// The full path of entry `index`.
+  [[nodiscard]] std::wstring PathOf(int index) const;
+  /// How many levels below the root entry `index` stands, for its indentation.
+  [[nodiscard]] int LevelOf(int index) const;
+
+  Event<> Change;
+
+ protected:
+  void EntryChosen() override;
+
+ private:
+  /// Fills the list for the current folder and selects that folder's entry.
+  void Fill();
+
+  service::FileSystem& files_;
+  std::wstring path_;
+  int currentIndex_ = -1;  // the entry of the current folder; those below it are its own folders
+};
+
+/// The files of a folder whose names fit a pattern such as "*.exe", sorted without regard to letter case.
+class FileList : public ListControl {
+ public:
+  template <class Parent>
+  FileList(Parent& parent, std::wstring_view name, service::FileSystem& files)
+      : ListControl(parent, name, ControlKind::FileList), files_(files) {}
+
+  [[nodiscard]] const std::wstring& Path() const { return path_; }
+  void SetPath(std::wstring_view path);
+  [[nodiscard]] const std::wstring& Pattern() const { return pattern_; }
+  void SetPattern(std::wstring_view pattern);
+  /// Reads the folder anew; none is selected then. A folder that can't be read shows as empty.
+  void Refresh();
+
+ private:
+  service::FileSystem& files_;
+  std::wstring path_;
+  std::wstring pattern_ = L"*.*";
+};
+
+}  // namespace vantor::form

@@ -1,0 +1,135 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "form/Control.h"
+#include "form/Event.h"
+#include "form/Keys.h"
+#include "form/Picture.h"
+
+namespace vantor::form {
+
+class UserInterface;
+
+/// The window behind a form, made by the back end when the form is first shown.
+class FormWindow {
+ public:
+  virtual ~FormWindow() = default;
+  /// Shows what changed: Bounds, Visible, Caption, Colors, or Value for the window state.
+  virtual void Changed(Property property) = 0;
+  /// Puts the window into the topmost band or takes it out, without moving or activating it.
+  virtual void SetTopMost(bool topMost) = 0;
+  /// Lets the window manager move the window with the mouse, as by a title bar; returns when the move has ended.
+  virtual void Drag() = 0;
+  virtual void Activate() = 0;
+
+ protected:
+  FormWindow() = default;
+  FormWindow(const FormWindow&) = default;
+  FormWindow& operator=(const FormWindow&) = default;
+};
+
+enum class WindowState { Normal, Minimized };
+enum class BorderStyle { None, Dialog };
+
+/// A top-level window with controls. It exists without being loaded; loading runs its Load handler once, and
+/// showing it loads it first. Unloading asks nobody, runs the Unload handler and takes the window away; the
+/// next use loads it again.
+class Form {
+ public:
+  Form(UserInterface& ui, std::wstring_view name);
+  virtual ~Form();
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  [[nodiscard]] const std::wstring& Name() const { return name_; }
+  [[nodiscard]] UserInterface& Ui() const { return ui_; }
+
+  /// Runs the Load handler if the form is not loaded.
+  void Load();
+  [[nodiscard]] bool Loaded() const { return loaded_; }
+  /// Hides the form, takes its window away and runs the Unload handler; nothing if it is not loaded.
+  void Unload();
+
+  void Show();
+  /// Shows the form before all others, which ignore input meanwhile; returns when it is hidden or unloaded, or
+  /// when the program ends.
+  void ShowModal();
+  void Hide();
+  [[nodiscard]] bool Visible() const { return visible_; }
+  /// Shown, and no modal form stands before it.
+  [[nodiscard]] bool AcceptsInput() const;
+
+  [[nodiscard]] const std::wstring& Caption() const { return caption_; }
+  void SetCaption(std::wstring_view caption);
+  [[nodiscard]] Color BackColor() const { return backColor_; }
+  void SetBackColor(Color color);
+  [[nodiscard]] form::BorderStyle BorderStyle() const { return borderStyle_; }
+  void SetBorderStyle(form::BorderStyle style) { borderStyle_ = style; }  // before the form is shown
+
+  /// Place and size of the whole window on the desktop, in twips.
+  [[nodiscard]] const Rect& Bounds() const { return bounds_; }
+  void SetBounds(const Rect& bounds);
+  [[nodiscard]] form::WindowState WindowState() const { return windowState_; }
+  void SetWindowState(form::WindowState state);
+  /// Whether the window is to stand above all windows that are not topmost. Setting it again asserts it anew.
+  [[nodiscard]] bool TopMost() const { return topMost_; }
+  void SetTopMost(bool topMost);
+  /// Lets the user move the form with the mouse button that is held; Bounds are the new ones on return.
+  void Drag();
+  void Activate();
+
+  [[nodiscard]] const std::vector<Control*>& Controls() const { return controls_; }
+  /// The control that has the focus while the form is active; null for none.
+  [[nodiscard]] Control* ActiveControl() const { return activeControl_; }
+  /// Moves the focus to the next control in tab order, or the one before; round at the ends.
+  void MoveFocus(bool backwards);
+
+  // The user's doings, reported by the back end.
+
+  /// A key let go, seen by the form whichever control has the focus.
+  void InputKeyUp(Key key);
+  void InputMouseMove(MouseButton held);
+  void InputMoved(const Rect& bounds);
+  void InputWindowState(form::WindowState state) { windowState_ = state; }
+  /// The user closes the window, or Windows ends.
+  void InputClose();
+  /// The focus went to a control by mouse, Tab or the window manager.
+  void InputFocus(Control* control);
+
+  void AttachWindow(std::unique_ptr<FormWindow> window);
+  [[nodiscard]] FormWindow* Window() const { return window_.get(); }
+
+ protected:
+  virtual void Form_Load() {}
+  virtual void Form_Unload() {}
+  virtual void Form_KeyUp(Key /*key*/) {}
+  virtual void Form_MouseMove(MouseButton /*held*/) {}
+  /// What closing the window does: an unload unless the form does otherwise.
+  virtual void Form_Close() { Unload(); }
+
+ private:
+  friend class Control;
+  void AddControl(Control& control);
+  void RemoveControl(Control& control);
+  void SetActiveControl(Control* control);
+
+  UserInterface& ui_;
+  std::wstring name_;
+  std::wstring caption_;
+  Rect bounds_;
+  Color backColor_ = Color::ButtonFace;
+  form::BorderStyle borderStyle_ = form::BorderStyle::None;
+  form::WindowState windowState_ = form::WindowState::Normal;
+  bool topMost_ = false;
+  bool loaded_ = false;
+  bool visible_ = false;
+  std::vector<Control*> controls_;
+  Control* activeControl_ = nullptr;
+  std::unique_ptr<FormWindow> window_;
+};
+
+}  // namespace vantor::form

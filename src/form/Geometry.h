@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+
+namespace vantor::form {
+
+/// A length on the screen: 1/1440 inch, so 15 of them are a pixel at 96 dots per inch.
+using Twips = int;
+
+inline constexpr Twips TwipsPerInch = 1440;
+
+/// A place and a size in twips. Relative to the container for a control, to the desktop for a form.
+struct Rect {
+  Twips Left = 0;
+  Twips Top = 0;
+  Twips Width = 0;
+  Twips Height = 0;
+
+  [[nodiscard]] Twips Right() const { return Left + Width; }
+  [[nodiscard]] Twips Bottom() const { return Top + Height; }
+  friend bool operator==(const Rect&, const Rect&) = default;
+};
+
+/// One screen of the desktop. Twips per pixel may be fractional (7.5 at 192 dots per inch).
+struct Screen {
+  Rect Bounds;
+  Rect WorkArea;
+  double TwipsPerPixelX = 15;
+  double TwipsPerPixelY = 15;
+};
+
+/// A colour: 0x00BBGGRR, or 0x800000nn for the system colour nn, which follows the user's theme.
+enum class Color : std::uint32_t {
+  Silver = 0x00C0C0C0,
+  LineBlue = 0x00FFC8B4,  // red 180, green 200, blue 255: the one accent of the product
+  WindowBackground = 0x80000005,
+  WindowText = 0x80000008,
+  ButtonFace = 0x8000000F,
+  ButtonText = 0x80000012,
+};
+
+}  // namespace vantor::form

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "form/TextBox.h"
+#include "form/UserInterface.h"
+
+namespace vantor::form {
+
+/// A desktop without windows: one screen, a clock that stands still until told, and a user who does what a
+/// test says. A program on it runs to the letter as on a real desktop.
+class Headless : public UserInterface {
+ public:
+  Headless();
+  ~Headless() override;
+
+  /// The one screen, 1024 by 768 pixels of 15 twips at first.
+  Screen Desktop;
+
+  /// Lets time pass, raising the ticks that fall into it in order.
+  void Advance(int milliseconds);
+
+  /// What the user does while the next modal form stands open. Scripts are used in the order given, one a form;
+  /// a modal form without one throws std::logic_error, so that a test sees a message it did not expect.
+  void WhenModal(std::function<void(Form&)> script);
+  /// Whether all scripts have been used.
+  [[nodiscard]] bool ModalScriptsDone() const { return modalScripts_.empty(); }
+
+  /// The form that has the focus: the modal one, else the one activated or shown last.
+  [[nodiscard]] Form* ActiveForm() const;
+
+  // The user's hands.
+
+  /// Types characters into the control that has the focus. Backspace is '\b', Enter '\r', Escape '\x1b'.
+  void Type(std::wstring_view text);
+  /// Presses and lets go a key; for the text keys this types their character too.
+  void Press(Key key);
+  void Click(Control& control);
+  void DoubleClick(Control& control);
+  /// Drags the active form by (x, y) twips with the mouse.
+  void DragBy(Form& form, Twips x, Twips y);
+
+  [[nodiscard]] Screen ScreenAt(const Rect& place) const override;
+  [[nodiscard]] Screen PrimaryScreen() const override;
+  void RunModal(Form& form) override;
+  void Run() override;
+  void StartTimer(Timer& timer) override;
+  void StopTimer(Timer& timer) override;
+
+ protected:
+  std::unique_ptr<FormWindow> MakeWindow(Form& form) override;
+  void WakeUp() override {}
+  void ModalChanged() override {}
+
+ private:
+  struct Due;
+  std::vector<Due> timers_;
+  std::deque<std::function<void(Form&)>> modalScripts_;
+  long long now_ = 0;
+};
+
+}  // namespace vantor::form

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "form/Control.h"
+
+namespace vantor::form {
+
+/// What the list kinds share: entries in order, and the index of the one that is selected (-1: none).
+class ListControl : public Control {
+ public:
+  [[nodiscard]] int ListCount() const { return static_cast<int>(list_.size()); }
+  /// Entry `index`, 0 to ListCount() - 1; throws std::out_of_range beyond.
+  [[nodiscard]] const std::wstring& List(int index) const { return list_.at(static_cast<std::size_t>(index)); }
+  [[nodiscard]] const std::vector<std::wstring>& Entries() const { return list_; }
+
+  [[nodiscard]] int ListIndex() const { return listIndex_; }
+  /// Selects an entry and raises Click; the index that is selected already raises nothing. Throws
+  /// std::out_of_range for an index that is not -1 to ListCount() - 1.
+  void SetListIndex(int index);
+  /// The selected entry, "" when none is.
+  [[nodiscard]] std::wstring Text() const;
+
+  Event<> Click;
+  Event<> DblClick;
+
+  // The user's doings, reported by the back end.
+  void InputSelect(int index);
+  void InputDblClick();
+
+ protected:
+  using Control::Control;
+
+  /// Puts other entries in the place of all, with none selected. Raises nothing.
+  void ReplaceEntries(std::vector<std::wstring> entries);
+  /// What a double click, or Enter on an entry, does beyond telling it.
+  virtual void EntryChosen() {}
+
+  std::vector<std::wstring> list_;
+  int listIndex_ = -1;
+};
+
+/// A drop-down list whose entries the program adds, renames and removes. It is not sorted.
+class ComboBox : public ListControl {
+ public:
+  template <class Parent>
+  ComboBox(Parent& parent, std::wstring_view name) : ListControl(parent, name, ControlKind::ComboBox) {
+    SetBackColor(Color::WindowBackground);
+    SetForeColor(Color::WindowText);
+  }
+
+  /// Appends an entry; the selection stays.
+  void AddItem(std::wstring_view text);
+  void Reserve(int count) { list_.reserve(static_cast<std::size_t>(count)); }
+  /// Replaces the text of one entry; the selection stays. Throws std::out_of_range.
+  void SetList(int index, std::wstring_view text);
+  /// Removes an entry. The selection stays on its entry, and is none when that entry goes. Raises nothing.
+  /// Throws std::out_of_range.
+  void RemoveItem(int index);
+  void Clear() { ReplaceEntries({}); }
+};
+
+}  // namespace vantor::form

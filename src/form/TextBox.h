@@ -1,0 +1,54 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "form/Control.h"
+
+namespace vantor::form {
+
+/// A single-line text box. Selection positions count characters from 0.
+class TextBox : public Control {
+ public:
+  /// Parent: a Form, or a control that serves as container.
+  template <class Parent>
+  TextBox(Parent& parent, std::wstring_view name) : Control(parent, name, ControlKind::TextBox) {
+    SetBackColor(Color::WindowBackground);
+    SetForeColor(Color::WindowText);
+  }
+
+  [[nodiscard]] const std::wstring& Text() const { return text_; }
+  /// Puts the caret at the start of the new text and raises Change; setting the text it already has does nothing.
+  void SetText(std::wstring_view text);
+
+  [[nodiscard]] int SelStart() const { return selStart_; }
+  [[nodiscard]] int SelLength() const { return selLength_; }
+  /// Both are brought into the text where they reach beyond it.
+  void Select(int start, int length);
+  void SelectAll() { Select(0, static_cast<int>(text_.size())); }
+
+  /// An input method is composing: what stands in the box is not final yet.
+  [[nodiscard]] bool Composing() const { return composing_; }
+
+  Event<> Change;
+  Event<wchar_t&> KeyPress;  // before the character is applied; 0 swallows it
+  Event<> DblClick;
+
+  // The user's doings, reported by the back end.
+
+  /// A character key. Returns the character to apply, 0 for none.
+  wchar_t InputKeyPress(wchar_t character);
+  /// The text as the user's editing left it.
+  void InputEdited(std::wstring_view text, int selStart, int selLength);
+  void InputSelection(int selStart, int selLength);
+  void InputComposing(bool composing) { composing_ = composing; }
+  void InputDblClick();
+
+ private:
+  std::wstring text_;
+  int selStart_ = 0;
+  int selLength_ = 0;
+  bool composing_ = false;
+};
+
+}  // namespace vantor::form

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "form/Event.h"
+
+namespace vantor::form {
+
+class Form;
+class UserInterface;
+
+/// Raises Tick every Interval milliseconds while it is enabled, on the user-interface thread. Ticks never
+/// overlap. Enabling it, or changing the interval of an enabled one, begins a whole interval anew; enabling one
+/// that is enabled already does nothing.
+class Timer {
+ public:
+  Timer(Form& form, int intervalMilliseconds);
+  ~Timer();
+  Timer(const Timer&) = delete;
+  Timer& operator=(const Timer&) = delete;
+
+  [[nodiscard]] bool Enabled() const { return enabled_; }
+  void SetEnabled(bool enabled);
+  [[nodiscard]] int Interval() const { return interval_; }
+  void SetInterval(int milliseconds);
+
+  Event<> Tick;
+
+ private:
+  UserInterface& ui_;
+  int interval_;
+  bool enabled_ = false;
+};
+
+}  // namespace vantor::form

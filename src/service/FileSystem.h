@@ -1,0 +1,60 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vantor::service {
+
+struct Drive {
+  wchar_t Letter = L'?';  // upper case
+  int Type = 0;           // the scripting file system's numbering, 0 to 5; 2 is a fixed disk
+  std::wstring Label;     // "" when it has none or is not ready
+};
+
+/// Drives, files and folders, as "Scripting.FileSystemObject" tells of them.
+class FileSystem {
+ public:
+  virtual ~FileSystem() = default;
+
+  /// The type of the drive of `root` ("C:", "C:\", "\\server\share\"): 0 unknown, 1 removable, 2 fixed,
+  /// 3 network, 4 CD, 5 RAM disk. Nothing when there is no such drive or it can't be examined.
+  [[nodiscard]] virtual std::optional<int> DriveType(std::wstring_view root) = 0;
+  [[nodiscard]] virtual bool FileExists(std::wstring_view path) = 0;
+  [[nodiscard]] virtual bool FolderExists(std::wstring_view path) = 0;
+  /// What follows the last dot of the file name, in its own letter case; "" without a dot.
+  [[nodiscard]] virtual std::wstring ExtensionName(std::wstring_view path) = 0;
+
+  [[nodiscard]] virtual std::vector<Drive> Drives() = 0;
+  /// Whether the drive of a path can be read now.
+  [[nodiscard]] virtual bool DriveReady(std::wstring_view path) = 0;
+  /// Names of the folders in a folder, sorted without regard to letter case, hidden and system ones left out.
+  /// Empty when it can't be read.
+  [[nodiscard]] virtual std::vector<std::wstring> Folders(std::wstring_view path) = 0;
+  /// The same for the files whose names fit `pattern` ("*.exe"; "*.*" is every name).
+  [[nodiscard]] virtual std::vector<std::wstring> Files(std::wstring_view path, std::wstring_view pattern) = 0;
+
+  /// Between these two one object answers all calls instead of one a call. They may be nested.
+  virtual void BeginMany() {}
+  virtual void EndMany() {}
+
+ protected:
+  FileSystem() = default;
+  FileSystem(const FileSystem&) = default;
+  FileSystem& operator=(const FileSystem&) = default;
+};
+
+/// Holds one file-system object for as long as a load or a save takes.
+class ManyFileCalls {
+ public:
+  explicit ManyFileCalls(FileSystem& files) : files_(files) { files_.BeginMany(); }
+  ~ManyFileCalls() { files_.EndMany(); }
+  ManyFileCalls(const ManyFileCalls&) = delete;
+  ManyFileCalls& operator=(const ManyFileCalls&) = delete;
+
+ private:
+  FileSystem& files_;
+};
+
+}  // namespace vantor::service

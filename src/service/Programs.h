@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string_view>
+
+namespace vantor::service {
+
+/// Starting programs, documents and telephone calls without the scripting objects.
+class Programs {
+ public:
+  virtual ~Programs() = default;
+
+  /// Starts a command line with a normal window and the focus, without waiting. A text that names an existing
+  /// file as a whole starts exactly that file. False when nothing was started.
+  [[nodiscard]] virtual bool StartCommandLine(std::wstring_view commandLine) = 0;
+  /// `ShellExecute` with the verb "open" and show command 5. Returns its result: above 32 is success.
+  [[nodiscard]] virtual int ShellOpen(std::wstring_view file) = 0;
+  /// `tapiRequestMakeCall`. Returns its result: 0, or a negative error code; also when there is no telephony.
+  [[nodiscard]] virtual int RequestMakeCall(std::wstring_view number, std::wstring_view applicationName) = 0;
+
+ protected:
+  Programs() = default;
+  Programs(const Programs&) = default;
+  Programs& operator=(const Programs&) = default;
+};
+
+}  // namespace vantor::service

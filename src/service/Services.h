@@ -1,0 +1,24 @@
+#pragma once
+
+#include "service/DataFiles.h"
+#include "service/FileSystem.h"
+#include "service/Language.h"
+#include "service/Management.h"
+#include "service/Programs.h"
+#include "service/ScriptShell.h"
+#include "service/System.h"
+
+namespace vantor::service {
+
+/// All that the program asks of the system. Whoever makes a Program keeps them alive for its length.
+struct Services {
+  service::DataFiles& DataFiles;
+  service::FileSystem& FileSystem;
+  service::Language& Language;
+  service::Management& Management;
+  service::Programs& Programs;
+  service::ScriptShell& ScriptShell;
+  service::System& System;
+};
+
+}  // namespace vantor::service

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "service/DataFiles.h"
+#include "service/Language.h"
+
+namespace vantor::text {
+
+/// Builds the text of a sequential file: one record a line, lines ended by CR LF.
+class SequentialWriter {
+ public:
+  /// A number, bare.
+  void Write(long long value);
+  /// A double, in the shortest form that reads back to the same value, without an exponent.
+  void Write(double value);
+  /// A text in double quotes. There is no escaping: a double quote inside ends the field on reading.
+  void Write(std::wstring_view text);
+  /// Two texts in double quotes, separated by one comma.
+  void Write(std::wstring_view first, std::wstring_view second);
+
+  void Reserve(std::size_t characters) { text_.reserve(characters); }
+  [[nodiscard]] const std::wstring& Text() const { return text_; }
+
+ private:
+  void AppendQuoted(std::wstring_view text);
+
+  std::wstring text_;
+};
+
+/// Reads fields one after another, as an input statement does: a quoted field ends at its closing quote and
+/// keeps its commas; an unquoted one ends at a comma or a line end and loses the blanks around it. CR, LF and
+/// CR LF all end a line.
+class SequentialReader {
+ public:
+  explicit SequentialReader(std::wstring_view text) : rest_(text) {}
+
+  struct Field {
+    std::wstring Text;
+    bool Quoted = false;
+  };
+  /// The next field; nothing at the end of the text or when a quoted field has no closing quote.
+  [[nodiscard]] std::optional<Field> Read();
+
+ private:
+  std::wstring_view rest_;
+};
+
+/// The text of a data file, in the system's ANSI code page, or in UTF-8 when it begins with that byte-order
+/// mark. Nothing when it can't be read.
+[[nodiscard]] std::optional<std::wstring> ReadTextFile(service::DataFiles& files, const service::Language& language,
+                                                       std::wstring_view path);
+/// Replaces a data file, in the ANSI code page if that holds every character, else as UTF-8 with a byte-order
+/// mark. False when it could not be written.
+[[nodiscard]] bool WriteTextFile(service::DataFiles& files, const service::Language& language,
+                                 std::wstring_view path, std::wstring_view text);
+
+}  // namespace vantor::text
