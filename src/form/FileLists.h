@@ -26,6 +26,9 @@ class DriveList : public ListControl {
 
   Event<> Change;
 
+ protected:
+  void EntrySelected() override { Change(); }
+
  private:
   service::FileSystem& files_;
 };
@@ -60,7 +63,7 @@ class FolderList : public ListControl {
 
   service::FileSystem& files_;
   std::wstring path_;
-  int currentIndex_ = -1;  // the entry of the current folder; those below it are its own folders
+  int currentIndex_ = -1;  // the entry of the current folder; those after it are that folder's own
 };
 
 /// The files of a folder whose names fit a pattern such as "*.exe", sorted without regard to letter case.

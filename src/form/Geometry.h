@@ -21,6 +21,11 @@ struct Rect {
   friend bool operator==(const Rect&, const Rect&) = default;
 };
 
+struct Size {
+  Twips Width = 0;
+  Twips Height = 0;
+};
+
 /// One screen of the desktop. Twips per pixel may be fractional (7.5 at 192 dots per inch).
 struct Screen {
   Rect Bounds;

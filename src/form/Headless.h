@@ -41,11 +41,13 @@ class Headless : public UserInterface {
   void Press(Key key);
   void Click(Control& control);
   void DoubleClick(Control& control);
-  /// Drags the active form by (x, y) twips with the mouse.
+  /// Drags the form by (x, y) twips, by a free spot of it.
   void DragBy(Form& form, Twips x, Twips y);
 
   [[nodiscard]] Screen ScreenAt(const Rect& place) const override;
   [[nodiscard]] Screen PrimaryScreen() const override;
+  /// Every character is 90 twips wide, every line 195 high.
+  [[nodiscard]] Size MeasureText(std::wstring_view text, bool bold, Twips width) const override;
   void RunModal(Form& form) override;
   void Run() override;
   void StartTimer(Timer& timer) override;
@@ -57,8 +59,18 @@ class Headless : public UserInterface {
   void ModalChanged() override {}
 
  private:
-  struct Due;
-  std::vector<Due> timers_;
+  class Window;
+  struct RunningTimer {
+    Timer* Timer = nullptr;
+    long long Due = 0;  // by now_
+  };
+
+  void TypeCharacter(wchar_t character);
+
+  std::vector<RunningTimer> timers_;
+  Form* activeForm_ = nullptr;
+  Twips dragX_ = 0;
+  Twips dragY_ = 0;
   std::deque<std::function<void(Form&)>> modalScripts_;
   long long now_ = 0;
 };

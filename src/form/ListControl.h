@@ -17,8 +17,8 @@ class ListControl : public Control {
   [[nodiscard]] const std::vector<std::wstring>& Entries() const { return list_; }
 
   [[nodiscard]] int ListIndex() const { return listIndex_; }
-  /// Selects an entry and raises Click; the index that is selected already raises nothing. Throws
-  /// std::out_of_range for an index that is not -1 to ListCount() - 1.
+  /// Selects an entry and raises Click once; the index that is selected already raises nothing, nor does -1,
+  /// which selects none. Throws std::out_of_range for an index that is not -1 to ListCount() - 1.
   void SetListIndex(int index);
   /// The selected entry, "" when none is.
   [[nodiscard]] std::wstring Text() const;
@@ -35,6 +35,8 @@ class ListControl : public Control {
 
   /// Puts other entries in the place of all, with none selected. Raises nothing.
   void ReplaceEntries(std::vector<std::wstring> entries);
+  /// An entry was selected, by the user or the program.
+  virtual void EntrySelected() { Click(); }
   /// What a double click, or Enter on an entry, does beyond telling it.
   virtual void EntryChosen() {}
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string_view>
 #include <vector>
 
 #include "form/Form.h"
@@ -20,6 +21,9 @@ class UserInterface {
   /// The screen that holds most of `place` (a form's bounds), the nearest one if none does.
   [[nodiscard]] virtual Screen ScreenAt(const Rect& place) const = 0;
   [[nodiscard]] virtual Screen PrimaryScreen() const = 0;
+
+  /// The room that a label's text takes when its lines are broken at `width` twips.
+  [[nodiscard]] virtual Size MeasureText(std::wstring_view text, bool bold, Twips width) const = 0;
 
   /// Handles input and timers until the form is not visible any more or the program ends.
   virtual void RunModal(Form& form) = 0;
