@@ -26,11 +26,6 @@ struct Size {
   Twips Height = 0;
 };
 
-struct Size {
-  Twips Width = 0;
-  Twips Height = 0;
-};
-
 /// One screen of the desktop. Twips per pixel may be fractional (7.5 at 192 dots per inch).
 struct Screen {
   Rect Bounds;

@@ -46,7 +46,6 @@ class Headless : public UserInterface {
 
   [[nodiscard]] Screen ScreenAt(const Rect& place) const override;
   [[nodiscard]] Screen PrimaryScreen() const override;
-  [[nodiscard]] Size MeasureText(std::wstring_view text, bool bold, Twips width) const override;
   /// Every character is 90 twips wide, every line 195 high.
   [[nodiscard]] Size MeasureText(std::wstring_view text, bool bold, Twips width) const override;
   void RunModal(Form& form) override;

@@ -21,9 +21,6 @@ class UserInterface {
   /// The screen that holds most of `place` (a form's bounds), the nearest one if none does.
   [[nodiscard]] virtual Screen ScreenAt(const Rect& place) const = 0;
   [[nodiscard]] virtual Screen PrimaryScreen() const = 0;
-  /// The room that a label of this width, in twips, needs to show `text` whole: lines are broken at words and at
-  /// CR LF, and the width returned is that of the widest line. The height is at least that of one line.
-  [[nodiscard]] virtual Size MeasureText(std::wstring_view text, bool bold, Twips width) const = 0;
 
   /// The room that a label's text takes when its lines are broken at `width` twips.
   [[nodiscard]] virtual Size MeasureText(std::wstring_view text, bool bold, Twips width) const = 0;
