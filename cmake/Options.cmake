@@ -1,0 +1,63 @@
+# Flags that hold for every target, and the helpers that make targets.
+
+option(VANTOR_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+
+add_library(vantor_flags INTERFACE)
+target_include_directories(vantor_flags INTERFACE "${PROJECT_SOURCE_DIR}/src" "${PROJECT_BINARY_DIR}/generated")
+target_compile_options(
+  vantor_flags
+  INTERFACE
+    -Wall
+    -Wextra
+    -Wpedantic
+    -Werror
+    -Wshadow
+    -Wconversion
+    -Wnon-virtual-dtor
+    -Woverloaded-virtual
+    -Wextra-semi
+    -Wcast-qual
+    # A designated initialiser that leaves members at their defaults is the point of using one.
+    -Wno-missing-field-initializers)
+
+if(VANTOR_SANITIZE)
+  # Without recovery a finding ends the program, so that no test can pass over it.
+  target_compile_options(
+    vantor_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -g1)
+  target_link_options(vantor_flags INTERFACE -fsanitize=address,undefined)
+  target_compile_definitions(vantor_flags INTERFACE _GLIBCXX_ASSERTIONS)
+endif()
+
+# An empty folder makes an empty target, so that a subsystem can be begun by adding its first file.
+function(vantor_library name)
+  if(ARGN)
+    add_library(${name} STATIC ${ARGN})
+    target_link_libraries(${name} PUBLIC vantor_flags)
+  else()
+    add_library(${name} INTERFACE)
+    target_link_libraries(${name} INTERFACE vantor_flags)
+  endif()
+endfunction()
+
+# One CTest test for each source file: a failure names its file, and files can run side by side.
+# A filter that matches nothing is a failure too.
+function(vantor_add_tests label sources)
+  cmake_parse_arguments(arg "" "TIMEOUT;PREFIX" "COMMAND;ENVIRONMENT" ${ARGN})
+  foreach(source IN LISTS ${sources})
+    file(STRINGS "${source}" cases REGEX "^ *(TEST_CASE|SCENARIO|TEST_CASE_FIXTURE|TEST_CASE_TEMPLATE)[_A-Z]*\\(" LIMIT_COUNT 1)
+    if(NOT cases)
+      continue()
+    endif()
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${source}")
+    file(RELATIVE_PATH relative "${PROJECT_SOURCE_DIR}/tests" "${source}")
+    string(REGEX REPLACE "\\.cpp$" "" name "${relative}")
+    set(name "${arg_PREFIX}${name}")
+    add_test(NAME ${name} COMMAND ${arg_COMMAND} "--source-file=*tests/${relative}" --no-colors=true)
+    set_tests_properties(
+      ${name}
+      PROPERTIES LABELS "${label}"
+                 TIMEOUT ${arg_TIMEOUT}
+                 FAIL_REGULAR_EXPRESSION "test cases: +0 "
+                 ENVIRONMENT "${arg_ENVIRONMENT}")
+  endforeach()
+endfunction()

@@ -1,0 +1,37 @@
+# The one list of sources. Every tool chain, the formatter and the linter read it from here.
+
+set(VANTOR_CORE_FOLDERS text form service message list command bar add options start)
+set(VANTOR_UNIT_TEST_FOLDERS ${VANTOR_CORE_FOLDERS} contract)
+
+function(vantor_glob result)
+  set(patterns ${ARGN})
+  list(TRANSFORM patterns PREPEND "${PROJECT_SOURCE_DIR}/")
+  file(GLOB_RECURSE found CONFIGURE_DEPENDS ${patterns})
+  set(${result} ${found} PARENT_SCOPE)
+endfunction()
+
+foreach(folder IN LISTS VANTOR_CORE_FOLDERS)
+  vantor_glob(found src/${folder}/*.cpp)
+  list(APPEND VANTOR_CORE_SOURCES ${found})
+endforeach()
+
+vantor_glob(VANTOR_WIN32_SOURCES src/win32/*.cpp)
+vantor_glob(VANTOR_WIN32_RESOURCES src/win32/Vantor.rc)
+set(VANTOR_ENTRY_POINT "${PROJECT_SOURCE_DIR}/src/win32/Main.cpp")
+list(REMOVE_ITEM VANTOR_WIN32_SOURCES "${VANTOR_ENTRY_POINT}")
+
+foreach(folder IN LISTS VANTOR_UNIT_TEST_FOLDERS)
+  vantor_glob(found tests/${folder}/*.cpp)
+  list(APPEND VANTOR_UNIT_TEST_SOURCES ${found})
+endforeach()
+
+vantor_glob(VANTOR_FAKE_SOURCES tests/fake/*.cpp)
+vantor_glob(VANTOR_CONTRACT_SOURCES tests/contract/*.cpp tests/win32/*.cpp)
+vantor_glob(VANTOR_RECORDER_SOURCES tests/desktop/recorder/*.cpp)
+vantor_glob(VANTOR_DESKTOP_SOURCES tests/desktop/*.cpp)
+list(FILTER VANTOR_DESKTOP_SOURCES EXCLUDE REGEX "/tests/desktop/recorder/")
+vantor_glob(VANTOR_BENCH_SOURCES bench/*.cpp)
+list(FILTER VANTOR_BENCH_SOURCES EXCLUDE REGEX "/bench/win32/")
+vantor_glob(VANTOR_WIN32_BENCH_SOURCES bench/win32/*.cpp)
+
+set(VANTOR_TEST_MAIN "${PROJECT_SOURCE_DIR}/tests/Main.cpp")

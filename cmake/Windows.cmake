@@ -1,0 +1,99 @@
+# The program itself, and the test programs that need Windows.
+
+target_compile_definitions(
+  vantor_flags
+  INTERFACE UNICODE
+            _UNICODE
+            NOMINMAX
+            WIN32_LEAN_AND_MEAN
+            STRICT
+            # Windows 7 and newer.
+            WINVER=0x0601
+            _WIN32_WINNT=0x0601
+            _WIN32_IE=0x0800)
+target_compile_options(vantor_flags INTERFACE -ffunction-sections -fdata-sections)
+# The run time is linked in: the program needs nothing but what every Windows has.
+target_link_options(vantor_flags INTERFACE -static -Wl,--gc-sections -Wl,--dynamicbase -Wl,--nxcompat)
+
+set(VANTOR_WINDOWS_LIBRARIES
+    comctl32
+    comdlg32
+    gdi32
+    imm32
+    mpr
+    ole32
+    oleaut32
+    shell32
+    shlwapi
+    user32
+    uuid
+    winmm)
+
+vantor_library(vantor_win32 ${VANTOR_WIN32_SOURCES})
+get_target_property(kind vantor_win32 TYPE)
+if(kind STREQUAL "INTERFACE_LIBRARY")
+  set(scope INTERFACE)
+else()
+  set(scope PUBLIC)
+endif()
+target_link_libraries(vantor_win32 ${scope} vantor_core ${VANTOR_WINDOWS_LIBRARIES})
+
+if(EXISTS "${VANTOR_ENTRY_POINT}")
+  add_executable(Vantor WIN32 ${VANTOR_ENTRY_POINT} ${VANTOR_WIN32_RESOURCES})
+  target_link_libraries(Vantor PRIVATE vantor_win32)
+  target_link_options(Vantor PRIVATE -municode -s)
+endif()
+
+# doctest is one header. A copy of its own keeps the host's include folder off the cross compiler's path.
+find_file(VANTOR_DOCTEST_HEADER doctest/doctest.h PATHS /usr/include /usr/local/include NO_CMAKE_FIND_ROOT_PATH REQUIRED)
+configure_file("${VANTOR_DOCTEST_HEADER}" third_party/doctest/doctest.h COPYONLY)
+
+add_library(vantor_doctest INTERFACE)
+target_include_directories(vantor_doctest SYSTEM INTERFACE "${PROJECT_BINARY_DIR}/third_party")
+target_include_directories(vantor_doctest INTERFACE "${PROJECT_SOURCE_DIR}/tests")
+
+vantor_library(vantor_fakes ${VANTOR_FAKE_SOURCES})
+
+# Where the test desktop is not there (a real Windows, say), the programs run by themselves.
+set(on_desktop)
+if(CMAKE_HOST_UNIX)
+  set(on_desktop "${PROJECT_SOURCE_DIR}/tools/wine" --test)
+endif()
+
+if(VANTOR_CONTRACT_SOURCES)
+  add_executable(contract_tests ${VANTOR_TEST_MAIN} ${VANTOR_CONTRACT_SOURCES})
+  target_link_libraries(contract_tests PRIVATE vantor_win32 vantor_fakes vantor_doctest)
+  vantor_add_tests(
+    desktop VANTOR_CONTRACT_SOURCES PREFIX "win32/" TIMEOUT 300
+    COMMAND ${on_desktop} $<TARGET_FILE:contract_tests>)
+endif()
+
+if(VANTOR_RECORDER_SOURCES)
+  add_executable(recorder WIN32 ${VANTOR_RECORDER_SOURCES})
+  target_link_libraries(recorder PRIVATE vantor_flags ${VANTOR_WINDOWS_LIBRARIES})
+  target_link_options(recorder PRIVATE -municode -s)
+endif()
+
+if(VANTOR_DESKTOP_SOURCES)
+  set(main ${VANTOR_TEST_MAIN})
+  if("${PROJECT_SOURCE_DIR}/tests/desktop/Main.cpp" IN_LIST VANTOR_DESKTOP_SOURCES)
+    set(main)
+  endif()
+  add_executable(desktop_tests ${main} ${VANTOR_DESKTOP_SOURCES})
+  target_link_libraries(desktop_tests PRIVATE vantor_flags vantor_doctest ${VANTOR_WINDOWS_LIBRARIES})
+  foreach(program IN ITEMS Vantor recorder)
+    if(TARGET ${program})
+      add_dependencies(desktop_tests ${program})
+    endif()
+  endforeach()
+  vantor_add_tests(
+    desktop VANTOR_DESKTOP_SOURCES PREFIX "" TIMEOUT 600
+    COMMAND ${on_desktop} $<TARGET_FILE:desktop_tests>)
+endif()
+
+foreach(source IN LISTS VANTOR_WIN32_BENCH_SOURCES)
+  get_filename_component(name "${source}" NAME_WE)
+  add_executable(${name} WIN32 ${source})
+  target_link_libraries(${name} PRIVATE vantor_win32)
+  target_link_options(${name} PRIVATE -municode -s)
+endforeach()
