@@ -37,7 +37,7 @@ enum class BorderStyle { None, Dialog };
 
 /// A top-level window with controls. It exists without being loaded; loading runs its Load handler once, and
 /// showing it loads it first. Unloading asks nobody, runs the Unload handler and takes the window away; the
-/// next use loads it again.
+/// next use loads it again. A form that is destroyed is unloaded, or the program has ended.
 class Form {
  public:
   Form(UserInterface& ui, std::wstring_view name);
@@ -100,7 +100,6 @@ class Form {
   /// The focus went to a control by mouse, Tab or the window manager.
   void InputFocus(Control* control);
 
-  void AttachWindow(std::unique_ptr<FormWindow> window);
   [[nodiscard]] FormWindow* Window() const { return window_.get(); }
 
  protected:
@@ -113,9 +112,14 @@ class Form {
 
  private:
   friend class Control;
+  friend class UserInterface;
+  void TakeWindowAway();
   void AddControl(Control& control);
   void RemoveControl(Control& control);
   void SetActiveControl(Control* control);
+  /// Moves the focus on when the control that has it was just hidden or disabled.
+  void LeaveUnreachable();
+  void LeaveModal();
 
   UserInterface& ui_;
   std::wstring name_;

@@ -56,12 +56,14 @@ class Headless : public UserInterface {
  protected:
   std::unique_ptr<FormWindow> MakeWindow(Form& form) override;
   void WakeUp() override {}
+  void Discard(std::unique_ptr<FormWindow> window) override;
   void ModalChanged() override {}
+  void FormGone(Form& form) override;
 
  private:
   class Window;
   struct RunningTimer {
-    Timer* Timer = nullptr;
+    form::Timer* Timer = nullptr;
     long long Due = 0;  // by now_
   };
 

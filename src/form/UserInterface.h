@@ -33,7 +33,7 @@ class UserInterface {
   virtual void StartTimer(Timer& timer) = 0;
   virtual void StopTimer(Timer& timer) = 0;
 
-  /// Ends the program: Run and every RunModal return, and no form is shown any more.
+  /// Ends the program: no form has a window any more, and Run and every RunModal return. Runs no handler.
   void End();
   [[nodiscard]] bool Ended() const { return ended_; }
 
@@ -44,14 +44,20 @@ class UserInterface {
   UserInterface() = default;
   /// Makes the windows of a form and its controls, hidden; null when the back end has no windows.
   virtual std::unique_ptr<FormWindow> MakeWindow(Form& form) = 0;
+  /// Destroys a form's windows, perhaps only once no message of theirs is being handled any more. From this call
+  /// on they never touch the form or its controls again.
+  virtual void Discard(std::unique_ptr<FormWindow> window) = 0;
   /// Wakes up the loops of Run and RunModal, so that they see Ended().
   virtual void WakeUp() = 0;
   /// A modal form begins or ends: the back end disables and enables the windows of the others.
   virtual void ModalChanged() = 0;
+  /// Called when a form object is destroyed, for a back end that remembers forms.
+  virtual void FormGone(Form& /*form*/) {}
 
  private:
   friend class Form;
 
+  std::vector<Form*> forms_;
   std::vector<Form*> modalForms_;
   bool ended_ = false;
 };

@@ -1,0 +1,130 @@
+#include "form/FileLists.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace vantor::form {
+
+namespace {
+
+bool IsShare(std::wstring_view path) { return path.starts_with(L"\\\\"); }
+
+/// "c:" for a path on a lettered drive, "\\server\share" for one on a share.
+std::wstring DriveOf(std::wstring_view path) {
+  if (IsShare(path)) {
+    const std::size_t share = path.find(L'\\', 2);
+    return std::wstring(path.substr(0, share == std::wstring_view::npos ? share : path.find(L'\\', share + 1)));
+  }
+  std::wstring drive(path.substr(0, 1));
+  if (!drive.empty() && drive[0] >= L'A' && drive[0] <= L'Z') drive[0] += L'a' - L'A';
+  return drive + L":";
+}
+
+/// Without a trailing backslash unless it is a drive's root; the letter of the drive in upper case.
+std::wstring TidyFolder(std::wstring_view path) {
+  std::wstring folder(path);
+  if (folder.size() == 2 && folder[1] == L':') folder += L'\\';
+  if (folder.size() > 3 && folder.back() == L'\\') folder.pop_back();
+  if (folder.size() > 1 && folder[1] == L':' && folder[0] >= L'a' && folder[0] <= L'z') folder[0] -= L'a' - L'A';
+  return folder;
+}
+
+std::wstring Join(std::wstring_view folder, std::wstring_view name) {
+  std::wstring path(folder);
+  if (!path.empty() && path.back() != L'\\') path += L'\\';
+  return path.append(name);
+}
+
+}  // namespace
+
+void DriveList::Refresh() {
+  const std::wstring chosen = Drive();
+  std::vector<std::wstring> entries;
+  int index = -1;
+  for (const service::Drive& drive : files_.Drives()) {
+    std::wstring entry = DriveOf(std::wstring_view(&drive.Letter, 1));
+    if (entry == chosen) index = static_cast<int>(entries.size());
+    if (!drive.Label.empty()) entry += L" [" + drive.Label + L"]";
+    entries.push_back(std::move(entry));
+  }
+  if (index == -1 && !chosen.empty()) {
+    index = static_cast<int>(entries.size());
+    entries.push_back(chosen);
+  }
+  ReplaceEntries(std::move(entries));
+  listIndex_ = index;
+  NotifyWindow(Property::ListIndex);
+}
+
+std::wstring DriveList::Drive() const {
+  const std::wstring entry = Text();
+  return IsShare(entry) ? entry : entry.substr(0, 2);
+}
+
+void DriveList::SetDrive(std::wstring_view path) {
+  const std::wstring drive = DriveOf(path);
+  const auto isDrive = [&](const std::wstring& entry) {
+    return entry == drive || entry.starts_with(drive + L" [");
+  };
+  auto found = std::find_if(list_.begin(), list_.end(), isDrive);
+  if (found == list_.end()) {
+    found = list_.insert(list_.end(), drive);
+    NotifyWindow(Property::List);
+  }
+  SetListIndex(static_cast<int>(found - list_.begin()));
+}
+
+bool FolderList::SetPath(std::wstring_view path) {
+  std::wstring folder = TidyFolder(path);
+  if (folder == path_) return true;
+  if (!files_.DriveReady(folder) || !files_.FolderExists(folder)) return false;
+  path_ = std::move(folder);
+  Fill();
+  Change();
+  return true;
+}
+
+void FolderList::Refresh() { Fill(); }
+
+std::wstring FolderList::PathOf(int index) const {
+  if (index > currentIndex_) return Join(path_, List(index));
+  std::wstring path = List(0);
+  for (int i = 1; i <= index; ++i) path = Join(path, List(i));
+  return path;
+}
+
+int FolderList::LevelOf(int index) const { return std::min(index, currentIndex_ + 1); }
+
+void FolderList::EntryChosen() { (void)SetPath(PathOf(ListIndex())); }
+
+void FolderList::Fill() {
+  const std::size_t rootEnd = IsShare(path_) ? DriveOf(path_).size() : path_.find(L'\\') + 1;
+  std::vector<std::wstring> entries{path_.substr(0, rootEnd)};
+  for (std::size_t start = path_.find_first_not_of(L'\\', rootEnd); start < path_.size();) {
+    const std::size_t end = std::min(path_.find(L'\\', start), path_.size());
+    entries.push_back(path_.substr(start, end - start));
+    start = end + 1;
+  }
+  currentIndex_ = static_cast<int>(entries.size()) - 1;
+  for (std::wstring& name : files_.Folders(path_)) entries.push_back(std::move(name));
+  ReplaceEntries(std::move(entries));
+  listIndex_ = currentIndex_;
+  NotifyWindow(Property::ListIndex);
+}
+
+void FileList::SetPath(std::wstring_view path) {
+  if (path_ == path) return;
+  path_ = path;
+  Refresh();
+}
+
+void FileList::SetPattern(std::wstring_view pattern) {
+  if (pattern_ == pattern) return;
+  pattern_ = pattern;
+  Refresh();
+}
+
+void FileList::Refresh() { ReplaceEntries(path_.empty() ? std::vector<std::wstring>() : files_.Files(path_, pattern_)); }
+
+}  // namespace vantor::form

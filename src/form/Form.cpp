@@ -1,0 +1,168 @@
+#include "form/Form.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "form/UserInterface.h"
+
+namespace vantor::form {
+
+Form::Form(UserInterface& ui, std::wstring_view name) : ui_(ui), name_(name) { ui_.forms_.push_back(this); }
+
+Form::~Form() {
+  std::erase(ui_.forms_, this);
+  std::erase(ui_.modalForms_, this);
+  ui_.FormGone(*this);
+}
+
+void Form::Load() {
+  if (loaded_) return;
+  loaded_ = true;
+  Form_Load();
+}
+
+void Form::Unload() {
+  if (!loaded_) return;
+  loaded_ = false;
+  Hide();
+  Form_Unload();
+  TakeWindowAway();
+}
+
+void Form::TakeWindowAway() {
+  for (Control* control : controls_) control->AttachWindow(nullptr);
+  if (window_ != nullptr) ui_.Discard(std::move(window_));
+}
+
+void Form::Show() {
+  Load();
+  if (window_ == nullptr) window_ = ui_.MakeWindow(*this);
+  if (!visible_) {
+    visible_ = true;
+    if (activeControl_ == nullptr) MoveFocus(false);
+    if (window_ != nullptr) window_->Changed(Property::Visible);
+  }
+  Activate();
+}
+
+void Form::ShowModal() {
+  Load();
+  ui_.modalForms_.push_back(this);
+  ui_.ModalChanged();
+  Show();
+  ui_.RunModal(*this);
+  LeaveModal();
+}
+
+void Form::Hide() {
+  if (!visible_) return;
+  LeaveModal();
+  visible_ = false;
+  if (window_ != nullptr) window_->Changed(Property::Visible);
+}
+
+void Form::LeaveModal() {
+  if (std::erase(ui_.modalForms_, this) > 0) ui_.ModalChanged();
+}
+
+bool Form::AcceptsInput() const {
+  const Form* modal = ui_.ModalForm();
+  return visible_ && !ui_.Ended() && (modal == nullptr || modal == this);
+}
+
+void Form::SetCaption(std::wstring_view caption) {
+  if (caption_ == caption) return;
+  caption_ = caption;
+  if (window_ != nullptr) window_->Changed(Property::Caption);
+}
+
+void Form::SetBackColor(Color color) {
+  if (backColor_ == color) return;
+  backColor_ = color;
+  if (window_ != nullptr) window_->Changed(Property::Colors);
+}
+
+void Form::SetBounds(const Rect& bounds) {
+  if (bounds_ == bounds) return;
+  bounds_ = bounds;
+  if (window_ != nullptr) window_->Changed(Property::Bounds);
+}
+
+void Form::SetWindowState(form::WindowState state) {
+  if (windowState_ == state) return;
+  windowState_ = state;
+  if (window_ != nullptr) window_->Changed(Property::Value);
+}
+
+void Form::SetTopMost(bool topMost) {
+  topMost_ = topMost;
+  if (window_ != nullptr) window_->SetTopMost(topMost);
+}
+
+void Form::Drag() {
+  if (window_ != nullptr) window_->Drag();
+}
+
+void Form::Activate() {
+  if (window_ != nullptr && AcceptsInput()) window_->Activate();
+}
+
+void Form::MoveFocus(bool backwards) {
+  std::vector<Control*> order;
+  for (Control* control : controls_) {
+    if (control == activeControl_ || (control->TabStop() && control->IsFocusable() && control->IsReachable())) {
+      order.push_back(control);
+    }
+  }
+  if (order.empty()) return;
+  std::stable_sort(order.begin(), order.end(),
+                   [](const Control* a, const Control* b) { return a->TabIndex() < b->TabIndex(); });
+  const auto here = std::find(order.begin(), order.end(), activeControl_);
+  const std::size_t count = order.size();
+  // With nothing active the first control comes next, and the last one before.
+  const std::size_t from = here != order.end() ? static_cast<std::size_t>(here - order.begin()) : backwards ? 0 : count - 1;
+  Control* next = order[(from + (backwards ? count - 1 : 1)) % count];
+  if (next->IsReachable()) next->SetFocus();
+}
+
+void Form::InputKeyUp(Key key) {
+  if (AcceptsInput()) Form_KeyUp(key);
+}
+
+void Form::InputMouseMove(MouseButton held) {
+  if (AcceptsInput()) Form_MouseMove(held);
+}
+
+void Form::InputMoved(const Rect& bounds) { bounds_ = bounds; }
+
+void Form::InputClose() {
+  if (loaded_) Form_Close();
+}
+
+void Form::InputFocus(Control* control) {
+  if (control == nullptr || control->AcceptsInput()) SetActiveControl(control);
+}
+
+void Form::AddControl(Control& control) { controls_.push_back(&control); }
+
+void Form::RemoveControl(Control& control) {
+  std::erase(controls_, &control);
+  if (activeControl_ == &control) activeControl_ = nullptr;
+}
+
+void Form::SetActiveControl(Control* control) {
+  if (activeControl_ == control) return;
+  Control* const left = std::exchange(activeControl_, control);
+  if (!visible_) return;
+  if (left != nullptr) left->LostFocus();
+  if (control != nullptr) control->GotFocus();
+}
+
+void Form::LeaveUnreachable() {
+  if (activeControl_ == nullptr || activeControl_->IsReachable()) return;
+  if (visible_) MoveFocus(false);
+  // No other control can take the focus.
+  if (activeControl_ != nullptr && !activeControl_->IsReachable()) SetActiveControl(nullptr);
+}
+
+}  // namespace vantor::form

@@ -1,0 +1,210 @@
+#include "form/Headless.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <stdexcept>
+#include <string>
+#include <utility>
+
+#include "form/Button.h"
+#include "form/ListControl.h"
+#include "form/Static.h"
+#include "form/Timer.h"
+
+namespace vantor::form {
+
+class Headless::Window : public FormWindow {
+ public:
+  Window(Headless& desktop, Form& form) : desktop_(desktop), form_(form) {}
+
+  void Changed(Property property) override {
+    if (property == Property::Visible && !form_.Visible() && desktop_.activeForm_ == &form_) {
+      desktop_.activeForm_ = nullptr;
+    }
+  }
+  void SetTopMost(bool /*topMost*/) override {}
+  void Drag() override {
+    Rect bounds = form_.Bounds();
+    bounds.Left += std::exchange(desktop_.dragX_, 0);
+    bounds.Top += std::exchange(desktop_.dragY_, 0);
+    form_.InputMoved(bounds);
+  }
+  void Activate() override { desktop_.activeForm_ = &form_; }
+
+ private:
+  Headless& desktop_;
+  Form& form_;
+};
+
+Headless::Headless() {
+  Desktop.Bounds = {0, 0, 1024 * 15, 768 * 15};
+  Desktop.WorkArea = {0, 0, 1024 * 15, 740 * 15};
+}
+
+Headless::~Headless() = default;
+
+void Headless::Advance(int milliseconds) {
+  const long long end = now_ + milliseconds;
+  while (!Ended()) {
+    const auto next = std::min_element(timers_.begin(), timers_.end(),
+                                       [](const auto& a, const auto& b) { return a.Due < b.Due; });
+    if (next == timers_.end() || next->Due > end) break;
+    now_ = next->Due;
+    next->Due += next->Timer->Interval();
+    next->Timer->Tick();  // may start and stop timers, so `next` is not valid after this
+  }
+  now_ = end;
+}
+
+void Headless::WhenModal(std::function<void(Form&)> script) { modalScripts_.push_back(std::move(script)); }
+
+Form* Headless::ActiveForm() const { return ModalForm() != nullptr ? ModalForm() : activeForm_; }
+
+void Headless::Type(std::wstring_view text) {
+  for (const wchar_t character : text) TypeCharacter(character);
+}
+
+void Headless::TypeCharacter(wchar_t character) {
+  Form* const form = ActiveForm();
+  Control* const control = form != nullptr ? form->ActiveControl() : nullptr;
+  if (control == nullptr || !control->AcceptsInput()) return;
+  switch (control->Kind()) {
+    case ControlKind::TextBox: {
+      auto& box = static_cast<TextBox&>(*control);
+      const wchar_t applied = box.InputKeyPress(character);
+      std::wstring edited = box.Text();
+      auto start = static_cast<std::size_t>(box.SelStart());
+      auto length = static_cast<std::size_t>(box.SelLength());
+      if (applied == CharBackspace) {
+        if (length == 0 && start > 0) {
+          --start;
+          length = 1;
+        }
+        edited.erase(start, length);
+      } else if (applied >= L' ') {
+        edited.replace(start, length, 1, applied);
+        ++start;
+      } else {
+        return;
+      }
+      box.InputEdited(edited, static_cast<int>(start), 0);
+      return;
+    }
+    case ControlKind::CommandButton:
+      if (character == CharEnter || character == L' ') static_cast<CommandButton*>(control)->InputClick();
+      return;
+    case ControlKind::CheckBox:
+      if (character == L' ') static_cast<CheckBox*>(control)->InputClick();
+      return;
+    case ControlKind::FolderList:
+    case ControlKind::FileList:
+      if (character == CharEnter) static_cast<ListControl*>(control)->InputDblClick();
+      return;
+    default:
+      return;
+  }
+}
+
+void Headless::Press(Key key) {
+  Form* form = ActiveForm();
+  Control* const control = form != nullptr ? form->ActiveControl() : nullptr;
+  if (key == Key::Tab) {
+    if (form != nullptr && form->AcceptsInput()) form->MoveFocus(false);
+  } else if (key == Key::Back || key == Key::Enter || key == Key::Escape || key == Key::Space) {
+    TypeCharacter(static_cast<wchar_t>(key));
+  } else if (auto* list = dynamic_cast<ListControl*>(control); list != nullptr && (key == Key::Up || key == Key::Down)) {
+    list->InputSelect(std::clamp(list->ListIndex() + (key == Key::Down ? 1 : -1), std::min(0, list->ListCount() - 1),
+                                 list->ListCount() - 1));
+  }
+  form = ActiveForm();  // the key is let go over whatever has the focus now
+  if (form != nullptr) form->InputKeyUp(key);
+}
+
+void Headless::Click(Control& control) {
+  if (!control.AcceptsInput()) return;
+  control.SetFocus();
+  switch (control.Kind()) {
+    case ControlKind::CommandButton: {
+      auto& button = static_cast<CommandButton&>(control);
+      button.InputMouseDown(MouseButton::Left);
+      button.InputMouseUp(MouseButton::Left);
+      button.InputClick();
+      return;
+    }
+    case ControlKind::CheckBox:
+      static_cast<CheckBox&>(control).InputClick();
+      return;
+    case ControlKind::OptionButton:
+      static_cast<OptionButton&>(control).InputClick();
+      return;
+    case ControlKind::Frame:
+      static_cast<Frame&>(control).InputClick();
+      return;
+    default:
+      return;
+  }
+}
+
+void Headless::DoubleClick(Control& control) {
+  if (!control.AcceptsInput()) return;
+  control.SetFocus();
+  if (control.Kind() == ControlKind::TextBox) {
+    static_cast<TextBox&>(control).InputDblClick();
+  } else if (auto* list = dynamic_cast<ListControl*>(&control)) {
+    list->InputDblClick();
+  }
+}
+
+void Headless::DragBy(Form& form, Twips x, Twips y) {
+  dragX_ = x;
+  dragY_ = y;
+  form.InputMouseMove(MouseButton::Left);
+}
+
+Screen Headless::ScreenAt(const Rect& /*place*/) const { return Desktop; }
+
+Screen Headless::PrimaryScreen() const { return Desktop; }
+
+Size Headless::MeasureText(std::wstring_view text, bool /*bold*/, Twips width) const {
+  constexpr Twips characterWidth = 90;
+  constexpr Twips lineHeight = 195;
+  const std::size_t charactersPerLine = static_cast<std::size_t>(std::max(width / characterWidth, 1));
+  Size size;
+  for (std::size_t start = 0; start <= text.size();) {
+    const std::size_t end = std::min(text.find(L"\r\n", start), text.size());
+    const std::size_t length = end - start;
+    const std::size_t lines = std::max<std::size_t>((length + charactersPerLine - 1) / charactersPerLine, 1);
+    size.Height += lineHeight * static_cast<Twips>(lines);
+    size.Width = std::max(size.Width, characterWidth * static_cast<Twips>(std::min(length, charactersPerLine)));
+    start = end + 2;
+  }
+  return size;
+}
+
+void Headless::RunModal(Form& form) {
+  if (modalScripts_.empty()) throw std::logic_error("a modal form that the test does not expect");
+  const auto script = std::move(modalScripts_.front());
+  modalScripts_.pop_front();
+  script(form);
+  if (form.Visible() && !Ended()) throw std::logic_error("the test leaves a modal form open");
+}
+
+void Headless::Run() {}
+
+void Headless::StartTimer(Timer& timer) {
+  if (timer.Interval() > 0) timers_.push_back({&timer, now_ + timer.Interval()});
+}
+
+void Headless::StopTimer(Timer& timer) {
+  std::erase_if(timers_, [&](const RunningTimer& running) { return running.Timer == &timer; });
+}
+
+std::unique_ptr<FormWindow> Headless::MakeWindow(Form& form) { return std::make_unique<Window>(*this, form); }
+
+void Headless::Discard(std::unique_ptr<FormWindow> window) { window.reset(); }
+
+void Headless::FormGone(Form& form) {
+  if (activeForm_ == &form) activeForm_ = nullptr;
+}
+
+}  // namespace vantor::form

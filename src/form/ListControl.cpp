@@ -1,0 +1,55 @@
+#include "form/ListControl.h"
+
+#include <stdexcept>
+#include <utility>
+
+namespace vantor::form {
+
+void ListControl::SetListIndex(int index) {
+  if (index < -1 || index >= ListCount()) throw std::out_of_range("no such list entry");
+  if (index == listIndex_) return;
+  listIndex_ = index;
+  NotifyWindow(Property::ListIndex);
+  if (index != -1) EntrySelected();
+}
+
+std::wstring ListControl::Text() const { return listIndex_ == -1 ? std::wstring() : List(listIndex_); }
+
+void ListControl::InputSelect(int index) {
+  if (AcceptsInput()) SetListIndex(index);
+}
+
+void ListControl::InputDblClick() {
+  if (!AcceptsInput()) return;
+  DblClick();
+  if (listIndex_ != -1) EntryChosen();
+}
+
+void ListControl::ReplaceEntries(std::vector<std::wstring> entries) {
+  list_ = std::move(entries);
+  listIndex_ = -1;
+  NotifyWindow(Property::List);
+}
+
+void ComboBox::AddItem(std::wstring_view text) {
+  list_.emplace_back(text);
+  NotifyWindow(Property::List);
+}
+
+void ComboBox::SetList(int index, std::wstring_view text) {
+  list_.at(static_cast<std::size_t>(index)) = text;
+  NotifyWindow(Property::List);
+}
+
+void ComboBox::RemoveItem(int index) {
+  if (index < 0 || index >= ListCount()) throw std::out_of_range("no such list entry");
+  list_.erase(list_.begin() + index);
+  if (index == listIndex_) {
+    listIndex_ = -1;
+  } else if (index < listIndex_) {
+    --listIndex_;
+  }
+  NotifyWindow(Property::List);
+}
+
+}  // namespace vantor::form

@@ -1,0 +1,46 @@
+#include "form/TextBox.h"
+
+#include <algorithm>
+
+namespace vantor::form {
+
+void TextBox::SetText(std::wstring_view text) {
+  if (text_ == text) return;
+  text_ = text;
+  selStart_ = 0;
+  selLength_ = 0;
+  NotifyWindow(Property::Text);
+  Change();
+}
+
+void TextBox::Select(int start, int length) {
+  const int size = static_cast<int>(text_.size());
+  selStart_ = std::clamp(start, 0, size);
+  selLength_ = std::clamp(length, 0, size - selStart_);
+  NotifyWindow(Property::Selection);
+}
+
+wchar_t TextBox::InputKeyPress(wchar_t character) {
+  if (!AcceptsInput()) return 0;
+  KeyPress(character);
+  return character;
+}
+
+void TextBox::InputEdited(std::wstring_view text, int selStart, int selLength) {
+  if (!AcceptsInput()) return;
+  InputSelection(selStart, selLength);
+  if (text_ == text) return;
+  text_ = text;
+  Change();
+}
+
+void TextBox::InputSelection(int selStart, int selLength) {
+  selStart_ = selStart;
+  selLength_ = selLength;
+}
+
+void TextBox::InputDblClick() {
+  if (AcceptsInput()) DblClick();
+}
+
+}  // namespace vantor::form

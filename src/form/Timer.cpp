@@ -1,0 +1,30 @@
+#include "form/Timer.h"
+
+#include "form/Form.h"
+#include "form/UserInterface.h"
+
+namespace vantor::form {
+
+Timer::Timer(Form& form, int intervalMilliseconds) : ui_(form.Ui()), interval_(intervalMilliseconds) {}
+
+Timer::~Timer() { SetEnabled(false); }
+
+void Timer::SetEnabled(bool enabled) {
+  if (enabled_ == enabled) return;
+  enabled_ = enabled;
+  if (enabled_) {
+    ui_.StartTimer(*this);
+  } else {
+    ui_.StopTimer(*this);
+  }
+}
+
+void Timer::SetInterval(int milliseconds) {
+  if (interval_ == milliseconds) return;
+  const bool wasEnabled = enabled_;
+  SetEnabled(false);
+  interval_ = milliseconds;
+  SetEnabled(wasEnabled);
+}
+
+}  // namespace vantor::form
