@@ -51,7 +51,7 @@ void Headless::Advance(int milliseconds) {
     if (next == timers_.end() || next->Due > end) break;
     now_ = next->Due;
     next->Due += next->Timer->Interval();
-    next->Timer->Tick();  // may start and stop timers, so `next` is not valid after this
+    next->Timer->InputTick();  // may start and stop timers, so `next` is not valid after this
   }
   now_ = end;
 }

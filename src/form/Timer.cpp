@@ -27,4 +27,17 @@ void Timer::SetInterval(int milliseconds) {
   SetEnabled(wasEnabled);
 }
 
+void Timer::InputTick() {
+  // A handler that shows a modal form lets time pass meanwhile.
+  if (!enabled_ || ticking_) return;
+  ticking_ = true;
+  try {
+    Tick();
+  } catch (...) {
+    ticking_ = false;
+    throw;
+  }
+  ticking_ = false;
+}
+
 }  // namespace vantor::form

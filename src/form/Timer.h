@@ -24,10 +24,14 @@ class Timer {
 
   Event<> Tick;
 
+  /// The interval has passed, reported by the back end.
+  void InputTick();
+
  private:
   UserInterface& ui_;
   int interval_;
   bool enabled_ = false;
+  bool ticking_ = false;
 };
 
 }  // namespace vantor::form

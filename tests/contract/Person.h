@@ -1,0 +1,51 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "form/Form.h"
+#include "form/Keys.h"
+#include "form/UserInterface.h"
+
+namespace vantor::contract {
+
+/// Somebody in front of a back end, who looks and uses the keyboard and the mouse. What is done has been handled
+/// when the call returns.
+class Person {
+ public:
+  virtual ~Person() = default;
+
+  virtual form::UserInterface& Ui() = 0;
+
+  /// Types characters into whatever has the focus. Backspace is '\b', Enter '\r', Escape '\x1b'.
+  virtual void Type(std::wstring_view text) = 0;
+  virtual void Press(form::Key key) = 0;
+  /// Points at the control's middle and clicks, also where it is disabled, or hidden.
+  virtual void Click(form::Control& control) = 0;
+  virtual void DoubleClick(form::Control& control) = 0;
+  /// Lets time pass until the condition holds; false when it does not within 5 seconds.
+  virtual bool WaitUntil(const std::function<bool()>& condition) = 0;
+  /// What this person does when the next modal form is open.
+  virtual void WhenModal(std::function<void(form::Form&)> script) = 0;
+
+  /// The text that the control's window shows, and the selected part of it for a text box.
+  virtual std::wstring ShownText(const form::Control& control) = 0;
+  virtual std::wstring ShownSelection(const form::Control& control) = 0;
+  /// Whether the window can be seen, and whether it takes input.
+  virtual bool IsShown(const form::Control& control) = 0;
+  virtual bool IsShownEnabled(const form::Control& control) = 0;
+  virtual bool IsShown(const form::Form& form) = 0;
+  virtual bool IsShownFocused(const form::Control& control) = 0;
+
+ protected:
+  Person() = default;
+  Person(const Person&) = default;
+  Person& operator=(const Person&) = default;
+};
+
+/// A person in front of the back end that this test program is about.
+std::unique_ptr<Person> MakePerson();
+
+}  // namespace vantor::contract

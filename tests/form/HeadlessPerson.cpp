@@ -1,0 +1,46 @@
+#include "contract/Person.h"
+#include "form/Button.h"
+#include "form/Headless.h"
+#include "form/ListControl.h"
+#include "form/TextBox.h"
+
+namespace vantor::contract {
+
+namespace {
+
+class HeadlessPerson : public Person {
+ public:
+  form::UserInterface& Ui() override { return desktop_; }
+  void Type(std::wstring_view text) override { desktop_.Type(text); }
+  void Press(form::Key key) override { desktop_.Press(key); }
+  void Click(form::Control& control) override { desktop_.Click(control); }
+  void DoubleClick(form::Control& control) override { desktop_.DoubleClick(control); }
+  bool WaitUntil(const std::function<bool()>& condition) override {
+    for (int passed = 0; passed < 5000 && !condition(); passed += 10) desktop_.Advance(10);
+    return condition();
+  }
+  void WhenModal(std::function<void(form::Form&)> script) override { desktop_.WhenModal(std::move(script)); }
+
+  std::wstring ShownText(const form::Control& control) override {
+    if (const auto* box = dynamic_cast<const form::TextBox*>(&control)) return box->Text();
+    if (const auto* list = dynamic_cast<const form::ListControl*>(&control)) return list->Text();
+    return control.AccessibleName();
+  }
+  std::wstring ShownSelection(const form::Control& control) override {
+    const auto& box = dynamic_cast<const form::TextBox&>(control);
+    return box.Text().substr(static_cast<std::size_t>(box.SelStart()), static_cast<std::size_t>(box.SelLength()));
+  }
+  bool IsShown(const form::Control& control) override { return control.Visible() && control.OwnerForm().Visible(); }
+  bool IsShownEnabled(const form::Control& control) override { return control.Enabled(); }
+  bool IsShown(const form::Form& form) override { return form.Visible() && !desktop_.Ended(); }
+  bool IsShownFocused(const form::Control& control) override { return control.HasFocus(); }
+
+ private:
+  form::Headless desktop_;
+};
+
+}  // namespace
+
+std::unique_ptr<Person> MakePerson() { return std::make_unique<HeadlessPerson>(); }
+
+}  // namespace vantor::contract
