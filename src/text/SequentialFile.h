@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,7 +14,10 @@ namespace vantor::text {
 class SequentialWriter {
  public:
   /// A number, bare.
-  void Write(long long value);
+  template <std::integral Integer>
+  void Write(Integer value) {
+    AppendInteger(value);
+  }
   /// A double, in the shortest form that reads back to the same value, without an exponent.
   void Write(double value);
   /// A text in double quotes. There is no escaping: a double quote inside ends the field on reading.
@@ -21,30 +25,41 @@ class SequentialWriter {
   /// Two texts in double quotes, separated by one comma.
   void Write(std::wstring_view first, std::wstring_view second);
 
-  void Reserve(std::size_t characters) { text_.reserve(characters); }
-  [[nodiscard]] const std::wstring& Text() const { return text_; }
+  void Reserve(std::size_t characters) { bytes_.reserve(characters); }
+  [[nodiscard]] std::wstring Text() const;
+
+  /// The text in UTF-8, and whether that is ASCII only: such a text is the same bytes in every code page, and
+  /// most files are written without ever being widened.
+  [[nodiscard]] const std::string& Bytes() const { return bytes_; }
+  [[nodiscard]] bool Ascii() const { return ascii_; }
 
  private:
+  void AppendInteger(long long value);
   void AppendQuoted(std::wstring_view text);
 
-  std::wstring text_;
+  std::string bytes_;
+  bool ascii_ = true;
 };
 
 /// Reads fields one after another, as an input statement does: a quoted field ends at its closing quote and
 /// keeps its commas; an unquoted one ends at a comma or a line end and loses the blanks around it. CR, LF and
-/// CR LF all end a line.
+/// CR LF all end a line. What stands between a closing quote and the next comma or line end is passed over.
 class SequentialReader {
  public:
+  /// The text must outlive the reader and its fields.
   explicit SequentialReader(std::wstring_view text) : rest_(text) {}
 
   struct Field {
-    std::wstring Text;
+    std::wstring_view Text;  // a part of the reader's text
     bool Quoted = false;
   };
   /// The next field; nothing at the end of the text or when a quoted field has no closing quote.
   [[nodiscard]] std::optional<Field> Read();
 
  private:
+  /// Takes the characters up to the next comma or line end, and that too. Returns them.
+  std::wstring_view TakeToDelimiter();
+
   std::wstring_view rest_;
 };
 
@@ -55,6 +70,6 @@ class SequentialReader {
 /// Replaces a data file, in the ANSI code page if that holds every character, else as UTF-8 with a byte-order
 /// mark. False when it could not be written.
 [[nodiscard]] bool WriteTextFile(service::DataFiles& files, const service::Language& language,
-                                 std::wstring_view path, std::wstring_view text);
+                                 std::wstring_view path, const SequentialWriter& writer);
 
 }  // namespace vantor::text
