@@ -40,24 +40,30 @@ function(vantor_library name)
 endfunction()
 
 # One CTest test for each source file: a failure names its file, and files can run side by side.
-# A filter that matches nothing is a failure too.
+# A filter that matches nothing is a failure too. A line "// desktop: OPTIONS" in a file sets options of the command that
+# runs it: the desktop that its tests need.
 function(vantor_add_tests label sources)
-  cmake_parse_arguments(arg "" "TIMEOUT;PREFIX" "COMMAND;ENVIRONMENT" ${ARGN})
+  cmake_parse_arguments(arg "" "TIMEOUT;PREFIX" "RUNNER;COMMAND" ${ARGN})
   foreach(source IN LISTS ${sources})
     file(STRINGS "${source}" cases REGEX "^ *(TEST_CASE|SCENARIO|TEST_CASE_FIXTURE|TEST_CASE_TEMPLATE)[_A-Z]*\\(" LIMIT_COUNT 1)
     if(NOT cases)
       continue()
     endif()
+    file(STRINGS "${source}" options REGEX "^// desktop: " LIMIT_COUNT 1)
+    string(REGEX REPLACE "^// desktop: " "" options "${options}")
+    separate_arguments(options UNIX_COMMAND "${options}")
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${source}")
     file(RELATIVE_PATH relative "${PROJECT_SOURCE_DIR}/tests" "${source}")
     string(REGEX REPLACE "\\.cpp$" "" name "${relative}")
     set(name "${arg_PREFIX}${name}")
-    add_test(NAME ${name} COMMAND ${arg_COMMAND} "--source-file=*tests/${relative}" --no-colors=true)
+    if(NOT arg_RUNNER)
+      set(options)
+    endif()
+    add_test(NAME ${name} COMMAND ${arg_RUNNER} ${options} ${arg_COMMAND} "--source-file=*tests/${relative}" --no-colors=true)
     set_tests_properties(
       ${name}
       PROPERTIES LABELS "${label}"
                  TIMEOUT ${arg_TIMEOUT}
-                 FAIL_REGULAR_EXPRESSION "test cases: +0 "
-                 ENVIRONMENT "${arg_ENVIRONMENT}")
+                 FAIL_REGULAR_EXPRESSION "test cases: +0 ")
   endforeach()
 endfunction()

@@ -65,7 +65,7 @@ if(VANTOR_CONTRACT_SOURCES)
   target_link_libraries(contract_tests PRIVATE vantor_win32 vantor_fakes vantor_doctest)
   vantor_add_tests(
     desktop VANTOR_CONTRACT_SOURCES PREFIX "win32/" TIMEOUT 300
-    COMMAND ${on_desktop} $<TARGET_FILE:contract_tests>)
+    RUNNER ${on_desktop} COMMAND $<TARGET_FILE:contract_tests>)
 endif()
 
 if(VANTOR_RECORDER_SOURCES)
@@ -88,7 +88,7 @@ if(VANTOR_DESKTOP_SOURCES)
   endforeach()
   vantor_add_tests(
     desktop VANTOR_DESKTOP_SOURCES PREFIX "" TIMEOUT 600
-    COMMAND ${on_desktop} $<TARGET_FILE:desktop_tests>)
+    RUNNER ${on_desktop} COMMAND $<TARGET_FILE:desktop_tests>)
 endif()
 
 # The floor program, built as Vantor.exe is, and what times both.
