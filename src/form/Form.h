@@ -106,6 +106,8 @@ class Form {
   virtual void Form_Load() {}
   virtual void Form_Unload() {}
   virtual void Form_KeyUp(Key /*key*/) {}
+  /// The mouse moves over a free spot: no control is there, or only frames without border, labels and images,
+  /// which let the mouse through to the form unless a Click handler wants it.
   virtual void Form_MouseMove(MouseButton /*held*/) {}
   /// What closing the window does: an unload unless the form does otherwise.
   virtual void Form_Close() { Unload(); }

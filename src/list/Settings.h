@@ -2,23 +2,38 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
+
+#include "service/DataFiles.h"
+#include "service/Language.h"
 
 namespace vantor::list {
+
+/// An upper index that stands for no records.
+inline constexpr std::int16_t NoRecords = -1;
 
 /// The settings file's values, in its order. An upper index is that of the last record of a list file, -1 for
 /// no records.
 struct Settings {
   std::int16_t OptionMask = 2;  // 1 start with Windows, 2 always on top, 4 show the add-web box at start
-  std::int16_t FileUpper = -1;
-  std::int16_t FoldUpper = -1;
-  std::int16_t ProgUpper = -1;
-  std::int16_t WebUpper = -1;
+  std::int16_t FileUpper = NoRecords;
+  std::int16_t FoldUpper = NoRecords;
+  std::int16_t ProgUpper = NoRecords;
+  std::int16_t WebUpper = NoRecords;
   std::int16_t Left = 0;  // of the bar, in twips
   std::int16_t Top = 0;
   std::wstring Folder;  // last shown in the add-to-list dialog; "" in removable-media mode
-  std::int16_t MachineFileUpper = -1;
-  std::int16_t MachineFoldUpper = -1;
-  std::int16_t MachineProgUpper = -1;
+  std::int16_t MachineFileUpper = NoRecords;
+  std::int16_t MachineFoldUpper = NoRecords;
+  std::int16_t MachineProgUpper = NoRecords;
 };
+
+/// Reads the settings file. A short one leaves the values after its end as they are, and a value that is no
+/// 16-bit number leaves that one. False when the file is missing or can't be read.
+bool LoadSettings(service::DataFiles& files, const service::Language& language, std::wstring_view path,
+                  Settings& settings);
+/// Replaces the settings file. False when it could not be written.
+bool SaveSettings(service::DataFiles& files, const service::Language& language, std::wstring_view path,
+                  const Settings& settings);
 
 }  // namespace vantor::list

@@ -1,23 +1,20 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "form/Form.h"
 #include "form/ListControl.h"
 #include "form/Static.h"
+#include "list/LaunchList.h"
+#include "list/ListFiles.h"
 
 namespace vantor::list {
 
-/// The paired boxes of one group: entry k of both is one item.
-struct GroupBoxes {
-  form::ComboBox& Name;
-  form::ComboBox& Path;
-};
-
-/// The list dialog. Its eight boxes are the launch list for the length of the run.
+/// The list dialog. Its eight boxes are the launch list for the length of the run; loading the form fills them.
 class frmChoose : public form::Form {
  public:
-  explicit frmChoose(form::UserInterface& ui);
+  frmChoose(form::UserInterface& ui, const ListFiles& files);
 
   form::Frame FrameProgList{*this, L"FrameProgList"};
   form::ComboBox ComboListProgName{FrameProgList, L"ComboListProgName"};
@@ -32,10 +29,16 @@ class frmChoose : public form::Form {
   form::ComboBox ComboListWebName{FrameWebList, L"ComboListWebName"};
   form::ComboBox ComboListWebPath{FrameWebList, L"ComboListWebPath"};
 
-  GroupBoxes Prog{ComboListProgName, ComboListProgPath};
-  GroupBoxes File{ComboListFileName, ComboListFilePath};
-  GroupBoxes Fold{ComboListFoldName, ComboListFoldPath};
-  GroupBoxes Web{ComboListWebName, ComboListWebPath};
+  LaunchList List{{ComboListFileName, ComboListFilePath},
+                  {ComboListFoldName, ComboListFoldPath},
+                  {ComboListProgName, ComboListProgPath},
+                  {ComboListWebName, ComboListWebPath}};
+
+ protected:
+  void Form_Load() override;
+
+ private:
+  const ListFiles& files_;
 };
 
 }  // namespace vantor::list

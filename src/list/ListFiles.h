@@ -1,0 +1,40 @@
+#pragma once
+
+#include "form/Geometry.h"
+#include "list/LaunchList.h"
+#include "list/Settings.h"
+#include "service/Services.h"
+#include "start/Environment.h"
+
+namespace vantor::list {
+
+/// The list files: they fill the launch list at start and keep it when the bar is unloaded. Nothing here tells
+/// the user of a failure; what could be read or written stays.
+class ListFiles {
+ public:
+  ListFiles(const service::Services& services, const start::Environment& environment, Settings& settings)
+      : services_(services), environment_(environment), settings_(settings) {}
+
+  /// Appends the items of the list files whose targets exist to the empty boxes.
+  void LoadLaunchList(const LaunchList& list) const;
+  /// Writes the settings, with the upper indexes of the boxes as they are now and the bar's place in twips, and
+  /// then the list files. The file of an empty group is left as it is.
+  void SaveLaunchList(const LaunchList& list, form::Twips barLeft, form::Twips barTop) const;
+
+ private:
+  struct Group;
+
+  [[nodiscard]] Group GroupOf(LaunchGroup group) const;
+  [[nodiscard]] bool TargetExists(LaunchGroup group, std::wstring_view target) const;
+  void LoadGroupList(const Group& group, const GroupBoxes& boxes) const;
+  void LoadFile(const Group& group, const GroupBoxes& boxes, std::wstring_view path, int upper, bool onMedia) const;
+  [[nodiscard]] int CountMediaItems(const Group& group, const GroupBoxes& boxes, int upper) const;
+  void SaveGroupList(const Group& group, const GroupBoxes& boxes) const;
+  [[nodiscard]] bool IsMediaTarget(std::wstring_view target) const;
+
+  service::Services services_;
+  const start::Environment& environment_;
+  Settings& settings_;
+};
+
+}  // namespace vantor::list

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "form/ListControl.h"
+#include "message/MessageState.h"
+#include "service/Language.h"
+
+namespace vantor::list {
+
+/// Compares many names with one text without regard to letter case, as the user's system has it. Nothing is
+/// allocated per name, and the system is asked once for each letter beyond ASCII.
+class NameMatch {
+ public:
+  NameMatch(const service::Language& language, std::wstring_view text);
+
+  /// The name's first characters are the text.
+  [[nodiscard]] bool Begins(std::wstring_view name);
+  /// The name is the text.
+  [[nodiscard]] bool Equals(std::wstring_view name) { return name.size() == lower_.size() && Begins(name); }
+
+ private:
+  struct Remembered {
+    wchar_t Character = 0;
+    wchar_t Lower = 0;
+  };
+
+  [[nodiscard]] wchar_t Lower(wchar_t character);
+
+  const service::Language& language_;
+  std::wstring lower_;
+  std::array<Remembered, 256> remembered_{};
+};
+
+/// "MessageNameAlreadyListed" when a name of the box equals `name` apart from letter case, else "".
+[[nodiscard]] message::MessageKey CheckNameListed(const service::Language& language, std::wstring_view name,
+                                                  const form::ComboBox& nameBox);
+/// "MessagePathAlreadyListed" when a target of the box is exactly `path`, else "".
+[[nodiscard]] message::MessageKey PathAlreadyListed(std::wstring_view path, const form::ComboBox& pathBox);
+
+}  // namespace vantor::list
