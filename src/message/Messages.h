@@ -5,7 +5,9 @@
 #include <string_view>
 
 #include "form/UserInterface.h"
+#include "message/Catalogue.h"
 #include "message/MessageState.h"
+#include "message/frmMessage.h"
 
 namespace vantor::message {
 
@@ -13,8 +15,11 @@ namespace vantor::message {
 struct MessageHooks {
   /// A message opens: stop the bar's on-top timer and take the bar out of the topmost band, if it runs.
   std::function<void()> PauseOnTop;
-  /// A message has closed: when no panel is open, the on-top timer runs exactly when the preference says so.
+  /// The last open message has closed: when no panel is open, the on-top timer runs exactly when the preference
+  /// says so.
   std::function<void()> ResumeOnTop;
+  /// The screen in whose middle messages open; the primary one without this hook.
+  std::function<form::Screen()> HomeScreen;
   std::function<void()> SaveUserName;
   /// Opens a mail; returns a MessageKey, "" on success.
   std::function<MessageKey(std::wstring_view address, std::wstring_view subject, std::wstring_view body)> SendMailTo;
@@ -25,17 +30,19 @@ struct MessageHooks {
 };
 
 /// The catalogue of messages and the dialog that shows them. Each routine returns when the user has answered
-/// and the answer has been applied; the slots of the state are empty then.
+/// and the answer has been applied; the slots of the state are empty then. A message may open while another is
+/// open, from a timer for instance: each keeps what its answer needs.
 class Messages {
  public:
-  Messages(form::UserInterface& ui, MessageState& state) : ui_(ui), State(state) {}
+  Messages(form::UserInterface& ui, MessageState& state) : State(state), ui_(ui) {}
 
+  MessageState& State;
   MessageHooks Hooks;
 
   /// Shows CurrentMessageKey. A key that the routine does not hold shows nothing.
-  void ShowUserMessage();
-  void ShowStopMessage();  // OK ends the program
-  void ShowListMessage();
+  void ShowUserMessage() { ShowFromCatalogue(Selector::User); }
+  void ShowStopMessage() { ShowFromCatalogue(Selector::Stop); }  // OK ends the program
+  void ShowListMessage() { ShowFromCatalogue(Selector::List); }
   /// Shows CurrentMessageText.
   void ShowTextMessage();
   /// Asks whether to report CurrentMessageKey, a "Bug-Vantor-…" key, by mail.
@@ -43,18 +50,29 @@ class Messages {
 
   /// Sets the key and shows it by ShowListMessage; nothing for "".
   void ShowList(MessageKey key);
+  /// Sets the text and shows it by ShowTextMessage; nothing for "".
+  void ShowText(std::wstring_view text);
 
   /// The error trap of a routine: runs `body`; an exception sets the bug key of the routine's name ("Bug-Vantor-"
-  /// and the name) and asks whether to report it.
+  /// and the name) and asks whether to report it. Throws only if that question can't be shown.
   void Trap(std::wstring_view routine, const std::function<void()>& body);
+  /// What the trap does about an error. While one such question is open, further errors are passed over.
+  void ReportBug(std::wstring_view routine);
 
  private:
-  void OpenMessageDialog();
+  void ShowFromCatalogue(Selector selector);
+  [[nodiscard]] std::wstring AddresseeTitle() const;
+
+  void OpenMessageDialog(std::wstring_view title, std::wstring_view body, std::wstring_view buttons,
+                         std::wstring_view inputs);
+  void AcceptMessageDialog(const MessageKey& key, std::wstring_view input, bool reportBug);
+  void CloseMessageDialog(const MessageKey& key);
+  void LeaveMessage();
+  void SendBugReport(const MessageKey& key);
 
   form::UserInterface& ui_;
-
- public:
-  MessageState& State;
+  int openDialogs_ = 0;
+  bool askingAboutBug_ = false;
 };
 
 }  // namespace vantor::message

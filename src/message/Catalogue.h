@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace vantor::message {
+
+/// The routine that shows a message.
+enum class Selector { User, Stop, List };
+
+/// One message of the catalogue.
+struct CatalogueEntry {
+  message::Selector Selector;
+  std::wstring_view Key;
+  std::wstring_view Text;           // with words in braces, which ExpandText replaces
+  std::wstring_view Title = L"";    // "" stands for the user's name
+  std::wstring_view Buttons = L"OK";
+  std::wstring_view Inputs = L"";
+};
+
+/// The message of this key, if the selector holds it; else null.
+[[nodiscard]] const CatalogueEntry* FindMessage(Selector selector, std::wstring_view key);
+
+/// The text with the maker's addresses in it. `companionsPresent`: any of the maker's other programs is there.
+[[nodiscard]] std::wstring ExpandText(std::wstring_view text, bool companionsPresent);
+
+/// The question whether to report the bug of this key.
+[[nodiscard]] std::wstring BugReportText(std::wstring_view bugKey);
+
+}  // namespace vantor::message

@@ -1,0 +1,164 @@
+#include "message/frmMessage.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace vantor::message {
+namespace {
+
+// The layout, in twips.
+constexpr form::Twips BandWidth = 540;
+constexpr form::Twips Margin = 225;
+constexpr form::Twips Gap = 150;
+constexpr form::Twips InputHeight = 315;
+constexpr form::Twips CheckHeight = 270;
+constexpr form::Twips ButtonWidth = 1215;
+constexpr form::Twips ButtonHeight = 390;
+constexpr form::Twips NarrowText = 4200;
+// Holds the table of the first-start help without breaking its lines, and fits a screen 640 pixels wide.
+constexpr form::Twips WideText = 7200;
+// What the widest usual window frame takes from the form's size: 8 pixels at each side and 30 for the caption.
+constexpr form::Twips FrameWidth = 240;
+constexpr form::Twips FrameHeight = 570;
+
+constexpr bool IsLetter(wchar_t c) { return (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z'); }
+
+struct ButtonSet {
+  std::wstring_view Word;
+  bool Ok;
+  bool Cancel;
+  std::wstring_view OkText;
+  std::wstring_view CancelText;
+  bool Timer = false;
+};
+
+constexpr ButtonSet ButtonSets[] = {
+    {L"OK", true, false, L"OK", L"Cancel"},      {L"Cancel", false, true, L"OK", L"Cancel"},
+    {L"OKCancel", true, true, L"OK", L"Cancel"}, {L"YesNo", true, true, L"Yes", L"No"},
+    {L"TimerStart", false, false, L"", L"", true},
+};
+
+void DressButton(form::CommandButton& button, const form::Label& label) {
+  button.SetEnabled(false);
+  button.SetFaceLabel(label);
+  button.SetPicture(form::Picture::ButtonNormal);
+  button.SetDownPicture(form::Picture::ButtonPressed);
+  button.SetDisabledPicture(form::Picture::ButtonDisabled);
+}
+
+}  // namespace
+
+frmMessage::frmMessage(form::UserInterface& ui) : Form(ui, L"frmMessage") {
+  SetBorderStyle(form::BorderStyle::Dialog);
+  SetBackColor(form::Color::WindowBackground);
+  for (form::Control* control : Controls()) control->SetBackColor(form::Color::WindowBackground);
+
+  PictureMessage.SetPicture(form::Picture::MessageBackground);
+  PictureMessage.SetBackColor(form::Color::LineBlue);
+  PictureMessage.SetTabStop(false);
+  CheckDoNotShow.SetCaption(L"Do not show this message again.");
+  CheckDoNotShow.SetForeColor(form::Color::WindowText);
+  CheckDoNotShow.SetVisible(false);
+  DressButton(CommandOK, LabelOK);
+  DressButton(CommandCancel, LabelCancel);
+  TextInput0.SetBackColor(form::Color::LineBlue);
+  TextInput0.SetVisible(false);
+  LabelMessage.SetForeColor(form::Color::WindowText);
+  LabelHead.SetForeColor(form::Color::WindowText);
+  LabelHead.SetBold(true);
+  for (int index = 0; form::Control* control :
+       {static_cast<form::Control*>(&CommandOK), static_cast<form::Control*>(&CommandCancel),
+        static_cast<form::Control*>(&CheckDoNotShow), static_cast<form::Control*>(&TextInput0)}) {
+    control->SetTabIndex(++index);
+  }
+
+  CommandOK.Click = [this] { Leave(Answer::Accepted); };
+  CommandCancel.Click = [this] { Leave(Answer::Cancelled); };
+  TextInput0.Change = [this] { TextInput0_Change(); };
+  TextInput0.KeyPress = [this](wchar_t& character) { TextInput0_KeyPress(character); };
+}
+
+bool frmMessage::ApplyButtonSet(std::wstring_view buttons) {
+  const auto* const set = std::find_if(std::begin(ButtonSets), std::end(ButtonSets),
+                                       [&](const ButtonSet& candidate) { return candidate.Word == buttons; });
+  if (set == std::end(ButtonSets)) return false;
+  CommandOK.SetEnabled(set->Ok);
+  CommandCancel.SetEnabled(set->Cancel);
+  LabelOK.SetCaption(set->OkText);
+  LabelCancel.SetCaption(set->CancelText);
+  Timer1.SetEnabled(set->Timer);
+  return true;
+}
+
+void frmMessage::ApplyInputSet(std::wstring_view inputs) {
+  if (inputs != L"Input0") return;
+  TextInput0.SetVisible(true);
+  TextInput0.SetTabIndex(0);
+  TextInput0.SetAccessibleName(LabelHead.Caption());
+}
+
+void frmMessage::Arrange(const form::Screen& screen) {
+  const std::wstring& text = LabelMessage.Caption();
+  const form::Twips width = std::clamp(Ui().MeasureText(text, false, WideText).Width, NarrowText, WideText);
+  const form::Twips left = BandWidth + Margin;
+  form::Twips top = Margin;
+  const auto place = [&](form::Control& control, form::Twips height) {
+    control.SetBounds({left, top, width, height});
+    top += height + Gap;
+  };
+  place(LabelHead, Ui().MeasureText(LabelHead.Caption(), true, width).Height);
+  // The name prompts call the input "the above box".
+  if (TextInput0.Visible()) place(TextInput0, InputHeight);
+  place(LabelMessage, Ui().MeasureText(text, false, width).Height);
+  if (CheckDoNotShow.Visible()) place(CheckDoNotShow, CheckHeight);
+
+  top += Gap;
+  CommandCancel.SetBounds({left + width - ButtonWidth, top, ButtonWidth, ButtonHeight});
+  CommandOK.SetBounds({CommandCancel.Left() - Gap - ButtonWidth, top, ButtonWidth, ButtonHeight});
+  LabelCancel.SetBounds(CommandCancel.Bounds());
+  LabelOK.SetBounds(CommandOK.Bounds());
+
+  const form::Twips outerWidth = left + width + Margin + FrameWidth;
+  const form::Twips outerHeight = top + ButtonHeight + Margin + FrameHeight;
+  PictureMessage.SetBounds({0, 0, BandWidth, outerHeight});
+  const form::Rect& area = screen.WorkArea;
+  SetBounds({area.Left + std::max((area.Width - outerWidth) / 2, 0),
+             area.Top + std::max((area.Height - outerHeight) / 2, 0), outerWidth, outerHeight});
+}
+
+void frmMessage::Form_KeyUp(form::Key key) {
+  if (key == form::Key::Escape && !TextInput0.Composing()) Dismiss();
+}
+
+void frmMessage::TextInput0_Change() {
+  if (asksForName_ && !TextInput0.Composing()) {
+    // What is pasted passes no key press.
+    std::wstring letters = TextInput0.Text();
+    std::erase_if(letters, [](wchar_t c) { return !IsLetter(c); });
+    if (letters != TextInput0.Text()) {
+      TextInput0.SetText(letters);
+      TextInput0.Select(static_cast<int>(letters.size()), 0);
+      return;
+    }
+  }
+  CommandOK.SetEnabled(!TextInput0.Text().empty());
+}
+
+void frmMessage::TextInput0_KeyPress(wchar_t& character) {
+  if (!asksForName_ || character == form::CharBackspace || IsLetter(character)) return;
+  const bool enter = character == form::CharEnter;
+  character = 0;
+  if (enter) Leave(TextInput0.Text().empty() ? Answer::Cancelled : Answer::Accepted);
+}
+
+void frmMessage::Dismiss() {
+  if (CommandCancel.Enabled()) Leave(Answer::Cancelled);
+  else if (CommandOK.Enabled()) Leave(Answer::Accepted);
+}
+
+void frmMessage::Leave(message::Answer answer) {
+  answer_ = answer;
+  Unload();
+}
+
+}  // namespace vantor::message
