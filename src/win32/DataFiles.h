@@ -1,0 +1,20 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "service/DataFiles.h"
+
+namespace vantor::win32 {
+
+/// The program's own files. A file is replaced by a finished new one, so that no power cut leaves half of it.
+class DataFiles final : public service::DataFiles {
+ public:
+  [[nodiscard]] std::optional<std::string> Read(std::wstring_view path) override;
+  [[nodiscard]] bool Write(std::wstring_view path, std::string_view bytes) override;
+  [[nodiscard]] bool MakeFolder(std::wstring_view path) override;
+  [[nodiscard]] bool FolderIsEmpty(std::wstring_view path) override;
+};
+
+}  // namespace vantor::win32

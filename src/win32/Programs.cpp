@@ -1,0 +1,106 @@
+#include "win32/Programs.h"
+
+#include <windows.h>
+
+#include <shellapi.h>
+
+#include <string>
+
+#include "win32/CommandLine.h"
+#include "win32/Handle.h"
+#include "win32/LongPath.h"
+
+namespace vantor::win32 {
+
+namespace {
+
+constexpr DWORD ElevationRequired = 740;                // ERROR_ELEVATION_REQUIRED, which not all headers have
+constexpr std::size_t LongestCommandLine = 32766;  // CreateProcess's own limit
+
+/// Whether the whole text is one file's name. A bare word is rather a program to be searched for, even where a
+/// file of that name lies in the current folder.
+bool NamesOneFile(std::wstring_view text) {
+  return text.find_first_of(L".\\/:") != text.npos && text.find(L'"') == text.npos && IsFile(text);
+}
+
+/// Starts `program` exactly, or the first word of the command line when that is null. Returns the error code.
+DWORD Start(const wchar_t* program, std::wstring commandLine) {
+  STARTUPINFOW startup = {};
+  startup.cb = sizeof startup;
+  startup.dwFlags = STARTF_USESHOWWINDOW;
+  startup.wShowWindow = SW_SHOWNORMAL;
+  PROCESS_INFORMATION started = {};
+  // Our own error mode, without Windows' boxes, is not for others.
+  if (!CreateProcessW(program, commandLine.data(), nullptr, nullptr, FALSE, CREATE_DEFAULT_ERROR_MODE, nullptr,
+                      nullptr, &startup, &started)) {
+    return GetLastError();
+  }
+  const KernelHandle process(started.hProcess);
+  const KernelHandle thread(started.hThread);
+  AllowSetForegroundWindow(started.dwProcessId);
+  return ERROR_SUCCESS;
+}
+
+std::wstring SystemFile(std::wstring_view name) {
+  wchar_t folder[MAX_PATH] = L"";
+  const UINT length = GetSystemDirectoryW(folder, MAX_PATH);
+  if (length == 0 || length >= MAX_PATH) return {};
+  return std::wstring(folder) + L"\\" + std::wstring(name);
+}
+
+std::string Ansi(std::wstring_view text) {
+  std::string bytes(text.size() * 3 + 1, '\0');
+  const int size = WideCharToMultiByte(CP_ACP, 0, text.data(), static_cast<int>(text.size()), bytes.data(),
+                                       static_cast<int>(bytes.size()), nullptr, nullptr);
+  bytes.resize(static_cast<std::size_t>(size));
+  return bytes;
+}
+
+}  // namespace
+
+bool Programs::StartCommandLine(std::wstring_view commandLine) {
+  if (commandLine.empty() || commandLine.size() > LongestCommandLine) return false;
+  const bool wholeFile = NamesOneFile(commandLine);
+  const std::wstring text(commandLine);
+  const DWORD error =
+      wholeFile ? Start(CallPath(FullPath(text)).c_str(), L'"' + text + L'"') : Start(nullptr, text);
+  if (error != ElevationRequired) return error == ERROR_SUCCESS;
+  if (wholeFile) return StartElevated(FullPath(text), {});
+  const CommandLine parts = SplitCommandLine(text);
+  return StartElevated(parts.Program, parts.Arguments);
+}
+
+int Programs::ShellOpen(std::wstring_view file) {
+  apartment_.Enter();
+  // What opens it may be running already and has to come to the front.
+  AllowSetForegroundWindow(ASFW_ANY);
+  const HINSTANCE result = ShellExecuteW(nullptr, L"open", std::wstring(file).c_str(), nullptr, nullptr, SW_SHOW);
+  return static_cast<int>(reinterpret_cast<INT_PTR>(result));
+}
+
+int Programs::RequestMakeCall(std::wstring_view number, std::wstring_view applicationName) {
+  constexpr LONG NoRequestRecipient = -2;  // TAPIERR_NOREQUESTRECIPIENT
+  using MakeCall = LONG(WINAPI*)(LPCSTR address, LPCSTR application, LPCSTR calledParty, LPCSTR comment);
+
+  const LibraryHandle telephony(LoadLibraryW(SystemFile(L"TAPI32.DLL").c_str()));
+  if (!telephony) return NoRequestRecipient;
+  const FARPROC found = GetProcAddress(telephony.Get(), "tapiRequestMakeCall");
+  if (found == nullptr) return NoRequestRecipient;
+  const auto makeCall = reinterpret_cast<MakeCall>(reinterpret_cast<void*>(found));
+  return makeCall(Ansi(number).c_str(), Ansi(applicationName).c_str(), "", "");
+}
+
+bool Programs::StartElevated(std::wstring_view program, std::wstring_view arguments) {
+  apartment_.Enter();
+  const std::wstring file(program);
+  const std::wstring parameters(arguments);
+  SHELLEXECUTEINFOW what = {};
+  what.cbSize = sizeof what;
+  what.fMask = SEE_MASK_FLAG_NO_UI;
+  what.lpFile = file.c_str();
+  what.lpParameters = parameters.empty() ? nullptr : parameters.c_str();
+  what.nShow = SW_SHOWNORMAL;
+  return ShellExecuteExW(&what) != FALSE;
+}
+
+}  // namespace vantor::win32

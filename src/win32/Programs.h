@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string_view>
+
+#include "service/Programs.h"
+#include "win32/Com.h"
+
+namespace vantor::win32 {
+
+class Programs final : public service::Programs {
+ public:
+  explicit Programs(Apartment& apartment) : apartment_(apartment) {}
+
+  [[nodiscard]] bool StartCommandLine(std::wstring_view commandLine) override;
+  [[nodiscard]] int ShellOpen(std::wstring_view file) override;
+  [[nodiscard]] int RequestMakeCall(std::wstring_view number, std::wstring_view applicationName) override;
+
+ private:
+  /// For a program that asks for the administrator's rights, which only the shell can give.
+  [[nodiscard]] bool StartElevated(std::wstring_view program, std::wstring_view arguments);
+
+  Apartment& apartment_;  // the shell's extensions are COM objects
+};
+
+}  // namespace vantor::win32

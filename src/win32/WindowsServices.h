@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string_view>
+
+#include "service/Services.h"
+#include "win32/Com.h"
+#include "win32/DataFiles.h"
+#include "win32/FileSystem.h"
+#include "win32/Language.h"
+#include "win32/Management.h"
+#include "win32/Programs.h"
+#include "win32/ScriptShell.h"
+#include "win32/System.h"
+
+namespace vantor::win32 {
+
+/// The real side of all services. COM is entered at their first need of it.
+class WindowsServices {
+ public:
+  WindowsServices(std::wstring_view program, System::TitleSetter setTitle)
+      : fileSystem_(apartment_),
+        programs_(apartment_),
+        scriptShell_(apartment_),
+        system_(program, std::move(setTitle)) {}
+
+  [[nodiscard]] service::Services All() {
+    return {dataFiles_, fileSystem_, language_, management_, programs_, scriptShell_, system_};
+  }
+
+ private:
+  Apartment apartment_;  // first, so that it is left last
+  DataFiles dataFiles_;
+  FileSystem fileSystem_;
+  Language language_;
+  Management management_;
+  Programs programs_;
+  ScriptShell scriptShell_;
+  System system_;
+};
+
+}  // namespace vantor::win32
