@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstdint>
+#include <string_view>
+
 #include "form/Geometry.h"
 #include "list/LaunchList.h"
 #include "list/Settings.h"
@@ -25,12 +28,14 @@ class ListFiles {
   struct Group;
 
   [[nodiscard]] Group GroupOf(LaunchGroup group) const;
-  [[nodiscard]] bool TargetExists(LaunchGroup group, std::wstring_view target) const;
   void LoadGroupList(const Group& group, const GroupBoxes& boxes) const;
   void LoadFile(const Group& group, const GroupBoxes& boxes, std::wstring_view path, int upper, bool onMedia) const;
-  [[nodiscard]] int CountMediaItems(const Group& group, const GroupBoxes& boxes, int upper) const;
+  [[nodiscard]] bool TargetExists(const Group& group, std::wstring_view target) const;
+  [[nodiscard]] std::int16_t CountMediaItems(const Group& group, const GroupBoxes& boxes, std::int16_t upper) const;
   void SaveGroupList(const Group& group, const GroupBoxes& boxes) const;
-  [[nodiscard]] bool IsMediaTarget(std::wstring_view target) const;
+  /// Whether the target is written into the group's main list file, in removable-media mode with the drive
+  /// letter left open; the machine's list file takes the others.
+  [[nodiscard]] bool BelongsToMain(const Group& group, std::wstring_view target) const;
 
   service::Services services_;
   const start::Environment& environment_;

@@ -1,0 +1,44 @@
+#include "command/BuiltInActions.h"
+
+#include <algorithm>
+
+#include "command/CodeTables.h"
+#include "start/Environment.h"
+
+namespace vantor::command {
+
+std::wstring GetSpecialFolderPath(const service::Services& services, std::wstring_view word) {
+  constexpr std::wstring_view Fallback = L"MyDocuments";
+  const std::wstring wanted = services.Language.Lower(word);
+  const auto name = std::find_if(SpecialFolderNames.begin(), SpecialFolderNames.end(),
+                                 [&](std::wstring_view entry) { return services.Language.Lower(entry) == wanted; });
+  std::wstring path;
+  if (name != SpecialFolderNames.end()) path = services.ScriptShell.SpecialFolder(*name);
+  return path.empty() ? services.ScriptShell.SpecialFolder(Fallback) : path;
+}
+
+message::MessageKey OpenControlPanelApplet(const service::Services& services, std::wstring_view word) {
+  const std::wstring wanted = services.Language.Lower(word);
+  for (const ControlPanelWord& entry : ControlPanelNames) {
+    if (entry.CommandLine.empty() || services.Language.Lower(entry.Word) != wanted) continue;
+    return services.Programs.StartCommandLine(entry.CommandLine) ? L"" : L"MessagePanelOpenError";
+  }
+  return {};
+}
+
+std::wstring DialNumber(const service::Services& services, std::wstring_view number) {
+  switch (services.Programs.RequestMakeCall(number, start::ProductName)) {
+    case 0:
+      return {};
+    case -4:  // TAPIERR_INVALDESTADDRESS
+      return L"The phone number is not valid.";
+    case -3:  // TAPIERR_REQUESTQUEUEFULL
+      return L"The queue of pending Windows Telephony dialing requests is full.";
+    case -2:  // TAPIERR_NOREQUESTRECIPIENT
+      return L"No Windows Telephony dialing application is running and none could be started.";
+    default:
+      return L"Could not dial the number. Reason unknown.";
+  }
+}
+
+}  // namespace vantor::command

@@ -1,0 +1,184 @@
+#include "list/ListFiles.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+
+#include "text/Numbers.h"
+#include "text/SequentialFile.h"
+
+namespace vantor::list {
+
+namespace {
+
+// Stands for the medium's drive letter in the files, so that the medium may be mounted as any drive.
+constexpr wchar_t OpenDriveLetter = L'#';
+
+// A record can't hold a double quote: it would end the field, and with it the reading of all records after it.
+std::wstring WithoutQuotes(std::wstring_view text, std::wstring_view substitute) {
+  std::wstring result(text);
+  for (auto at = result.find(L'"'); at != std::wstring::npos; at = result.find(L'"', at + substitute.size())) {
+    result.replace(at, 1, substitute);
+  }
+  return result;
+}
+
+/// One list file being written.
+class RecordWriter {
+ public:
+  explicit RecordWriter(std::wstring_view quoteInTarget) : quoteInTarget_(quoteInTarget) {}
+
+  void Write(std::wstring_view name, std::wstring_view target) {
+    if (name.find(L'"') == std::wstring_view::npos && target.find(L'"') == std::wstring_view::npos) {
+      file_.Write(name, target);
+    } else {
+      file_.Write(WithoutQuotes(name, L"'"), WithoutQuotes(target, quoteInTarget_));
+    }
+  }
+
+  [[nodiscard]] const text::SequentialWriter& File() const { return file_; }
+
+ private:
+  std::wstring_view quoteInTarget_;
+  text::SequentialWriter file_;
+};
+
+}  // namespace
+
+/// What one group's loading and saving go by.
+struct ListFiles::Group {
+  LaunchGroup Code;
+  const std::wstring& File;
+  std::int16_t& Upper;
+  // The list file of the remembered computer: in removable-media mode only, and not for web sites, whose targets
+  // lie on no drive.
+  const std::wstring* MachineFile = nullptr;
+  std::int16_t* MachineUpper = nullptr;
+};
+
+ListFiles::Group ListFiles::GroupOf(LaunchGroup group) const {
+  const start::DataFilePaths& files = environment_.Files;
+  Settings& settings = settings_;
+  const bool removable = environment_.RunMode;
+  const auto split = [&](const std::wstring& file, std::int16_t& upper, const std::wstring& machineFile,
+                         std::int16_t& machineUpper) {
+    return Group{group, file, upper, removable ? &machineFile : nullptr, removable ? &machineUpper : nullptr};
+  };
+  switch (group) {
+    case LaunchGroup::File:
+      return split(files.ListFile, settings.FileUpper, files.MachineFile, settings.MachineFileUpper);
+    case LaunchGroup::Fold:
+      return split(files.ListFold, settings.FoldUpper, files.MachineFold, settings.MachineFoldUpper);
+    case LaunchGroup::Prog:
+      return split(files.ListProg, settings.ProgUpper, files.MachineProg, settings.MachineProgUpper);
+    case LaunchGroup::Web:
+      break;
+  }
+  return Group{LaunchGroup::Web, files.ListWeb, settings.WebUpper};
+}
+
+void ListFiles::LoadLaunchList(const LaunchList& list) const {
+  const service::ManyFileCalls many(services_.FileSystem);
+  for (const LaunchGroup group : {LaunchGroup::Web, LaunchGroup::File, LaunchGroup::Fold, LaunchGroup::Prog}) {
+    LoadGroupList(GroupOf(group), list.Of(group));
+  }
+}
+
+void ListFiles::LoadGroupList(const Group& group, const GroupBoxes& boxes) const {
+  LoadFile(group, boxes, group.File, group.Upper, group.MachineFile != nullptr);
+  if (group.MachineFile != nullptr && environment_.MachineRemembered) {
+    LoadFile(group, boxes, *group.MachineFile, *group.MachineUpper, false);
+  }
+}
+
+void ListFiles::LoadFile(const Group& group, const GroupBoxes& boxes, std::wstring_view path, int upper,
+                         bool onMedia) const {
+  if (upper < 0) return;
+  const auto content = text::ReadTextFile(services_.DataFiles, services_.Language, path);
+  if (!content) return;
+
+  // The upper index may be a damaged one; a record has at least the four quotes, a comma and a line end.
+  const int fitting = static_cast<int>(std::min<std::size_t>(content->size() / 6, static_cast<std::size_t>(upper)));
+  boxes.Name.Reserve(boxes.Name.ListCount() + fitting + 1);
+  boxes.Path.Reserve(boxes.Path.ListCount() + fitting + 1);
+
+  text::SequentialReader reader(*content);
+  std::wstring target;
+  for (int i = 0; i <= upper; ++i) {
+    const auto name = reader.Read();
+    const auto stored = name ? reader.Read() : std::nullopt;
+    if (!stored) return;
+    target.clear();
+    if (onMedia) target = environment_.MediaDriveLetter;
+    target += onMedia && !stored->Text.empty() ? stored->Text.substr(1) : stored->Text;
+    if (TargetExists(group, target)) boxes.AddItem(name->Text, target);
+  }
+}
+
+bool ListFiles::TargetExists(const Group& group, std::wstring_view target) const {
+  switch (group.Code) {
+    case LaunchGroup::Web:
+      return true;
+    case LaunchGroup::Fold:
+      return services_.FileSystem.FolderExists(target);
+    default:
+      return services_.FileSystem.FileExists(target);
+  }
+}
+
+void ListFiles::SaveLaunchList(const LaunchList& list, form::Twips barLeft, form::Twips barTop) const {
+  settings_.Left = text::ToInt16(barLeft);
+  settings_.Top = text::ToInt16(barTop);
+  if (environment_.RunMode) settings_.Folder.clear();
+  for (const LaunchGroup code : LaunchGroups) {
+    const Group group = GroupOf(code);
+    const std::int16_t total = text::ToInt16(list.Of(code).Path.ListCount() - 1);
+    const bool split = group.MachineFile != nullptr && environment_.MachineRemembered;
+    group.Upper = split ? CountMediaItems(group, list.Of(code), total) : total;
+  }
+  (void)SaveSettings(services_.DataFiles, services_.Language, environment_.Files.Set, settings_);
+  for (const LaunchGroup group : {LaunchGroup::Web, LaunchGroup::File, LaunchGroup::Fold, LaunchGroup::Prog}) {
+    SaveGroupList(GroupOf(group), list.Of(group));
+  }
+}
+
+std::int16_t ListFiles::CountMediaItems(const Group& group, const GroupBoxes& boxes, std::int16_t upper) const {
+  int count = 0;
+  for (int i = 0; i <= upper; ++i) count += BelongsToMain(group, boxes.Path.List(i)) ? 1 : 0;
+  *group.MachineUpper = static_cast<std::int16_t>(upper - count);
+  return static_cast<std::int16_t>(count - 1);
+}
+
+void ListFiles::SaveGroupList(const Group& group, const GroupBoxes& boxes) const {
+  const int total = text::ToInt16(boxes.Path.ListCount() - 1);
+  const std::wstring_view quoteInTarget = group.Code == LaunchGroup::Web ? L"%22" : L"'";
+  RecordWriter main(quoteInTarget);
+  RecordWriter machine(quoteInTarget);
+  std::wstring open;
+  for (int i = 0; i <= total; ++i) {
+    const std::wstring& name = boxes.Name.List(i);
+    const std::wstring& target = boxes.Path.List(i);
+    if (!BelongsToMain(group, target)) {
+      machine.Write(name, target);
+    } else if (group.MachineFile != nullptr && !target.empty()) {
+      open = target;
+      open.front() = OpenDriveLetter;
+      main.Write(name, open);
+    } else {
+      main.Write(name, target);
+    }
+  }
+  const auto write = [this](const std::wstring& path, const RecordWriter& records) {
+    if (records.File().Bytes().empty()) return;  // the file of a list that is empty stays as it is
+    (void)text::WriteTextFile(services_.DataFiles, services_.Language, path, records.File());
+  };
+  write(group.File, main);
+  if (group.MachineFile != nullptr) write(*group.MachineFile, machine);
+}
+
+bool ListFiles::BelongsToMain(const Group& group, std::wstring_view target) const {
+  if (group.MachineFile == nullptr || !environment_.MachineRemembered) return true;
+  return target.substr(0, 1) == environment_.MediaDriveLetter;
+}
+
+}  // namespace vantor::list
