@@ -1,10 +1,9 @@
 #pragma once
 
-#include <cstdint>
 #include <functional>
-#include <span>
 #include <string_view>
 
+#include "command/CommandCodes.h"
 #include "command/CommandState.h"
 #include "command/Starters.h"
 #include "form/TextBox.h"
@@ -22,7 +21,7 @@ struct CommandLineHooks {
   std::function<void(int index)> ClickMenu;
 };
 
-/// The typing and commands of the bar's text box.
+/// The keys, the completion and the commands of the bar's text box.
 class CommandLine {
  public:
   /// All but the services are kept by reference.
@@ -36,16 +35,25 @@ class CommandLine {
   void TextMain_Change();
 
  private:
-  // Enter
-  void Accept();
+  // What Enter does.
+  void Enter();
   void SendMakerMail(std::size_t index);
+  void StartTyped(const CommandCode& code, std::wstring_view argument);
+  void StartItem(const CommandCode& code, std::wstring_view name);
   void Dial(std::wstring_view number);
-  void Show(message::MessageKey key) const;
+  [[nodiscard]] message::MessageKey Start(command::Starter starter, const std::wstring& target) const;
 
-  // type-ahead
-  void Complete();
-  void CompleteFromGroup(std::wstring_view prefix, std::wstring_view typed, const form::ComboBox& names);
-  void PutCompletion(std::wstring_view prefix, std::wstring_view typed, std::wstring_view entry);
+  void Escape();
+
+  /// The code that a text begins with; null for none.
+  [[nodiscard]] const CommandCode* CodeOf(std::wstring_view text) const;
+
+  // What type-ahead does.
+  void Complete(const CommandCode& code, std::wstring_view prefix, std::wstring_view typed);
+  /// Completes to the first entry that begins with `typed`. Returns its index, -1 for none.
+  template <class Entries, class TextOf>
+  int CompleteFrom(const Entries& entries, TextOf textOf, std::wstring_view prefix, std::wstring_view typed);
+  void PutCompletion(std::wstring_view prefix, std::size_t typedLength, std::wstring_view entry);
 
   form::TextBox& textMain_;
   const list::LaunchList& list_;

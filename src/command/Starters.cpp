@@ -1,5 +1,6 @@
 #include "command/Starters.h"
 
+#include <algorithm>
 #include <string>
 
 namespace vantor::command {
@@ -28,10 +29,11 @@ message::MessageKey Starters::SendMailTo(std::wstring_view address, std::wstring
   constexpr int GreatestShellError = 32;
 
   std::wstring link(address);
-  const auto sameLetter = [](wchar_t a, wchar_t lower) { return a == lower || (a >= L'A' && a <= L'Z' && a + 32 == lower); };
-  bool hasScheme = link.size() >= Scheme.size();
-  for (std::size_t i = 0; hasScheme && i < Scheme.size(); ++i) hasScheme = sameLetter(link[i], Scheme[i]);
-  if (!hasScheme) link.insert(0, Scheme);
+  const auto sameLetter = [](wchar_t lower, wchar_t letter) {
+    return letter == lower || (letter >= L'A' && letter <= L'Z' && letter - L'A' == lower - L'a');
+  };
+  const std::wstring_view start = address.substr(0, Scheme.size());
+  if (!std::equal(Scheme.begin(), Scheme.end(), start.begin(), start.end(), sameLetter)) link.insert(0, Scheme);
   if (!subject.empty()) link.append(L"?subject=").append(subject);
   if (!body.empty()) link.append(subject.empty() ? L"?body=" : L"&body=").append(body);
   return programs_.ShellOpen(link) > GreatestShellError ? L"" : L"MessageProgramStartError";

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <array>
+#include <string_view>
+
+#include "list/LaunchList.h"
+
+namespace vantor::command {
+
+/// What follows a code, which also says what completes it.
+enum class Argument {
+  Typed,             // taken as it stands
+  SpecialFolder,     // a word of SpecialFolderNames
+  ControlPanelPage,  // a word of ControlPanelNames
+  MakerAddress,      // one of MailAddresses; only a completed one is acted on
+  ItemName,          // a name of the code's group; only a completed one is acted on
+};
+
+enum class Starter { Program, Explorer, Shell, ControlPanel, MakerMail, Telephone };
+
+/// One code of the command language: its argument, and how Enter turns that into something started.
+struct CommandCode {
+  std::wstring_view Code;
+  command::Argument Argument;
+  command::Starter Starter;
+  std::wstring_view Before = {};  // stands before the argument in the target
+  std::wstring_view After = {};
+  list::LaunchGroup Group = list::LaunchGroup::Prog;  // of an ItemName
+};
+
+inline constexpr std::size_t CodeLength = 2;
+
+inline constexpr std::array<CommandCode, 21> CommandCodes{{
+    {L"p=", Argument::Typed, Starter::Program},
+    {L"f=", Argument::Typed, Starter::Shell},
+    {L"d=", Argument::Typed, Starter::Explorer},
+    {L"d.", Argument::SpecialFolder, Starter::Explorer},
+    {L"c.", Argument::ControlPanelPage, Starter::ControlPanel},
+    {L"e=", Argument::Typed, Starter::Shell, L"mailto:"},
+    {L"e.", Argument::MakerAddress, Starter::MakerMail},
+    {L"t=", Argument::Typed, Starter::Telephone},
+    {L"w=", Argument::Typed, Starter::Shell},
+    {L"w:", Argument::Typed, Starter::Shell, L"http://"},
+    {L"w;", Argument::Typed, Starter::Shell, L"http://www."},
+    {L"c/", Argument::Typed, Starter::Shell, L"http://www.", L".com"},
+    {L"g/", Argument::Typed, Starter::Shell, L"http://www.", L".gov"},
+    {L"i/", Argument::Typed, Starter::Shell, L"http://www.", L".info"},
+    {L"n/", Argument::Typed, Starter::Shell, L"http://www.", L".net"},
+    {L"o/", Argument::Typed, Starter::Shell, L"http://www.", L".org"},
+    {L"t/", Argument::Typed, Starter::Shell, L"http://www.", L".tv"},
+    {L"p-", Argument::ItemName, Starter::Program, {}, {}, list::LaunchGroup::Prog},
+    {L"f-", Argument::ItemName, Starter::Shell, {}, {}, list::LaunchGroup::File},
+    {L"d-", Argument::ItemName, Starter::Explorer, {}, {}, list::LaunchGroup::Fold},
+    {L"w-", Argument::ItemName, Starter::Shell, {}, {}, list::LaunchGroup::Web},
+}};
+
+/// The entry of a code in lower case; null when there is no such code.
+[[nodiscard]] constexpr const CommandCode* FindCode(std::wstring_view code) {
+  for (const CommandCode& entry : CommandCodes) {
+    if (entry.Code == code) return &entry;
+  }
+  return nullptr;
+}
+
+}  // namespace vantor::command

@@ -1,0 +1,184 @@
+#include "command/CommandLine.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "command/BuiltInActions.h"
+#include "command/CodeTables.h"
+#include "form/Keys.h"
+#include "list/NameMatch.h"
+#include "text/Numbers.h"
+
+namespace vantor::command {
+
+CommandLine::CommandLine(form::TextBox& textMain, const list::LaunchList& list, CommandState& state,
+                         const Starters& starters, message::Messages& messages, const service::Services& services,
+                         const start::Environment& environment)
+    : textMain_(textMain),
+      list_(list),
+      state_(state),
+      starters_(starters),
+      messages_(messages),
+      services_(services),
+      environment_(environment) {}
+
+void CommandLine::TextMain_KeyPress(wchar_t& character) {
+  messages_.State.CurrentMessageKey.clear();
+  switch (character) {
+    case form::CharEnter:
+      Enter();
+      character = 0;  // a box of one line has no use for it and would beep
+      return;
+    case form::CharEscape:
+      Escape();
+      character = 0;
+      return;
+    case form::CharBackspace:
+      state_.BackspaceFlag = true;
+      return;
+    default: {
+      const CommandCode* code = CodeOf(textMain_.Text());
+      const bool digit = character >= L'0' && character <= L'9';
+      if (code != nullptr && code->Starter == Starter::Telephone && !digit) character = 0;
+    }
+  }
+}
+
+void CommandLine::TextMain_Change() {
+  if (completing_) return;
+  messages_.State.CurrentMessageKey.clear();
+  state_.MatchedItemIndex = NoIndex;
+  state_.MailTargetIndex = NoIndex;
+  if (std::exchange(state_.BackspaceFlag, false) || textMain_.Composing()) return;
+  const std::wstring text = textMain_.Text();  // a copy: completing replaces the box's own
+  if (text.size() <= CodeLength) return;
+  const std::wstring_view line(text);
+  if (const CommandCode* code = CodeOf(line)) Complete(*code, line.substr(0, CodeLength), line.substr(CodeLength));
+}
+
+const CommandCode* CommandLine::CodeOf(std::wstring_view text) const {
+  if (text.size() < CodeLength) return nullptr;
+  return FindCode(services_.Language.Lower(text.substr(0, CodeLength)));
+}
+
+void CommandLine::Enter() {
+  const std::wstring text = textMain_.Text();
+  if (text.size() <= CodeLength) return;
+  if (state_.MailTargetIndex != NoIndex) {
+    SendMakerMail(static_cast<std::size_t>(state_.MailTargetIndex));
+    return;
+  }
+  const CommandCode* code = CodeOf(text);
+  if (code == nullptr || code->Argument == Argument::MakerAddress) return;
+  const std::wstring_view argument = std::wstring_view(text).substr(CodeLength);
+  if (code->Argument == Argument::ItemName) {
+    StartItem(*code, argument);
+  } else if (code->Starter == Starter::Telephone) {
+    Dial(argument);
+  } else {
+    StartTyped(*code, argument);
+  }
+}
+
+void CommandLine::SendMakerMail(std::size_t index) {
+  const std::wstring address = L"mailto:" + std::wstring(MailAddresses.at(index));
+  messages_.ShowList(starters_.SendMailTo(address, MailSubjects.at(index), {}));
+  textMain_.SetText({});
+}
+
+void CommandLine::StartTyped(const CommandCode& code, std::wstring_view argument) {
+  const std::wstring word = code.Argument == Argument::SpecialFolder ? GetSpecialFolderPath(services_, argument)
+                                                                     : std::wstring(argument);
+  messages_.ShowList(Start(code.Starter, std::wstring(code.Before).append(word).append(code.After)));
+}
+
+void CommandLine::StartItem(const CommandCode& code, std::wstring_view name) {
+  const int index = state_.MatchedItemIndex;
+  const list::GroupBoxes& boxes = list_.Of(code.Group);
+  // The list may have changed since the name was completed.
+  if (index == NoIndex || index >= boxes.Name.ListCount() || boxes.Name.List(index) != name) return;
+  messages_.ShowList(Start(code.Starter, boxes.Path.List(index)));
+}
+
+void CommandLine::Dial(std::wstring_view number) {
+  messages_.State.CurrentMessageText = DialNumber(services_, number);
+  if (!messages_.State.CurrentMessageText.empty()) messages_.ShowTextMessage();
+  textMain_.SetText({});
+  textMain_.SetFocus();
+}
+
+message::MessageKey CommandLine::Start(command::Starter starter, const std::wstring& target) const {
+  switch (starter) {
+    case Starter::Program:
+      return starters_.RunProgramCommand(target);
+    case Starter::Explorer:
+      return starters_.RunExplorerCommand(environment_.WindowsFolder + L"explorer.exe " + target);
+    case Starter::Shell:
+      return starters_.OpenWithShell(target);
+    case Starter::ControlPanel:
+      return OpenControlPanelApplet(services_, target);
+    case Starter::MakerMail:
+    case Starter::Telephone:
+      break;  // these have no target
+  }
+  return {};
+}
+
+void CommandLine::Escape() {
+  if (state_.OpenPanelIndex == NoIndex) {
+    Hooks.Minimize();
+    return;
+  }
+  Hooks.ClickMenu(state_.OpenPanelIndex);
+  textMain_.SetText({});
+}
+
+void CommandLine::Complete(const CommandCode& code, std::wstring_view prefix, std::wstring_view typed) {
+  const auto itself = [](std::wstring_view entry) { return entry; };
+  switch (code.Argument) {
+    case Argument::ControlPanelPage:
+      CompleteFrom(
+          ControlPanelNames, [](const ControlPanelWord& entry) { return entry.Offered ? entry.Word : L""; }, prefix,
+          typed);
+      return;
+    case Argument::SpecialFolder:
+      CompleteFrom(SpecialFolderNames, itself, prefix, typed);
+      return;
+    case Argument::MakerAddress:
+      state_.MailTargetIndex = text::ToInt16(CompleteFrom(MailAddresses, itself, prefix, typed));
+      return;
+    case Argument::ItemName:
+      state_.MatchedItemIndex = text::ToInt16(CompleteFrom(list_.Of(code.Group).Name.Entries(), itself, prefix, typed));
+      return;
+    case Argument::Typed:
+      return;
+  }
+}
+
+template <class Entries, class TextOf>
+int CommandLine::CompleteFrom(const Entries& entries, TextOf textOf, std::wstring_view prefix,
+                              std::wstring_view typed) {
+  list::NameMatch match(services_.Language, typed);
+  const auto found =
+      std::find_if(entries.begin(), entries.end(), [&](const auto& entry) { return match.Begins(textOf(entry)); });
+  if (found == entries.end()) return NoIndex;
+  PutCompletion(prefix, typed.size(), textOf(*found));
+  return static_cast<int>(found - entries.begin());
+}
+
+void CommandLine::PutCompletion(std::wstring_view prefix, std::size_t typedLength, std::wstring_view entry) {
+  const int caret = textMain_.SelStart();
+  // Searching again in the change that this raises would only find the same entry.
+  completing_ = true;
+  textMain_.SetText(std::wstring(prefix).append(entry));
+  completing_ = false;
+  const auto typedEnd = static_cast<int>(CodeLength + typedLength);
+  if (entry.size() > typedLength) {
+    textMain_.Select(typedEnd, static_cast<int>(entry.size() - typedLength));
+  } else if (textMain_.SelStart() != caret) {
+    textMain_.Select(caret, 0);  // the entry's spelling took the place of what was typed
+  }
+}
+
+}  // namespace vantor::command
