@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -48,6 +49,8 @@ class ControlWindow {
   /// Shows the control's new state. Never raises an event of the control.
   virtual void Changed(Property property) = 0;
   virtual void TakeFocus() = 0;
+  /// The number by which the system knows the window; 0 for none.
+  [[nodiscard]] virtual std::uintptr_t Handle() const { return 0; }
 
  protected:
   ControlWindow() = default;

@@ -96,7 +96,9 @@ std::wstring FolderList::PathOf(int index) const {
 
 int FolderList::LevelOf(int index) const { return std::min(index, currentIndex_ + 1); }
 
-void FolderList::EntryChosen() { (void)SetPath(PathOf(ListIndex())); }
+void FolderList::EntryChosen() {
+  if (!SetPath(PathOf(ListIndex()))) Unreachable();
+}
 
 void FolderList::Fill() {
   const std::size_t rootEnd = IsShare(path_) ? DriveOf(path_).size() : path_.find(L'\\') + 1;

@@ -53,6 +53,8 @@ class FolderList : public ListControl {
   [[nodiscard]] int LevelOf(int index) const;
 
   Event<> Change;
+  /// The user chose an entry that can't be gone to; the list is as before.
+  Event<> Unreachable;
 
  protected:
   void EntryChosen() override;

@@ -21,13 +21,13 @@ void TextBox::Select(int start, int length) {
 }
 
 wchar_t TextBox::InputKeyPress(wchar_t character) {
-  if (!AcceptsInput()) return 0;
+  if (!AcceptsInput() || locked_) return 0;
   KeyPress(character);
   return character;
 }
 
 void TextBox::InputEdited(std::wstring_view text, int selStart, int selLength) {
-  if (!AcceptsInput()) return;
+  if (!AcceptsInput() || locked_) return;
   InputSelection(selStart, selLength);
   if (text_ == text) return;
   text_ = text;

@@ -25,6 +25,10 @@ class TextBox : public Control {
   [[nodiscard]] int SelLength() const { return selLength_; }
   /// Both are brought into the text where they reach beyond it.
   void Select(int start, int length);
+  /// A locked box shows its text and lets it be selected and copied, but only the program changes it.
+  [[nodiscard]] bool Locked() const { return locked_; }
+  void SetLocked(bool locked) { locked_ = locked; }  // before the form is shown
+
   void SelectAll() { Select(0, static_cast<int>(text_.size())); }
 
   /// An input method is composing: what stands in the box is not final yet.
@@ -49,6 +53,7 @@ class TextBox : public Control {
   int selStart_ = 0;
   int selLength_ = 0;
   bool composing_ = false;
+  bool locked_ = false;
 };
 
 }  // namespace vantor::form

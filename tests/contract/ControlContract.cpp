@@ -115,6 +115,22 @@ TEST_CASE("KeyPress comes before the change, and may swallow the character or pu
   CHECK(stage.Someone->ShownText(box) == L"B");
 }
 
+TEST_CASE("a locked text box takes text from the program only") {
+  const auto someone = MakePerson();
+  Form form(someone->Ui(), L"LockedForm");
+  TextBox box(form, L"Box");
+  form.SetBounds({1500, 1500, 6000, 4500});
+  box.SetBounds({150, 150, 4500, 450});
+  box.SetLocked(true);
+  form.Show();
+  REQUIRE(someone->WaitUntil([&] { return someone->IsShownFocused(box); }));
+  box.SetText(L"C:\\Tools");
+  someone->Type(L"x\b");
+  CHECK(box.Text() == L"C:\\Tools");
+  CHECK(someone->ShownText(box) == L"C:\\Tools");
+  form.Unload();
+}
+
 TEST_CASE("a double click is told of") {
   Stage stage;
   int count = 0;

@@ -73,6 +73,15 @@ TEST_CASE("the drive, folder and file lists walk a disk by keyboard and by the p
   someone->Press(Key::Enter);
   CHECK(form.Dir.Path() == L"C:\\");
   CHECK(form.Dir.PathOf(1) == L"C:\\Tools");
+  told.clear();
+  form.Dir.Unreachable = [&] { told.push_back(L"unreachable"); };
+  disk.Remove(L"C:\\Tools\\Old");
+  CHECK(form.Dir.SetPath(L"C:\\Tools"));
+  disk.Remove(L"C:\\Tools\\Deep");
+  someone->Press(Key::Down);
+  someone->Press(Key::Enter);
+  CHECK(told == std::vector<std::wstring>{L"C:\\Tools", L"unreachable"});
+  CHECK(form.Dir.Path() == L"C:\\Tools");
 
   int clicks = 0;
   form.File.Click = [&] { ++clicks; };
