@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string_view>
+
+#include "message/Messages.h"
+#include "service/Services.h"
+#include "start/Environment.h"
+
+namespace vantor::add {
+
+/// Whether this computer is the one of the identity file. When the file or the computer's own identity can't be
+/// read, false, after the question whether to report that.
+[[nodiscard]] bool MachineMatches(const service::Services& services, message::Messages& messages,
+                                  std::wstring_view path);
+
+/// Part of the start in removable-media mode: sets MachineUnknown and MachineRemembered.
+void IdentifyMachine(const service::Services& services, message::Messages& messages,
+                     start::Environment& environment);
+
+}  // namespace vantor::add

@@ -1,0 +1,105 @@
+#include "start/ActiveStart.h"
+
+#include "add/MachineIdentity.h"
+#include "command/CodeTables.h"
+#include "start/DataFolder.h"
+#include "start/Places.h"
+#include "start/Program.h"
+
+namespace vantor::start {
+
+void ActiveStart::Run() {
+  using Step = void (ActiveStart::*)();
+  for (const Step step : {&ActiveStart::CheckScreen, &ActiveStart::FindPreviousInstance, &ActiveStart::FindPlaces,
+                          &ActiveStart::ChooseRunMode, &ActiveStart::PrepareData, &ActiveStart::AskForName,
+                          &ActiveStart::LoadState, &ActiveStart::ShowForms}) {
+    (this->*step)();
+    if (program_.Ui.Ended()) return;
+  }
+  program_.Environment.FirstStart = false;
+  program_.Environment.Starting = false;
+}
+
+void ActiveStart::CheckScreen() {
+  // 800 by 600 pixels of 15 twips. The message names another size; both are as they are meant to be.
+  constexpr form::Twips MinWidth = 12000;
+  constexpr form::Twips MinHeight = 9000;
+  const form::Rect screen = program_.Ui.PrimaryScreen().Bounds;
+  if (screen.Width < MinWidth || screen.Height < MinHeight) Stop(L"MessageSmallScreen");
+}
+
+void ActiveStart::FindPreviousInstance() {
+  // While it looks for the other copy, this one must not be found by the same title.
+  constexpr std::wstring_view TitleMeanwhile = L"BypassThisInstance";
+  service::System& system = program_.Services.System;
+  system.SetTitle(ApplicationTitle);
+  if (!system.PreviousInstance()) return;
+  system.SetTitle(TitleMeanwhile);
+  if (system.ActivateInstance(ApplicationTitle)) program_.Ui.End();
+  else system.SetTitle(ApplicationTitle);
+}
+
+void ActiveStart::FindPlaces() {
+  Environment& environment = program_.Environment;
+  environment.Starting = true;
+  program_.frmMove.Load();
+  GetWindowsFolder(program_.Services.System, program_.Services.Language, environment);
+  const bool windowsKnown = !environment.WindowsFolderUpper.empty();
+  // The stop messages hold no such key, so that the start goes on.
+  if (windowsKnown && environment.ProgramFolderUpper.starts_with(environment.WindowsFolderUpper)) {
+    Stop(L"MessageProgInSystem");
+  }
+}
+
+void ActiveStart::ChooseRunMode() {
+  Environment& environment = program_.Environment;
+  environment.DriveTypeText = GetDriveTypeText(program_.Services.FileSystem, environment.DriveRoot);
+  const std::wstring& type = environment.DriveTypeText;
+  if (type == L"Unknown" || type == L"Remote") Stop(L"MessageMediaUnknown");
+  if (type == L"CDRom") Stop(L"MessageMediaCDRom");
+  environment.RunMode = type != L"Fixed";
+}
+
+void ActiveStart::PrepareData() {
+  Environment& environment = program_.Environment;
+  SetDataFiles(environment);
+  if (!environment.RunMode) {
+    PrepareDataFolder(program_.Services, environment);
+    return;
+  }
+  if (const message::MessageKey refusal = PrepareMedia(program_.Services, environment); !refusal.empty()) {
+    Stop(refusal);
+    return;
+  }
+  add::IdentifyMachine(program_.Services, program_.Messages, environment);
+}
+
+void ActiveStart::AskForName() {
+  message::MessageState& state = program_.MessageState;
+  state.UserName = LoadUserName(program_.Services, program_.Environment);
+  if (!state.UserName.empty()) return;
+  state.CurrentMessageKey = L"MessageGetUserName";
+  program_.Messages.ShowUserMessage();
+}
+
+void ActiveStart::LoadState() {
+  // What can't be read stays as it is at a first start.
+  list::LoadSettings(program_.Services.DataFiles, program_.Services.Language, program_.Environment.Files.Set,
+                     program_.Settings);
+  command::InitCodeTables(program_.CommandState);
+  program_.Options = options::DecodeOptionMask(program_.Settings.OptionMask);
+}
+
+void ActiveStart::ShowForms() {
+  program_.frmMain.Load();
+  program_.frmChoose.Load();
+  program_.frmMain.Show();
+  if (program_.Environment.FirstStart) program_.Messages.ShowList(L"MessageFisrtStart");
+}
+
+void ActiveStart::Stop(std::wstring_view key) {
+  program_.MessageState.CurrentMessageKey = key;
+  program_.Messages.ShowStopMessage();
+}
+
+}  // namespace vantor::start

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string_view>
+
+namespace vantor::start {
+
+class Program;
+
+/// The start sequence, from the first look at the screen to the bar.
+class ActiveStart {
+ public:
+  explicit ActiveStart(Program& program) : program_(program) {}
+
+  /// Returns with the bar shown, or with the program ended.
+  void Run();
+
+ private:
+  // Each of these may end the program.
+  void CheckScreen();
+  void FindPreviousInstance();
+  void FindPlaces();
+  void ChooseRunMode();
+  void PrepareData();
+  void AskForName();
+
+  void LoadState();
+  void ShowForms();
+
+  void Stop(std::wstring_view key);
+
+  Program& program_;
+};
+
+}  // namespace vantor::start

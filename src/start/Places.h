@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "service/FileSystem.h"
+#include "service/Language.h"
+#include "service/System.h"
+#include "start/Environment.h"
+
+namespace vantor::start {
+
+/// The class of a drive, given by its root: "Unknown", "Removable", "Fixed", "Remote", "CDRom" or "RAMDisk"; ""
+/// for any other type and for a drive that can't be examined.
+[[nodiscard]] std::wstring GetDriveTypeText(service::FileSystem& files, std::wstring_view drive);
+
+/// Finds the Windows folder, its upper-case form and its drive letter. All stay "" when the system does not tell
+/// it, or in more than 254 characters.
+void GetWindowsFolder(service::System& system, const service::Language& language, Environment& environment);
+
+/// The drive of a folder: all up to and including its first backslash, or the share of a network path.
+[[nodiscard]] std::wstring DriveRootOf(std::wstring_view folder);
+
+/// Sets the data folder below the program's folder, and the paths of the data files that the run mode has.
+void SetDataFiles(Environment& environment);
+
+}  // namespace vantor::start

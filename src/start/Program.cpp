@@ -1,0 +1,34 @@
+#include "start/Program.h"
+
+#include "start/ActiveStart.h"
+#include "start/DataFolder.h"
+
+namespace vantor::start {
+
+Program::Program(form::UserInterface& ui, const service::Services& services) : Ui(ui), Services(services) {
+  ConnectMessages();
+}
+
+void Program::Main() {
+  Messages.Trap(L"ActiveStart", [this] { ActiveStart(*this).Run(); });
+  if (frmMain.Visible()) Ui.Run();
+  else Ui.End();
+}
+
+void Program::ConnectMessages() {
+  message::MessageHooks& hooks = Messages.Hooks;
+  // The messages of the start come before there is a bar.
+  hooks.PauseOnTop = [this] {
+    if (frmMain.Loaded()) frmMain.PauseOnTop();
+  };
+  hooks.ResumeOnTop = [this] {
+    if (frmMain.Loaded()) frmMain.ResumeOnTop();
+  };
+  hooks.HomeScreen = [this] { return frmMain.Loaded() ? Ui.ScreenAt(frmMain.Bounds()) : Ui.PrimaryScreen(); };
+  hooks.SaveUserName = [this] { SaveUserName(Services, Environment, MessageState.UserName); };
+  hooks.SendMailTo = [this](std::wstring_view address, std::wstring_view subject, std::wstring_view body) {
+    return Starters.SendMailTo(address, subject, body);
+  };
+}
+
+}  // namespace vantor::start

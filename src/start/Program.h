@@ -1,0 +1,52 @@
+#pragma once
+
+#include "bar/frmMain.h"
+#include "command/CommandState.h"
+#include "command/Starters.h"
+#include "form/UserInterface.h"
+#include "list/ListFiles.h"
+#include "list/Settings.h"
+#include "list/frmChoose.h"
+#include "message/MessageState.h"
+#include "message/Messages.h"
+#include "options/OptionFlags.h"
+#include "service/Services.h"
+#include "start/Environment.h"
+#include "start/frmMove.h"
+
+namespace vantor::start {
+
+/// The whole program: all state, and all forms. The entry point makes one; each test makes its own.
+class Program {
+ public:
+  /// Keeps both by reference.
+  Program(form::UserInterface& ui, const service::Services& services);
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  /// Runs the start sequence, and then the program until it ends.
+  void Main();
+
+  form::UserInterface& Ui;
+  service::Services Services;
+
+  start::Environment Environment;
+  list::Settings Settings;
+  options::OptionFlags Options;
+  message::MessageState MessageState;
+  command::CommandState CommandState;
+
+  message::Messages Messages{Ui, MessageState};
+  command::Starters Starters{Services.Programs, Services.ScriptShell};
+  list::ListFiles ListFiles{Services, Environment, Settings};
+
+  start::frmMove frmMove{Ui, Services, Environment};
+  list::frmChoose frmChoose{Ui, ListFiles};
+  bar::frmMain frmMain{Ui, bar::BarParts{Services, Environment, Messages, Settings, Options, frmChoose, ListFiles,
+                                         CommandState, Starters}};
+
+ private:
+  void ConnectMessages();
+};
+
+}  // namespace vantor::start
