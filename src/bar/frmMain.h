@@ -2,7 +2,9 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 
+#include "bar/AddWebBox.h"
 #include "bar/Panel.h"
 #include "command/CommandLine.h"
 #include "command/CommandState.h"
@@ -35,16 +37,24 @@ struct BarParts {
   command::Starters& Starters;
 };
 
-/// The bar: the program's face.
+/// The bar: the program's face. Unloading it saves the settings and the launch list and ends the program.
 class frmMain : public form::Form {
  public:
   /// Of the CommandMenu buttons.
   static constexpr std::size_t MenuCount = 7;
-  static constexpr std::size_t CompanionsMenu = 3;
+
+  /// The pictures of buttons: 0, 1, 2 and 3 normal, pressed, disabled and open, 5 normal again for the panels'
+  /// buttons, 6 and 7 the faces of CommandWeb while its box is folded and unfolded.
+  static constexpr std::array BButton{
+      form::Picture::ButtonNormal, form::Picture::ButtonPressed, form::Picture::ButtonDisabled,
+      form::Picture::ButtonOpen,   form::Picture::None,          form::Picture::ButtonNormal,
+      form::Picture::FaceUnfold,   form::Picture::FaceFold,
+  };
 
   frmMain(form::UserInterface& ui, const BarParts& parts);
 
   form::Frame FrameButtons{*this, L"FrameButtons"};
+  form::Image ImageLauncher{FrameButtons, L"ImageLauncher"};
   form::CommandButton CommandWeb{FrameButtons, L"CommandWeb"};
   std::array<form::CommandButton, MenuCount> CommandMenu{
       form::CommandButton{FrameButtons, L"CommandMenu(0)"}, form::CommandButton{FrameButtons, L"CommandMenu(1)"},
@@ -54,17 +64,59 @@ class frmMain : public form::Form {
   form::TextBox TextMain{FrameButtons, L"TextMain"};
   form::CommandButton CommandMin{FrameButtons, L"CommandMin"};
   form::CommandButton CommandExit{FrameButtons, L"CommandExit"};
+  AddWebBox Web;
 
   form::Timer TimerOnTop{*this, 1000};
   form::Timer TimerWatchOnTop{*this, 1000};
 
-  /// The panel that CommandMenu(index) opens. A button without one is not shown.
-  void SetPanel(std::size_t index, Panel& panel);
+  /// The panel that CommandMenu(index) opens; null for none. A button without a panel is not shown.
+  void SetPanel(std::size_t index, Panel* panel);
+  [[nodiscard]] bool HasPanel(std::size_t index) const { return panels_.at(index) != nullptr; }
+  /// Closes the open panel, if there is one, and goes back to an empty command line.
+  void ClosePanel();
 
   /// A message or a panel opens: the bar leaves the topmost band, if it keeps itself there.
   void PauseOnTop();
   /// A message or a panel has closed: with no panel open, the bar keeps itself on top if the user wants that.
   void ResumeOnTop();
+
+  /// Does what a function key does on the bar. Other keys do nothing.
+  void HotKey(form::Key key);
+
+ protected:
+  void Form_Load() override;
+  void Form_Unload() override;
+  void Form_KeyUp(form::Key key) override;
+  void Form_MouseMove(form::MouseButton held) override;
+
+ private:
+  void NameControls();
+  void HandleEvents();
+
+  // Place and size.
+  void LayOut();
+  void ShowWidth();
+  void KeepOnScreen();
+  [[nodiscard]] form::Twips BarWidth() const { return addWebShown_ ? wideWidth_ : narrowWidth_; }
+
+  void CommandWeb_Click();
+  void CommandMenu_Click(std::size_t index);
+  void CommandMin_Click();
+  void TimerOnTop_Tick();
+  void TimerWatchOnTop_Tick();
+  void ClearTextMain();
+  void ShowWebFace();
+  void ShowMenuCaptions();
+  [[nodiscard]] bool StayOnTop() const { return parts_.Options.AlwaysOnTop != 0; }
+
+  BarParts parts_;
+  command::CommandLine commandLine_;
+  std::array<Panel*, MenuCount> panels_{};
+  double twipsPerPixelX_ = 15;
+  form::Twips narrowWidth_ = 0;  // to the right edge of CommandExit
+  form::Twips wideWidth_ = 0;    // to the right edge of the unfolded add-web box
+  bool addWebShown_ = false;
+  std::int16_t idleTicks_ = 0;
 };
 
 }  // namespace vantor::bar

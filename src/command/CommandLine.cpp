@@ -102,8 +102,7 @@ void CommandLine::StartItem(const CommandCode& code, std::wstring_view name) {
 }
 
 void CommandLine::Dial(std::wstring_view number) {
-  messages_.State.CurrentMessageText = DialNumber(services_, number);
-  if (!messages_.State.CurrentMessageText.empty()) messages_.ShowTextMessage();
+  messages_.ShowText(DialNumber(services_, number));
   textMain_.SetText({});
   textMain_.SetFocus();
 }

@@ -1,0 +1,121 @@
+#include "bar/AddWebBox.h"
+
+#include "form/Keys.h"
+#include "list/NameMatch.h"
+
+namespace vantor::bar {
+
+namespace {
+
+using form::Twips;
+
+// The labels stand above the fields, so that the box needs no more height than the bar has.
+constexpr Twips LabelHeight = 195;
+constexpr Twips Gap = 60;
+constexpr Twips UrlWidth = 1860;
+constexpr Twips NameWidth = 1440;
+constexpr Twips AddWidth = 480;
+constexpr Twips BottomMargin = 15;
+
+}  // namespace
+
+AddWebBox::AddWebBox(form::Form& bar, const list::LaunchList& list, const service::Language& language,
+                     message::Messages& messages)
+    : FrameWeb(bar, L"FrameWeb"),
+      FrameAddedInfo(bar, L"FrameAddedInfo"),
+      PictureNo(bar, L"PictureNo"),
+      list_(list),
+      language_(language),
+      messages_(messages) {
+  FrameWeb.SetCaption(L"Add URL");
+  FrameWeb.SetVisible(false);
+  TextWebUrl.SetAccessibleName(L"Add URL");
+  LabelWebName.SetCaption(L"Launch Name");
+  LabelWebName.SetTransparent(false);
+  TextWebName.SetAccessibleName(L"Launch Name");
+  CommandAddWeb.SetCaption(L"Add");
+  CommandAddWeb.SetPicture(form::Picture::ButtonNormal);
+  CommandAddWeb.SetDownPicture(form::Picture::ButtonPressed);
+  CommandAddWeb.SetDisabledPicture(form::Picture::ButtonDisabled);
+  FrameAddedInfo.SetCaption(L"Site Added To List : Click To Hide");
+  FrameAddedInfo.SetBackColor(form::Color::LineBlue);
+  FrameAddedInfo.SetVisible(false);
+  PictureNo.SetTabStop(false);
+  EnableByText();
+
+  TextWebUrl.Change = [this] { messages_.Trap(L"TextWebUrl_Change", [this] { TextWebUrl_Change(); }); };
+  TextWebName.Change = [this] { messages_.Trap(L"TextWebName_Change", [this] { TextWebName_Change(); }); };
+  TextWebName.KeyPress = [this](wchar_t& character) {
+    messages_.Trap(L"TextWebName_KeyPress", [&] { TextWebName_KeyPress(character); });
+  };
+  CommandAddWeb.Click = [this] { messages_.Trap(L"CommandAddWeb_Click", [this] { CommandAddWeb_Click(); }); };
+  FrameAddedInfo.Click = [this] { FrameAddedInfo.SetVisible(false); };
+}
+
+void AddWebBox::LayOut(Twips left, Twips height) {
+  const Twips fieldHeight = height - LabelHeight - BottomMargin;
+  TextWebUrl.SetBounds({Gap, LabelHeight, UrlWidth, fieldHeight});
+  TextWebName.SetBounds({TextWebUrl.Right() + Gap, LabelHeight, NameWidth, fieldHeight});
+  CommandAddWeb.SetBounds({TextWebName.Right() + Gap, LabelHeight, AddWidth, fieldHeight});
+  LabelWebName.SetBounds({TextWebName.Left(), 0, NameWidth, LabelHeight});
+  FrameWeb.SetBounds({left, 0, CommandAddWeb.Right() + Gap, height});
+  FrameAddedInfo.SetBounds({left, 0, FrameWeb.Width(), LabelHeight});
+}
+
+void AddWebBox::SetShown(bool shown) {
+  FrameAddedInfo.SetVisible(false);
+  FrameWeb.SetVisible(shown);
+  if (!shown) return;
+  TextWebUrl.SetText({});
+  TextWebName.SetText({});
+  EnableByText();
+}
+
+void AddWebBox::EnableByText() {
+  const bool hasUrl = !TextWebUrl.Text().empty();
+  TextWebName.SetEnabled(hasUrl);
+  TextWebName.SetBackColor(hasUrl ? form::Color::WindowBackground : form::Color::Silver);
+  CommandAddWeb.SetEnabled(BothFilled());
+}
+
+void AddWebBox::TextWebUrl_Change() {
+  FrameAddedInfo.SetVisible(false);
+  EnableByText();
+}
+
+void AddWebBox::TextWebName_Change() { CommandAddWeb.SetEnabled(BothFilled()); }
+
+void AddWebBox::TextWebName_KeyPress(wchar_t& character) {
+  if (character != form::CharEnter) return;
+  character = 0;  // a box of one line would beep
+  if (BothFilled()) CommandAddWeb.DoClick();
+}
+
+void AddWebBox::CommandAddWeb_Click() {
+  PictureNo.SetFocus();
+  const list::GroupBoxes& web = list_.Of(list::LaunchGroup::Web);
+  const message::MessageKey pathListed = list::PathAlreadyListed(TextWebUrl.Text(), web.Path);
+  if (!pathListed.empty()) {
+    messages_.ShowList(pathListed);
+    TextWebUrl.SetFocus();
+    return;
+  }
+  const message::MessageKey nameListed = list::CheckNameListed(language_, TextWebName.Text(), web.Name);
+  if (!nameListed.empty()) {
+    messages_.ShowList(nameListed);
+    TextWebName.SetText({});
+    TextWebName.SetFocus();
+    return;
+  }
+  AddToList();
+}
+
+void AddWebBox::AddToList() {
+  list_.Of(list::LaunchGroup::Web).AddItem(TextWebName.Text(), TextWebUrl.Text());
+  TextWebUrl.SetText({});
+  TextWebName.SetText({});
+  FrameAddedInfo.SetVisible(true);
+  if (Added) Added();
+}
+
+}  // namespace vantor::bar

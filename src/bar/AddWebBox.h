@@ -1,0 +1,53 @@
+#pragma once
+
+#include <functional>
+
+#include "form/Button.h"
+#include "form/Form.h"
+#include "form/Static.h"
+#include "form/TextBox.h"
+#include "list/LaunchList.h"
+#include "message/Messages.h"
+#include "service/Language.h"
+
+namespace vantor::bar {
+
+/// The box that unfolds from the bar's end, by which a web site is added to the launch list.
+class AddWebBox {
+ public:
+  AddWebBox(form::Form& bar, const list::LaunchList& list, const service::Language& language,
+            message::Messages& messages);
+
+  /// Runs when a site was added.
+  std::function<void()> Added;
+
+  form::Frame FrameWeb;
+  form::TextBox TextWebUrl{FrameWeb, L"TextWebUrl"};
+  form::Label LabelWebName{FrameWeb, L"LabelWebName"};
+  form::TextBox TextWebName{FrameWeb, L"TextWebName"};
+  form::CommandButton CommandAddWeb{FrameWeb, L"CommandAddWeb"};
+  form::Frame FrameAddedInfo;
+  form::PictureBox PictureNo;  // takes the focus from the button that was pressed
+
+  /// Places the box with its left edge at `left`, as high as the bar. Twips, on the bar.
+  void LayOut(form::Twips left, form::Twips height);
+  /// Shows the box with empty fields, or hides it; the banner of the last addition goes.
+  void SetShown(bool shown);
+
+ private:
+  void TextWebUrl_Change();
+  void TextWebName_Change();
+  void TextWebName_KeyPress(wchar_t& character);
+  void CommandAddWeb_Click();
+  void AddToList();
+
+  /// The name box is open to the user exactly when there is an address, the button when both boxes hold text.
+  void EnableByText();
+  [[nodiscard]] bool BothFilled() const { return !TextWebUrl.Text().empty() && !TextWebName.Text().empty(); }
+
+  const list::LaunchList& list_;
+  const service::Language& language_;
+  message::Messages& messages_;
+};
+
+}  // namespace vantor::bar

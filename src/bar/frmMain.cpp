@@ -1,0 +1,348 @@
+#include "bar/frmMain.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "command/CodeTables.h"
+
+namespace vantor::bar {
+
+namespace {
+
+using form::Key;
+using form::Twips;
+
+// Measures keep to a grid of 60 twips, which is a whole number of pixels on most screens.
+constexpr Twips BarHeight = 480;
+constexpr Twips ButtonWidth = 360;
+constexpr Twips Gap = 60;  // to drag the bar by
+constexpr Twips MarkSize = 240;
+constexpr Twips TextWidth = 2820;  // so that the unfolded bar keeps its margin on a screen of 800 pixels
+constexpr Twips TextHeight = 360;
+
+constexpr int PixelsBeforeWebBox = 8;
+// Kept free at the screen's edges, for the boxes that unfold to the right of the bar and below it.
+constexpr Twips RightMargin = 480;
+constexpr Twips BottomMargin = 600;
+
+constexpr std::int16_t IdleTicksBeforeName = 60;
+
+// CommandMenu buttons before the command line; the others stand after it.
+constexpr std::size_t MenusBeforeText = 4;
+
+constexpr std::array<std::wstring_view, frmMain::MenuCount> MenuTips{
+    L"Show | Hide Add To List---F2",
+    L"Show | Hide Open---F3",
+    L"Show | Hide Open From List---F4",
+    L"Show | Hide Run (Orbel's Program)---F5",
+    L"Show | Hide Preferences---F6",
+    L"Show | Hide Help---F7",
+    L"Show | Hide Code List---F8",
+};
+
+/// How far two ranges, each a start and a length, overlap.
+Twips Overlap(Twips a, Twips lengthOfA, Twips b, Twips lengthOfB) {
+  return std::min(a + lengthOfA, b + lengthOfB) - std::max(a, b);
+}
+
+}  // namespace
+
+frmMain::frmMain(form::UserInterface& ui, const BarParts& parts)
+    : Form(ui, L"frmMain"),
+      Web(*this, parts.Choose.List, parts.Services.Language, parts.Messages),
+      parts_(parts),
+      commandLine_(TextMain, parts.Choose.List, parts.CommandState, parts.Starters, parts.Messages, parts.Services,
+                   parts.Environment) {
+  SetCaption(start::ProductName);
+  FrameButtons.SetBorder(false);
+  NameControls();
+  HandleEvents();
+}
+
+void frmMain::NameControls() {
+  CommandWeb.SetToolTip(L"Show | Hide Add URL---F1");
+  for (std::size_t i = 0; i < MenuCount; ++i) {
+    CommandMenu[i].SetToolTip(MenuTips[i]);
+    CommandMenu[i].SetVisible(false);
+  }
+  CommandMin.SetToolTip(L"Minimize---F9");
+  CommandExit.SetToolTip(L"Exit---F10");
+  TextMain.SetAccessibleName(L"Command Line");
+
+  int tabIndex = 0;
+  CommandWeb.SetTabIndex(tabIndex++);
+  for (std::size_t i = 0; i < MenuCount; ++i) {
+    if (i == MenusBeforeText) TextMain.SetTabIndex(tabIndex++);
+    CommandMenu[i].SetTabIndex(tabIndex++);
+  }
+  CommandMin.SetTabIndex(tabIndex++);
+  CommandExit.SetTabIndex(tabIndex++);
+  for (form::Control* control : {static_cast<form::Control*>(&Web.TextWebUrl),
+                                 static_cast<form::Control*>(&Web.TextWebName),
+                                 static_cast<form::Control*>(&Web.CommandAddWeb)}) {
+    control->SetTabIndex(tabIndex++);
+  }
+}
+
+void frmMain::HandleEvents() {
+  message::Messages& messages = parts_.Messages;
+  CommandWeb.Click = [this, &messages] { messages.Trap(L"CommandWeb_Click", [this] { CommandWeb_Click(); }); };
+  for (std::size_t i = 0; i < MenuCount; ++i) {
+    CommandMenu[i].Click = [this, &messages, i] {
+      messages.Trap(L"CommandMenu_Click", [this, i] { CommandMenu_Click(i); });
+    };
+  }
+  CommandMin.Click = [this, &messages] { messages.Trap(L"CommandMin_Click", [this] { CommandMin_Click(); }); };
+  CommandExit.Click = [this] { Unload(); };
+  TextMain.KeyPress = [this, &messages](wchar_t& character) {
+    messages.Trap(L"TextMain_KeyPress", [&] { commandLine_.TextMain_KeyPress(character); });
+  };
+  TextMain.Change = [this, &messages] {
+    messages.Trap(L"TextMain_Change", [this] { commandLine_.TextMain_Change(); });
+  };
+  TextMain.DblClick = [this] { TextMain.SetText({}); };
+  TimerOnTop.Tick = [this, &messages] { messages.Trap(L"TimerOnTop_Timer", [this] { TimerOnTop_Tick(); }); };
+  TimerWatchOnTop.Tick = [this, &messages] {
+    messages.Trap(L"TimerWatchOnTop_Timer", [this] { TimerWatchOnTop_Tick(); });
+  };
+  Web.Added = [this] { ClearTextMain(); };
+  parts_.Starters.Started = [this] { TextMain.SetText({}); };
+  commandLine_.Hooks.Minimize = [this] { CommandMin.DoClick(); };
+  commandLine_.Hooks.ClickMenu = [this](int index) { CommandMenu.at(static_cast<std::size_t>(index)).DoClick(); };
+}
+
+// --- loading and unloading
+
+void frmMain::Form_Load() {
+  parts_.Messages.Trap(L"Form_Load", [this] {
+    addWebShown_ = parts_.Options.ShowAddUrlAtStart != 0;
+    const list::Settings& settings = parts_.Settings;
+    const form::Rect place{settings.Left, settings.Top, BarHeight, BarHeight};
+    twipsPerPixelX_ = Ui().ScreenAt(place).TwipsPerPixelX;
+    SetBounds(place);
+    LayOut();
+    ShowWidth();
+    // The screens may be others than when the place was saved: part of the bar must be there to take hold of.
+    const form::Rect& bar = Bounds();
+    const form::Rect screen = Ui().ScreenAt(bar).Bounds;
+    if (Overlap(bar.Left, bar.Width, screen.Left, screen.Width) < BarHeight ||
+        Overlap(bar.Top, bar.Height, screen.Top, screen.Height) < BarHeight / 2) {
+      KeepOnScreen();
+    }
+    ShowWebFace();
+    ShowMenuCaptions();
+    Web.SetShown(addWebShown_);
+    TextMain.SetText(start::ProductName);
+    TextMain.SelectAll();
+    TextMain.SetFocus();
+    TimerOnTop.SetEnabled(StayOnTop());
+  });
+}
+
+void frmMain::LayOut() {
+  TextMain.SetBackColor(form::Color::LineBlue);
+  ImageLauncher.SetPicture(form::Picture::Launcher);
+  const auto dress = [](form::CommandButton& button, form::Picture picture) {
+    button.SetPicture(picture);
+    button.SetDownPicture(BButton[1]);
+    button.SetDisabledPicture(BButton[2]);
+  };
+  for (form::CommandButton& button : CommandMenu) dress(button, BButton[0]);
+  dress(CommandWeb, BButton[6]);
+  dress(CommandMin, form::Picture::FaceMinimize);
+  dress(CommandExit, form::Picture::FaceExit);
+
+  Twips left = Gap;
+  const auto place = [&left](form::Control& control, Twips width, Twips height) {
+    if (!control.Visible()) return;
+    control.SetBounds({left, (BarHeight - height) / 2, width, height});
+    left += width + Gap;
+  };
+  place(ImageLauncher, MarkSize, MarkSize);
+  place(CommandWeb, ButtonWidth, BarHeight);
+  for (std::size_t i = 0; i < MenuCount; ++i) {
+    if (i == MenusBeforeText) place(TextMain, TextWidth, TextHeight);
+    place(CommandMenu[i], ButtonWidth, BarHeight);
+  }
+  place(CommandMin, ButtonWidth, BarHeight);
+  place(CommandExit, ButtonWidth, BarHeight);
+
+  narrowWidth_ = CommandExit.Right();
+  FrameButtons.SetBounds({0, 0, narrowWidth_, BarHeight});
+  Web.LayOut(narrowWidth_ + static_cast<Twips>(std::lround(PixelsBeforeWebBox * twipsPerPixelX_)), BarHeight);
+  wideWidth_ = Web.FrameWeb.Right();
+}
+
+void frmMain::Form_Unload() {
+  TimerOnTop.SetEnabled(false);
+  TimerWatchOnTop.SetEnabled(false);
+  parts_.Messages.Trap(L"Form_Unload", [this] {
+    parts_.Choose.Load();  // before that its boxes are empty, and the list would be saved as such
+    parts_.ListFiles.SaveLaunchList(parts_.Choose.List, Bounds().Left, Bounds().Top);
+  });
+  Ui().End();
+}
+
+// --- place and size
+
+void frmMain::Form_MouseMove(form::MouseButton held) {
+  if (held != form::MouseButton::Left) return;
+  parts_.Messages.Trap(L"Form_MouseMove", [this] {
+    Drag();
+    KeepOnScreen();
+  });
+}
+
+void frmMain::ShowWidth() {
+  form::Rect place = Bounds();
+  place.Width = BarWidth();
+  SetBounds(place);
+}
+
+void frmMain::KeepOnScreen() {
+  form::Rect place = Bounds();
+  const form::Rect screen = Ui().ScreenAt(place).Bounds;
+  place.Left = std::max(place.Left, screen.Left);
+  place.Left = std::min(place.Left, screen.Right() - (BarWidth() + RightMargin));
+  place.Top = std::max(place.Top, screen.Top);
+  place.Top = std::min(place.Top, screen.Bottom() - (place.Height + BottomMargin));
+  SetBounds(place);
+}
+
+// --- staying on top
+
+void frmMain::PauseOnTop() {
+  if (!TimerOnTop.Enabled()) return;
+  TimerOnTop.SetEnabled(false);
+  SetTopMost(false);
+}
+
+void frmMain::ResumeOnTop() {
+  if (Loaded() && parts_.CommandState.OpenPanelIndex == command::NoIndex) TimerOnTop.SetEnabled(StayOnTop());
+}
+
+void frmMain::TimerOnTop_Tick() {
+  SetTopMost(true);
+  if (!TextMain.Text().empty() || TextMain.Composing()) {
+    idleTicks_ = 0;
+  } else if (++idleTicks_ > IdleTicksBeforeName) {
+    idleTicks_ = 0;
+    TextMain.SetText(start::ProductName);
+    TextMain.SelectAll();
+  }
+}
+
+void frmMain::CommandMin_Click() {
+  const int open = parts_.CommandState.OpenPanelIndex;
+  if (open != command::NoIndex) CommandMenu.at(static_cast<std::size_t>(open)).DoClick();
+  PauseOnTop();
+  TimerWatchOnTop.SetEnabled(true);
+  SetWindowState(form::WindowState::Minimized);
+}
+
+void frmMain::TimerWatchOnTop_Tick() {
+  if (WindowState() == form::WindowState::Minimized) return;
+  TimerWatchOnTop.SetEnabled(false);
+  TimerOnTop.SetEnabled(StayOnTop());
+  TextMain.SetFocus();
+}
+
+// --- panels
+
+void frmMain::SetPanel(std::size_t index, Panel* panel) {
+  panels_.at(index) = panel;
+  CommandMenu[index].SetVisible(panel != nullptr);
+  if (!Loaded()) return;
+  LayOut();
+  ShowWebFace();
+  ShowWidth();
+}
+
+void frmMain::CommandMenu_Click(std::size_t index) {
+  Panel* const panel = panels_.at(index);
+  if (panel == nullptr) return;
+  std::int16_t& open = parts_.CommandState.OpenPanelIndex;
+  const auto clicked = static_cast<std::int16_t>(index);
+  if (open != command::NoIndex && open != clicked) panels_.at(static_cast<std::size_t>(open))->Close();
+  open = open == clicked ? command::NoIndex : clicked;
+  if (open == command::NoIndex) {
+    ResumeOnTop();
+  } else {
+    PauseOnTop();
+    const message::MessageKey refusal = panel->Refusal();
+    if (!refusal.empty()) {
+      open = command::NoIndex;
+      parts_.Messages.ShowList(refusal);
+    }
+  }
+  ShowMenuCaptions();
+  if (open == clicked) {
+    panel->Open();
+  } else {
+    panel->Close();
+    TextMain.SetFocus();
+  }
+}
+
+void frmMain::ClosePanel() {
+  const int open = parts_.CommandState.OpenPanelIndex;
+  if (open != command::NoIndex) CommandMenu_Click(static_cast<std::size_t>(open));
+  ClearTextMain();
+}
+
+void frmMain::ShowMenuCaptions() {
+  for (std::size_t i = 0; i < MenuCount; ++i) {
+    const bool open = parts_.CommandState.OpenPanelIndex == static_cast<std::int16_t>(i);
+    CommandMenu[i].SetCaption(open ? command::OpenMenuCaption : command::MenuButtonCaptions[i]);
+  }
+}
+
+// --- the add-web box
+
+void frmMain::CommandWeb_Click() {
+  addWebShown_ = !addWebShown_;
+  Web.SetShown(addWebShown_);
+  ShowWidth();
+  ShowWebFace();
+  if (addWebShown_) {
+    form::Rect place = Bounds();
+    place.Left = std::min(place.Left, Ui().ScreenAt(place).Bounds.Right() - place.Width);
+    SetBounds(place);
+  }
+  ClearTextMain();
+}
+
+void frmMain::ShowWebFace() { CommandWeb.SetPicture(BButton[addWebShown_ ? 7 : 6]); }
+
+void frmMain::ClearTextMain() {
+  TextMain.SetText({});
+  TextMain.SetFocus();
+}
+
+// --- hot keys
+
+void frmMain::Form_KeyUp(form::Key key) { HotKey(key); }
+
+void frmMain::HotKey(form::Key key) {
+  const auto click = [](form::CommandButton& button) {
+    if (button.Visible()) button.DoClick();
+  };
+  if (key >= Key::F2 && key <= Key::F8) {
+    click(CommandMenu[static_cast<std::size_t>(key) - static_cast<std::size_t>(Key::F2)]);
+    return;
+  }
+  switch (key) {
+    case Key::F1:
+      return click(CommandWeb);
+    case Key::F9:
+      return click(CommandMin);
+    case Key::F10:
+      return click(CommandExit);
+    case Key::F12:
+      return ClearTextMain();
+    default:
+      return;
+  }
+}
+
+}  // namespace vantor::bar

@@ -1,0 +1,187 @@
+#include <doctest/doctest.h>
+
+#include "bar/TestBar.h"
+#include "command/BuiltInActions.h"
+#include "command/CodeTables.h"
+
+using namespace vantor;
+using list::LaunchGroup;
+using test::TestBar;
+using Starts = std::vector<std::wstring>;
+
+namespace {
+
+void FillList(TestBar& bar) {
+  bar.Add(LaunchGroup::Prog, L"notepad", L"C:\\Program Files\\Note, pad.exe");
+  bar.Add(LaunchGroup::Prog, L"Net tool", L"C:\\net.exe");
+  bar.Add(LaunchGroup::File, L"Letter", L"C:\\My docs\\letter.doc");
+  bar.Add(LaunchGroup::Fold, L"Pictures", L"C:\\My pictures");
+  bar.Add(LaunchGroup::Web, L"News", L"http://news.example/a?b=c");
+}
+
+}  // namespace
+
+TEST_CASE("every code starts its target and empties the line") {
+  struct Row {
+    const wchar_t* Typed;
+    const wchar_t* Started;
+  };
+  constexpr Row Rows[] = {
+      {L"p=notepad c:\\a b.txt", L"run notepad c:\\a b.txt"},
+      {L"P=Calc", L"run Calc"},
+      {L"p= calc", L"run  calc"},
+      {L"f=C:\\a b.txt", L"shell C:\\a b.txt"},
+      {L"d=C:\\My docs", L"run C:\\WINDOWS\\explorer.exe C:\\My docs"},
+      {L"d.SENDTO", L"run C:\\WINDOWS\\explorer.exe C:\\Send"},
+      {L"d.Fonts", L"run C:\\WINDOWS\\explorer.exe C:\\Fonts"},
+      {L"d.nosuch", L"run C:\\WINDOWS\\explorer.exe C:\\Documents"},
+      {L"d.nethood", L"run C:\\WINDOWS\\explorer.exe C:\\Documents"},
+      {L"e=a@b.example", L"shell mailto:a@b.example"},
+      {L"e.b", L"mail mailto:bugs@orbel.example?subject=Vantor - Found Bug"},
+      {L"E.SUG", L"mail mailto:suggestions@orbel.example?subject=Vantor - Suggestions"},
+      {L"t=12a3 4", L"call 1234|Vantor"},
+      {L"w=ftp://x.example", L"shell ftp://x.example"},
+      {L"w:x.example/Y", L"shell http://x.example/Y"},
+      {L"w;x.example", L"shell http://www.x.example"},
+      {L"c/x", L"shell http://www.x.com"},
+      {L"g/x", L"shell http://www.x.gov"},
+      {L"i/x", L"shell http://www.x.info"},
+      {L"n/x", L"shell http://www.x.net"},
+      {L"o/x", L"shell http://www.x.org"},
+      {L"T/x", L"shell http://www.x.tv"},
+      {L"p-N", L"run C:\\Program Files\\Note, pad.exe"},
+      {L"p-ne", L"run C:\\net.exe"},
+      {L"F-let", L"shell C:\\My docs\\letter.doc"},
+      {L"d-p", L"run C:\\WINDOWS\\explorer.exe C:\\My pictures"},
+      {L"w-News", L"shell http://news.example/a?b=c"},
+  };
+  TestBar bar;
+  bar.Fakes.ScriptShell.SpecialFolders[L"SendTo"] = L"C:\\Send";
+  bar.Fakes.ScriptShell.SpecialFolders[L"Fonts"] = L"C:\\Fonts";
+  bar.Show();
+  FillList(bar);
+  for (const Row& row : Rows) {
+    CAPTURE(std::wstring(row.Typed));
+    bar.Type(row.Typed);
+    bar.Desktop.Type(L"\r");
+    CHECK(bar.TakeStarts() == Starts{row.Started});
+    CHECK(bar.Main.TextMain.Text().empty());
+  }
+}
+
+TEST_CASE("a Control Panel word starts its page and stays in the line") {
+  TestBar bar;
+  bar.Show();
+  for (const auto& entry : command::ControlPanelNames) {
+    CAPTURE(std::wstring(entry.Word));
+    const std::wstring line = L"c." + bar.Fakes.Language.Upper(entry.Word);
+    bar.Main.TextMain.SetText(L"");
+    bar.State.BackspaceFlag = true;  // no completion, so that the word stays as typed
+    bar.Main.TextMain.SetText(line);
+    bar.Desktop.Type(L"\r");
+    const Starts expected =
+        entry.Word == L"Fonts" ? Starts{} : Starts{L"run " + std::wstring(entry.CommandLine)};
+    CHECK(bar.TakeStarts() == expected);
+    CHECK(bar.Main.TextMain.Text() == line);
+  }
+  // The table itself, where one word is easily taken for another.
+  CHECK(command::ControlPanelNames[15].CommandLine == L"rundll32.exe shell32.dll,Control_RunDLL main.cpl @0");
+  CHECK(command::ControlPanelNames[21].CommandLine == L"rundll32.exe shell32.dll,Control_RunDLL desk.cpl,,4");
+}
+
+TEST_CASE("lines that mean nothing are left alone") {
+  TestBar bar;
+  bar.Show();
+  FillList(bar);
+  for (const wchar_t* line : {L"w=", L"ab", L"x=abc", L"zz=1", L"c.nosuch", L"p-zzz", L"e.zzz", L"e-x", L"p"}) {
+    CAPTURE(std::wstring(line));
+    bar.Type(line);
+    bar.Desktop.Type(L"\r");
+    CHECK(bar.TakeStarts() == Starts{});
+    CHECK(bar.Main.TextMain.Text() == line);
+  }
+}
+
+TEST_CASE("a failed start is told and keeps the line, except for mails to the maker and calls") {
+  struct Row {
+    const wchar_t* Typed;
+    const wchar_t* Message;  // "" when nothing is shown
+    bool Keeps;
+  };
+  constexpr Row Rows[] = {
+      {L"p=nosuch", L"There was some error. Could not run the program.", true},
+      {L"p-notepad", L"There was some error. Could not run the program.", true},
+      {L"d=nosuch", L"There was some error. Could not open the Folder.", true},
+      {L"d.Desktop", L"There was some error. Could not open the Folder.", true},
+      {L"w;x", L"There was some error. Could not start the required program.", true},
+      {L"c.Mouse", L"", true},
+      {L"e.bugs@orbel.example", L"There was some error. Could not start the required program.", false},
+      {L"t=1", L"The phone number is not valid.", false},
+  };
+  TestBar bar;
+  bar.Fakes.Programs.StartSucceeds = false;
+  bar.Fakes.Programs.ShellOpenResult = 32;
+  bar.Fakes.Programs.CallResult = -4;
+  bar.Fakes.ScriptShell.RunSucceeds = false;
+  bar.Show();
+  FillList(bar);
+  for (const Row& row : Rows) {
+    CAPTURE(std::wstring(row.Typed));
+    bar.Type(row.Typed);
+    const bool shows = *row.Message != 0;
+    if (shows) bar.ExpectMessage();
+    bar.Desktop.Type(L"\r");
+    CHECK(bar.Desktop.ModalScriptsDone());
+    if (shows) CHECK(bar.Shown.back() == row.Message);
+    CHECK(bar.Main.TextMain.Text() == (row.Keeps ? row.Typed : L""));
+  }
+}
+
+TEST_CASE("each telephone result has its sentence") {
+  fake::FakeServices fakes;
+  const auto dial = [&](int result) {
+    fakes.Programs.CallResult = result;
+    return command::DialNumber(fakes.All(), L"1");
+  };
+  CHECK(dial(0).empty());
+  CHECK(dial(-2) == L"No Windows Telephony dialing application is running and none could be started.");
+  CHECK(dial(-3) == L"The queue of pending Windows Telephony dialing requests is full.");
+  CHECK(dial(-1) == L"Could not dial the number. Reason unknown.");
+  CHECK(dial(5) == L"Could not dial the number. Reason unknown.");
+}
+
+TEST_CASE("a mail link is put together from what is given") {
+  fake::FakeServices fakes;
+  const command::Starters starters(fakes.Programs, fakes.ScriptShell);
+  fakes.Programs.ShellOpenResult = 33;
+  CHECK(starters.SendMailTo(L"MailTo:a@b", L"", L"") == L"");
+  CHECK(starters.SendMailTo(L"mail", L"", L"x & y") == L"");
+  CHECK(starters.SendMailTo(L"a@b", L"s t", L"x") == L"");
+  CHECK(fakes.Programs.ShellOpened == Starts{L"MailTo:a@b", L"mailto:mail?body=x & y", L"mailto:a@b?subject=s t&body=x"});
+}
+
+TEST_CASE("Escape minimises, and Backspace undoes a completion") {
+  TestBar bar;
+  bar.Show();
+  FillList(bar);
+  bar.Type(L"p-not\b");
+  CHECK(bar.Main.TextMain.Text() == L"p-not");
+  bar.Desktop.Type(L"\r");
+  CHECK(bar.TakeStarts() == Starts{});
+  bar.Desktop.Type(L"e");
+  CHECK(bar.Main.TextMain.Text() == L"p-notepad");
+  bar.Desktop.Type(L"\x1b");
+  CHECK(bar.Main.WindowState() == form::WindowState::Minimized);
+  CHECK(bar.Main.TextMain.Text() == L"p-notepad");
+}
+
+TEST_CASE("an item that was renamed or removed since it was completed is not started") {
+  TestBar bar;
+  bar.Show();
+  FillList(bar);
+  bar.Type(L"p-notepad");
+  bar.Choose.ComboListProgName.RemoveItem(0);
+  bar.Choose.ComboListProgPath.RemoveItem(0);
+  bar.Desktop.Type(L"\r");
+  CHECK(bar.TakeStarts() == Starts{});
+}

@@ -1,0 +1,81 @@
+#include <doctest/doctest.h>
+
+#include "bar/TestBar.h"
+
+using namespace vantor;
+using list::LaunchGroup;
+using test::TestBar;
+
+TEST_CASE("typing completes to the first entry that begins so") {
+  struct Row {
+    const wchar_t* Typed;
+    const wchar_t* Text;
+    int SelStart;
+    int Item = command::NoIndex;
+    int Mail = command::NoIndex;
+  };
+  constexpr Row Rows[] = {
+      {L"c.a", L"c.Accessibility", 3},
+      {L"c.add", L"c.AddNewPrinter", 5},
+      {L"c.addr", L"c.AddRemove", 6},
+      {L"c.p", L"c.p", 3},
+      {L"c.t", L"c.t", 3},
+      {L"c.f", L"c.f", 3},
+      {L"c.d", L"c.DateTime", 3},
+      {L"c.di", L"c.Di", 4},
+      {L"C.sy", L"C.System", 4},
+      {L"d.s", L"d.SendTo", 3},
+      {L"d.startu", L"d.Startup", 8},
+      {L"d.myd", L"d.MyDocuments", 5},
+      {L"e.s", L"e.suggestions@orbel.example", 3, command::NoIndex, 1},
+      {L"p-N", L"p-notepad", 3, 0},
+      {L"p-NOTEPAD", L"p-notepad", 9, 0},
+      {L"p-ne", L"p-Net tool", 4, 1},
+      {L"p-\u041F\u0420", L"p-\u041F\u0440\u043E\u0435\u043A\u0442", 4, 2},
+      {L"p-\u041F\u0440\u0430", L"p-\u041F\u0440\u0430", 5},
+      {L"f-n", L"f-n", 3},
+      {L"p-", L"p-", 2},
+      {L"x-n", L"x-n", 3},
+      {L"p=n", L"p=n", 3},
+  };
+  TestBar bar;
+  bar.Show();
+  bar.Add(LaunchGroup::Prog, L"notepad", L"C:\\n.exe");
+  bar.Add(LaunchGroup::Prog, L"Net tool", L"C:\\t.exe");
+  bar.Add(LaunchGroup::Prog, L"\u041F\u0440\u043E\u0435\u043A\u0442", L"C:\\p.exe");
+  for (const Row& row : Rows) {
+    CAPTURE(std::wstring(row.Typed));
+    bar.Type(row.Typed);
+    const form::TextBox& box = bar.Main.TextMain;
+    CHECK(box.Text() == row.Text);
+    CHECK(box.SelStart() == row.SelStart);
+    CHECK(box.SelStart() + box.SelLength() == static_cast<int>(box.Text().size()));
+    CHECK(bar.State.MatchedItemIndex == row.Item);
+    CHECK(bar.State.MailTargetIndex == row.Mail);
+  }
+}
+
+TEST_CASE("nothing is completed while an input method composes, nor forgotten by moving the caret") {
+  TestBar bar;
+  bar.Show();
+  bar.Add(LaunchGroup::Prog, L"notepad", L"C:\\n.exe");
+  bar.Main.TextMain.InputComposing(true);
+  bar.Type(L"p-n");
+  CHECK(bar.Main.TextMain.Text() == L"p-n");
+  bar.Main.TextMain.InputComposing(false);
+  bar.Desktop.Type(L"o");
+  CHECK(bar.State.MatchedItemIndex == 0);
+  bar.Main.TextMain.InputSelection(0, 0);
+  CHECK(bar.State.MatchedItemIndex == 0);
+}
+
+TEST_CASE("the last of 32,767 names is found") {
+  TestBar bar;
+  bar.Show();
+  for (int i = 0; i < 32766; ++i) bar.Add(LaunchGroup::Web, L"site" + std::to_wstring(i), L"http://x");
+  bar.Add(LaunchGroup::Web, L"Zebra", L"http://zebra");
+  bar.Type(L"w-z");
+  CHECK(bar.State.MatchedItemIndex == 32766);
+  bar.Desktop.Type(L"\r");
+  CHECK(bar.Fakes.ScriptShell.Runs == std::vector<std::wstring>{L"http://zebra"});
+}
