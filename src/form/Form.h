@@ -70,7 +70,7 @@ class Form {
   [[nodiscard]] form::BorderStyle BorderStyle() const { return borderStyle_; }
   void SetBorderStyle(form::BorderStyle style) { borderStyle_ = style; }  // before the form is shown
 
-  /// Place and size of the whole window on the desktop, in twips.
+  /// Place of the window on the desktop and size of its inside, in twips; a dialog's title bar comes on top.
   [[nodiscard]] const Rect& Bounds() const { return bounds_; }
   void SetBounds(const Rect& bounds);
   [[nodiscard]] form::WindowState WindowState() const { return windowState_; }
