@@ -1,0 +1,158 @@
+#include "win32/ButtonWindow.h"
+
+#include <algorithm>
+#include <string>
+
+#include "form/Static.h"
+#include "win32/Pictures.h"
+
+namespace vantor::win32 {
+
+namespace {
+
+using form::Picture;
+
+/// Captions up to this length are signs rather than words, and are drawn bold.
+constexpr std::size_t LongestSign = 2;
+
+bool IsGround(Picture picture) {
+  return picture == Picture::ButtonNormal || picture == Picture::ButtonPressed || picture == Picture::ButtonDisabled ||
+         picture == Picture::ButtonOpen;
+}
+
+}  // namespace
+
+ButtonWindow::ButtonWindow(FormWindow& owner, form::CommandButton& button)
+    : ControlWindow(owner, button, {L"BUTTON", WS_TABSTOP | BS_PUSHBUTTON}), button_(button) {
+  for (form::Control* control : owner.Form().Controls()) {
+    if (control == button_.FaceLabel()) control->AttachWindow(&faceLabel_);
+  }
+}
+
+bool ButtonWindow::IsOnFace(const form::Control& control) {
+  const auto& controls = control.OwnerForm().Controls();
+  return std::any_of(controls.begin(), controls.end(), [&](const form::Control* other) {
+    return other->Kind() == form::ControlKind::CommandButton &&
+           static_cast<const form::CommandButton*>(other)->FaceLabel() == &control;
+  });
+}
+
+bool ButtonWindow::HasPictures() const {
+  return button_.Picture() != Picture::None || button_.DownPicture() != Picture::None ||
+         button_.DisabledPicture() != Picture::None;
+}
+
+void ButtonWindow::Refresh() {
+  ControlWindow::Refresh();
+  Show(form::Property::Picture);
+  ShowName();
+}
+
+void ButtonWindow::Show(form::Property property) {
+  if (property == form::Property::Picture) {
+    const WPARAM style = HasPictures() ? BS_OWNERDRAW : BS_PUSHBUTTON;
+    if ((GetWindowLongPtrW(Handle(), GWL_STYLE) & BS_TYPEMASK) != static_cast<LONG_PTR>(style)) {
+      SendMessageW(Handle(), BM_SETSTYLE, style, FALSE);
+    }
+  } else {
+    ShowName();
+  }
+  Redraw();
+}
+
+/// The window's text is what a screen reader calls the button; the system's own button also shows it.
+void ButtonWindow::ShowName() {
+  std::wstring name = button_.AccessibleName();
+  if (name.empty() && button_.FaceLabel() != nullptr) name = button_.FaceLabel()->Caption();
+  if (name.empty() || !HasPictures()) name = button_.Caption().empty() ? name : button_.Caption();
+  ShowWindowText(name);
+}
+
+void ButtonWindow::OnCommand(WORD notification) {
+  if (notification == BN_CLICKED) button_.InputClick();
+}
+
+void ButtonWindow::OnDraw(const DRAWITEMSTRUCT& item) {
+  const SIZE size{item.rcItem.right - item.rcItem.left, item.rcItem.bottom - item.rcItem.top};
+  if (size.cx <= 0 || size.cy <= 0) return;
+  const bool enabled = button_.Enabled();
+  const bool pressed = enabled && (item.itemState & ODS_SELECTED) != 0;
+  Picture picture = button_.Picture();
+  if (!enabled && button_.DisabledPicture() != Picture::None) picture = button_.DisabledPicture();
+  if (pressed && button_.DownPicture() != Picture::None) picture = button_.DownPicture();
+
+  const Palette& colors = Look().Colors();
+  const Palette::Face& face = !enabled                         ? colors.Disabled
+                              : pressed                        ? colors.Pressed
+                              : picture == Picture::ButtonOpen ? colors.Open
+                              : hot_                           ? colors.Hot
+                                                               : colors.Normal;
+  Canvas canvas(size.cx, size.cy);
+  DrawBackdrop(canvas);
+  DrawFace(canvas, canvas.Whole(), colors, face, enabled && (item.itemState & ODS_FOCUS) != 0, Scale());
+  DrawGlyph(canvas, IsGround(picture) ? button_.Picture() : picture, canvas.Whole(), colors, face.Ink, Scale());
+
+  const form::Label* const label = button_.FaceLabel();
+  const std::wstring& caption = label != nullptr ? label->Caption() : button_.Caption();
+  const bool bold = (label != nullptr && label->Bold()) || caption.size() <= LongestSign;
+  RECT area{0, 0, size.cx, size.cy};
+  canvas.Text(caption, area, Font(bold), face.Ink, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
+  canvas.Show(item.hDC, item.rcItem.left, item.rcItem.top);
+}
+
+void ButtonWindow::SetHot(bool hot) {
+  if (hot_ == hot) return;
+  hot_ = hot;
+  if (hot_) {
+    TRACKMOUSEEVENT track{sizeof track, TME_LEAVE, Handle(), 0};
+    TrackMouseEvent(&track);
+  }
+  if (HasPictures()) Redraw();
+}
+
+LRESULT ButtonWindow::OnMouseButton(form::MouseButton button, bool down, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (!down) {
+    // Before the button lets go of the mouse, so that the program sees whether it still has it.
+    button_.InputMouseUp(button);
+    return Retired() ? 0 : Default(message, wParam, lParam);
+  }
+  const LRESULT result = Default(message, wParam, lParam);
+  if (!Retired()) button_.InputMouseDown(button);
+  return result;
+}
+
+LRESULT ButtonWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_LBUTTONDBLCLK:  // a second click like the first
+      return OnMouseButton(form::MouseButton::Left, true, WM_LBUTTONDOWN, wParam, lParam);
+    case WM_LBUTTONDOWN:
+      return OnMouseButton(form::MouseButton::Left, true, message, wParam, lParam);
+    case WM_LBUTTONUP:
+      return OnMouseButton(form::MouseButton::Left, false, message, wParam, lParam);
+    case WM_RBUTTONDOWN:
+      return OnMouseButton(form::MouseButton::Right, true, message, wParam, lParam);
+    case WM_RBUTTONUP:
+      return OnMouseButton(form::MouseButton::Right, false, message, wParam, lParam);
+    case WM_KEYDOWN:
+      if (wParam == VK_RETURN) {
+        const bool first = (HIWORD(lParam) & KF_REPEAT) == 0;
+        if (first) button_.InputClick();
+        return 0;
+      }
+      break;
+    case WM_MOUSEMOVE:
+      SetHot(true);
+      break;
+    case WM_MOUSELEAVE:
+      SetHot(false);
+      break;
+    case WM_ERASEBKGND:
+      if (HasPictures()) return 1;
+      break;
+    default:
+      break;
+  }
+  return ControlWindow::OnMessage(message, wParam, lParam);
+}
+
+}  // namespace vantor::win32

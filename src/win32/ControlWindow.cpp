@@ -1,0 +1,241 @@
+#include "win32/ControlWindow.h"
+
+#include <commctrl.h>
+
+#include "form/Static.h"
+#include "win32/AccessibleNames.h"
+#include "win32/ButtonWindow.h"
+#include "win32/ChoiceWindow.h"
+#include "win32/ComboWindow.h"
+#include "win32/EditWindow.h"
+#include "win32/ListWindow.h"
+#include "win32/Pictures.h"
+#include "win32/Screens.h"
+#include "win32/StaticWindow.h"
+#include "win32/WindowsDesktop.h"
+
+namespace vantor::win32 {
+
+namespace {
+
+constexpr UINT_PTR SubclassId = 1;
+
+HWND ParentOf(const FormWindow& owner, const form::Control& control) {
+  const form::Control* const container = control.Container();
+  if (container == nullptr || container->Window() == nullptr) return owner.Handle();
+  return static_cast<const ControlWindow*>(container->Window())->Handle();
+}
+
+/// The picture that an image shows; None for other controls.
+form::Picture PictureOf(const form::Control& control) {
+  switch (control.Kind()) {
+    case form::ControlKind::Image:
+      return static_cast<const form::Image&>(control).Picture();
+    case form::ControlKind::PictureBox:
+      return static_cast<const form::PictureBox&>(control).Picture();
+    default:
+      return form::Picture::None;
+  }
+}
+
+}  // namespace
+
+std::unique_ptr<ControlWindow> ControlWindow::Make(FormWindow& owner, form::Control& control) {
+  const auto make = [&]() -> std::unique_ptr<ControlWindow> {
+    switch (control.Kind()) {
+      case form::ControlKind::TextBox:
+        return std::make_unique<EditWindow>(owner, static_cast<form::TextBox&>(control));
+      case form::ControlKind::CommandButton:
+        return std::make_unique<ButtonWindow>(owner, static_cast<form::CommandButton&>(control));
+      case form::ControlKind::CheckBox:
+        return std::make_unique<CheckWindow>(owner, static_cast<form::CheckBox&>(control));
+      case form::ControlKind::OptionButton:
+        return std::make_unique<OptionWindow>(owner, static_cast<form::OptionButton&>(control));
+      case form::ControlKind::ComboBox:
+      case form::ControlKind::DriveList:
+        return std::make_unique<ComboWindow>(owner, static_cast<form::ListControl&>(control));
+      case form::ControlKind::FolderList:
+      case form::ControlKind::FileList:
+        return std::make_unique<ListWindow>(owner, static_cast<form::ListControl&>(control));
+      case form::ControlKind::Frame:
+        return std::make_unique<FrameWindow>(owner, static_cast<form::Frame&>(control));
+      default:
+        return std::make_unique<StaticWindow>(owner, control);
+    }
+  };
+  if (control.Kind() == form::ControlKind::Label && ButtonWindow::IsOnFace(control)) return nullptr;
+  auto window = make();
+  control.AttachWindow(window.get());
+  window->Refresh();
+  if (control.Visible()) ShowWindow(window->Handle(), SW_SHOWNA);
+  return window;
+}
+
+ControlWindow::ControlWindow(FormWindow& owner, form::Control& control, const Kind& kind)
+    : owner_(owner), control_(control) {
+  handle_ = CreateWindowExW(kind.ExtendedStyle, kind.ClassName, L"", WS_CHILD | WS_CLIPSIBLINGS | kind.Style, 0, 0, 0,
+                            0, ParentOf(owner, control), nullptr, GetModuleHandleW(nullptr), nullptr);
+  SetWindowSubclass(handle_, Procedure, SubclassId, reinterpret_cast<DWORD_PTR>(this));
+  EnableWindow(handle_, control_.Enabled());
+  // The system puts a new one below its siblings.
+  SetWindowPos(handle_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+ControlWindow::~ControlWindow() {
+  if (handle_ != nullptr) RemoveWindowSubclass(handle_, Procedure, SubclassId);
+}
+
+ControlWindow* ControlWindow::From(HWND handle) {
+  DWORD_PTR self = 0;
+  if (handle == nullptr || GetWindowSubclass(handle, Procedure, SubclassId, &self) == FALSE) return nullptr;
+  return reinterpret_cast<ControlWindow*>(self);
+}
+
+LRESULT CALLBACK ControlWindow::Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR /*id*/,
+                                          DWORD_PTR self) {
+  auto& window = *reinterpret_cast<ControlWindow*>(self);
+  if (message == WM_NCDESTROY) {
+    RemoveWindowSubclass(handle, Procedure, SubclassId);
+    window.handle_ = nullptr;
+    return DefSubclassProc(handle, message, wParam, lParam);
+  }
+  if (window.Retired()) return DefSubclassProc(handle, message, wParam, lParam);
+  const FormWindow::Handling handling(window.owner_);
+  LRESULT result = 0;
+  window.owner_.Desktop().Guard([&] { result = window.OnMessage(message, wParam, lParam); });
+  return result;
+}
+
+LRESULT ControlWindow::Default(UINT message, WPARAM wParam, LPARAM lParam) const {
+  return DefSubclassProc(handle_, message, wParam, lParam);
+}
+
+LRESULT ControlWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  LRESULT result = 0;
+  if (FormWindow::Reflect(message, wParam, lParam, result)) return result;
+  switch (message) {
+    case WM_SETFOCUS:
+      result = Default(message, wParam, lParam);
+      if (!Retired()) owner_.Form().InputFocus(&control_);
+      return result;
+    case WM_GETOBJECT:
+      // Somebody asks what the window is: early enough to say.
+      NameForReaders(handle_, control_.AccessibleName());
+      break;
+    default:
+      break;
+  }
+  return Default(message, wParam, lParam);
+}
+
+void ControlWindow::Changed(form::Property property) {
+  switch (property) {
+    case form::Property::Bounds:
+      Place();
+      break;
+    case form::Property::Visible:
+      if (!control_.Visible()) LeaveFocus();
+      ShowWindow(handle_, control_.Visible() ? SW_SHOWNA : SW_HIDE);
+      break;
+    case form::Property::Enabled:
+      EnableWindow(handle_, control_.Enabled());
+      if (!control_.Enabled()) LeaveFocus();
+      Redraw();
+      break;
+    case form::Property::Colors:
+      RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+      break;
+    default:
+      Show(property);
+      break;
+  }
+}
+
+/// The keyboard must not stay with a window that can't take it.
+void ControlWindow::LeaveFocus() const {
+  const HWND focus = GetFocus();
+  if (focus == handle_ || IsChild(handle_, focus) != FALSE) ::SetFocus(owner_.Handle());
+}
+
+void ControlWindow::TakeFocus() {
+  if (IsWindowVisible(handle_) != FALSE && GetFocus() != handle_) ::SetFocus(handle_);
+}
+
+void ControlWindow::Refresh() {
+  SendMessageW(handle_, WM_SETFONT, reinterpret_cast<WPARAM>(Font()), FALSE);
+  Place();
+}
+
+void ControlWindow::Place() {
+  const form::Rect& bounds = control_.Bounds();
+  const int dpi = owner_.Dpi();
+  SetWindowPos(handle_, nullptr, Screens::ToPixels(bounds.Left, dpi), Screens::ToPixels(bounds.Top, dpi),
+               Screens::ToPixels(bounds.Width, dpi), Screens::ToPixels(bounds.Height, dpi),
+               SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+HBRUSH ControlWindow::OnColor(HDC dc) {
+  SetTextColor(dc, Look().Ink(control_.ForeColor(), control_.Enabled()));
+  const COLORREF ground = Ground();
+  SetBkColor(dc, ground);
+  return Look().Brush(ground);
+}
+
+Theme& ControlWindow::Look() const { return owner_.Desktop().Look(); }
+
+SIZE ControlWindow::ClientSize() const {
+  RECT area;
+  GetClientRect(handle_, &area);
+  return {area.right, area.bottom};
+}
+
+HFONT ControlWindow::Font(bool bold) const { return Look().Font(owner_.Dpi(), bold); }
+
+void ControlWindow::ShowWindowText(const std::wstring& text) const { SetWindowTextW(handle_, text.c_str()); }
+
+void ControlWindow::Redraw() const { InvalidateRect(handle_, nullptr, TRUE); }
+
+void ControlWindow::PaintWindow() {
+  PAINTSTRUCT paint;
+  const HDC dc = BeginPaint(handle_, &paint);
+  const SIZE size = ClientSize();
+  if (size.cx > 0 && size.cy > 0) {
+    Canvas canvas(size.cx, size.cy);
+    Paint(canvas);
+    canvas.Show(dc);
+  }
+  EndPaint(handle_, &paint);
+}
+
+COLORREF ControlWindow::Ground() const {
+  for (const form::Control* control = &control_; control != nullptr; control = control->Container()) {
+    // A face that nobody chose takes on what it stands on.
+    if (control->BackColor() != form::Color::ButtonFace) return Look().Background(control->BackColor());
+  }
+  return Look().Background(owner_.Form().BackColor());
+}
+
+void ControlWindow::DrawBackdrop(Canvas& canvas) const {
+  const form::Control* const container = control_.Container();
+  COLORREF ground = Look().Background(owner_.Form().BackColor());
+  if (container != nullptr && container->Window() != nullptr) {
+    ground = static_cast<const ControlWindow*>(container->Window())->Ground();
+  }
+  canvas.Clear(ground);
+  RECT here;
+  GetWindowRect(handle_, &here);
+  for (const form::Control* other : owner_.Form().Controls()) {
+    if (other == &control_) break;  // those after it stand before it
+    const bool below = other == container || (other->Container() == container && other->Visible());
+    const form::Picture picture = PictureOf(*other);
+    if (!below || picture == form::Picture::None || other->Window() == nullptr) continue;
+    RECT there;
+    GetWindowRect(static_cast<const ControlWindow*>(other->Window())->Handle(), &there);
+    DrawPicture(canvas, picture,
+                {double(there.left - here.left), double(there.top - here.top), double(there.right - there.left),
+                 double(there.bottom - there.top)},
+                Look().Colors(), Scale());
+  }
+}
+
+}  // namespace vantor::win32

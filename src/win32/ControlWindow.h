@@ -1,0 +1,88 @@
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <string>
+
+#include "form/Control.h"
+#include "win32/Canvas.h"
+#include "win32/FormWindow.h"
+#include "win32/Theme.h"
+
+namespace vantor::win32 {
+
+/// The window that mirrors a control. It shows the control's state and tells the control what the user does.
+class ControlWindow : public form::ControlWindow {
+ public:
+  ~ControlWindow() override;
+
+  /// Makes the window for a control, inside its container's; null for a label that a button draws on its face.
+  static std::unique_ptr<ControlWindow> Make(FormWindow& owner, form::Control& control);
+  /// The control's window with this handle; null for any other handle.
+  [[nodiscard]] static ControlWindow* From(HWND handle);
+
+  void Changed(form::Property property) final;
+  void TakeFocus() override;
+
+  [[nodiscard]] HWND Handle() const { return handle_; }
+  [[nodiscard]] FormWindow& Owner() const { return owner_; }
+  [[nodiscard]] form::Control& Control() const { return control_; }
+
+  /// Shows all of the control's state; for a new window, and after the resolution or the user's settings changed.
+  virtual void Refresh();
+  /// What the tool tip says; "" for none.
+  [[nodiscard]] virtual std::wstring TipText() const { return control_.ToolTip(); }
+  /// Whether the window uses keys like Escape and Enter for itself at the moment.
+  [[nodiscard]] virtual bool KeepsKeys() const { return false; }
+
+  // What the window tells its parent, handed back.
+
+  virtual void OnCommand(WORD /*notification*/) {}
+  virtual void OnDraw(const DRAWITEMSTRUCT& /*item*/) {}
+  /// Sets the colours of a window that draws itself; returns the brush for its ground.
+  virtual HBRUSH OnColor(HDC dc);
+
+ protected:
+  struct Kind {
+    const wchar_t* ClassName;
+    DWORD Style;
+    DWORD ExtendedStyle = 0;
+  };
+  ControlWindow(FormWindow& owner, form::Control& control, const Kind& kind);
+
+  /// Handles a message. What a kind does not handle goes on to this one, which passes it to the window's class.
+  virtual LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT Default(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+  /// Shows a property that only some kinds have.
+  virtual void Show(form::Property /*property*/) {}
+  /// Brings the window to the control's bounds.
+  virtual void Place();
+  /// Draws a window that does not draw itself.
+  virtual void Paint(Canvas& /*canvas*/) {}
+
+  [[nodiscard]] bool Retired() const { return owner_.Retired(); }
+  [[nodiscard]] Theme& Look() const;
+  [[nodiscard]] double Scale() const { return owner_.Dpi() / 96.0; }
+  [[nodiscard]] SIZE ClientSize() const;
+  [[nodiscard]] HFONT Font(bool bold = false) const;
+  void ShowWindowText(const std::wstring& text) const;
+  void Redraw() const;
+  /// Paints all of the window by Paint.
+  void PaintWindow();
+  /// The colour of the ground that the control stands on, or has.
+  [[nodiscard]] COLORREF Ground() const;
+  /// Draws what stands behind the control: its container's ground and the pictures under it.
+  void DrawBackdrop(Canvas& canvas) const;
+
+ private:
+  static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                    DWORD_PTR self);
+  void LeaveFocus() const;
+
+  FormWindow& owner_;
+  form::Control& control_;
+  HWND handle_ = nullptr;  // goes with its parent
+};
+
+}  // namespace vantor::win32

@@ -1,0 +1,354 @@
+#include "win32/FormWindow.h"
+
+#include <utility>
+
+#include "win32/ControlWindow.h"
+#include "win32/Screens.h"
+#include "win32/WindowsDesktop.h"
+
+namespace vantor::win32 {
+
+namespace {
+
+constexpr wchar_t FormClass[] = L"VantorForm";
+/// The program's icon in its resources.
+constexpr WORD IconId = 1;
+
+void RegisterFormClass(WNDPROC procedure) {
+  const HINSTANCE instance = GetModuleHandleW(nullptr);
+  WNDCLASSW description{};
+  if (GetClassInfoW(instance, FormClass, &description) != FALSE) return;
+  description = {};
+  description.lpfnWndProc = procedure;
+  description.hInstance = instance;
+  description.hIcon = LoadIconW(instance, MAKEINTRESOURCEW(IconId));
+  description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+  description.lpszClassName = FormClass;
+  RegisterClassW(&description);
+}
+
+struct Styles {
+  DWORD Style;
+  DWORD Extended;
+};
+
+Styles StylesOf(const form::Form& form) {
+  if (form.BorderStyle() == form::BorderStyle::Dialog) {
+    return {WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN, WS_EX_DLGMODALFRAME};
+  }
+  // The box and the menu are not drawn, but let the taskbar minimise the window.
+  return {WS_POPUP | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN, 0};
+}
+
+form::MouseButton HeldButton(WPARAM buttons) {
+  if ((buttons & MK_LBUTTON) != 0) return form::MouseButton::Left;
+  if ((buttons & MK_RBUTTON) != 0) return form::MouseButton::Right;
+  if ((buttons & MK_MBUTTON) != 0) return form::MouseButton::Middle;
+  return form::MouseButton::None;
+}
+
+}  // namespace
+
+FormWindow::FormWindow(win32::Desktop& desktop, form::Form& form, bool onTaskbar)
+    : desktop_(desktop), form_(form), dpi_(Screens::DpiOf(Screens::PixelsOf(form.Bounds()))), tips_(*this) {
+  RegisterFormClass(Procedure);
+  const Styles styles = StylesOf(form_);
+  const RECT place = PlaceInPixels();
+  handle_.Reset(CreateWindowExW(styles.Extended | (onTaskbar ? WS_EX_APPWINDOW : 0), FormClass,
+                                form_.Caption().c_str(), styles.Style, place.left, place.top, place.right - place.left,
+                                place.bottom - place.top, desktop_.ApplicationWindow(), nullptr,
+                                GetModuleHandleW(nullptr), nullptr));
+  SetWindowLongPtrW(Handle(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  for (form::Control* control : form_.Controls()) {
+    if (auto window = ControlWindow::Make(*this, *control)) controls_.push_back(std::move(window));
+  }
+  if (form_.TopMost()) SetTopMost(true);
+}
+
+FormWindow::~FormWindow() {
+  retired_ = true;
+  handle_.Reset();
+}
+
+FormWindow* FormWindow::From(HWND handle) {
+  if (handle == nullptr || GetWindowThreadProcessId(handle, nullptr) != GetCurrentThreadId() ||
+      GetClassLongPtrW(handle, GCLP_WNDPROC) != reinterpret_cast<ULONG_PTR>(Procedure)) {
+    return nullptr;
+  }
+  return reinterpret_cast<FormWindow*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
+}
+
+void FormWindow::Retire() {
+  retired_ = true;
+  ShowWindow(Handle(), SW_HIDE);
+}
+
+void FormWindow::Changed(form::Property property) {
+  switch (property) {
+    case form::Property::Bounds:
+      Place();
+      break;
+    case form::Property::Visible:
+      ShowVisible();
+      break;
+    case form::Property::Caption:
+      SetWindowTextW(Handle(), form_.Caption().c_str());
+      break;
+    case form::Property::Colors:
+      RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+      break;
+    case form::Property::Value:
+      if (form_.Visible()) {
+        ShowWindow(Handle(), form_.WindowState() == form::WindowState::Minimized ? SW_MINIMIZE : SW_RESTORE);
+      }
+      break;
+    default:
+      break;
+  }
+}
+
+void FormWindow::ShowVisible() {
+  if (form_.Visible()) {
+    SetWindowLongPtrW(Handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(desktop_.OwnerFor(*this)));
+    Place();
+    SetWindowPos(Handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
+    if (form_.WindowState() == form::WindowState::Minimized) {
+      ShowWindow(Handle(), SW_MINIMIZE);
+    } else {
+      SetForegroundWindow(Handle());
+      UpdateWindow(Handle());
+    }
+    return;
+  }
+  // Otherwise the system brings another program's window to the front.
+  if (GetActiveWindow() == Handle()) {
+    if (const FormWindow* successor = desktop_.SuccessorOf(*this)) SetActiveWindow(successor->Handle());
+  }
+  ShowWindow(Handle(), SW_HIDE);
+  desktop_.WakeUp();
+}
+
+void FormWindow::ShowEnabled() {
+  const form::Form* const modal = desktop_.ModalForm();
+  EnableWindow(Handle(), modal == nullptr || modal == &form_);
+}
+
+void FormWindow::SetTopMost(bool topMost) {
+  SetWindowPos(Handle(), topMost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+               SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+void FormWindow::Drag() {
+  // The system has taken the button's release by the time the move ends.
+  const DWORD point = GetMessagePos();
+  ReleaseCapture();
+  SendMessageA(Handle(), WM_NCLBUTTONDOWN, HTCAPTION, static_cast<LPARAM>(point));
+  if (!retired_) ReportPlace();
+}
+
+void FormWindow::Activate() {
+  if (IsWindowVisible(Handle()) == FALSE || GetActiveWindow() == Handle()) return;
+  // Another program's window that the user works in is left in front.
+  DWORD process = 0;
+  const HWND foreground = GetForegroundWindow();
+  if (foreground != nullptr) GetWindowThreadProcessId(foreground, &process);
+  if (process == 0 || process == GetCurrentProcessId()) {
+    SetForegroundWindow(Handle());
+  } else {
+    SetActiveWindow(Handle());
+  }
+}
+
+RECT FormWindow::PlaceInPixels() const {
+  RECT place = Screens::PixelsOf(form_.Bounds());
+  const Styles styles = StylesOf(form_);
+  if ((styles.Style & WS_CAPTION) == WS_CAPTION) {
+    const POINT corner{place.left, place.top};
+    Screens::AddEdges(place, styles.Style, styles.Extended, dpi_);
+    OffsetRect(&place, corner.x - place.left, corner.y - place.top);
+  }
+  return place;
+}
+
+void FormWindow::Place() {
+  if (placing_ || IsIconic(Handle()) != FALSE) return;
+  const RECT place = PlaceInPixels();
+  RECT old;
+  GetWindowRect(Handle(), &old);
+  if (EqualRect(&place, &old) != FALSE) return;
+  placing_ = true;
+  SetWindowPos(Handle(), nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
+               SWP_NOZORDER | SWP_NOACTIVATE);
+  placing_ = false;
+}
+
+void FormWindow::ReportPlace() {
+  if (placing_ || !form_.Visible() || IsIconic(Handle()) != FALSE) return;
+  RECT place;
+  GetWindowRect(Handle(), &place);
+  const RECT known = PlaceInPixels();
+  if (place.left == known.left && place.top == known.top) return;
+  form::Rect bounds = Screens::TwipsOf(place);
+  bounds.Width = form_.Bounds().Width;
+  bounds.Height = form_.Bounds().Height;
+  form_.InputMoved(bounds);
+}
+
+void FormWindow::Refresh() {
+  for (const auto& control : controls_) control->Refresh();
+  RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+}
+
+void FormWindow::OnDpiChanged(int dpi, const RECT& suggested) {
+  dpi_ = dpi;
+  placing_ = true;
+  SetWindowPos(Handle(), nullptr, suggested.left, suggested.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  placing_ = false;
+  ReportPlace();
+  Place();
+  Refresh();
+}
+
+void FormWindow::OnSize(WPARAM kind) {
+  if (!form_.Visible()) return;
+  const auto state = kind == SIZE_MINIMIZED ? form::WindowState::Minimized : form::WindowState::Normal;
+  if (state == form_.WindowState()) return;
+  form_.InputWindowState(state);
+  if (state == form::WindowState::Normal) Place();  // the program may have moved the form meanwhile
+}
+
+void FormWindow::MouseMoves(WPARAM buttons) { form_.InputMouseMove(HeldButton(buttons)); }
+
+bool FormWindow::Preview(const MSG& message) {
+  switch (message.message) {
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+    case WM_KEYUP:
+    case WM_SYSKEYUP:
+      return OnKey(message);
+    default:
+      if (message.message >= WM_MOUSEFIRST && message.message <= WM_MOUSELAST) tips_.Relay(message);
+      return false;
+  }
+}
+
+bool FormWindow::OnKey(const MSG& message) {
+  const WPARAM key = message.wParam;
+  if (key >= keysDown_.size()) return false;
+  const ControlWindow* const control = ControlWindow::From(message.hwnd);
+  if (message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN) {
+    keysDown_[key] = control == nullptr || !control->KeepsKeys();
+    const bool plainTab = key == VK_TAB && message.message == WM_KEYDOWN && GetKeyState(VK_CONTROL) >= 0;
+    if (!plainTab || !form_.AcceptsInput()) return false;
+    form_.MoveFocus(GetKeyState(VK_SHIFT) < 0);
+    return true;
+  }
+  // A key that went down elsewhere was meant for elsewhere: the Enter that closed a message, say.
+  if (!keysDown_[key]) return false;
+  keysDown_[key] = false;
+  form_.InputKeyUp(static_cast<form::Key>(key));
+  return retired_;
+}
+
+bool FormWindow::Reflect(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
+  switch (message) {
+    case WM_COMMAND:
+      if (ControlWindow* control = ControlWindow::From(reinterpret_cast<HWND>(lParam))) {
+        control->OnCommand(HIWORD(wParam));
+        result = 0;
+        return true;
+      }
+      return false;
+    case WM_DRAWITEM: {
+      const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+      ControlWindow* const control = ControlWindow::From(item.hwndItem);
+      if (control == nullptr) return false;
+      control->OnDraw(item);
+      result = TRUE;
+      return true;
+    }
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLORLISTBOX:
+    case WM_CTLCOLORBTN: {
+      ControlWindow* const control = ControlWindow::From(reinterpret_cast<HWND>(lParam));
+      if (control == nullptr) return false;
+      result = reinterpret_cast<LRESULT>(control->OnColor(reinterpret_cast<HDC>(wParam)));
+      return true;
+    }
+    default:
+      return false;
+  }
+}
+
+LRESULT CALLBACK FormWindow::Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
+  FormWindow* const window = From(handle);
+  if (window == nullptr || window->retired_) return DefWindowProcW(handle, message, wParam, lParam);
+  if (message == WM_NCDESTROY) {
+    SetWindowLongPtrW(handle, GWLP_USERDATA, 0);
+    static_cast<void>(window->handle_.Release());  // the system destroys it, not this program
+    return DefWindowProcW(handle, message, wParam, lParam);
+  }
+  const Handling handling(*window);
+  LRESULT result = 0;
+  window->desktop_.Guard([&] { result = window->OnMessage(message, wParam, lParam); });
+  return result;
+}
+
+LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  LRESULT result = 0;
+  if (Reflect(message, wParam, lParam, result)) return result;
+  switch (message) {
+    case WM_ERASEBKGND: {
+      RECT area;
+      GetClientRect(Handle(), &area);
+      Theme& look = desktop_.Look();
+      FillRect(reinterpret_cast<HDC>(wParam), &area, look.Brush(look.Background(form_.BackColor())));
+      return 1;
+    }
+    case WM_MOUSEMOVE:
+      MouseMoves(wParam);
+      return 0;
+    case WM_ACTIVATE:
+      if (LOWORD(wParam) == WA_INACTIVE) {
+        keysDown_.fill(false);
+      } else {
+        desktop_.Activated(*this);
+      }
+      break;
+    case WM_SETFOCUS:
+      if (const form::Control* control = form_.ActiveControl(); control != nullptr && control->Window() != nullptr) {
+        control->Window()->TakeFocus();
+      }
+      return 0;
+    case WM_SIZE:
+      OnSize(wParam);
+      break;
+    case WM_WINDOWPOSCHANGED:
+      ReportPlace();
+      break;  // WM_SIZE comes of it
+    case WM_DPICHANGED:
+      OnDpiChanged(HIWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
+      return 0;
+    case WM_SYSCOMMAND:
+      // F10 and Alt would begin a menu that the form doesn't have; Alt and Space open the system's.
+      if ((wParam & 0xFFF0) == SC_KEYMENU && lParam != VK_SPACE) return 0;
+      break;
+    case WM_NOTIFY:
+      if (tips_.OnNotify(*reinterpret_cast<NMHDR*>(lParam))) return 0;
+      break;
+    case WM_CLOSE:
+      form_.InputClose();
+      return 0;
+    case WM_QUERYENDSESSION:
+      return TRUE;
+    case WM_ENDSESSION:
+      if (wParam != 0) desktop_.SessionEnds();
+      return 0;
+    default:
+      break;
+  }
+  return DefWindowProcW(Handle(), message, wParam, lParam);
+}
+
+}  // namespace vantor::win32

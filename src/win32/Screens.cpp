@@ -1,0 +1,180 @@
+#include "win32/Screens.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace vantor::win32 {
+
+namespace {
+
+/// A function that only newer systems have; null elsewhere.
+template <class Function>
+Function Find(const wchar_t* library, const char* name) {
+  const HMODULE module = GetModuleHandleW(library);
+  return module != nullptr ? reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(module, name))) : nullptr;
+}
+
+int DpiOfMonitor(HMONITOR monitor) {
+  // Shcore.dll came with Windows 8.1. It is found in the system's folder alone.
+  using GetDpi = HRESULT(WINAPI*)(HMONITOR, int, UINT*, UINT*);
+  static const GetDpi getDpi = [] {
+    constexpr DWORD systemFolderOnly = 0x00000800;  // LOAD_LIBRARY_SEARCH_SYSTEM32
+    LoadLibraryExW(L"shcore.dll", nullptr, systemFolderOnly);
+    return Find<GetDpi>(L"shcore.dll", "GetDpiForMonitor");
+  }();
+  UINT x = 0;
+  UINT y = 0;
+  if (getDpi != nullptr && getDpi(monitor, 0, &x, &y) == S_OK && x != 0) return static_cast<int>(x);
+  return Screens::SystemDpi();
+}
+
+/// A screen in both measures.
+struct Place {
+  HMONITOR Monitor = nullptr;
+  RECT Pixels{};
+  RECT WorkArea{};
+  int Dpi = 96;
+  form::Rect Twips;
+};
+
+/// The start in twips of a stretch of pixels: the edge nearer to zero, where the main screen is, stands still.
+form::Twips Start(LONG from, LONG to, int dpi) {
+  const int systemDpi = Screens::SystemDpi();
+  if (to <= 0) return Screens::ToTwips(to, systemDpi) - Screens::ToTwips(to - from, dpi);
+  return Screens::ToTwips(from, systemDpi);
+}
+
+Place Describe(HMONITOR monitor) {
+  MONITORINFO info{};
+  info.cbSize = sizeof info;
+  GetMonitorInfoW(monitor, &info);
+  Place place{monitor, info.rcMonitor, info.rcWork, DpiOfMonitor(monitor), {}};
+  place.Twips = {Start(place.Pixels.left, place.Pixels.right, place.Dpi),
+                 Start(place.Pixels.top, place.Pixels.bottom, place.Dpi),
+                 Screens::ToTwips(place.Pixels.right - place.Pixels.left, place.Dpi),
+                 Screens::ToTwips(place.Pixels.bottom - place.Pixels.top, place.Dpi)};
+  return place;
+}
+
+BOOL CALLBACK AddPlace(HMONITOR monitor, HDC /*dc*/, RECT* /*area*/, LPARAM places) {
+  reinterpret_cast<std::vector<Place>*>(places)->push_back(Describe(monitor));
+  return TRUE;
+}
+
+std::vector<Place> AllPlaces() {
+  std::vector<Place> places;
+  EnumDisplayMonitors(nullptr, nullptr, AddPlace, reinterpret_cast<LPARAM>(&places));
+  if (places.empty()) places.push_back(Describe(MonitorFromWindow(nullptr, MONITOR_DEFAULTTOPRIMARY)));
+  return places;
+}
+
+int Overlap(int from, int to, int otherFrom, int otherTo) {
+  return std::max(std::min(to, otherTo) - std::max(from, otherFrom), 0);
+}
+
+int Gap(int from, int to, int otherFrom, int otherTo) {
+  return std::max({otherFrom - to, from - otherTo, 0});
+}
+
+/// The screen that holds most of the place; the nearest one if none does.
+Place Best(const form::Rect& place) {
+  const auto score = [&](const Place& screen) {
+    const form::Rect& area = screen.Twips;
+    const double shared = double(Overlap(place.Left, place.Right(), area.Left, area.Right())) *
+                          Overlap(place.Top, place.Bottom(), area.Top, area.Bottom());
+    if (shared > 0) return shared;
+    return -double(Gap(place.Left, place.Right(), area.Left, area.Right())) -
+           Gap(place.Top, place.Bottom(), area.Top, area.Bottom());
+  };
+  const std::vector<Place> places = AllPlaces();
+  return *std::max_element(places.begin(), places.end(),
+                           [&](const Place& a, const Place& b) { return score(a) < score(b); });
+}
+
+form::Screen ToScreen(const Place& place) {
+  form::Screen screen;
+  screen.Bounds = place.Twips;
+  screen.WorkArea = {place.Twips.Left + Screens::ToTwips(place.WorkArea.left - place.Pixels.left, place.Dpi),
+                     place.Twips.Top + Screens::ToTwips(place.WorkArea.top - place.Pixels.top, place.Dpi),
+                     Screens::ToTwips(place.WorkArea.right - place.WorkArea.left, place.Dpi),
+                     Screens::ToTwips(place.WorkArea.bottom - place.WorkArea.top, place.Dpi)};
+  screen.TwipsPerPixelX = screen.TwipsPerPixelY = double(form::TwipsPerInch) / place.Dpi;
+  return screen;
+}
+
+}  // namespace
+
+void Screens::DeclareAwareness() {
+  using SetContext = BOOL(WINAPI*)(HANDLE);
+  const auto setContext = Find<SetContext>(L"user32.dll", "SetProcessDpiAwarenessContext");
+  const auto perMonitorV2 = reinterpret_cast<HANDLE>(-4);  // DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2
+  if (setContext == nullptr || setContext(perMonitorV2) == FALSE) SetProcessDPIAware();
+}
+
+int Screens::SystemDpi() {
+  static const int dpi = [] {
+    const HDC screen = GetDC(nullptr);
+    const int found = GetDeviceCaps(screen, LOGPIXELSX);
+    ReleaseDC(nullptr, screen);
+    return found > 0 ? found : 96;
+  }();
+  return dpi;
+}
+
+int Screens::DpiOf(HWND window) { return DpiOfMonitor(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST)); }
+
+int Screens::DpiOf(const RECT& pixels) { return DpiOfMonitor(MonitorFromRect(&pixels, MONITOR_DEFAULTTONEAREST)); }
+
+int Screens::ToPixels(form::Twips twips, int dpi) { return MulDiv(twips, dpi, form::TwipsPerInch); }
+
+form::Twips Screens::ToTwips(int pixels, int dpi) { return MulDiv(pixels, form::TwipsPerInch, dpi); }
+
+RECT Screens::PixelsOf(const form::Rect& place) {
+  const Place screen = Best(place);
+  RECT pixels;
+  pixels.left = screen.Pixels.left + ToPixels(place.Left - screen.Twips.Left, screen.Dpi);
+  pixels.top = screen.Pixels.top + ToPixels(place.Top - screen.Twips.Top, screen.Dpi);
+  pixels.right = pixels.left + ToPixels(place.Width, screen.Dpi);
+  pixels.bottom = pixels.top + ToPixels(place.Height, screen.Dpi);
+  return pixels;
+}
+
+form::Rect Screens::TwipsOf(const RECT& pixels) {
+  const Place screen = Describe(MonitorFromRect(&pixels, MONITOR_DEFAULTTONEAREST));
+  return {screen.Twips.Left + ToTwips(pixels.left - screen.Pixels.left, screen.Dpi),
+          screen.Twips.Top + ToTwips(pixels.top - screen.Pixels.top, screen.Dpi),
+          ToTwips(pixels.right - pixels.left, screen.Dpi), ToTwips(pixels.bottom - pixels.top, screen.Dpi)};
+}
+
+void Screens::AddEdges(RECT& inside, DWORD style, DWORD extendedStyle, int dpi) {
+  // The call that knows resolutions came with Windows 10.
+  using AdjustForDpi = BOOL(WINAPI*)(RECT*, DWORD, BOOL, DWORD, UINT);
+  static const auto forDpi = Find<AdjustForDpi>(L"user32.dll", "AdjustWindowRectExForDpi");
+  if (forDpi == nullptr || forDpi(&inside, style, FALSE, extendedStyle, static_cast<UINT>(dpi)) == FALSE) {
+    AdjustWindowRectEx(&inside, style, FALSE, extendedStyle);
+  }
+}
+
+form::Screen Screens::At(const form::Rect& place) { return ToScreen(Best(place)); }
+
+form::Screen Screens::Primary() {
+  const POINT origin{};
+  return ToScreen(Describe(MonitorFromPoint(origin, MONITOR_DEFAULTTOPRIMARY)));
+}
+
+LOGFONTW Screens::MessageFont(int dpi) {
+  NONCLIENTMETRICSW metrics{};
+  metrics.cbSize = sizeof metrics;
+  // The call that knows resolutions came with Windows 10.
+  using ParametersForDpi = BOOL(WINAPI*)(UINT, UINT, void*, UINT, UINT);
+  static const auto forDpi = Find<ParametersForDpi>(L"user32.dll", "SystemParametersInfoForDpi");
+  if (forDpi != nullptr &&
+      forDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, static_cast<UINT>(dpi)) != FALSE) {
+    return metrics.lfMessageFont;
+  }
+  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+  metrics.lfMessageFont.lfHeight = MulDiv(metrics.lfMessageFont.lfHeight, dpi, SystemDpi());
+  return metrics.lfMessageFont;
+}
+
+}  // namespace vantor::win32

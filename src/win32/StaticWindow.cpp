@@ -1,0 +1,146 @@
+#include "win32/StaticWindow.h"
+
+#include <windowsx.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+#include "win32/Pictures.h"
+
+namespace vantor::win32 {
+
+StaticWindow::StaticWindow(FormWindow& owner, form::Control& control)
+    : ControlWindow(owner, control, {L"STATIC", SS_NOTIFY}) {}
+
+void StaticWindow::Refresh() {
+  ControlWindow::Refresh();
+  Show(form::Property::Caption);
+}
+
+void StaticWindow::Show(form::Property property) {
+  if (Control().Kind() == form::ControlKind::Label && property == form::Property::Caption) {
+    ShowWindowText(static_cast<const form::Label&>(Control()).Caption());
+  }
+  Redraw();
+}
+
+void StaticWindow::Paint(Canvas& canvas) {
+  DrawBackdrop(canvas);
+  switch (Control().Kind()) {
+    case form::ControlKind::Label: {
+      const auto& label = static_cast<const form::Label&>(Control());
+      if (!label.Transparent()) canvas.Clear(Ground());
+      canvas.Text(label.Caption(), {0, 0, canvas.Width(), canvas.Height()}, Font(label.Bold()),
+                  Look().Ink(label.ForeColor(), label.Enabled()), DT_WORDBREAK);
+      break;
+    }
+    case form::ControlKind::Image:
+      DrawPicture(canvas, static_cast<const form::Image&>(Control()).Picture(), canvas.Whole(), Look().Colors(),
+                  Scale());
+      break;
+    case form::ControlKind::PictureBox:
+      DrawPicture(canvas, static_cast<const form::PictureBox&>(Control()).Picture(), canvas.Whole(), Look().Colors(),
+                  Scale());
+      break;
+    default:
+      break;
+  }
+}
+
+LRESULT StaticWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_PAINT:
+      PaintWindow();
+      return 0;
+    case WM_ERASEBKGND:
+      return 1;
+    case WM_MOUSEMOVE:
+      Owner().MouseMoves(wParam);
+      return 0;
+    default:
+      return ControlWindow::OnMessage(message, wParam, lParam);
+  }
+}
+
+FrameWindow::FrameWindow(FormWindow& owner, form::Frame& frame)
+    : ControlWindow(owner, frame, {L"BUTTON", BS_GROUPBOX | WS_CLIPCHILDREN}), frame_(frame) {}
+
+void FrameWindow::Refresh() {
+  ControlWindow::Refresh();
+  Show(form::Property::Caption);
+}
+
+void FrameWindow::Show(form::Property property) {
+  if (property == form::Property::Caption) ShowWindowText(frame_.Caption());
+  Redraw();
+}
+
+void FrameWindow::Paint(Canvas& canvas) {
+  DrawBackdrop(canvas);
+  const COLORREF ground = Ground();
+  if (!frame_.Border()) {
+    canvas.Clear(ground);
+    return;
+  }
+  Theme& look = Look();
+  const HFONT font = Font();
+  SIZE text{};
+  const HGDIOBJ oldFont = SelectObject(canvas.Dc(), font);
+  GetTextExtentPoint32W(canvas.Dc(), frame_.Caption().c_str(), static_cast<int>(frame_.Caption().size()), &text);
+  SelectObject(canvas.Dc(), oldFont);
+  const double line = std::max(std::floor(Scale()), 1.0);
+  const double top = frame_.Caption().empty() ? 0 : std::floor(text.cy / 2.0);
+  canvas.EdgedBox({0, top, double(canvas.Width()), canvas.Height() - top}, 4 * Scale(), line, look.Colors().Line,
+                  ground);
+  if (frame_.Caption().empty()) return;
+  const LONG left = std::lround(8 * Scale());
+  const LONG gap = std::lround(4 * Scale());
+  // The caption interrupts the line, which it stands on: above the line is what is behind the frame.
+  const double right = std::min<double>(left + text.cx + 2 * gap, canvas.Width() - left);
+  canvas.Shade({double(left), top, right - left, line}, ground, ground);
+  canvas.Text(frame_.Caption(), {left + gap, 0, static_cast<LONG>(right), text.cy}, font,
+              look.Ink(frame_.ForeColor(), frame_.Enabled()), DT_SINGLELINE | DT_END_ELLIPSIS);
+}
+
+LRESULT FrameWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  const POINT point{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+  switch (message) {
+    case WM_PAINT:
+      PaintWindow();
+      return 0;
+    case WM_ERASEBKGND:
+      return 1;
+    case WM_NCHITTEST:
+      return HTCLIENT;  // a group box lets the mouse through
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+      pressed_ = true;
+      pressedAt_ = point;
+      return 0;
+    case WM_LBUTTONUP:
+      if (!pressed_) return 0;
+      pressed_ = false;
+      frame_.InputClick();
+      return 0;
+    case WM_MOUSEMOVE:
+      return OnMouseMove(wParam, point);
+    default:
+      return ControlWindow::OnMessage(message, wParam, lParam);
+  }
+}
+
+/// A frame may be clicked, or the form may be dragged by it: the hand decides by moving.
+LRESULT FrameWindow::OnMouseMove(WPARAM buttons, POINT point) {
+  if ((buttons & MK_LBUTTON) == 0) pressed_ = false;
+  if (pressed_) {
+    const bool moved = std::abs(point.x - pressedAt_.x) >= GetSystemMetrics(SM_CXDRAG) ||
+                       std::abs(point.y - pressedAt_.y) >= GetSystemMetrics(SM_CYDRAG);
+    if (!moved) return 0;
+    pressed_ = false;
+  }
+  Owner().MouseMoves(buttons);
+  return 0;
+}
+
+}  // namespace vantor::win32

@@ -1,0 +1,228 @@
+#include "win32/WindowsDesktop.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "form/Timer.h"
+#include "win32/Screens.h"
+
+namespace vantor::win32 {
+
+namespace {
+
+/// The class that the run time of such programs gives its hidden window; other copies look for it.
+constexpr wchar_t ApplicationClass[] = L"ThunderRT6Main";
+
+}  // namespace
+
+Desktop::Desktop() {
+  Screens::DeclareAwareness();
+  WNDCLASSW description{};
+  description.lpfnWndProc = Procedure;
+  description.hInstance = GetModuleHandleW(nullptr);
+  description.lpszClassName = ApplicationClass;
+  RegisterClassW(&description);
+  application_.Reset(CreateWindowExW(0, ApplicationClass, L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr,
+                                     description.hInstance, nullptr));
+  SetWindowLongPtrW(application_.Get(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+}
+
+Desktop::~Desktop() {
+  discarded_.clear();
+  SetWindowLongPtrW(application_.Get(), GWLP_USERDATA, 0);
+}
+
+void Desktop::SetApplicationTitle(std::wstring_view title) {
+  SetWindowTextW(application_.Get(), std::wstring(title).c_str());
+}
+
+form::Screen Desktop::ScreenAt(const form::Rect& place) const { return Screens::At(place); }
+
+form::Screen Desktop::PrimaryScreen() const { return Screens::Primary(); }
+
+form::Size Desktop::MeasureText(std::wstring_view text, bool bold, form::Twips width) const {
+  const int dpi = Screens::SystemDpi();
+  MemoryDcHandle dc(CreateCompatibleDC(nullptr));
+  const HGDIOBJ oldFont = SelectObject(dc.Get(), theme_.Font(dpi, bold));
+  RECT area{0, 0, std::max(Screens::ToPixels(width, dpi), 1), 0};
+  DrawTextW(dc.Get(), text.data(), static_cast<int>(text.size()), &area, DT_CALCRECT | DT_NOPREFIX | DT_WORDBREAK);
+  SelectObject(dc.Get(), oldFont);
+  // A pixel more, for screens where the font comes out a little wider.
+  return {Screens::ToTwips(area.right + 1, dpi), Screens::ToTwips(area.bottom + 1, dpi)};
+}
+
+void Desktop::RunModal(form::Form& form) {
+  MSG message;
+  while (!Ended() && form.Visible()) {
+    if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
+      End();
+    } else {
+      Handle(message);
+    }
+  }
+}
+
+void Desktop::Run() {
+  MSG message;
+  while (!Ended()) {
+    if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
+      End();
+    } else {
+      Handle(message);
+    }
+  }
+}
+
+void Desktop::HandlePending() {
+  MSG message;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) Handle(message);
+}
+
+void Desktop::Handle(MSG& message) {
+  FormWindow* const window = message.hwnd != nullptr ? FormWindow::From(GetAncestor(message.hwnd, GA_ROOT)) : nullptr;
+  bool done = false;
+  if (window != nullptr && !window->Retired()) {
+    const FormWindow::Handling handling(*window);
+    Guard([&] { done = window->Preview(message); });
+  }
+  if (!done) {
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+  Sweep();
+}
+
+void Desktop::Guard(const std::function<void()>& work) const {
+  try {
+    work();
+  } catch (...) {
+    if (OnError) OnError(std::current_exception());
+  }
+}
+
+void Desktop::StartTimer(form::Timer& timer) {
+  StopTimer(timer);
+  if (timer.Interval() <= 0) return;
+  // Each start has its own id, so that a tick of an earlier start that still waits counts for nothing.
+  timers_.push_back({++lastTimerId_, &timer});
+  SetTimer(application_.Get(), lastTimerId_, static_cast<UINT>(timer.Interval()), nullptr);
+}
+
+void Desktop::StopTimer(form::Timer& timer) {
+  const auto found =
+      std::find_if(timers_.begin(), timers_.end(), [&](const RunningTimer& running) { return running.Timer == &timer; });
+  if (found == timers_.end()) return;
+  KillTimer(application_.Get(), found->Id);
+  timers_.erase(found);
+}
+
+void Desktop::Tick(UINT_PTR id) {
+  const auto found =
+      std::find_if(timers_.begin(), timers_.end(), [&](const RunningTimer& running) { return running.Id == id; });
+  if (found == timers_.end() || Ended()) return;
+  form::Timer& timer = *found->Timer;
+  Guard([&] { timer.InputTick(); });
+}
+
+LRESULT CALLBACK Desktop::Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
+  auto* const desktop = reinterpret_cast<Desktop*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
+  if (desktop != nullptr) {
+    switch (message) {
+      case WM_TIMER:
+        desktop->Tick(wParam);
+        return 0;
+      case WM_QUERYENDSESSION:
+        return TRUE;
+      case WM_ENDSESSION:
+        if (wParam != 0) desktop->SessionEnds();
+        return 0;
+      case WM_SETTINGCHANGE:
+      case WM_SYSCOLORCHANGE:
+      case WM_THEMECHANGED:
+      case WM_DISPLAYCHANGE:
+        desktop->SettingsChanged();
+        break;
+      case WM_CLOSE:
+        return 0;
+      default:
+        break;
+    }
+  }
+  return DefWindowProcW(handle, message, wParam, lParam);
+}
+
+void Desktop::WakeUp() { PostMessageW(application_.Get(), WM_NULL, 0, 0); }
+
+void Desktop::SessionEnds() {
+  if (main_ == nullptr || Ended()) return;
+  FormWindow& window = *main_;
+  const FormWindow::Handling handling(window);
+  Guard([&] { window.Form().InputClose(); });
+}
+
+void Desktop::SettingsChanged() {
+  theme_.Forget();
+  for (FormWindow* window : windows_) window->Refresh();
+}
+
+std::unique_ptr<form::FormWindow> Desktop::MakeWindow(form::Form& form) {
+  const bool modal = ModalForm() == &form;
+  auto window = std::make_unique<FormWindow>(*this, form, main_ == nullptr);
+  if (!modal && main_ == nullptr) main_ = window.get();
+  windows_.push_back(window.get());
+  window->ShowEnabled();
+  return window;
+}
+
+void Desktop::Discard(std::unique_ptr<form::FormWindow> window) {
+  std::unique_ptr<FormWindow> gone(static_cast<FormWindow*>(window.release()));
+  std::erase(windows_, gone.get());
+  if (main_ == gone.get()) main_ = nullptr;
+  if (active_ == gone.get()) active_ = nullptr;
+  // Windows destroys what a window owns along with it.
+  for (FormWindow* other : windows_) {
+    if (GetWindow(other->Handle(), GW_OWNER) == gone->Handle()) {
+      SetWindowLongPtrW(other->Handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(application_.Get()));
+    }
+  }
+  gone->Retire();
+  discarded_.push_back(std::move(gone));
+  if (!Ended()) WakeUp();
+}
+
+void Desktop::Sweep() {
+  const auto gone = std::stable_partition(discarded_.begin(), discarded_.end(),
+                                          [](const auto& window) { return window->IsHandling(); });
+  if (gone == discarded_.end()) return;
+  // Destroying a window may make others act, which may discard more.
+  std::vector<std::unique_ptr<FormWindow>> doomed(std::make_move_iterator(gone),
+                                                  std::make_move_iterator(discarded_.end()));
+  discarded_.erase(gone, discarded_.end());
+}
+
+void Desktop::ModalChanged() {
+  for (FormWindow* window : windows_) window->ShowEnabled();
+}
+
+HWND Desktop::OwnerFor(const FormWindow& window) const {
+  if (IsMain(window)) return application_.Get();
+  const FormWindow* owner = main_;
+  if (ModalForm() == &window.Form() && active_ != nullptr && active_ != &window) owner = active_;
+  // What a minimised or hidden window owns can't be seen.
+  const bool useful = owner != nullptr && IsWindowVisible(owner->Handle()) != FALSE && IsIconic(owner->Handle()) == FALSE;
+  return useful ? owner->Handle() : application_.Get();
+}
+
+FormWindow* Desktop::SuccessorOf(const FormWindow& window) const {
+  const auto suits = [&](const FormWindow* other) {
+    return other != nullptr && other != &window && IsWindowVisible(other->Handle()) != FALSE &&
+           IsWindowEnabled(other->Handle()) != FALSE && IsIconic(other->Handle()) == FALSE;
+  };
+  FormWindow* const owner = FormWindow::From(GetWindow(window.Handle(), GW_OWNER));
+  if (suits(owner)) return owner;
+  const auto found = std::find_if(windows_.rbegin(), windows_.rend(), suits);
+  return found != windows_.rend() ? *found : nullptr;
+}
+
+}  // namespace vantor::win32
