@@ -60,11 +60,13 @@ if(CMAKE_HOST_UNIX)
   set(on_desktop "${PROJECT_SOURCE_DIR}/tools/wine" --test)
 endif()
 
-if(VANTOR_CONTRACT_SOURCES)
-  add_executable(contract_tests ${VANTOR_TEST_MAIN} ${VANTOR_CONTRACT_SOURCES})
+# The same contract as natively, here with real windows behind it, and the Windows side's own tests.
+if(VANTOR_WIN32_TEST_SOURCES)
+  set(sources ${VANTOR_CONTRACT_SOURCES} ${VANTOR_WIN32_TEST_SOURCES})
+  add_executable(contract_tests ${VANTOR_TEST_MAIN} ${sources})
   target_link_libraries(contract_tests PRIVATE vantor_win32 vantor_fakes vantor_doctest)
   vantor_add_tests(
-    desktop VANTOR_CONTRACT_SOURCES PREFIX "win32/" TIMEOUT 300
+    desktop sources PREFIX "win32/" TIMEOUT 300
     RUNNER ${on_desktop} COMMAND $<TARGET_FILE:contract_tests>)
 endif()
 

@@ -1,0 +1,14 @@
+# Sourced: the version of the formatter and the linter. Needs common.sh.
+# shellcheck shell=bash
+
+# Debian 12's. Other versions lay out sources differently and know other checks.
+llvm_major=14
+
+require_llvm() {
+  local version
+  version="$("$1" --version | grep -o -m1 'version [0-9]*' | head -n1)"
+  if [[ "$version" != "version $llvm_major" ]]; then
+    say "SKIPPED: $1 is ${version:-missing} here, and the sources are checked with version $llvm_major."
+    exit 77
+  fi
+}
