@@ -17,9 +17,8 @@ constexpr form::Twips ButtonHeight = 390;
 constexpr form::Twips NarrowText = 4200;
 // Holds the table of the first-start help without breaking its lines, and fits a screen 640 pixels wide.
 constexpr form::Twips WideText = 7200;
-// What the widest usual window frame takes from the form's size: 8 pixels at each side and 30 for the caption.
-constexpr form::Twips FrameWidth = 240;
-constexpr form::Twips FrameHeight = 570;
+
+constexpr form::Twips TitleBarHeight = 450;  // as it usually is, for the middle of the screen only
 
 constexpr bool IsLetter(wchar_t c) { return (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z'); }
 
@@ -118,12 +117,12 @@ void frmMessage::Arrange(const form::Screen& screen) {
   LabelCancel.SetBounds(CommandCancel.Bounds());
   LabelOK.SetBounds(CommandOK.Bounds());
 
-  const form::Twips outerWidth = left + width + Margin + FrameWidth;
-  const form::Twips outerHeight = top + ButtonHeight + Margin + FrameHeight;
-  PictureMessage.SetBounds({0, 0, BandWidth, outerHeight});
+  const form::Twips formWidth = left + width + Margin;
+  const form::Twips formHeight = top + ButtonHeight + Margin;
+  PictureMessage.SetBounds({0, 0, BandWidth, formHeight});
   const form::Rect& area = screen.WorkArea;
-  SetBounds({area.Left + std::max((area.Width - outerWidth) / 2, 0),
-             area.Top + std::max((area.Height - outerHeight) / 2, 0), outerWidth, outerHeight});
+  SetBounds({area.Left + std::max((area.Width - formWidth) / 2, 0),
+             area.Top + std::max((area.Height - TitleBarHeight - formHeight) / 2, 0), formWidth, formHeight});
 }
 
 void frmMessage::Form_KeyUp(form::Key key) {

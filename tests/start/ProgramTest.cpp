@@ -1,0 +1,251 @@
+#include "start/Program.h"
+
+#include <doctest/doctest.h>
+
+#include <vector>
+
+#include "fake/FakeServices.h"
+#include "form/Headless.h"
+#include "message/frmMessage.h"
+
+namespace vantor::start {
+namespace {
+
+constexpr char FirstSettings[] = "2\r\n-1\r\n-1\r\n-1\r\n-1\r\n0\r\n0\r\n\"\"\r\n-1\r\n-1\r\n-1\r\n";
+constexpr char ReadyMedia[] = "\"Vantor Media 1\"\r\n\"Ready\"\r\n\"Ada\"\r\n";
+
+/// A computer, on which the program can be started once.
+struct Computer {
+  form::Headless Ui;
+  fake::FakeServices Services;
+  Program Started{Ui, Services.All()};
+  std::vector<std::wstring> Told;  // the texts of the messages
+
+  /// The next message is read and answered by typing. Escape answers what needs no text.
+  void Expect(std::wstring_view typed = L"\x1b") {
+    Ui.WhenModal([this, typed](form::Form& form) {
+      Told.push_back(dynamic_cast<message::frmMessage&>(form).LabelMessage.Caption());
+      if (typed == L"\x1b") Ui.Press(form::Key::Escape);
+      else Ui.Type(typed);
+    });
+  }
+  /// A settings file and a name make it a program that was used before.
+  void UsedBefore(const std::string& settings = FirstSettings) {
+    Services.Disk.AddFile(L"C:\\Vantor\\Vantor\\Set.Orbel", settings);
+    Services.Disk.AddFile(L"C:\\Vantor\\Vantor\\User.Orbel", "\"Ada\"\r\n");
+  }
+  void RunFrom(wchar_t letter, int driveType) {
+    Services.Disk.AddDrive(letter, driveType);
+    Services.System.Program = std::wstring(1, letter) + L":\\Tools";
+    Services.Disk.AddFolder(Services.System.Program);
+  }
+  /// Runs the start sequence. Returns whether the bar is there then.
+  bool Start() {
+    Started.Main();
+    CHECK(Ui.ModalScriptsDone());
+    CHECK(Started.frmMain.Visible() != Ui.Ended());
+    return Started.frmMain.Visible();
+  }
+  [[nodiscard]] const std::string& Bytes(std::wstring_view path) { return Services.Disk.Bytes(path); }
+};
+
+TEST_CASE("A first start makes the settings file, asks for the name, shows the bar and explains it") {
+  Computer computer;
+  computer.Ui.WhenModal([&](form::Form& form) {
+    // There is a folder to keep the name in, whatever happens from here on.
+    CHECK(computer.Bytes(L"C:\\Vantor\\Vantor\\Set.Orbel") == FirstSettings);
+    CHECK_FALSE(computer.Started.frmMain.Loaded());
+    CHECK((computer.Started.Environment.Starting && computer.Started.Environment.FirstStart));
+    const form::Rect screen = computer.Ui.Desktop.WorkArea;
+    CHECK(form.Bounds().Left + form.Bounds().Right() == doctest::Approx(screen.Width).epsilon(0.001));
+    computer.Ui.Type(L"Ada\r");
+  });
+  computer.Ui.WhenModal([&](form::Form& form) {
+    CHECK(computer.Started.frmMain.Visible());
+    CHECK_FALSE(computer.Started.frmMain.TimerOnTop.Enabled());
+    CHECK(form.Caption() == L"Message For - Ada");
+    computer.Ui.Press(form::Key::Enter);
+  });
+  REQUIRE(computer.Start());
+  CHECK(computer.Bytes(L"C:\\Vantor\\Vantor\\User.Orbel") == "\"Ada\"\r\n");
+  CHECK(computer.Started.frmMain.TimerOnTop.Enabled());
+  CHECK(computer.Started.Options.AlwaysOnTop == 1);
+  CHECK_FALSE((computer.Started.Environment.Starting || computer.Started.Environment.FirstStart));
+  CHECK(computer.Started.Environment.MediaDriveLetter == L"C");
+  CHECK(computer.Services.System.Calls == std::vector<std::wstring>{L"title Vantor Orbel"});
+}
+
+TEST_CASE("A later start is silent, and brings back settings and lists") {
+  Computer computer;
+  computer.UsedBefore("4\r\n-1\r\n-1\r\n-1\r\n0\r\n300\r\n450\r\n\"C:\\x\"\r\n-1\r\n-1\r\n-1\r\n");
+  computer.Services.Disk.AddFile(L"C:\\Vantor\\Vantor\\ListWeb.Orbel", "\"Site\",\"http://a\"\r\n");
+  REQUIRE(computer.Start());
+  CHECK(computer.Started.MessageState.UserName == L"Ada");
+  CHECK(computer.Started.frmMain.Bounds().Left == 300);
+  CHECK(computer.Started.frmMain.Bounds().Top == 450);
+  CHECK(computer.Started.frmChoose.ComboListWebPath.Entries() == std::vector<std::wstring>{L"http://a"});
+  CHECK_FALSE(computer.Started.frmMain.TimerOnTop.Enabled());
+  CHECK(computer.Services.Disk.Written.empty());
+}
+
+TEST_CASE("A settings file that can't be read is no first start and is not replaced") {
+  Computer computer;
+  computer.UsedBefore("7\r\n-1");
+  REQUIRE(computer.Start());
+  CHECK(computer.Started.Settings.OptionMask == 7);
+  CHECK(computer.Bytes(L"C:\\Vantor\\Vantor\\Set.Orbel") == "7\r\n-1");
+}
+
+TEST_CASE("Nothing to write to does not keep the program from starting") {
+  Computer computer;
+  computer.Services.Disk.Drive(L'C').WriteProtected = true;
+  computer.Expect(L"\r");
+  computer.Expect();
+  CHECK(computer.Start());
+  CHECK(computer.Started.MessageState.UserName == L"myFriend");
+}
+
+TEST_CASE("The program refuses where it can't run, before anything is loaded or written") {
+  const struct {
+    int Width, Height, DriveType;
+    std::wstring_view Text;  // "" for none
+  } cases[] = {
+      {12000, 9000, 2, L""},
+      {11985, 9000, 2, L"Screen resolution must be"},
+      {12000, 8985, 2, L"Screen resolution must be"},
+      {15360, 11520, 0, L"The Program encountered a problem"},
+      {15360, 11520, 3, L"The Program encountered a problem"},
+      {15360, 11520, 4, L"This Program runs from Removable Media, such as"},
+  };
+  for (const auto& c : cases) {
+    Computer computer;
+    computer.Ui.Desktop.Bounds = {0, 0, c.Width, c.Height};
+    computer.UsedBefore();
+    computer.Services.Disk.Drive(L'C').Type = c.DriveType;
+    if (!c.Text.empty()) computer.Expect();
+    CHECK(computer.Start() == c.Text.empty());
+    if (c.Text.empty()) continue;
+    CHECK(computer.Told.at(0).starts_with(c.Text));
+    CHECK_FALSE((computer.Started.frmMain.Loaded() || computer.Started.frmChoose.Loaded()));
+    CHECK(computer.Services.Disk.Written.empty());
+  }
+}
+
+TEST_CASE("Inside the Windows folder, or with none known, the start goes on") {
+  for (const auto* windows : {L"c:\\vantor", L"C:\\VANTOR\\", L"C:\\Van", L""}) {
+    Computer computer;
+    computer.UsedBefore();
+    computer.Services.System.Windows = windows;
+    CHECK(computer.Start());
+  }
+}
+
+TEST_CASE("A second copy hands over to the first, or goes on when that has no window") {
+  for (const bool hasWindow : {true, false}) {
+    Computer computer;
+    computer.UsedBefore();
+    computer.Services.System.Previous = true;
+    computer.Services.System.PreviousHasWindow = hasWindow;
+    CHECK(computer.Start() != hasWindow);
+    std::vector<std::wstring> calls{L"title Vantor Orbel", L"title BypassThisInstance", L"activate Vantor Orbel"};
+    if (!hasWindow) calls.emplace_back(L"title Vantor Orbel");
+    CHECK(computer.Services.System.Calls == calls);
+  }
+}
+
+TEST_CASE("A first run on a medium makes its data; removable is what is not known to be fixed") {
+  for (const int driveType : {1, 5, 9}) {
+    Computer computer;
+    computer.RunFrom(L'E', driveType);
+    computer.Expect(L"Ada\r");
+    computer.Expect();
+    REQUIRE(computer.Start());
+    CHECK(computer.Started.Environment.RunMode);
+    CHECK(computer.Started.Environment.MachineUnknown);
+    CHECK_FALSE(computer.Started.Environment.MachineRemembered);
+    CHECK(computer.Bytes(L"E:\\Tools\\Vantor\\MediaSet.Orbel") == ReadyMedia);
+    CHECK(computer.Bytes(L"E:\\Tools\\Vantor\\Set.Orbel") == FirstSettings);
+    CHECK(computer.Services.Disk.In(L"E:\\Tools\\Vantor").size() == 2);
+  }
+}
+
+TEST_CASE("A medium is used, or refused, by the state it was left in") {
+  const struct {
+    std::string MediaSet;
+    std::wstring_view Text;  // of the refusal
+  } cases[] = {
+      {ReadyMedia, L""},
+      {"\"Vantor Media 1\"\r\n\"Setup\"\r\n\"\"\r\n", L"To run this Program from a Removable Media there"},
+      {"\"Vantor Media 1\"\r\n", L"To run the Program from this Media"},
+      {"\"Vantor Media 2\"\r\n\"Ready\"\r\n\"Ada\"\r\n", L"To run the Program from this Media"},
+      {"\"Vantor Media 1\"\r\n\"Done\"\r\n\"Ada\"\r\n", L"To run the Program from this Media"},
+  };
+  for (const auto& c : cases) {
+    Computer computer;
+    computer.RunFrom(L'f', 1);
+    computer.Services.Disk.AddDrive(L'F', 1);
+    computer.Services.Disk.AddFile(L"F:\\Tools\\Vantor\\MediaSet.Orbel", c.MediaSet);
+    if (!c.Text.empty()) computer.Expect();
+    CHECK(computer.Start() == c.Text.empty());
+    if (c.Text.empty()) CHECK(computer.Started.MessageState.UserName == L"Ada");
+    else CHECK(computer.Told.at(0).starts_with(c.Text));
+    CHECK(computer.Started.Environment.MediaDriveLetter == L"F");
+    CHECK(computer.Services.Disk.Written.empty());
+  }
+}
+
+TEST_CASE("A first run that can't write is refused, and told apart from a medium in use at the next start") {
+  for (int writes = 0; writes < 4; ++writes) {
+    Computer computer;
+    computer.RunFrom(L'E', 1);
+    computer.Services.Disk.FailWritesAfter(writes);
+    computer.Expect();
+    CHECK_FALSE(computer.Start());
+    CHECK(computer.Told.at(0).starts_with(L"There was problem writing Data"));
+
+    Computer next;
+    next.Services.Disk = computer.Services.Disk;
+    next.Services.System.Program = L"E:\\Tools";
+    next.Services.Disk.FailNoWrites();
+    const bool triesAgain = writes < 2;  // the folder is missing or empty
+    if (triesAgain) next.Expect(L"Ada\r");
+    next.Expect();
+    CHECK(next.Start() == triesAgain);
+    if (!triesAgain) CHECK(next.Told.at(0).starts_with(L"To run this Program from a Removable Media there"));
+  }
+}
+
+TEST_CASE("A medium with data but without its own settings must be set up anew") {
+  Computer computer;
+  computer.RunFrom(L'E', 1);
+  computer.Services.Disk.AddFile(L"E:\\Tools\\Vantor\\ListWeb.Orbel", "");
+  computer.Expect();
+  CHECK_FALSE(computer.Start());
+  CHECK(computer.Told.at(0).starts_with(L"To run the Program from this Media"));
+}
+
+TEST_CASE("An error during the start is asked about, and a start without a bar ends") {
+  struct Broken : fake::FakeServices {
+    struct : service::Management {
+      std::optional<service::DiskIdentity> ReadDiskIdentity() override { throw 1; }
+    } Thrower;
+  } services;
+  services.Disk.AddDrive(L'E', 1);
+  services.System.Program = L"E:\\";
+  services.Disk.AddFile(L"E:\\Vantor\\MediaSet.Orbel", ReadyMedia);
+  services.Disk.AddFile(L"E:\\Vantor\\Machine.Orbel", "3\r\n\"1A2B3C4D\"\r\n1\r\n");
+  form::Headless ui;
+  const service::Services broken{services.DataFiles,   services.FileSystem,  services.Language, services.Thrower,
+                                 services.Programs,    services.ScriptShell, services.System};
+  Program program(ui, broken);
+  ui.WhenModal([&](form::Form& form) {
+    CHECK(program.MessageState.CurrentMessageKey == L"Bug-Vantor-ActiveStart");
+    form.InputClose();
+  });
+  program.Main();
+  CHECK(ui.Ended());
+  CHECK(ui.ModalScriptsDone());
+}
+
+}  // namespace
+}  // namespace vantor::start
