@@ -69,7 +69,9 @@ std::wstring FileSystem::ExtensionName(std::wstring_view path) {
   try {
     ComText extension;
     Check(Make()->GetExtensionName(MakeComText(path).Get(), extension.Put()));
-    return ToText(extension.Get());
+    std::wstring found = ToText(extension.Get());
+    // Some such objects look for the dot in the whole path.
+    return found.find_first_of(L"\\/") == found.npos ? found : std::wstring();
   } catch (const ComError&) {
     const std::wstring_view name = path.substr(path.find_last_of(L"\\/:") + 1);
     const std::size_t dot = name.rfind(L'.');
