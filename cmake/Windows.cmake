@@ -62,11 +62,11 @@ endif()
 
 # The same contract as natively, here with real windows behind it, and the Windows side's own tests.
 if(VANTOR_WIN32_TEST_SOURCES)
-  set(sources ${VANTOR_CONTRACT_SOURCES} ${VANTOR_WIN32_TEST_SOURCES})
-  add_executable(contract_tests ${VANTOR_TEST_MAIN} ${sources})
+  set(contract_test_sources ${VANTOR_CONTRACT_SOURCES} ${VANTOR_WIN32_TEST_SOURCES})
+  add_executable(contract_tests ${VANTOR_TEST_MAIN} ${contract_test_sources})
   target_link_libraries(contract_tests PRIVATE vantor_win32 vantor_fakes vantor_doctest)
   vantor_add_tests(
-    desktop sources PREFIX "win32/" TIMEOUT 300
+    desktop contract_test_sources PREFIX "win32/" TIMEOUT 300
     RUNNER ${on_desktop} COMMAND $<TARGET_FILE:contract_tests>)
 endif()
 
