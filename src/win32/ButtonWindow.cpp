@@ -51,8 +51,8 @@ void ButtonWindow::Refresh() {
 void ButtonWindow::Show(form::Property property) {
   if (property == form::Property::Picture) {
     const WPARAM style = HasPictures() ? BS_OWNERDRAW : BS_PUSHBUTTON;
-    if ((GetWindowLongPtrW(Handle(), GWL_STYLE) & BS_TYPEMASK) != static_cast<LONG_PTR>(style)) {
-      SendMessageW(Handle(), BM_SETSTYLE, style, FALSE);
+    if ((GetWindowLongPtrW(Hwnd(), GWL_STYLE) & BS_TYPEMASK) != static_cast<LONG_PTR>(style)) {
+      SendMessageW(Hwnd(), BM_SETSTYLE, style, FALSE);
     }
   } else {
     ShowName();
@@ -104,7 +104,7 @@ void ButtonWindow::SetHot(bool hot) {
   if (hot_ == hot) return;
   hot_ = hot;
   if (hot_) {
-    TRACKMOUSEEVENT track{sizeof track, TME_LEAVE, Handle(), 0};
+    TRACKMOUSEEVENT track{sizeof track, TME_LEAVE, Hwnd(), 0};
     TrackMouseEvent(&track);
   }
   if (HasPictures()) Redraw();

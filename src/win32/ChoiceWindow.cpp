@@ -22,7 +22,7 @@ void ChoiceWindow::Show(form::Property property) {
     for (std::size_t at = text.find(L'&'); at != std::wstring::npos; at = text.find(L'&', at + 2)) text.insert(at, 1, L'&');
     ShowWindowText(text);
   } else if (property == form::Property::Value) {
-    SendMessageW(Handle(), BM_SETCHECK, Value() ? BST_CHECKED : BST_UNCHECKED, 0);
+    SendMessageW(Hwnd(), BM_SETCHECK, Value() ? BST_CHECKED : BST_UNCHECKED, 0);
   }
 }
 

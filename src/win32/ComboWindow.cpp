@@ -42,12 +42,12 @@ void ComboWindow::Place() {
   const form::Rect& bounds = Control().Bounds();
   const int dpi = Owner().Dpi();
   const int wanted = Screens::ToPixels(bounds.Height, dpi);
-  const int line = LineHeight(Handle(), Font(), Scale());
+  const int line = LineHeight(Hwnd(), Font(), Scale());
   Default(CB_SETITEMHEIGHT, 0, line);
-  SetWindowPos(Handle(), nullptr, Screens::ToPixels(bounds.Left, dpi), Screens::ToPixels(bounds.Top, dpi),
+  SetWindowPos(Hwnd(), nullptr, Screens::ToPixels(bounds.Left, dpi), Screens::ToPixels(bounds.Top, dpi),
                Screens::ToPixels(bounds.Width, dpi), wanted + ShownLines * line + 2, SWP_NOZORDER | SWP_NOACTIVATE);
   RECT shown;
-  GetWindowRect(Handle(), &shown);
+  GetWindowRect(Hwnd(), &shown);
   const int height = static_cast<int>(Default(CB_GETITEMHEIGHT, static_cast<WPARAM>(-1)));
   const int needed = height + wanted - (shown.bottom - shown.top);
   if (needed > 0 && needed != height) Default(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), needed);
@@ -66,13 +66,13 @@ std::wstring ComboWindow::TipText() const {
   const std::wstring text = list_.Text();
   COMBOBOXINFO info{};
   info.cbSize = sizeof info;
-  if (text.empty() || GetComboBoxInfo(Handle(), &info) == FALSE) return {};
-  const HDC dc = GetDC(Handle());
+  if (text.empty() || GetComboBoxInfo(Hwnd(), &info) == FALSE) return {};
+  const HDC dc = GetDC(Hwnd());
   const HGDIOBJ oldFont = SelectObject(dc, Font());
   SIZE size{};
   GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
   SelectObject(dc, oldFont);
-  ReleaseDC(Handle(), dc);
+  ReleaseDC(Hwnd(), dc);
   // Only what does not fit is told.
   return size.cx > info.rcItem.right - info.rcItem.left - 2 * LineMargin(Scale()) ? text : std::wstring();
 }
@@ -120,7 +120,7 @@ void ComboWindow::FitWidth() {
   std::partial_sort(longest.begin(), longest.begin() + static_cast<std::ptrdiff_t>(count), longest.end(),
                     [](const auto* a, const auto* b) { return a->size() > b->size(); });
   longest.resize(count);
-  const HDC dc = GetDC(Handle());
+  const HDC dc = GetDC(Hwnd());
   const HGDIOBJ oldFont = SelectObject(dc, Font());
   LONG width = 0;
   for (const std::wstring* entry : longest) {
@@ -129,14 +129,14 @@ void ComboWindow::FitWidth() {
     width = std::max(width, size.cx);
   }
   SelectObject(dc, oldFont);
-  ReleaseDC(Handle(), dc);
+  ReleaseDC(Hwnd(), dc);
   MONITORINFO screen{};
   screen.cbSize = sizeof screen;
-  GetMonitorInfoW(MonitorFromWindow(Handle(), MONITOR_DEFAULTTONEAREST), &screen);
+  GetMonitorInfoW(MonitorFromWindow(Hwnd(), MONITOR_DEFAULTTONEAREST), &screen);
   width += 2 * LineMargin(Scale()) + GetSystemMetrics(SM_CXVSCROLL) + 2 * GetSystemMetrics(SM_CXBORDER);
   width = std::min(width, (screen.rcWork.right - screen.rcWork.left) / 2);
   RECT window;
-  GetWindowRect(Handle(), &window);
+  GetWindowRect(Hwnd(), &window);
   Default(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(std::max(width, window.right - window.left)));
 }
 

@@ -22,8 +22,8 @@ constexpr UINT_PTR SubclassId = 1;
 
 HWND ParentOf(const FormWindow& owner, const form::Control& control) {
   const form::Control* const container = control.Container();
-  if (container == nullptr || container->Window() == nullptr) return owner.Handle();
-  return static_cast<const ControlWindow*>(container->Window())->Handle();
+  if (container == nullptr || container->Window() == nullptr) return owner.Hwnd();
+  return static_cast<const ControlWindow*>(container->Window())->Hwnd();
 }
 
 /// The picture that an image shows; None for other controls.
@@ -67,7 +67,7 @@ std::unique_ptr<ControlWindow> ControlWindow::Make(FormWindow& owner, form::Cont
   auto window = make();
   control.AttachWindow(window.get());
   window->Refresh();
-  if (control.Visible()) ShowWindow(window->Handle(), SW_SHOWNA);
+  if (control.Visible()) ShowWindow(window->Hwnd(), SW_SHOWNA);
   return window;
 }
 
@@ -154,7 +154,7 @@ void ControlWindow::Changed(form::Property property) {
 /// The keyboard must not stay with a window that can't take it.
 void ControlWindow::LeaveFocus() const {
   const HWND focus = GetFocus();
-  if (focus == handle_ || IsChild(handle_, focus) != FALSE) ::SetFocus(owner_.Handle());
+  if (focus == handle_ || IsChild(handle_, focus) != FALSE) ::SetFocus(owner_.Hwnd());
 }
 
 void ControlWindow::TakeFocus() {
@@ -230,7 +230,7 @@ void ControlWindow::DrawBackdrop(Canvas& canvas) const {
     const form::Picture picture = PictureOf(*other);
     if (!below || picture == form::Picture::None || other->Window() == nullptr) continue;
     RECT there;
-    GetWindowRect(static_cast<const ControlWindow*>(other->Window())->Handle(), &there);
+    GetWindowRect(static_cast<const ControlWindow*>(other->Window())->Hwnd(), &there);
     DrawPicture(canvas, picture,
                 {double(there.left - here.left), double(there.top - here.top), double(there.right - there.left),
                  double(there.bottom - there.top)},

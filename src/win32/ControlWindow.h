@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -24,8 +25,9 @@ class ControlWindow : public form::ControlWindow {
 
   void Changed(form::Property property) final;
   void TakeFocus() override;
+  [[nodiscard]] std::uintptr_t Handle() const override { return reinterpret_cast<std::uintptr_t>(handle_); }
 
-  [[nodiscard]] HWND Handle() const { return handle_; }
+  [[nodiscard]] HWND Hwnd() const { return handle_; }
   [[nodiscard]] FormWindow& Owner() const { return owner_; }
   [[nodiscard]] form::Control& Control() const { return control_; }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 namespace vantor::win32 {
 
@@ -27,15 +28,16 @@ bool MaySelect(UINT message) {
 
 EditWindow::EditWindow(FormWindow& owner, form::TextBox& box)
     : ControlWindow(owner, box, {L"EDIT", WS_TABSTOP | ES_AUTOHSCROLL}), box_(box) {
-  SendMessageW(Handle(), EM_SETLIMITTEXT, LongestText, 0);
+  SendMessageW(Hwnd(), EM_SETLIMITTEXT, LongestText, 0);
+  SendMessageW(Hwnd(), EM_SETREADONLY, box_.Locked() ? TRUE : FALSE, 0);
 }
 
 void EditWindow::Refresh() {
   ControlWindow::Refresh();
   // The room around the text follows the font.
-  SetWindowPos(Handle(), nullptr, 0, 0, 0, 0,
+  SetWindowPos(Hwnd(), nullptr, 0, 0, 0, 0,
                SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
-  SendMessageW(Handle(), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
+  SendMessageW(Hwnd(), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
   ShowText();
   ShowSelection();
 }
@@ -54,9 +56,9 @@ void EditWindow::ShowText() {
 
 void EditWindow::ShowSelection() {
   showing_ = true;
-  SendMessageW(Handle(), EM_SETSEL, static_cast<WPARAM>(box_.SelStart()),
+  SendMessageW(Hwnd(), EM_SETSEL, static_cast<WPARAM>(box_.SelStart()),
                box_.SelStart() + box_.SelLength());
-  SendMessageW(Handle(), EM_SCROLLCARET, 0, 0);
+  SendMessageW(Hwnd(), EM_SCROLLCARET, 0, 0);
   showing_ = false;
 }
 
@@ -81,16 +83,15 @@ LRESULT EditWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 
 /// Tells the control what the user left in the window. Whatever the control's handlers then do is shown by them.
 void EditWindow::Report() {
+  const bool edited = std::exchange(edited_, false);
   Selection selection;
-  SendMessageW(Handle(), EM_GETSEL, reinterpret_cast<WPARAM>(&selection.Start),
-               reinterpret_cast<LPARAM>(&selection.End));
+  Default(EM_GETSEL, reinterpret_cast<WPARAM>(&selection.Start), reinterpret_cast<LPARAM>(&selection.End));
   const int start = static_cast<int>(selection.Start);
   const int length = static_cast<int>(selection.End - selection.Start);
-  if (!edited_) {
+  if (!edited) {
     if (start != box_.SelStart() || length != box_.SelLength()) box_.InputSelection(start, length);
     return;
   }
-  edited_ = false;
   box_.InputEdited(ShownText(), start, length);
   if (Retired() || box_.Text() == ShownText()) return;
   // The control would not have it.
@@ -99,8 +100,8 @@ void EditWindow::Report() {
 }
 
 std::wstring EditWindow::ShownText() const {
-  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(Handle())), L'\0');
-  GetWindowTextW(Handle(), text.data(), static_cast<int>(text.size()) + 1);
+  std::wstring text(static_cast<std::size_t>(Default(WM_GETTEXTLENGTH)), L'\0');
+  Default(WM_GETTEXT, text.size() + 1, reinterpret_cast<LPARAM>(text.data()));
   return text;
 }
 
@@ -160,7 +161,7 @@ LRESULT EditWindow::OnCharacter(WPARAM character, LPARAM lParam) {
     case CharControlBack:
       return 0;  // the edit would only beep
     case CharSelectAll:
-      return SendMessageW(Handle(), EM_SETSEL, 0, -1);
+      return SendMessageW(Hwnd(), EM_SETSEL, 0, -1);
     default:
       return Default(WM_CHAR, typed, lParam);
   }
@@ -168,12 +169,12 @@ LRESULT EditWindow::OnCharacter(WPARAM character, LPARAM lParam) {
 
 /// Leaves room for the edge, and puts the one line of text in the middle of the height.
 void EditWindow::LayOut(RECT& inside) const {
-  const HDC dc = GetDC(Handle());
+  const HDC dc = GetDC(Hwnd());
   const HGDIOBJ oldFont = SelectObject(dc, Font());
   TEXTMETRICW metrics{};
   GetTextMetricsW(dc, &metrics);
   SelectObject(dc, oldFont);
-  ReleaseDC(Handle(), dc);
+  ReleaseDC(Hwnd(), dc);
   const auto scaled = [&](int pixels) { return static_cast<LONG>(pixels * Scale() + 0.5); };
   const LONG height = inside.bottom - inside.top;
   const LONG line = std::min<LONG>(metrics.tmHeight, std::max<LONG>(height - scaled(2), 0));
@@ -185,23 +186,23 @@ void EditWindow::LayOut(RECT& inside) const {
 
 void EditWindow::PaintEdge() {
   RECT whole;
-  GetWindowRect(Handle(), &whole);
+  GetWindowRect(Hwnd(), &whole);
   RECT inside;
-  GetClientRect(Handle(), &inside);
-  MapWindowPoints(Handle(), nullptr, reinterpret_cast<POINT*>(&inside), 2);
+  GetClientRect(Hwnd(), &inside);
+  MapWindowPoints(Hwnd(), nullptr, reinterpret_cast<POINT*>(&inside), 2);
   OffsetRect(&inside, -whole.left, -whole.top);
   OffsetRect(&whole, -whole.left, -whole.top);
-  const HDC dc = GetWindowDC(Handle());
+  const HDC dc = GetWindowDC(Hwnd());
   ExcludeClipRect(dc, inside.left, inside.top, inside.right, inside.bottom);
   Theme& look = Look();
   const Palette& colors = look.Colors();
-  const bool focused = GetFocus() == Handle();
+  const bool focused = GetFocus() == Hwnd();
   const COLORREF edge = !box_.Enabled() ? colors.Disabled.Edge : focused ? colors.Focus : colors.Line;
   FillRect(dc, &whole, look.Brush(edge));
   const int thickness = std::max(static_cast<int>(Scale()), 1);
   InflateRect(&whole, -thickness, -thickness);
   FillRect(dc, &whole, look.Brush(Ground()));
-  ReleaseDC(Handle(), dc);
+  ReleaseDC(Hwnd(), dc);
 }
 
 }  // namespace vantor::win32

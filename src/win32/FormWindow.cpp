@@ -58,7 +58,7 @@ FormWindow::FormWindow(win32::Desktop& desktop, form::Form& form, bool onTaskbar
                                 form_.Caption().c_str(), styles.Style, place.left, place.top, place.right - place.left,
                                 place.bottom - place.top, desktop_.ApplicationWindow(), nullptr,
                                 GetModuleHandleW(nullptr), nullptr));
-  SetWindowLongPtrW(Handle(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  SetWindowLongPtrW(Hwnd(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   for (form::Control* control : form_.Controls()) {
     if (auto window = ControlWindow::Make(*this, *control)) controls_.push_back(std::move(window));
   }
@@ -80,7 +80,7 @@ FormWindow* FormWindow::From(HWND handle) {
 
 void FormWindow::Retire() {
   retired_ = true;
-  ShowWindow(Handle(), SW_HIDE);
+  ShowWindow(Hwnd(), SW_HIDE);
 }
 
 void FormWindow::Changed(form::Property property) {
@@ -92,14 +92,14 @@ void FormWindow::Changed(form::Property property) {
       ShowVisible();
       break;
     case form::Property::Caption:
-      SetWindowTextW(Handle(), form_.Caption().c_str());
+      SetWindowTextW(Hwnd(), form_.Caption().c_str());
       break;
     case form::Property::Colors:
-      RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+      RedrawWindow(Hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
       break;
     case form::Property::Value:
       if (form_.Visible()) {
-        ShowWindow(Handle(), form_.WindowState() == form::WindowState::Minimized ? SW_MINIMIZE : SW_RESTORE);
+        ShowWindow(Hwnd(), form_.WindowState() == form::WindowState::Minimized ? SW_MINIMIZE : SW_RESTORE);
       }
       break;
     default:
@@ -109,32 +109,32 @@ void FormWindow::Changed(form::Property property) {
 
 void FormWindow::ShowVisible() {
   if (form_.Visible()) {
-    SetWindowLongPtrW(Handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(desktop_.OwnerFor(*this)));
+    SetWindowLongPtrW(Hwnd(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(desktop_.OwnerFor(*this)));
     Place();
-    SetWindowPos(Handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
+    SetWindowPos(Hwnd(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
     if (form_.WindowState() == form::WindowState::Minimized) {
-      ShowWindow(Handle(), SW_MINIMIZE);
+      ShowWindow(Hwnd(), SW_MINIMIZE);
     } else {
-      SetForegroundWindow(Handle());
-      UpdateWindow(Handle());
+      SetForegroundWindow(Hwnd());
+      UpdateWindow(Hwnd());
     }
     return;
   }
   // Otherwise the system brings another program's window to the front.
-  if (GetActiveWindow() == Handle()) {
-    if (const FormWindow* successor = desktop_.SuccessorOf(*this)) SetActiveWindow(successor->Handle());
+  if (GetActiveWindow() == Hwnd()) {
+    if (const FormWindow* successor = desktop_.SuccessorOf(*this)) SetActiveWindow(successor->Hwnd());
   }
-  ShowWindow(Handle(), SW_HIDE);
+  ShowWindow(Hwnd(), SW_HIDE);
   desktop_.WakeUp();
 }
 
 void FormWindow::ShowEnabled() {
   const form::Form* const modal = desktop_.ModalForm();
-  EnableWindow(Handle(), modal == nullptr || modal == &form_);
+  EnableWindow(Hwnd(), modal == nullptr || modal == &form_);
 }
 
 void FormWindow::SetTopMost(bool topMost) {
-  SetWindowPos(Handle(), topMost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+  SetWindowPos(Hwnd(), topMost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
                SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
@@ -142,20 +142,20 @@ void FormWindow::Drag() {
   // The system has taken the button's release by the time the move ends.
   const DWORD point = GetMessagePos();
   ReleaseCapture();
-  SendMessageA(Handle(), WM_NCLBUTTONDOWN, HTCAPTION, static_cast<LPARAM>(point));
+  SendMessageA(Hwnd(), WM_NCLBUTTONDOWN, HTCAPTION, static_cast<LPARAM>(point));
   if (!retired_) ReportPlace();
 }
 
 void FormWindow::Activate() {
-  if (IsWindowVisible(Handle()) == FALSE || GetActiveWindow() == Handle()) return;
+  if (IsWindowVisible(Hwnd()) == FALSE || GetActiveWindow() == Hwnd()) return;
   // Another program's window that the user works in is left in front.
   DWORD process = 0;
   const HWND foreground = GetForegroundWindow();
   if (foreground != nullptr) GetWindowThreadProcessId(foreground, &process);
   if (process == 0 || process == GetCurrentProcessId()) {
-    SetForegroundWindow(Handle());
+    SetForegroundWindow(Hwnd());
   } else {
-    SetActiveWindow(Handle());
+    SetActiveWindow(Hwnd());
   }
 }
 
@@ -171,21 +171,21 @@ RECT FormWindow::PlaceInPixels() const {
 }
 
 void FormWindow::Place() {
-  if (placing_ || IsIconic(Handle()) != FALSE) return;
+  if (placing_ || IsIconic(Hwnd()) != FALSE) return;
   const RECT place = PlaceInPixels();
   RECT old;
-  GetWindowRect(Handle(), &old);
+  GetWindowRect(Hwnd(), &old);
   if (EqualRect(&place, &old) != FALSE) return;
   placing_ = true;
-  SetWindowPos(Handle(), nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
+  SetWindowPos(Hwnd(), nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                SWP_NOZORDER | SWP_NOACTIVATE);
   placing_ = false;
 }
 
 void FormWindow::ReportPlace() {
-  if (placing_ || !form_.Visible() || IsIconic(Handle()) != FALSE) return;
+  if (placing_ || !form_.Visible() || IsIconic(Hwnd()) != FALSE) return;
   RECT place;
-  GetWindowRect(Handle(), &place);
+  GetWindowRect(Hwnd(), &place);
   const RECT known = PlaceInPixels();
   if (place.left == known.left && place.top == known.top) return;
   form::Rect bounds = Screens::TwipsOf(place);
@@ -196,13 +196,13 @@ void FormWindow::ReportPlace() {
 
 void FormWindow::Refresh() {
   for (const auto& control : controls_) control->Refresh();
-  RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+  RedrawWindow(Hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
 void FormWindow::OnDpiChanged(int dpi, const RECT& suggested) {
   dpi_ = dpi;
   placing_ = true;
-  SetWindowPos(Handle(), nullptr, suggested.left, suggested.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  SetWindowPos(Hwnd(), nullptr, suggested.left, suggested.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   placing_ = false;
   ReportPlace();
   Place();
@@ -301,7 +301,7 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_ERASEBKGND: {
       RECT area;
-      GetClientRect(Handle(), &area);
+      GetClientRect(Hwnd(), &area);
       Theme& look = desktop_.Look();
       FillRect(reinterpret_cast<HDC>(wParam), &area, look.Brush(look.Background(form_.BackColor())));
       return 1;
@@ -348,7 +348,7 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     default:
       break;
   }
-  return DefWindowProcW(Handle(), message, wParam, lParam);
+  return DefWindowProcW(Hwnd(), message, wParam, lParam);
 }
 
 }  // namespace vantor::win32

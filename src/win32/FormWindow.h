@@ -29,7 +29,7 @@ class FormWindow final : public form::FormWindow {
   void Drag() override;
   void Activate() override;
 
-  [[nodiscard]] HWND Handle() const { return handle_.Get(); }
+  [[nodiscard]] HWND Hwnd() const { return handle_.Get(); }
   [[nodiscard]] win32::Desktop& Desktop() const { return desktop_; }
   [[nodiscard]] form::Form& Form() const { return form_; }
   [[nodiscard]] int Dpi() const { return dpi_; }

@@ -24,7 +24,7 @@ ListWindow::ListWindow(FormWindow& owner, form::ListControl& list)
 
 void ListWindow::Refresh() {
   ControlWindow::Refresh();
-  SendMessageW(Handle(), LB_SETITEMHEIGHT, 0, LineHeight(Handle(), Font(), Scale()));
+  SendMessageW(Hwnd(), LB_SETITEMHEIGHT, 0, LineHeight(Hwnd(), Font(), Scale()));
   Fill();
 }
 
@@ -34,29 +34,29 @@ void ListWindow::Show(form::Property property) {
 }
 
 void ListWindow::Fill() {
-  SendMessageW(Handle(), WM_SETREDRAW, FALSE, 0);
-  SendMessageW(Handle(), LB_RESETCONTENT, 0, 0);
+  SendMessageW(Hwnd(), WM_SETREDRAW, FALSE, 0);
+  SendMessageW(Hwnd(), LB_RESETCONTENT, 0, 0);
   const auto& entries = list_.Entries();
   std::size_t bytes = 0;
   for (const std::wstring& entry : entries) bytes += (entry.size() + 1) * sizeof(wchar_t);
-  SendMessageW(Handle(), LB_INITSTORAGE, entries.size(), static_cast<LPARAM>(bytes));
+  SendMessageW(Hwnd(), LB_INITSTORAGE, entries.size(), static_cast<LPARAM>(bytes));
   for (const std::wstring& entry : entries) {
-    SendMessageW(Handle(), LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry.c_str()));
+    SendMessageW(Hwnd(), LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry.c_str()));
   }
   ShowIndex();
-  SendMessageW(Handle(), WM_SETREDRAW, TRUE, 0);
-  RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
+  SendMessageW(Hwnd(), WM_SETREDRAW, TRUE, 0);
+  RedrawWindow(Hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
 }
 
 void ListWindow::ShowIndex() {
-  if (SendMessageW(Handle(), LB_GETCURSEL, 0, 0) != list_.ListIndex()) {
-    SendMessageW(Handle(), LB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()), 0);
+  if (SendMessageW(Hwnd(), LB_GETCURSEL, 0, 0) != list_.ListIndex()) {
+    SendMessageW(Hwnd(), LB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()), 0);
   }
 }
 
 void ListWindow::OnCommand(WORD notification) {
   if (notification == LBN_SELCHANGE) {
-    list_.InputSelect(static_cast<int>(SendMessageW(Handle(), LB_GETCURSEL, 0, 0)));
+    list_.InputSelect(static_cast<int>(SendMessageW(Hwnd(), LB_GETCURSEL, 0, 0)));
   } else if (notification == LBN_DBLCLK) {
     list_.InputDblClick();
   }

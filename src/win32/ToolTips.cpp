@@ -21,14 +21,14 @@ void ToolTips::Relay(const MSG& message) {
     const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_BAR_CLASSES};
     InitCommonControlsEx(&classes);
     window_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
-                              CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, owner_.Handle(), nullptr,
+                              CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, owner_.Hwnd(), nullptr,
                               nullptr, nullptr);
     SendMessageW(window_, TTM_SETMAXTIPWIDTH, 0, MulDiv(MaximumWidth, owner_.Dpi(), 96));
   }
   TTTOOLINFOW tool{};
   tool.cbSize = TTTOOLINFOW_V2_SIZE;
   tool.uFlags = TTF_IDISHWND;
-  tool.hwnd = owner_.Handle();
+  tool.hwnd = owner_.Hwnd();
   tool.uId = reinterpret_cast<UINT_PTR>(message.hwnd);
   if (SendMessageW(window_, TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&tool)) == FALSE) {
     tool.lpszText = LPSTR_TEXTCALLBACKW;

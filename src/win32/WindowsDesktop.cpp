@@ -182,8 +182,8 @@ void Desktop::Discard(std::unique_ptr<form::FormWindow> window) {
   if (active_ == gone.get()) active_ = nullptr;
   // Windows destroys what a window owns along with it.
   for (FormWindow* other : windows_) {
-    if (GetWindow(other->Handle(), GW_OWNER) == gone->Handle()) {
-      SetWindowLongPtrW(other->Handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(application_.Get()));
+    if (GetWindow(other->Hwnd(), GW_OWNER) == gone->Hwnd()) {
+      SetWindowLongPtrW(other->Hwnd(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(application_.Get()));
     }
   }
   gone->Retire();
@@ -210,16 +210,16 @@ HWND Desktop::OwnerFor(const FormWindow& window) const {
   const FormWindow* owner = main_;
   if (ModalForm() == &window.Form() && active_ != nullptr && active_ != &window) owner = active_;
   // What a minimised or hidden window owns can't be seen.
-  const bool useful = owner != nullptr && IsWindowVisible(owner->Handle()) != FALSE && IsIconic(owner->Handle()) == FALSE;
-  return useful ? owner->Handle() : application_.Get();
+  const bool useful = owner != nullptr && IsWindowVisible(owner->Hwnd()) != FALSE && IsIconic(owner->Hwnd()) == FALSE;
+  return useful ? owner->Hwnd() : application_.Get();
 }
 
 FormWindow* Desktop::SuccessorOf(const FormWindow& window) const {
   const auto suits = [&](const FormWindow* other) {
-    return other != nullptr && other != &window && IsWindowVisible(other->Handle()) != FALSE &&
-           IsWindowEnabled(other->Handle()) != FALSE && IsIconic(other->Handle()) == FALSE;
+    return other != nullptr && other != &window && IsWindowVisible(other->Hwnd()) != FALSE &&
+           IsWindowEnabled(other->Hwnd()) != FALSE && IsIconic(other->Hwnd()) == FALSE;
   };
-  FormWindow* const owner = FormWindow::From(GetWindow(window.Handle(), GW_OWNER));
+  FormWindow* const owner = FormWindow::From(GetWindow(window.Hwnd(), GW_OWNER));
   if (suits(owner)) return owner;
   const auto found = std::find_if(windows_.rbegin(), windows_.rend(), suits);
   return found != windows_.rend() ? *found : nullptr;
