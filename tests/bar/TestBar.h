@@ -57,7 +57,7 @@ struct TestBar {
   void ExpectMessage() {
     Desktop.WhenModal([this](form::Form& dialog) {
       Shown.push_back(MessageState.MessageBody);
-      dialog.Hide();
+      dialog.InputClose();
     });
   }
   std::vector<std::wstring> Shown;
