@@ -17,11 +17,7 @@ class Headless::Window : public FormWindow {
  public:
   Window(Headless& desktop, Form& form) : desktop_(desktop), form_(form) {}
 
-  void Changed(Property property) override {
-    if (property == Property::Visible && !form_.Visible() && desktop_.activeForm_ == &form_) {
-      desktop_.activeForm_ = nullptr;
-    }
-  }
+  void Changed(Property /*property*/) override {}
   void SetTopMost(bool /*topMost*/) override {}
   void Drag() override {
     Rect bounds = form_.Bounds();
@@ -29,7 +25,10 @@ class Headless::Window : public FormWindow {
     bounds.Top += std::exchange(desktop_.dragY_, 0);
     form_.InputMoved(bounds);
   }
-  void Activate() override { desktop_.activeForm_ = &form_; }
+  void Activate() override {
+    desktop_.FormGone(form_);
+    desktop_.activated_.push_back(&form_);
+  }
 
  private:
   Headless& desktop_;
@@ -46,8 +45,8 @@ Headless::~Headless() = default;
 void Headless::Advance(int milliseconds) {
   const long long end = now_ + milliseconds;
   while (!Ended()) {
-    const auto next = std::min_element(timers_.begin(), timers_.end(),
-                                       [](const auto& a, const auto& b) { return a.Due < b.Due; });
+    const auto next =
+        std::min_element(timers_.begin(), timers_.end(), [](const auto& a, const auto& b) { return a.Due < b.Due; });
     if (next == timers_.end() || next->Due > end) break;
     now_ = next->Due;
     next->Due += next->Timer->Interval();
@@ -58,7 +57,12 @@ void Headless::Advance(int milliseconds) {
 
 void Headless::WhenModal(std::function<void(Form&)> script) { modalScripts_.push_back(std::move(script)); }
 
-Form* Headless::ActiveForm() const { return ModalForm() != nullptr ? ModalForm() : activeForm_; }
+Form* Headless::ActiveForm() const {
+  if (ModalForm() != nullptr) return ModalForm();
+  const auto active =
+      std::find_if(activated_.rbegin(), activated_.rend(), [](const Form* form) { return form->Visible(); });
+  return active != activated_.rend() ? *active : nullptr;
+}
 
 void Headless::Type(std::wstring_view text) {
   for (const wchar_t character : text) TypeCharacter(character);
@@ -112,7 +116,8 @@ void Headless::Press(Key key) {
     if (form != nullptr && form->AcceptsInput()) form->MoveFocus(false);
   } else if (key == Key::Back || key == Key::Enter || key == Key::Escape || key == Key::Space) {
     TypeCharacter(static_cast<wchar_t>(key));
-  } else if (auto* list = dynamic_cast<ListControl*>(control); list != nullptr && (key == Key::Up || key == Key::Down)) {
+  } else if (auto* list = dynamic_cast<ListControl*>(control);
+             list != nullptr && (key == Key::Up || key == Key::Down)) {
     list->InputSelect(std::clamp(list->ListIndex() + (key == Key::Down ? 1 : -1), std::min(0, list->ListCount() - 1),
                                  list->ListCount() - 1));
   }
@@ -203,8 +208,6 @@ std::unique_ptr<FormWindow> Headless::MakeWindow(Form& form) { return std::make_
 
 void Headless::Discard(std::unique_ptr<FormWindow> window) { window.reset(); }
 
-void Headless::FormGone(Form& form) {
-  if (activeForm_ == &form) activeForm_ = nullptr;
-}
+void Headless::FormGone(Form& form) { std::erase(activated_, &form); }
 
 }  // namespace vantor::form

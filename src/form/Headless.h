@@ -30,7 +30,7 @@ class Headless : public UserInterface {
   /// Whether all scripts have been used.
   [[nodiscard]] bool ModalScriptsDone() const { return modalScripts_.empty(); }
 
-  /// The form that has the focus: the modal one, else the one activated or shown last.
+  /// The form that has the focus: the modal one, else the one activated or shown last that is still shown.
   [[nodiscard]] Form* ActiveForm() const;
 
   // The user's hands.
@@ -70,7 +70,7 @@ class Headless : public UserInterface {
   void TypeCharacter(wchar_t character);
 
   std::vector<RunningTimer> timers_;
-  Form* activeForm_ = nullptr;
+  std::vector<Form*> activated_;  // the last one most recently; a hidden form gives way to the one before
   Twips dragX_ = 0;
   Twips dragY_ = 0;
   std::deque<std::function<void(Form&)>> modalScripts_;
