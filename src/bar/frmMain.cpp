@@ -31,12 +31,9 @@ constexpr std::int16_t IdleTicksBeforeName = 60;
 constexpr std::size_t MenusBeforeText = 4;
 
 constexpr std::array<std::wstring_view, frmMain::MenuCount> MenuTips{
-    L"Show | Hide Add To List---F2",
-    L"Show | Hide Open---F3",
-    L"Show | Hide Open From List---F4",
-    L"Show | Hide Run (Orbel's Program)---F5",
-    L"Show | Hide Preferences---F6",
-    L"Show | Hide Help---F7",
+    L"Show | Hide Add To List---F2",    L"Show | Hide Open---F3",
+    L"Show | Hide Open From List---F4", L"Show | Hide Run (Orbel's Program)---F5",
+    L"Show | Hide Preferences---F6",    L"Show | Hide Help---F7",
     L"Show | Hide Code List---F8",
 };
 
@@ -77,9 +74,9 @@ void frmMain::NameControls() {
   }
   CommandMin.SetTabIndex(tabIndex++);
   CommandExit.SetTabIndex(tabIndex++);
-  for (form::Control* control : {static_cast<form::Control*>(&Web.TextWebUrl),
-                                 static_cast<form::Control*>(&Web.TextWebName),
-                                 static_cast<form::Control*>(&Web.CommandAddWeb)}) {
+  for (form::Control* control :
+       {static_cast<form::Control*>(&Web.TextWebUrl), static_cast<form::Control*>(&Web.TextWebName),
+        static_cast<form::Control*>(&Web.CommandAddWeb)}) {
     control->SetTabIndex(tabIndex++);
   }
 }

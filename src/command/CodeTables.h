@@ -12,9 +12,8 @@ namespace vantor::command {
 
 /// Also the names by which the scripting shell knows the folders.
 inline constexpr std::array<std::wstring_view, 16> SpecialFolderNames{
-    L"AllUsersDesktop", L"AllUsersStartMenu", L"AllUsersPrograms", L"AllUsersStartup",
-    L"Desktop",         L"Favorites",         L"Fonts",            L"MyDocuments",
-    L"NetHood",         L"PrintHood",         L"Programs",         L"Recent",
+    L"AllUsersDesktop", L"AllUsersStartMenu", L"AllUsersPrograms", L"AllUsersStartup", L"Desktop",  L"Favorites",
+    L"Fonts",           L"MyDocuments",       L"NetHood",          L"PrintHood",       L"Programs", L"Recent",
     L"SendTo",          L"StartMenu",         L"Startup",          L"Templates",
 };
 

@@ -88,8 +88,8 @@ void CommandLine::SendMakerMail(std::size_t index) {
 }
 
 void CommandLine::StartTyped(const CommandCode& code, std::wstring_view argument) {
-  const std::wstring word = code.Argument == Argument::SpecialFolder ? GetSpecialFolderPath(services_, argument)
-                                                                     : std::wstring(argument);
+  const std::wstring word =
+      code.Argument == Argument::SpecialFolder ? GetSpecialFolderPath(services_, argument) : std::wstring(argument);
   messages_.ShowList(Start(code.Starter, std::wstring(code.Before).append(word).append(code.After)));
 }
 

@@ -26,8 +26,7 @@ class CommandLine {
  public:
   /// All but the services are kept by reference.
   CommandLine(form::TextBox& textMain, const list::LaunchList& list, CommandState& state, const Starters& starters,
-              message::Messages& messages, const service::Services& services,
-              const start::Environment& environment);
+              message::Messages& messages, const service::Services& services, const start::Environment& environment);
 
   CommandLineHooks Hooks;
 

@@ -16,8 +16,8 @@ constexpr std::array<Number, 7> NumbersBeforeFolder{
     &Settings::OptionMask, &Settings::FileUpper, &Settings::FoldUpper, &Settings::ProgUpper,
     &Settings::WebUpper,   &Settings::Left,      &Settings::Top,
 };
-constexpr std::array<Number, 3> NumbersAfterFolder{
-    &Settings::MachineFileUpper, &Settings::MachineFoldUpper, &Settings::MachineProgUpper};
+constexpr std::array<Number, 3> NumbersAfterFolder{&Settings::MachineFileUpper, &Settings::MachineFoldUpper,
+                                                   &Settings::MachineProgUpper};
 
 template <std::size_t Count>
 bool ReadNumbers(text::SequentialReader& reader, const std::array<Number, Count>& numbers, Settings& settings) {

@@ -99,8 +99,8 @@ TEST_CASE("a saved place that no screen shows is brought back") {
     int Left, Top;
     bool Moves;
   };
-  for (const Row row : {Row{30000, 0, true}, Row{-30000, 0, true}, Row{0, 20000, true}, Row{-60, 0, false},
-                        Row{14000, 0, false}}) {
+  for (const Row row :
+       {Row{30000, 0, true}, Row{-30000, 0, true}, Row{0, 20000, true}, Row{-60, 0, false}, Row{14000, 0, false}}) {
     TestBar bar;
     bar.Settings.Left = static_cast<std::int16_t>(row.Left);
     bar.Settings.Top = static_cast<std::int16_t>(row.Top);

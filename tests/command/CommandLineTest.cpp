@@ -79,8 +79,7 @@ TEST_CASE("a Control Panel word starts its page and stays in the line") {
     bar.State.BackspaceFlag = true;  // no completion, so that the word stays as typed
     bar.Main.TextMain.SetText(line);
     bar.Desktop.Type(L"\r");
-    const Starts expected =
-        entry.Word == L"Fonts" ? Starts{} : Starts{L"run " + std::wstring(entry.CommandLine)};
+    const Starts expected = entry.Word == L"Fonts" ? Starts{} : Starts{L"run " + std::wstring(entry.CommandLine)};
     CHECK(bar.TakeStarts() == expected);
     CHECK(bar.Main.TextMain.Text() == line);
   }
@@ -157,7 +156,8 @@ TEST_CASE("a mail link is put together from what is given") {
   CHECK(starters.SendMailTo(L"MailTo:a@b", L"", L"") == L"");
   CHECK(starters.SendMailTo(L"mail", L"", L"x & y") == L"");
   CHECK(starters.SendMailTo(L"a@b", L"s t", L"x") == L"");
-  CHECK(fakes.Programs.ShellOpened == Starts{L"MailTo:a@b", L"mailto:mail?body=x & y", L"mailto:a@b?subject=s t&body=x"});
+  CHECK(fakes.Programs.ShellOpened ==
+        Starts{L"MailTo:a@b", L"mailto:mail?body=x & y", L"mailto:a@b?subject=s t&body=x"});
 }
 
 TEST_CASE("Escape minimises, and Backspace undoes a completion") {

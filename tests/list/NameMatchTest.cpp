@@ -12,7 +12,8 @@ TEST_CASE("names are listed regardless of letter case, paths only when identical
   form::Form form(desktop, L"frmTest");
   form::ComboBox box(form, L"Combo");
   CHECK(list::CheckNameListed(language, L"", box).empty());
-  for (const wchar_t* entry : {L"Editor", L"\u00C9t\u00E9", L"\u041F\u0440\u043E\u0435\u043A\u0442"}) box.AddItem(entry);
+  for (const wchar_t* entry : {L"Editor", L"\u00C9t\u00E9", L"\u041F\u0440\u043E\u0435\u043A\u0442"})
+    box.AddItem(entry);
   for (const wchar_t* name : {L"EDITOR", L"editor", L"\u00E9T\u00C9", L"\u043F\u0420\u043E\u0435\u043A\u0442"}) {
     CHECK(list::CheckNameListed(language, name, box) == L"MessageNameAlreadyListed");
   }
