@@ -31,8 +31,7 @@ bool MachineMatches(const service::Services& services, message::Messages& messag
   return same.value_or(false);
 }
 
-void IdentifyMachine(const service::Services& services, message::Messages& messages,
-                     start::Environment& environment) {
+void IdentifyMachine(const service::Services& services, message::Messages& messages, start::Environment& environment) {
   environment.MachineUnknown = !services.FileSystem.FileExists(environment.Files.Machine);
   environment.MachineRemembered =
       !environment.MachineUnknown && MachineMatches(services, messages, environment.Files.Machine);

@@ -14,7 +14,6 @@ namespace vantor::add {
                                   std::wstring_view path);
 
 /// Part of the start in removable-media mode: sets MachineUnknown and MachineRemembered.
-void IdentifyMachine(const service::Services& services, message::Messages& messages,
-                     start::Environment& environment);
+void IdentifyMachine(const service::Services& services, message::Messages& messages, start::Environment& environment);
 
 }  // namespace vantor::add

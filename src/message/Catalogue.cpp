@@ -21,8 +21,7 @@ constexpr CatalogueEntry Catalogue[] = {
     {Selector::User, L"MessageChangeUserName",
      L"To change your user name please type the new name in the above box. Please use only alphabets.",
      L"New Name Please", L"Cancel", L"Input0"},
-    {Selector::User, L"MessageMustChoosePicture",
-     L"To change your picture you must choose a Picture file first."},
+    {Selector::User, L"MessageMustChoosePicture", L"To change your picture you must choose a Picture file first."},
     {Selector::User, L"MessageIncorrectPicture",
      L"Selected file either not a Picture file, or not a type of file that this Program can Support. Try a .jpg or "
      L".bmp file please."},
@@ -128,9 +127,8 @@ const CatalogueEntry* FindMessage(Selector selector, std::wstring_view key) {
 std::wstring ExpandText(std::wstring_view text, bool companionsPresent) {
   const std::wstring_view companions =
       companionsPresent ? L"" : L"Since you don't have any more Orbel's program #5 button is not visible.";
-  return Replace(text, {{L"{site}", product::MakerSite},
-                        {L"{contact}", product::ContactAddress},
-                        {L"{companions}", companions}});
+  return Replace(
+      text, {{L"{site}", product::MakerSite}, {L"{contact}", product::ContactAddress}, {L"{companions}", companions}});
 }
 
 std::wstring BugReportText(std::wstring_view bugKey) {

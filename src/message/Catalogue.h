@@ -12,10 +12,10 @@ enum class Selector { User, Stop, List };
 struct CatalogueEntry {
   message::Selector Selector;
   std::wstring_view Key;
-  std::wstring_view Text;           // with words in braces, which ExpandText replaces
-  std::wstring_view Title = L"";    // "" stands for the user's name
+  std::wstring_view Text;   // with words in braces, which ExpandText replaces
+  std::wstring_view Title;  // "" stands for the user's name
   std::wstring_view Buttons = L"OK";
-  std::wstring_view Inputs = L"";
+  std::wstring_view Inputs;
 };
 
 /// The message of this key, if the selector holds it; else null.

@@ -122,8 +122,10 @@ void Messages::OpenMessageDialog(std::wstring_view title, std::wstring_view body
   }
   switch (dialog.Answer()) {
     case Answer::Accepted:
-      if (endAfter) ui_.End();
-      else AcceptMessageDialog(key, dialog.TextInput0.Text(), reportBug);
+      if (endAfter)
+        ui_.End();
+      else
+        AcceptMessageDialog(key, dialog.TextInput0.Text(), reportBug);
       return;
     case Answer::Cancelled:
       CloseMessageDialog(key);

@@ -32,8 +32,8 @@ struct ButtonSet {
 };
 
 constexpr ButtonSet ButtonSets[] = {
-    {L"OK", true, false, L"OK", L"Cancel"},      {L"Cancel", false, true, L"OK", L"Cancel"},
-    {L"OKCancel", true, true, L"OK", L"Cancel"}, {L"YesNo", true, true, L"Yes", L"No"},
+    {L"OK", true, false, L"OK", L"Cancel"},        {L"Cancel", false, true, L"OK", L"Cancel"},
+    {L"OKCancel", true, true, L"OK", L"Cancel"},   {L"YesNo", true, true, L"Yes", L"No"},
     {L"TimerStart", false, false, L"", L"", true},
 };
 
@@ -65,11 +65,9 @@ frmMessage::frmMessage(form::UserInterface& ui) : Form(ui, L"frmMessage") {
   LabelMessage.SetForeColor(form::Color::WindowText);
   LabelHead.SetForeColor(form::Color::WindowText);
   LabelHead.SetBold(true);
-  for (int index = 0; form::Control* control :
-       {static_cast<form::Control*>(&CommandOK), static_cast<form::Control*>(&CommandCancel),
-        static_cast<form::Control*>(&CheckDoNotShow), static_cast<form::Control*>(&TextInput0)}) {
-    control->SetTabIndex(++index);
-  }
+  CommandOK.SetTabIndex(1);
+  CommandCancel.SetTabIndex(2);
+  CheckDoNotShow.SetTabIndex(3);
 
   CommandOK.Click = [this] { Leave(Answer::Accepted); };
   CommandCancel.Click = [this] { Leave(Answer::Cancelled); };
@@ -151,8 +149,10 @@ void frmMessage::TextInput0_KeyPress(wchar_t& character) {
 }
 
 void frmMessage::Dismiss() {
-  if (CommandCancel.Enabled()) Leave(Answer::Cancelled);
-  else if (CommandOK.Enabled()) Leave(Answer::Accepted);
+  if (CommandCancel.Enabled())
+    Leave(Answer::Cancelled);
+  else if (CommandOK.Enabled())
+    Leave(Answer::Accepted);
 }
 
 void frmMessage::Leave(message::Answer answer) {

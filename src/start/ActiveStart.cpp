@@ -35,8 +35,10 @@ void ActiveStart::FindPreviousInstance() {
   system.SetTitle(ApplicationTitle);
   if (!system.PreviousInstance()) return;
   system.SetTitle(TitleMeanwhile);
-  if (system.ActivateInstance(ApplicationTitle)) program_.Ui.End();
-  else system.SetTitle(ApplicationTitle);
+  if (system.ActivateInstance(ApplicationTitle))
+    program_.Ui.End();
+  else
+    system.SetTitle(ApplicationTitle);
 }
 
 void ActiveStart::FindPlaces() {

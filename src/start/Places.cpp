@@ -25,7 +25,8 @@ std::wstring DriveRootOf(std::wstring_view folder) {
   // The root of \\server\share\tools\ is \\server\share\ .
   const int backslashes = folder.starts_with(L"\\\\") ? 4 : 1;
   std::size_t end = 0;
-  for (int i = 0; i < backslashes && end < folder.size(); ++i) end = std::min(folder.find(L'\\', end), folder.size() - 1) + 1;
+  for (int i = 0; i < backslashes && end < folder.size(); ++i)
+    end = std::min(folder.find(L'\\', end), folder.size() - 1) + 1;
   return std::wstring(folder.substr(0, end));
 }
 

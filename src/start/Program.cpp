@@ -11,8 +11,10 @@ Program::Program(form::UserInterface& ui, const service::Services& services) : U
 
 void Program::Main() {
   Messages.Trap(L"ActiveStart", [this] { ActiveStart(*this).Run(); });
-  if (frmMain.Visible()) Ui.Run();
-  else Ui.End();
+  if (frmMain.Visible())
+    Ui.Run();
+  else
+    Ui.End();
 }
 
 void Program::ConnectMessages() {

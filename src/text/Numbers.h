@@ -1,8 +1,8 @@
 #pragma once
 
 #include <cstdint>
-#include <string_view>
 #include <optional>
+#include <string_view>
 
 namespace vantor::text {
 

@@ -137,8 +137,10 @@ std::wstring_view SequentialReader::TakeToDelimiter() {
   const auto end = std::find_if(rest_.begin(), rest_.end(), IsDelimiter);
   const std::wstring_view taken = rest_.substr(0, static_cast<std::size_t>(end - rest_.begin()));
   rest_.remove_prefix(taken.size());
-  if (rest_.starts_with(L"\r\n")) rest_.remove_prefix(2);
-  else if (!rest_.empty()) rest_.remove_prefix(1);
+  if (rest_.starts_with(L"\r\n"))
+    rest_.remove_prefix(2);
+  else if (!rest_.empty())
+    rest_.remove_prefix(1);
   return taken;
 }
 

@@ -74,7 +74,7 @@ class SequentialReader {
                                                        std::wstring_view path);
 /// Replaces a data file, in the ANSI code page if that holds every character, else as UTF-8 with a byte-order
 /// mark. False when it could not be written.
-[[nodiscard]] bool WriteTextFile(service::DataFiles& files, const service::Language& language,
-                                 std::wstring_view path, const SequentialWriter& writer);
+[[nodiscard]] bool WriteTextFile(service::DataFiles& files, const service::Language& language, std::wstring_view path,
+                                 const SequentialWriter& writer);
 
 }  // namespace vantor::text

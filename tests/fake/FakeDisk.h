@@ -15,8 +15,8 @@ class FakeDisk {
   struct DriveState {
     int Type = 2;
     std::wstring Label;
-    bool Ready = true;         // otherwise nothing on it can be seen
-    bool Examinable = true;    // otherwise asking for its type fails
+    bool Ready = true;       // otherwise nothing on it can be seen
+    bool Examinable = true;  // otherwise asking for its type fails
     bool WriteProtected = false;
   };
   struct Entry {

@@ -41,7 +41,9 @@ struct Desk {
   }
   [[nodiscard]] bool SlotsEmpty() const {
     return (State.CurrentMessageKey + State.CurrentMessageText + State.MessageTitle + State.MessageBody +
-            State.MessageButtons + State.MessageInputs).empty() && !State.BugReportPending;
+            State.MessageButtons + State.MessageInputs)
+               .empty() &&
+           !State.BugReportPending;
   }
 };
 
@@ -50,7 +52,8 @@ void Escape(Desk& desk) { desk.Ui.Press(form::Key::Escape); }
 TEST_CASE("A message addresses the user, pauses the bar, and leaves nothing behind") {
   const struct {
     std::wstring Name, Caption, Head;
-  } cases[] = {{L"", L"myMessage", L"myFriend"}, {L"myFriend", L"myMessage", L"myFriend"},
+  } cases[] = {{L"", L"myMessage", L"myFriend"},
+               {L"myFriend", L"myMessage", L"myFriend"},
                {L"Ada", L"Message For - Ada", L"Ada"}};
   for (const auto& c : cases) {
     Desk desk;
@@ -99,9 +102,12 @@ TEST_CASE("The name prompt takes letters, and every answer to it is stored as it
     std::wstring Key, Typed, Name;
     bool Saved;
   } cases[] = {
-      {L"MessageGetUserName", L"J0 o\u00F6-h\bhn\r", L"John", true}, {L"MessageGetUserName", L"\r", L"myFriend", true},
-      {L"MessageGetUserName", L"Bob\x1b", L"myFriend", true},         {L"MessageChangeUserName", L"Eve\r", L"Eve", true},
-      {L"MessageChangeUserName", L"\r", L"Old", false},               {L"MessageChangeUserName", L"X\x1b", L"Old", false},
+      {L"MessageGetUserName", L"J0 o\u00F6-h\bhn\r", L"John", true},
+      {L"MessageGetUserName", L"\r", L"myFriend", true},
+      {L"MessageGetUserName", L"Bob\x1b", L"myFriend", true},
+      {L"MessageChangeUserName", L"Eve\r", L"Eve", true},
+      {L"MessageChangeUserName", L"\r", L"Old", false},
+      {L"MessageChangeUserName", L"X\x1b", L"Old", false},
   };
   for (const auto& c : cases) {
     Desk desk;
@@ -109,8 +115,10 @@ TEST_CASE("The name prompt takes letters, and every answer to it is stored as it
     desk.Expect([&](frmMessage& form) {
       CHECK(form.TextInput0.HasFocus());
       for (const wchar_t character : c.Typed) {
-        if (character == form::CharEscape) Escape(desk);
-        else desk.Ui.Type(std::wstring(1, character));
+        if (character == form::CharEscape)
+          Escape(desk);
+        else
+          desk.Ui.Type(std::wstring(1, character));
       }
     });
     desk.ShowUser(c.Key);

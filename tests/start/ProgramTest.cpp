@@ -25,8 +25,10 @@ struct Computer {
   void Expect(std::wstring_view typed = L"\x1b") {
     Ui.WhenModal([this, typed](form::Form& form) {
       Told.push_back(dynamic_cast<message::frmMessage&>(form).LabelMessage.Caption());
-      if (typed == L"\x1b") Ui.Press(form::Key::Escape);
-      else Ui.Type(typed);
+      if (typed == L"\x1b")
+        Ui.Press(form::Key::Escape);
+      else
+        Ui.Type(typed);
     });
   }
   /// A settings file and a name make it a program that was used before.
@@ -187,8 +189,10 @@ TEST_CASE("A medium is used, or refused, by the state it was left in") {
     computer.Services.Disk.AddFile(L"F:\\Tools\\Vantor\\MediaSet.Orbel", c.MediaSet);
     if (!c.Text.empty()) computer.Expect();
     CHECK(computer.Start() == c.Text.empty());
-    if (c.Text.empty()) CHECK(computer.Started.MessageState.UserName == L"Ada");
-    else CHECK(computer.Told.at(0).starts_with(c.Text));
+    if (c.Text.empty())
+      CHECK(computer.Started.MessageState.UserName == L"Ada");
+    else
+      CHECK(computer.Told.at(0).starts_with(c.Text));
     CHECK(computer.Started.Environment.MediaDriveLetter == L"F");
     CHECK(computer.Services.Disk.Written.empty());
   }
@@ -235,8 +239,8 @@ TEST_CASE("An error during the start is asked about, and a start without a bar e
   services.Disk.AddFile(L"E:\\Vantor\\MediaSet.Orbel", ReadyMedia);
   services.Disk.AddFile(L"E:\\Vantor\\Machine.Orbel", "3\r\n\"1A2B3C4D\"\r\n1\r\n");
   form::Headless ui;
-  const service::Services broken{services.DataFiles,   services.FileSystem,  services.Language, services.Thrower,
-                                 services.Programs,    services.ScriptShell, services.System};
+  const service::Services broken{services.DataFiles, services.FileSystem,  services.Language, services.Thrower,
+                                 services.Programs,  services.ScriptShell, services.System};
   Program program(ui, broken);
   ui.WhenModal([&](form::Form& form) {
     CHECK(program.MessageState.CurrentMessageKey == L"Bug-Vantor-ActiveStart");

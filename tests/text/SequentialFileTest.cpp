@@ -47,9 +47,12 @@ TEST_CASE("Values are written one a line, and doubles read back to themselves") 
   writer.Write(L"a,b", L"");
   CHECK(writer.Bytes() == "-1\r\n\"it\"\r\n\"a,b\",\"\"\r\n");
 
-  const std::pair<double, std::string> doubles[] = {
-      {0, "0"},       {80023715840.0, "80023715840"}, {0.1, "0.1"}, {-2.5e-7, "-0.00000025"},
-      {1e21, "1000000000000000000000"}, {1.0 / 3, "0.3333333333333333"}};
+  const std::pair<double, std::string> doubles[] = {{0, "0"},
+                                                    {80023715840.0, "80023715840"},
+                                                    {0.1, "0.1"},
+                                                    {-2.5e-7, "-0.00000025"},
+                                                    {1e21, "1000000000000000000000"},
+                                                    {1.0 / 3, "0.3333333333333333"}};
   for (const auto& [value, expected] : doubles) {
     SequentialWriter one;
     one.Write(value);
@@ -85,7 +88,9 @@ TEST_CASE("A file keeps every character, in the code page or in UTF-8 with its m
     CHECK(services.Disk.Bytes(path) == c.Bytes);
     CHECK(ReadTextFile(services.DataFiles, language, path) == L"\"" + c.Text + L"\"\r\n");
   }
-  services.Disk.Bytes(path) = "\xEF\xBB\xBF" "a\xC3(\xF5\xE2\x82";
+  services.Disk.Bytes(path) =
+      "\xEF\xBB\xBF"
+      "a\xC3(\xF5\xE2\x82";
   CHECK(ReadTextFile(services.DataFiles, language, path) == L"a\uFFFD(\uFFFD\uFFFD\uFFFD");
   CHECK_FALSE(ReadTextFile(services.DataFiles, language, L"C:\\missing"));
 }
