@@ -12,8 +12,10 @@ namespace {
 
 using form::Picture;
 
-/// Captions up to this length are signs rather than words, and are drawn bold.
-constexpr std::size_t LongestSign = 2;
+/// Whether a caption is a sign rather than a word; signs are drawn bold.
+bool IsSign(const std::wstring& caption) {
+  return caption.size() == 1 || (caption.size() == 2 && IsCharAlphaW(caption[0]) == FALSE);
+}
 
 bool IsGround(Picture picture) {
   return picture == Picture::ButtonNormal || picture == Picture::ButtonPressed || picture == Picture::ButtonDisabled ||
@@ -94,7 +96,7 @@ void ButtonWindow::OnDraw(const DRAWITEMSTRUCT& item) {
 
   const form::Label* const label = button_.FaceLabel();
   const std::wstring& caption = label != nullptr ? label->Caption() : button_.Caption();
-  const bool bold = (label != nullptr && label->Bold()) || caption.size() <= LongestSign;
+  const bool bold = (label != nullptr && label->Bold()) || IsSign(caption);
   RECT area{0, 0, size.cx, size.cy};
   canvas.Text(caption, area, Font(bold), face.Ink, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
   canvas.Show(item.hDC, item.rcItem.left, item.rcItem.top);

@@ -306,6 +306,12 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       FillRect(reinterpret_cast<HDC>(wParam), &area, look.Brush(look.Background(form_.BackColor())));
       return 1;
     }
+    case WM_LBUTTONDOWN:
+      SetCapture(Hwnd());  // a narrow gap between buttons is soon left
+      return 0;
+    case WM_LBUTTONUP:
+      ReleaseCapture();
+      return 0;
     case WM_MOUSEMOVE:
       MouseMoves(wParam);
       return 0;

@@ -20,11 +20,12 @@ void DrawMark(Canvas& canvas, const Box& box, const Palette& colors) {
   canvas.Disc(square.At(0.745, 0.225), square.Width * 0.105, colors.Accent);
 }
 
-/// The ground of a message: paper that takes on a breath of the accent, under a band of it.
+/// The side band of a message: the accent, deepening to its foot, with the product's mark at its head.
 void DrawMessageGround(Canvas& canvas, const Box& box, const Palette& colors, double scale) {
-  canvas.Shade(box, colors.Paper, colors.PaperShade);
-  const double band = std::max(std::round(4 * scale), 1.0);
-  canvas.Shade({box.Left, box.Top, box.Width, band}, colors.Accent, colors.Accent);
+  canvas.Shade(box, colors.Accent, colors.AccentFoot);
+  const double side = std::min({box.Width * 0.56, box.Height * 0.56, 32 * scale});
+  const double margin = std::max(std::min((box.Width - side) / 2, 15 * scale), 0.0);
+  DrawMark(canvas, {std::round(box.Left + margin), std::round(box.Top + margin), side, side}, colors);
 }
 
 const Palette::Face& FaceOf(Picture picture, const Palette& colors) {

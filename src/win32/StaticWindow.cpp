@@ -117,11 +117,12 @@ LRESULT FrameWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_LBUTTONDBLCLK:
       pressed_ = true;
       pressedAt_ = point;
+      SetCapture(Hwnd());  // a narrow gap between buttons is soon left
       return 0;
     case WM_LBUTTONUP:
-      if (!pressed_) return 0;
+      return OnRelease();
+    case WM_CAPTURECHANGED:
       pressed_ = false;
-      frame_.InputClick();
       return 0;
     case WM_MOUSEMOVE:
       return OnMouseMove(wParam, point);
@@ -137,9 +138,16 @@ LRESULT FrameWindow::OnMouseMove(WPARAM buttons, POINT point) {
     const bool moved = std::abs(point.x - pressedAt_.x) >= GetSystemMetrics(SM_CXDRAG) ||
                        std::abs(point.y - pressedAt_.y) >= GetSystemMetrics(SM_CYDRAG);
     if (!moved) return 0;
-    pressed_ = false;
+    ReleaseCapture();
   }
   Owner().MouseMoves(buttons);
+  return 0;
+}
+
+LRESULT FrameWindow::OnRelease() {
+  if (!pressed_) return 0;
+  ReleaseCapture();
+  frame_.InputClick();
   return 0;
 }
 

@@ -32,6 +32,7 @@ class FrameWindow final : public ControlWindow {
 
  private:
   LRESULT OnMouseMove(WPARAM buttons, POINT point);
+  LRESULT OnRelease();
 
   form::Frame& frame_;
   bool pressed_ = false;

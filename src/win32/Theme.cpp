@@ -27,8 +27,7 @@ Palette BluePalette() {
   palette.Focus = RGB(44, 84, 200);
   palette.Accent = RGB(180, 200, 255);
   palette.Deep = RGB(44, 72, 168);
-  palette.Paper = RGB(255, 255, 255);
-  palette.PaperShade = RGB(236, 241, 255);
+  palette.AccentFoot = RGB(158, 182, 248);
   return palette;
 }
 
@@ -49,7 +48,7 @@ Palette SystemPalette() {
   palette.Focus = highlight;
   palette.Accent = highlight;
   palette.Deep = text;
-  palette.Paper = palette.PaperShade = face;
+  palette.AccentFoot = highlight;
   return palette;
 }
 

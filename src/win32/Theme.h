@@ -27,9 +27,8 @@ struct Palette {
   COLORREF Line;        // edges of frames and boxes
   COLORREF Focus;       // the edge of what has the focus
   COLORREF Accent;      // the product's light blue
+  COLORREF AccentFoot;  // what it deepens to at the foot of a large area
   COLORREF Deep;        // its dark companion, in the product's mark
-  COLORREF Paper;       // the ground of the message dialog
-  COLORREF PaperShade;  // that ground's foot
 };
 
 /// Colours, brushes and fonts as the user's settings have them, looked up when first needed.
