@@ -17,7 +17,8 @@ class Management {
  public:
   virtual ~Management() = default;
 
-  /// The identity of disk C:; nothing when the service does not answer within 5 seconds or has no such disk.
+  /// The identity of disk C:; nothing when the service does not answer within 5 seconds. Throws
+  /// std::runtime_error when it can't be read, as where there is no such disk.
   [[nodiscard]] virtual std::optional<DiskIdentity> ReadDiskIdentity() = 0;
 
  protected:

@@ -4,9 +4,11 @@
 #include "service/FileSystem.h"
 #include "service/Language.h"
 #include "service/Management.h"
+#include "service/Processes.h"
 #include "service/Programs.h"
 #include "service/ScriptShell.h"
 #include "service/System.h"
+#include "service/WindowPicker.h"
 
 namespace vantor::service {
 
@@ -19,6 +21,8 @@ struct Services {
   service::Programs& Programs;
   service::ScriptShell& ScriptShell;
   service::System& System;
+  service::Processes& Processes;
+  service::WindowPicker& WindowPicker;
 };
 
 }  // namespace vantor::service

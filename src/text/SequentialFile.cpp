@@ -5,7 +5,6 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <type_traits>
 
 #include "text/Utf8.h"
 
@@ -24,29 +23,12 @@ std::wstring_view TrimBlanks(std::wstring_view text) {
   return text;
 }
 
-using Unit = std::make_unsigned_t<wchar_t>;
-
-/// Copies an ASCII text in double quotes and returns the end. `all` gathers the bits of the characters, by which
-/// the caller sees whether it was one.
-char* CopyQuoted(char* to, std::wstring_view text, Unit& all) {
-  Unit bits = 0;
-  *to++ = '"';
-  for (const wchar_t c : text) {
-    bits |= static_cast<Unit>(c);
-    *to++ = static_cast<char>(c);
-  }
-  *to++ = '"';
-  all |= bits;
-  return to;
-}
-
 }  // namespace
 
 void SequentialWriter::AppendInteger(long long value) {
   char digits[24];
   const auto end = std::to_chars(std::begin(digits), std::end(digits), value).ptr;
-  Append({digits, end});
-  Append(LineEnd);
+  bytes_.append(digits, end).append(LineEnd);
 }
 
 void SequentialWriter::Write(double value) {
@@ -63,59 +45,38 @@ void SequentialWriter::Write(double value) {
     length = std::snprintf(digits, sizeof digits, "%.*f", decimals, value);
     if (std::strtod(digits, nullptr) == value) break;
   }
-  Append({digits, static_cast<std::size_t>(length)});
-  Append(LineEnd);
+  bytes_.append(digits, static_cast<std::size_t>(length)).append(LineEnd);
 }
 
 void SequentialWriter::Write(std::wstring_view text) {
   AppendQuoted(text);
-  Append(LineEnd);
+  bytes_ += LineEnd;
 }
 
 void SequentialWriter::Write(std::wstring_view first, std::wstring_view second) {
-  // Most of a save goes by here: one look at the room for the whole record.
-  char* const start = Room(first.size() + second.size() + 7);
-  Unit all = 0;
-  char* to = CopyQuoted(start, first, all);
-  *to++ = ',';
-  to = CopyQuoted(to, second, all);
-  to = std::copy(LineEnd.begin(), LineEnd.end(), to);
-  if (all < 0x80) {
-    used_ += static_cast<std::size_t>(to - start);
-    return;
-  }
   AppendQuoted(first);
-  Append(",");
+  bytes_ += ',';
   AppendQuoted(second);
-  Append(LineEnd);
+  bytes_ += LineEnd;
 }
 
 void SequentialWriter::AppendQuoted(std::wstring_view text) {
-  Unit all = 0;
-  CopyQuoted(Room(text.size() + 2), text, all);
-  if (all < 0x80) {
-    used_ += text.size() + 2;
-    return;
+  const std::size_t start = bytes_.size();
+  bytes_.resize(start + text.size() + 2, '"');
+  char* to = bytes_.data() + start + 1;
+  std::make_unsigned_t<wchar_t> all = 0;
+  for (const wchar_t c : text) {
+    all |= static_cast<std::make_unsigned_t<wchar_t>>(c);
+    *to++ = static_cast<char>(c);
   }
+  if (all < 0x80) return;
   ascii_ = false;
-  std::string bytes = "\"";
-  AppendUtf8(bytes, text);
-  Append(bytes += '"');
+  bytes_.resize(start + 1);
+  AppendUtf8(bytes_, text);
+  bytes_ += '"';
 }
 
-void SequentialWriter::Append(std::string_view bytes) {
-  std::copy(bytes.begin(), bytes.end(), Room(bytes.size()));
-  used_ += bytes.size();
-}
-
-char* SequentialWriter::Room(std::size_t bytes) {
-  if (buffer_.size() - used_ < bytes) buffer_.resize(std::max(used_ + bytes, 2 * buffer_.size()));
-  return buffer_.data() + used_;
-}
-
-void SequentialWriter::Reserve(std::size_t bytes) { static_cast<void>(Room(bytes)); }
-
-std::wstring SequentialWriter::Text() const { return FromUtf8(Bytes()); }
+std::wstring SequentialWriter::Text() const { return FromUtf8(bytes_); }
 
 std::optional<SequentialReader::Field> SequentialReader::Read() {
   while (!rest_.empty() && IsBlank(rest_.front())) rest_.remove_prefix(1);
@@ -157,7 +118,7 @@ bool WriteTextFile(service::DataFiles& files, const service::Language& language,
                    const SequentialWriter& writer) {
   if (writer.Ascii()) return files.Write(path, writer.Bytes());
   if (const auto bytes = language.ToCodePage(writer.Text())) return files.Write(path, *bytes);
-  return files.Write(path, std::string(ByteOrderMark).append(writer.Bytes()));
+  return files.Write(path, std::string(ByteOrderMark) + writer.Bytes());
 }
 
 }  // namespace vantor::text

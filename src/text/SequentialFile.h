@@ -25,24 +25,19 @@ class SequentialWriter {
   /// Two texts in double quotes, separated by one comma.
   void Write(std::wstring_view first, std::wstring_view second);
 
-  /// Makes room for a text of so many bytes at once.
-  void Reserve(std::size_t bytes);
+  void Reserve(std::size_t characters) { bytes_.reserve(characters); }
   [[nodiscard]] std::wstring Text() const;
 
   /// The text in UTF-8, and whether that is ASCII only: such a text is the same bytes in every code page, and
   /// most files are written without ever being widened.
-  [[nodiscard]] std::string_view Bytes() const { return {buffer_.data(), used_}; }
+  [[nodiscard]] const std::string& Bytes() const { return bytes_; }
   [[nodiscard]] bool Ascii() const { return ascii_; }
 
  private:
   void AppendInteger(long long value);
-  void Append(std::string_view bytes);
   void AppendQuoted(std::wstring_view text);
-  /// The end of the text, with room for so many bytes more.
-  char* Room(std::size_t bytes);
 
-  std::string buffer_;  // longer than the text, so that appending a field is one copy
-  std::size_t used_ = 0;
+  std::string bytes_;
   bool ascii_ = true;
 };
 

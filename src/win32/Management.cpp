@@ -4,21 +4,20 @@
 
 #include <cwchar>
 #include <memory>
+#include <stdexcept>
 
 #include "text/Numbers.h"
 #include "win32/Com.h"
-#include "win32/Handle.h"
+#include "win32/Patience.h"
 
 namespace vantor::win32 {
 
 namespace {
 
-constexpr DWORD Patience = 5000;  // milliseconds
-
-/// What the two threads share. Whichever lets go last frees it.
+/// What is found out; the asker may have left by then.
 struct Question {
-  KernelHandle Answered;
-  std::optional<service::DiskIdentity> Answer;  // read only after Answered is set
+  std::optional<service::DiskIdentity> Answer;
+  bool Refused = false;
 };
 
 /// Whether the failure of the moniker is the service's own word, such as that there is no such disk.
@@ -43,7 +42,7 @@ std::optional<service::DiskIdentity> AskService() {
   const auto serial = disk.Get(L"VolumeSerialNumber").Text();
   const auto size = disk.Get(L"Size").Text();
   const auto bytes = size ? text::ParseDouble(*size) : std::nullopt;
-  if (!type || !serial || !bytes) return std::nullopt;
+  if (!type || !serial || !bytes) throw ComError(DISP_E_TYPEMISMATCH, false);
   return service::DiskIdentity{*type, *serial, *bytes};
 }
 
@@ -61,50 +60,25 @@ std::optional<service::DiskIdentity> AskWindows() {
   return service::DiskIdentity{static_cast<int>(GetDriveTypeW(Root)), digits, static_cast<double>(size.QuadPart)};
 }
 
-std::optional<service::DiskIdentity> Ask() noexcept {
+void Ask(Question& question) noexcept {
   try {
     Apartment apartment(COINIT_MULTITHREADED);
     apartment.Enter();
-    return AskService();
+    question.Answer = AskService();
   } catch (const ComError& error) {
-    if (!error.Lacking()) return std::nullopt;
+    if (error.Lacking()) question.Answer = AskWindows();
+    question.Refused = !question.Answer;
   } catch (...) {
-    return std::nullopt;
-  }
-  return AskWindows();
-}
-
-DWORD WINAPI AskAndTell(void* shared) {
-  const std::unique_ptr<std::shared_ptr<Question>> question(static_cast<std::shared_ptr<Question>*>(shared));
-  (*question)->Answer = Ask();
-  SetEvent((*question)->Answered.Get());
-  return 0;
-}
-
-/// False when the time was up first.
-bool WaitWhilePainting(HANDLE event, DWORD milliseconds) {
-  const DWORD begin = GetTickCount();
-  for (;;) {
-    const DWORD gone = GetTickCount() - begin;
-    if (gone >= milliseconds) return WaitForSingleObject(event, 0) == WAIT_OBJECT_0;
-    const DWORD woken = MsgWaitForMultipleObjects(1, &event, FALSE, milliseconds - gone, QS_PAINT | QS_SENDMESSAGE);
-    if (woken != WAIT_OBJECT_0 + 1) return woken == WAIT_OBJECT_0;
-    MSG message;
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE | PM_QS_PAINT | PM_QS_SENDMESSAGE))
-      DispatchMessageW(&message);
+    question.Refused = true;
   }
 }
 
 }  // namespace
 
 std::optional<service::DiskIdentity> Management::ReadDiskIdentity() {
-  auto question = std::make_shared<Question>();
-  question->Answered.Reset(CreateEventW(nullptr, TRUE, FALSE, nullptr));
-  auto theirs = std::make_unique<std::shared_ptr<Question>>(question);
-  const KernelHandle thread(CreateThread(nullptr, 0, AskAndTell, theirs.get(), 0, nullptr));
-  if (!thread) return std::nullopt;
-  (void)theirs.release();  // the thread's own now
-  if (!WaitWhilePainting(question->Answered.Get(), Patience)) return std::nullopt;
+  const auto question = std::make_shared<Question>();
+  if (!EndsInTime([question] { Ask(*question); })) return std::nullopt;
+  if (question->Refused) throw std::runtime_error("the identity of disk C: can't be read");
   return question->Answer;
 }
 

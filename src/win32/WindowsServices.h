@@ -8,9 +8,11 @@
 #include "win32/FileSystem.h"
 #include "win32/Language.h"
 #include "win32/Management.h"
+#include "win32/Processes.h"
 #include "win32/Programs.h"
 #include "win32/ScriptShell.h"
 #include "win32/System.h"
+#include "win32/WindowPicker.h"
 
 namespace vantor::win32 {
 
@@ -24,7 +26,7 @@ class WindowsServices {
         system_(program, std::move(setTitle)) {}
 
   [[nodiscard]] service::Services All() {
-    return {dataFiles_, fileSystem_, language_, management_, programs_, scriptShell_, system_};
+    return {dataFiles_, fileSystem_, language_, management_, programs_, scriptShell_, system_, processes_, windowPicker_};
   }
 
  private:
@@ -36,6 +38,8 @@ class WindowsServices {
   Programs programs_;
   ScriptShell scriptShell_;
   System system_;
+  Processes processes_;
+  WindowPicker windowPicker_;
 };
 
 }  // namespace vantor::win32

@@ -8,6 +8,8 @@
 #include "FakeDisk.h"
 #include "FakeFileSystem.h"
 #include "FakeLanguage.h"
+#include "FakeProcesses.h"
+#include "FakeWindowPicker.h"
 #include "service/Services.h"
 
 namespace vantor::fake {
@@ -112,9 +114,11 @@ struct FakeServices {
   FakePrograms Programs;
   FakeScriptShell ScriptShell;
   FakeSystem System;
+  FakeProcesses Processes;
+  FakeWindowPicker WindowPicker;
 
   [[nodiscard]] service::Services All() {
-    return {DataFiles, FileSystem, Language, Management, Programs, ScriptShell, System};
+    return {DataFiles, FileSystem, Language, Management, Programs, ScriptShell, System, Processes, WindowPicker};
   }
 };
 

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace vantor::service {
+
+/// One process of a snapshot: the system's record in its ANSI form, by the system's names.
+struct ProcessEntry {
+  std::uint32_t dwSize = 0;
+  std::uint32_t cntUsage = 0;
+  std::uint32_t th32ProcessID = 0;
+  std::uintptr_t th32DefaultHeapID = 0;
+  std::uint32_t th32ModuleID = 0;
+  std::uint32_t cntThreads = 0;
+  std::uint32_t th32ParentProcessID = 0;
+  std::int32_t pcPriClassBase = 0;
+  std::uint32_t dwFlags = 0;
+  std::array<char, 260> szExeFile{};
+};
+
+/// The size of the record on a 32-bit system, by which the system knows its version.
+inline constexpr std::uint32_t ProcessEntrySize = 296;
+
+enum class SnapshotId : std::uintptr_t { None = 0 };
+
+/// One process as the management service tells of it.
+struct ManagedProcess {
+  std::uint32_t ProcessId = 0;
+  std::optional<std::wstring> ExecutablePath;  // nothing where the service says Null, as for protected processes
+};
+
+/// The processes that run.
+class Processes {
+ public:
+  virtual ~Processes() = default;
+
+  [[nodiscard]] virtual SnapshotId CreateSnapshot(std::uint32_t flags, std::uint32_t processId) = 0;
+  /// These two fill `entry`, whose dwSize is set by the caller, and return false at the end or on failure.
+  [[nodiscard]] virtual bool First(SnapshotId snapshot, ProcessEntry& entry) = 0;
+  [[nodiscard]] virtual bool Next(SnapshotId snapshot, ProcessEntry& entry) = 0;
+  virtual void CloseSnapshot(SnapshotId snapshot) = 0;
+
+  /// The instances of "Win32_Process"; nothing when the management service can't be reached, or does not answer
+  /// within 5 seconds.
+  [[nodiscard]] virtual std::optional<std::vector<ManagedProcess>> ManagedProcesses() = 0;
+  /// The path of a process's program by the plain Windows call; "" when that does not tell.
+  [[nodiscard]] virtual std::wstring ImageName(std::uint32_t processId) = 0;
+
+ protected:
+  Processes() = default;
+  Processes(const Processes&) = default;
+  Processes& operator=(const Processes&) = default;
+};
+
+}  // namespace vantor::service

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+
+namespace vantor::service {
+
+/// A window of any program, by the system's number for it.
+enum class WindowId : std::uintptr_t { None = 0 };
+
+/// A place on the desktop in pixels.
+struct ScreenPoint {
+  std::int32_t X = 0;
+  std::int32_t Y = 0;
+};
+
+/// The mouse, and the windows of all programs under it.
+class WindowPicker {
+ public:
+  virtual ~WindowPicker() = default;
+
+  /// Sends all mouse input to one of the program's own windows, wherever the cursor is.
+  virtual void SetCapture(WindowId window) = 0;
+  [[nodiscard]] virtual WindowId GetCapture() = 0;
+  virtual void ReleaseCapture() = 0;
+
+  [[nodiscard]] virtual ScreenPoint GetCursorPos() = 0;
+  [[nodiscard]] virtual WindowId WindowFromPoint(ScreenPoint point) = 0;
+  [[nodiscard]] virtual bool LeftButtonDown() = 0;
+  /// The process that a window belongs to; 0 when there is no such window.
+  [[nodiscard]] virtual std::uint32_t ProcessOfWindow(WindowId window) = 0;
+
+  /// Makes the cursor a target, or the usual one again.
+  virtual void ShowTarget(bool target) = 0;
+  /// Marks the program's window that holds `window`, on the screen only, and takes the mark off the one before;
+  /// None leaves no mark.
+  virtual void Mark(WindowId window) = 0;
+
+ protected:
+  WindowPicker() = default;
+  WindowPicker(const WindowPicker&) = default;
+  WindowPicker& operator=(const WindowPicker&) = default;
+};
+
+}  // namespace vantor::service

@@ -1,0 +1,55 @@
+#include "win32/Patience.h"
+
+#include <windows.h>
+
+#include <memory>
+
+#include "win32/Handle.h"
+
+namespace vantor::win32 {
+
+namespace {
+
+constexpr DWORD Patience = 5000;  // milliseconds
+
+/// What the two threads share. Whichever lets go last frees it.
+struct Task {
+  std::function<void()> Work;
+  KernelHandle Done;
+};
+
+DWORD WINAPI WorkAndTell(void* shared) {
+  const std::unique_ptr<std::shared_ptr<Task>> task(static_cast<std::shared_ptr<Task>*>(shared));
+  (*task)->Work();
+  SetEvent((*task)->Done.Get());
+  return 0;
+}
+
+/// False when the time was up first.
+bool WaitWhilePainting(HANDLE event, DWORD milliseconds) {
+  const DWORD begin = GetTickCount();
+  for (;;) {
+    const DWORD gone = GetTickCount() - begin;
+    if (gone >= milliseconds) return WaitForSingleObject(event, 0) == WAIT_OBJECT_0;
+    const DWORD woken = MsgWaitForMultipleObjects(1, &event, FALSE, milliseconds - gone, QS_PAINT | QS_SENDMESSAGE);
+    if (woken != WAIT_OBJECT_0 + 1) return woken == WAIT_OBJECT_0;
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE | PM_QS_PAINT | PM_QS_SENDMESSAGE))
+      DispatchMessageW(&message);
+  }
+}
+
+}  // namespace
+
+bool EndsInTime(std::function<void()> work) {
+  auto task = std::make_shared<Task>();
+  task->Work = std::move(work);
+  task->Done.Reset(CreateEventW(nullptr, TRUE, FALSE, nullptr));
+  auto theirs = std::make_unique<std::shared_ptr<Task>>(task);
+  const KernelHandle thread(CreateThread(nullptr, 0, WorkAndTell, theirs.get(), 0, nullptr));
+  if (!thread) return false;
+  (void)theirs.release();  // the thread's own now
+  return WaitWhilePainting(task->Done.Get(), Patience);
+}
+
+}  // namespace vantor::win32
