@@ -1,6 +1,8 @@
 #include "add/MachineIdentity.h"
 
 #include <optional>
+#include <stdexcept>
+#include <string>
 
 #include "text/Numbers.h"
 #include "text/SequentialFile.h"
@@ -8,33 +10,75 @@
 namespace vantor::add {
 namespace {
 
-/// Nothing when one of the two can't be read.
-std::optional<bool> CompareIdentity(const service::Services& services, std::wstring_view path) {
+using Field = text::SequentialReader::Field;
+
+Field Required(std::optional<Field> field) {
+  if (!field) throw std::runtime_error("the identity file is cut short");
+  return *field;
+}
+
+/// In the file texts stand in quotes and numbers bare; a text never equals a number.
+bool Equals(const Field& field, double number) { return !field.Quoted && text::ParseDouble(field.Text) == number; }
+
+bool Equals(const Field& field, const std::wstring& text) {
+  return field.Text == text && (field.Quoted || !text::ParseDouble(field.Text));
+}
+
+bool IsThisMachine(const service::Services& services, std::wstring_view path) {
   const auto text = text::ReadTextFile(services.DataFiles, services.Language, path);
-  if (!text) return std::nullopt;
+  if (!text) throw std::runtime_error("the identity file can't be read");
   text::SequentialReader reader(*text);
-  const auto driveType = reader.Read();
-  const auto serialNumber = reader.Read();
-  const auto size = reader.Read();
-  if (!driveType || !serialNumber || !size) return std::nullopt;
+  const Field driveType = Required(reader.Read());
+  const Field serialNumber = Required(reader.Read());
+  const Field size = Required(reader.Read());
   const auto identity = services.Management.ReadDiskIdentity();
-  if (!identity) return std::nullopt;
-  return text::ParseDouble(driveType->Text) == identity->DriveType &&
-         serialNumber->Text == identity->VolumeSerialNumber && text::ParseDouble(size->Text) == identity->Size;
+  return identity && Equals(driveType, identity->DriveType) && Equals(serialNumber, identity->VolumeSerialNumber) &&
+         Equals(size, identity->Size);
+}
+
+/// False when there is nothing to save.
+bool SaveIdentity(const service::Services& services, std::wstring_view path) {
+  const auto identity = services.Management.ReadDiskIdentity();
+  if (!identity) return false;
+  text::SequentialWriter writer;
+  writer.Write(identity->DriveType);
+  writer.Write(identity->VolumeSerialNumber);
+  writer.Write(identity->Size);
+  if (!text::WriteTextFile(services.DataFiles, services.Language, path, writer)) {
+    throw std::runtime_error("the identity file can't be written");
+  }
+  return true;
 }
 
 }  // namespace
 
 bool MachineMatches(const service::Services& services, message::Messages& messages, std::wstring_view path) {
-  const std::optional<bool> same = CompareIdentity(services, path);
-  if (!same) messages.ReportBug(L"DeclareOwnerOnMedia");
-  return same.value_or(false);
+  bool matches = false;
+  messages.Trap(L"DeclareOwnerOnMedia", [&] { matches = IsThisMachine(services, path); });
+  return matches;
 }
 
 void IdentifyMachine(const service::Services& services, message::Messages& messages, start::Environment& environment) {
   environment.MachineUnknown = !services.FileSystem.FileExists(environment.Files.Machine);
   environment.MachineRemembered =
       !environment.MachineUnknown && MachineMatches(services, messages, environment.Files.Machine);
+}
+
+bool RememberMyComputer(const service::Services& services, message::Messages& messages,
+                        start::Environment& environment) {
+  bool failed = false;
+  try {
+    if (!SaveIdentity(services, environment.Files.Machine)) return false;
+  } catch (...) {
+    failed = true;
+  }
+  if (failed) {
+    messages.ShowText(L"Could not save data for identifying this machine. Reason undetermined");
+    return false;
+  }
+  environment.MachineUnknown = false;
+  environment.MachineRemembered = true;
+  return true;
 }
 
 }  // namespace vantor::add

@@ -8,12 +8,17 @@
 
 namespace vantor::add {
 
-/// Whether this computer is the one of the identity file. When the file or the computer's own identity can't be
-/// read, false, after the question whether to report that.
+/// Whether this computer is the one of the identity file; false when its own identity is not to be had in time.
+/// When the file or the identity can't be read, false, after the question whether to report that.
 [[nodiscard]] bool MachineMatches(const service::Services& services, message::Messages& messages,
                                   std::wstring_view path);
 
 /// Part of the start in removable-media mode: sets MachineUnknown and MachineRemembered.
 void IdentifyMachine(const service::Services& services, message::Messages& messages, start::Environment& environment);
+
+/// Makes this computer the remembered one. False, with nothing changed, when its identity is not to be had in
+/// time, and after a message when it can't be read or saved.
+[[nodiscard]] bool RememberMyComputer(const service::Services& services, message::Messages& messages,
+                                      start::Environment& environment);
 
 }  // namespace vantor::add

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace vantor::add {
+
+/// The index of an OptionBrowse button.
+enum class AddKind : std::int16_t { Program, File, Folder };
+
+/// No result of the finder waits to be judged.
+inline constexpr std::int16_t NoPickerDriveType = -1;
+
+/// What the add box knows of the place it shows. Drive types are the scripting file system's; 2 is a fixed disk.
+struct BrowseState {
+  AddKind WhatToAdd = AddKind::Program;
+  std::wstring BrowseFolder;  // ends in a backslash
+  std::int16_t BrowseDriveType = 0;
+  std::int16_t PickerDriveType = NoPickerDriveType;
+  std::wstring LastFixedFolder;
+  std::wstring SelectedDriveLetter;  // upper case
+};
+
+}  // namespace vantor::add

@@ -1,0 +1,44 @@
+#include "add/clsActiveProcess.h"
+
+#include <stdexcept>
+#include <string_view>
+
+namespace vantor::add {
+namespace {
+
+constexpr int GrowBy = 20;
+// The flags ask for no kind of entry, and none for the process list: what such a snapshot holds is the system's
+// affair. The paths do not depend on it.
+constexpr std::uint32_t SnapshotFlags = 0;
+
+}  // namespace
+
+std::wstring clsActiveProcess::szExeFile(int index) const {
+  const auto& name = Record(index).szExeFile;
+  std::wstring text = language_.FromCodePage(std::string_view(name.data(), name.size()));
+  text.resize(name.size());
+  return text;
+}
+
+int clsActiveProcess::GetActiveProcess() {
+  count_ = 0;
+  const service::SnapshotId snapshot = processes_.CreateSnapshot(SnapshotFlags, 0);
+  if (snapshot == service::SnapshotId::None) return 0;
+  service::ProcessEntry entry;
+  entry.dwSize = service::ProcessEntrySize;
+  records_.assign(GrowBy + 1, {});  // record 0 is never filled
+  for (bool filled = processes_.First(snapshot, entry); filled; filled = processes_.Next(snapshot, entry)) {
+    ++count_;
+    if (count_ % GrowBy == 0) records_.resize(static_cast<std::size_t>(count_ + GrowBy + 1));
+    records_[static_cast<std::size_t>(count_)] = entry;
+  }
+  processes_.CloseSnapshot(snapshot);
+  return count_;
+}
+
+const service::ProcessEntry& clsActiveProcess::Record(int index) const {
+  if (index < 1 || index > count_) throw std::out_of_range("no such process record");
+  return records_[static_cast<std::size_t>(index)];
+}
+
+}  // namespace vantor::add

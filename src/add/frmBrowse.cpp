@@ -1,0 +1,382 @@
+#include "add/frmBrowse.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+#include "add/Drives.h"
+#include "add/PlaceRules.h"
+
+namespace vantor::add {
+namespace {
+
+// Of the bar's CommandMenu buttons.
+constexpr std::int16_t AddPanel = 0;
+constexpr std::int16_t OpenPanel = 1;
+constexpr std::int16_t ListPanel = 2;
+
+constexpr std::wstring_view EveryFile = L"*.*";
+constexpr std::wstring_view Programs = L"*.exe";
+
+template <class Hook, class... Args>
+void Call(const Hook& hook, Args&&... args) {
+  if (hook) hook(std::forward<Args>(args)...);
+}
+
+std::wstring_view BannerOf(list::LaunchGroup group) {
+  switch (group) {
+    case list::LaunchGroup::Fold:
+      return L"Folder Added To List : Click To Hide";
+    case list::LaunchGroup::Prog:
+      return L"Program Added To List : Click To Hide";
+    default:
+      return L"File Added To List : Click To Hide";
+  }
+}
+
+service::WindowId WindowOf(const form::Control& control) {
+  return service::WindowId{control.Window() != nullptr ? control.Window()->Handle() : 0};
+}
+
+}  // namespace
+
+frmBrowse::frmBrowse(form::UserInterface& ui, const BrowseParts& parts)
+    : Form(ui, L"frmBrowse"),
+      DriveWork(FrameBrowseBack, L"DriveWork", parts.Services.FileSystem),
+      DirWork(FrameBrowseBack, L"DirWork", parts.Services.FileSystem),
+      FileWork(FrameBrowseBack, L"FileWork", parts.Services.FileSystem),
+      parts_(parts),
+      finder_(parts.Services) {
+  Dress();
+  EnableNameBox(false);
+  CommandAddOK.SetEnabled(false);
+  CommandSelectOK.SetEnabled(false);
+  ConnectEvents();
+}
+
+void frmBrowse::ConnectEvents() {
+  // Each handler stands in an error trap of its own name.
+  const auto on = [this](auto& event, std::wstring_view name, auto handler) {
+    event = [this, name, handler](auto&&... args) {
+      parts_.Messages.Trap(name, [&] { (this->*handler)(args...); });
+    };
+  };
+  for (std::size_t i = 0; i < OptionBrowse.size(); ++i) {
+    OptionBrowse[i].Click = [this, kind = static_cast<AddKind>(i)] {
+      parts_.Messages.Trap(L"OptionBrowse_Click", [&] { OptionBrowse_Click(kind); });
+    };
+  }
+  on(DriveWork.Change, L"DriveWork_Change", &frmBrowse::DriveWork_Change);
+  on(DirWork.Change, L"DirWork_Change", &frmBrowse::DirWork_Change);
+  on(DirWork.Unreachable, L"DirWork_Unreachable", &frmBrowse::DirWork_Unreachable);
+  on(FileWork.Click, L"FileWork_Click", &frmBrowse::FileWork_Click);
+  on(FileWork.DblClick, L"FileWork_DblClick", &frmBrowse::FileWork_DblClick);
+  on(TextAddPath.Change, L"TextAddPath_Change", &frmBrowse::TextAddPath_Change);
+  on(TextAddName.Change, L"TextAddName_Change", &frmBrowse::TextAddName_Change);
+  on(TextAddName.KeyPress, L"TextAddName_KeyPress", &frmBrowse::TextAddName_KeyPress);
+  on(CommandAddOK.Click, L"CommandAddOK_Click", &frmBrowse::CommandAddOK_Click);
+  on(CommandAddCancel.Click, L"CommandAddCancel_Click", &frmBrowse::CommandAddCancel_Click);
+  on(CommandSelectOK.Click, L"CommandSelectOK_Click", &frmBrowse::CommandSelectOK_Click);
+  on(CommandFindPath.MouseDown, L"FindExecutableDown", &frmBrowse::CommandFindPath_MouseDown);
+  on(CommandFindPath.MouseUp, L"FindExecutableUp", &frmBrowse::CommandFindPath_MouseUp);
+  on(TimerFindPath.Tick, L"FindExecutableTick", &frmBrowse::TimerFindPath_Timer);
+  FrameAddedInfo.Click = [this] { FrameAddedInfo.SetVisible(false); };
+}
+
+bool frmBrowse::Adding() const { return parts_.CommandState.OpenPanelIndex == AddPanel; }
+
+bool frmBrowse::Opening() const { return parts_.CommandState.OpenPanelIndex == OpenPanel; }
+
+// --- loading, opening and closing
+
+void frmBrowse::Form_Load() {
+  parts_.Messages.Trap(L"Form_Load", [this] {
+    LayOut();
+    OptionBrowse[0].SetValue(true);
+    const bool remembered = !parts_.Environment.RunMode && !parts_.Settings.Folder.empty();
+    if (!remembered || !DirWork.SetPath(parts_.Settings.Folder)) (void)DirWork.SetPath(parts_.Environment.ProgramFolder);
+    NoteFolder();
+  });
+}
+
+void frmBrowse::Open() {
+  parts_.Messages.Trap(L"OpenBrowse", [this] {
+    Load();
+    ReadLists();
+    if (Opening()) {
+      FrameAddedInfo.SetVisible(false);
+      OfferFiles(EveryFile, true);
+    } else if (showedOpenUse_) {
+      ShowChosenKind();  // the path may be one of a folder that is not shown any more
+    }
+    showedOpenUse_ = Opening();
+    CommandSelectOK.SetEnabled(false);
+    LayOut();
+    const form::Size size{FrameBrowseBack.Width(), FrameBrowseBack.Height()};
+    SetBounds(Hooks.Place ? Hooks.Place(size) : form::Rect{Bounds().Left, Bounds().Top, size.Width, size.Height});
+    Show();
+  });
+}
+
+void frmBrowse::Close() {
+  StopFinder();
+  FileWork.SetListIndex(-1);
+  Hide();
+}
+
+void frmBrowse::Form_KeyUp(form::Key key) {
+  if (finder_.FinderActive()) {
+    if (key == form::Key::Escape) StopFinder();
+    return;
+  }
+  // The drive list has its own use for these two.
+  const bool dropKey = key == form::Key::Escape || key == form::Key::F4;
+  if (dropKey && DriveWork.HasFocus()) return;
+  if (key != form::Key::Escape) Call(Hooks.HotKey, key);
+  else if (!TextAddName.Composing()) CommandAddCancel.DoClick();
+}
+
+// --- what to add
+
+void frmBrowse::OptionBrowse_Click(AddKind kind) {
+  state_.WhatToAdd = kind;
+  ShowChosenKind();
+}
+
+void frmBrowse::ShowChosenKind() {
+  const bool folder = state_.WhatToAdd == AddKind::Folder;
+  CommandFindPath.SetEnabled(state_.WhatToAdd == AddKind::Program);
+  if (folder) FileWork.SetListIndex(-1);
+  OfferFiles(state_.WhatToAdd == AddKind::File ? EveryFile : Programs, !folder);
+  if (!Adding()) return;
+  TextAddPath.SetText(folder ? DirWork.Path() : std::wstring());
+  EnableNameBox(folder || FileWork.ListIndex() != -1);
+  TextAddName.SetFocus();
+}
+
+void frmBrowse::OfferFiles(std::wstring_view pattern, bool enabled) {
+  FileWork.SetPattern(pattern);
+  FileWork.SetBackColor(enabled ? form::Color::WindowBackground : form::Color::Silver);
+  FileWork.SetEnabled(enabled);
+  LabelAddSelect.SetEnabled(enabled);
+}
+
+// --- browsing
+
+void frmBrowse::ReadLists() {
+  listsWanted_ = true;
+  DriveWork.Refresh();
+  DirWork.Refresh();
+  if (FileWork.Path() == DirWork.Path()) FileWork.Refresh();
+  else FileWork.SetPath(DirWork.Path());
+  NoteDrive();
+  NoteFolder();
+}
+
+void frmBrowse::DriveWork_Change() {
+  const service::Language& language = parts_.Services.Language;
+  const std::wstring drive = DriveWork.Drive();
+  const bool there = language.Lower(DriveName(DirWork.Path())) == language.Lower(drive);
+  if (!there && !DirWork.SetPath(drive)) {
+    DriveWork.SetDrive(DirWork.Path());
+    parts_.Messages.ShowList(L"MessageDriveNotReady");
+    return;
+  }
+  NoteDrive();
+  NoteFolder();
+}
+
+void frmBrowse::DirWork_Change() {
+  // Until the box is first opened nobody sees the files.
+  if (listsWanted_) FileWork.SetPath(DirWork.Path());
+  DriveWork.SetDrive(DirWork.Path());
+  NoteFolder();
+  if (Opening()) CommandSelectOK.SetEnabled(false);
+  if (!Adding()) return;
+  FrameAddedInfo.SetVisible(false);
+  TextAddPath.SetText(state_.WhatToAdd == AddKind::Folder ? DirWork.Path() : std::wstring());
+  TextAddName.SetFocus();
+}
+
+void frmBrowse::DirWork_Unreachable() {
+  if (parts_.Services.FileSystem.DriveReady(DirWork.Path())) DirWork.Refresh();
+  else parts_.Messages.ShowList(L"MessageDriveNotReady");
+}
+
+void frmBrowse::NoteDrive() {
+  const DriveInfo drive = DriveOf(parts_.Services, DirWork.Path());
+  state_.SelectedDriveLetter = parts_.Services.Language.Upper(drive.DriveLetter);
+  state_.BrowseDriveType = drive.DriveType;
+}
+
+void frmBrowse::NoteFolder() {
+  const std::wstring& folder = DirWork.Path();
+  state_.LastFixedFolder = state_.BrowseDriveType == FixedDrive ? folder : std::wstring();
+  if (!parts_.Environment.RunMode) parts_.Settings.Folder = state_.LastFixedFolder;
+  state_.BrowseFolder = folder;
+  if (!folder.ends_with(L'\\')) state_.BrowseFolder += L'\\';
+}
+
+void frmBrowse::FileWork_Click() {
+  CommandSelectOK.SetEnabled(FileWork.ListIndex() != -1);
+  PickFile(FileWork.Text());
+}
+
+void frmBrowse::PickFile(std::wstring_view name) {
+  FrameAddedInfo.SetVisible(false);
+  if (!Adding()) return;
+  TextAddName.SetText({});
+  TextAddPath.SetText(std::wstring(state_.BrowseFolder).append(name));
+  TextAddName.SetFocus();
+}
+
+void frmBrowse::FileWork_DblClick() {
+  if (Opening()) CommandSelectOK.DoClick();
+}
+
+// --- adding
+
+void frmBrowse::TextAddPath_Change() { EnableNameBox(!TextAddPath.Text().empty()); }
+
+void frmBrowse::EnableNameBox(bool enable) {
+  TextAddName.SetEnabled(enable);
+  TextAddName.SetBackColor(enable ? form::Color::WindowBackground : form::Color::Silver);
+}
+
+void frmBrowse::TextAddName_Change() { CommandAddOK.SetEnabled(!TextAddName.Text().empty()); }
+
+void frmBrowse::TextAddName_KeyPress(wchar_t& character) {
+  if (character != form::CharEnter) return;
+  character = 0;  // a box of one line would beep
+  if (!TextAddName.Text().empty()) CommandAddOK.DoClick();
+}
+
+void frmBrowse::CommandAddOK_Click() {
+  PictureNo.SetFocus();
+  const std::wstring path = TextAddPath.Text();
+  if (path.empty()) return FileWork.SetFocus();  // a name is left from before, but nothing is chosen
+  if (RefusedByPlace(path)) return;
+  const list::LaunchGroup group = GroupOf(path);
+  const AddBox box{TextAddPath, TextAddName, FrameAddedInfo};
+  const AddResult result =
+      AddUnlessListed(box, parts_.List.Of(group), BannerOf(group), parts_.Messages, parts_.Services.Language);
+  const bool showsFiles = state_.WhatToAdd != AddKind::Folder;
+  if (result == AddResult::PathListed || (result == AddResult::Added && showsFiles)) FileWork.Refresh();
+  if (result == AddResult::Added) Call(Hooks.ItemAdded);
+}
+
+bool frmBrowse::RefusedByPlace(std::wstring_view path) {
+  const start::Environment& environment = parts_.Environment;
+  if (parts_.Services.Language.Upper(path.substr(0, 1)) == environment.MediaDriveLetter) return false;
+  const std::wstring_view refusal =
+      environment.RunMode ? RemovableMediaRule(state_, environment) : FixedDiskRule(state_);
+  if (refusal.empty()) return false;
+  if (environment.RunMode) parts_.Messages.State.EnableRememberAfterMessage = environment.MachineUnknown;
+  parts_.Messages.ShowText(refusal);
+  return true;
+}
+
+list::LaunchGroup frmBrowse::GroupOf(std::wstring_view path) const {
+  if (state_.WhatToAdd == AddKind::Folder) return list::LaunchGroup::Fold;
+  return IsProgram(path) ? list::LaunchGroup::Prog : list::LaunchGroup::File;
+}
+
+bool frmBrowse::IsProgram(std::wstring_view path) const {
+  return parts_.Services.Language.Lower(parts_.Services.FileSystem.ExtensionName(path)) == L"exe";
+}
+
+// --- leaving
+
+void frmBrowse::CommandAddCancel_Click() { Call(Hooks.ClosePanel); }
+
+void frmBrowse::CommandSelectOK_Click() {
+  if (FileWork.ListIndex() == -1) return;
+  const std::int16_t panel = parts_.CommandState.OpenPanelIndex;
+  const std::wstring path = state_.BrowseFolder + FileWork.Text();
+  Call(Hooks.ClosePanel);  // which also takes the selection away
+  const bool run = panel == ListPanel || IsProgram(path);
+  parts_.Messages.ShowList(run ? parts_.Starters.RunProgramCommand(path) : parts_.Starters.OpenWithShell(path));
+}
+
+// --- the finder
+
+void frmBrowse::CommandFindPath_MouseDown(form::MouseButton button) {
+  if (button != form::MouseButton::Left || finder_.FinderActive()) return;
+  finder_.Press(WindowOf(CommandFindPath));
+  TimerFindPath.SetEnabled(true);
+}
+
+void frmBrowse::TimerFindPath_Timer() {
+  try {
+    finder_.Tick();
+  } catch (...) {
+    StopFinder();
+    throw;
+  }
+  if (!AcceptsInput() || finder_.LostRelease()) StopFinder();
+}
+
+void frmBrowse::CommandFindPath_MouseUp(form::MouseButton button) {
+  if (button != form::MouseButton::Left || !finder_.FinderActive()) return;
+  TimerFindPath.SetEnabled(false);
+  const std::wstring path = finder_.Release();
+  if (path.empty()) {
+    parts_.Messages.ShowList(L"MessageExecutableNotFound");
+    return;
+  }
+  FileWork.SetListIndex(-1);  // so that a click on the same file chooses it again
+  TextAddPath.SetText(path);
+  state_.PickerDriveType = DriveTypeOf(parts_.Services, std::wstring_view(path).substr(0, 3));
+  TextAddName.SetFocus();
+}
+
+void frmBrowse::StopFinder() {
+  TimerFindPath.SetEnabled(false);
+  finder_.Cancel();
+}
+
+// --- drag and drop
+
+void frmBrowse::Dropped(const std::vector<std::wstring>& paths) {
+  parts_.Messages.Trap(L"BrowseDropped", [&] {
+    if (paths.empty() || Ui().ModalForm() != nullptr) return;
+    if (!Adding()) Call(Hooks.OpenPanel, static_cast<int>(AddPanel));
+    if (!Adding()) return;
+    if (std::any_of(paths.begin(), paths.end(), [this](const auto& path) { return GoToDropped(path); })) {
+      Activate();
+    } else if (!parts_.Services.FileSystem.DriveReady(paths.front())) {
+      parts_.Messages.ShowList(L"MessageDriveNotReady");
+    }
+  });
+}
+
+bool frmBrowse::GoToDropped(std::wstring_view path) {
+  const auto choose = [this](AddKind kind) { OptionBrowse[static_cast<std::size_t>(kind)].SetValue(true); };
+  if (parts_.Services.FileSystem.FolderExists(path)) {
+    choose(AddKind::Folder);
+    if (!DirWork.SetPath(path)) return false;
+    FrameAddedInfo.SetVisible(false);
+    TextAddPath.SetText(DirWork.Path());
+    TextAddName.SetFocus();
+    return true;
+  }
+  const std::size_t folderEnd = path.find_last_of(L'\\') + 1;
+  if (folderEnd == 0 || !parts_.Services.FileSystem.FileExists(path)) return false;
+  choose(IsProgram(path) ? AddKind::Program : AddKind::File);
+  if (!DirWork.SetPath(path.substr(0, folderEnd))) return false;
+  ChooseFile(path.substr(folderEnd));
+  return true;
+}
+
+void frmBrowse::ChooseFile(std::wstring_view name) {
+  const service::Language& language = parts_.Services.Language;
+  const std::wstring wanted = language.Lower(name);
+  const auto& files = FileWork.Entries();
+  const auto found =
+      std::find_if(files.begin(), files.end(), [&](const auto& file) { return language.Lower(file) == wanted; });
+  FileWork.SetListIndex(-1);
+  if (found != files.end()) FileWork.SetListIndex(static_cast<int>(found - files.begin()));
+  else PickFile(name);  // a hidden file is in no list
+}
+
+}  // namespace vantor::add

@@ -1,0 +1,169 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "add/AddToList.h"
+#include "add/BrowseState.h"
+#include "add/Finder.h"
+#include "bar/Panel.h"
+#include "command/CommandState.h"
+#include "command/Starters.h"
+#include "form/Button.h"
+#include "form/FileLists.h"
+#include "form/Form.h"
+#include "form/Static.h"
+#include "form/TextBox.h"
+#include "form/Timer.h"
+#include "list/LaunchList.h"
+#include "list/Settings.h"
+#include "message/Messages.h"
+#include "service/Services.h"
+#include "start/Environment.h"
+
+namespace vantor::add {
+
+/// What the box works with. All of it outlives the box.
+struct BrowseParts {
+  service::Services Services;
+  const start::Environment& Environment;
+  message::Messages& Messages;
+  list::Settings& Settings;
+  const list::LaunchList& List;
+  command::CommandState& CommandState;
+  const command::Starters& Starters;
+};
+
+/// What the bar does for the box. An empty one does nothing.
+struct BrowseHooks {
+  /// Opens the panel of this CommandMenu index, if it is not open.
+  std::function<void(int index)> OpenPanel;
+  /// Closes the open panel, and lets the bar keep itself on top if the user wants that.
+  std::function<void()> ClosePanel;
+  /// An item was added: the command line is emptied and takes the focus, if the bar shows.
+  std::function<void()> ItemAdded;
+  /// A function key was let go.
+  std::function<void(form::Key key)> HotKey;
+  /// Where a box of this size stands by the bar.
+  std::function<form::Rect(form::Size size)> Place;
+  /// A web address was dropped: it goes into the add-web box.
+  std::function<void(std::wstring_view address)> OfferWebSite;
+};
+
+/// The browse box, in two uses that OpenPanelIndex tells apart: "Add To List" (0) and "Open" (1).
+class frmBrowse : public form::Form, public bar::Panel {
+ public:
+  frmBrowse(form::UserInterface& ui, const BrowseParts& parts);
+
+  form::Frame FrameBrowseBack{*this, L"FrameBrowseBack"};
+
+  form::Frame FrameWhatToAdd{FrameBrowseBack, L"FrameWhatToAdd"};
+  std::array<form::OptionButton, 3> OptionBrowse{form::OptionButton{FrameWhatToAdd, L"OptionBrowse(0)"},
+                                                 form::OptionButton{FrameWhatToAdd, L"OptionBrowse(1)"},
+                                                 form::OptionButton{FrameWhatToAdd, L"OptionBrowse(2)"}};
+
+  form::Label LabelFolderSelect{FrameBrowseBack, L"LabelFolderSelect"};
+  form::DriveList DriveWork;
+  form::FolderList DirWork;
+  form::Label LabelAddSelect{FrameBrowseBack, L"LabelAddSelect"};
+  form::FileList FileWork;
+
+  form::Frame FrameFindPath{FrameBrowseBack, L"FrameFindPath"};
+  form::CommandButton CommandFindPath{FrameFindPath, L"CommandFindPath"};
+  form::Label LabelFindPath{FrameFindPath, L"LabelFindPath"};
+  form::Label LabelFindHow{FrameFindPath, L"LabelFindHow"};
+  form::Label LabelFindResult{FrameFindPath, L"LabelFindResult"};
+  form::Timer TimerFindPath{*this, 100};
+
+  form::Frame FrameAddPath{FrameBrowseBack, L"FrameAddPath"};
+  form::TextBox TextAddPath{FrameAddPath, L"TextAddPath"};
+  form::Label LabelAddPath{FrameAddPath, L"LabelAddPath"};
+
+  form::Frame FrameAddToList{FrameBrowseBack, L"FrameAddToList"};
+  form::TextBox TextAddName{FrameAddToList, L"TextAddName"};
+  form::CommandButton CommandAddOK{FrameAddToList, L"CommandAddOK"};
+  form::Label LabelAddOK{FrameAddToList, L"LabelAddOK"};
+
+  form::Frame FrameAddedInfo{FrameBrowseBack, L"FrameAddedInfo"};
+
+  form::Frame FrameSelect{FrameBrowseBack, L"FrameSelect"};
+  form::CommandButton CommandSelectOK{FrameSelect, L"CommandSelectOK"};
+  form::Label LabelSelectOK{FrameSelect, L"LabelSelectOK"};
+
+  form::Frame FrameAddCancel{FrameBrowseBack, L"FrameAddCancel"};
+  form::CommandButton CommandAddCancel{FrameAddCancel, L"CommandAddCancel"};
+  form::Label LabelAddCancel{FrameAddCancel, L"LabelAddCancel"};
+
+  form::PictureBox PictureNo{FrameBrowseBack, L"PictureNo"};
+
+  BrowseHooks Hooks;
+
+  /// Shows the box for the panel that OpenPanelIndex names, and hides it.
+  void Open() override;
+  void Close() override;
+
+  /// Files and folders were dropped on the program: the first that can be gone to fills the box as if it had been
+  /// browsed to. Adding it is still up to the user.
+  void Dropped(const std::vector<std::wstring>& paths);
+
+  [[nodiscard]] const BrowseState& State() const { return state_; }
+
+ protected:
+  void Form_Load() override;
+  void Form_Unload() override { StopFinder(); }
+  void Form_KeyUp(form::Key key) override;
+  void Form_Close() override { CommandAddCancel.DoClick(); }
+
+ private:
+  // layout
+  void Dress();
+  void LayOut();
+  void LayOutLists(form::Twips top, form::Twips bottom);
+  form::Twips LayOutAddFrames(form::Twips top);
+
+  // events
+  void ConnectEvents();
+  void OptionBrowse_Click(AddKind kind);
+  void DriveWork_Change();
+  void DirWork_Change();
+  void DirWork_Unreachable();
+  void FileWork_Click();
+  void FileWork_DblClick();
+  void TextAddPath_Change();
+  void TextAddName_Change();
+  void TextAddName_KeyPress(wchar_t& character);
+  void CommandAddOK_Click();
+  void CommandAddCancel_Click();
+  void CommandSelectOK_Click();
+  void CommandFindPath_MouseDown(form::MouseButton button);
+  void CommandFindPath_MouseUp(form::MouseButton button);
+  void TimerFindPath_Timer();
+
+  [[nodiscard]] bool Adding() const;
+  [[nodiscard]] bool Opening() const;
+  void ShowChosenKind();
+  void OfferFiles(std::wstring_view pattern, bool enabled);
+  void EnableNameBox(bool enable);
+  void ReadLists();
+  void NoteDrive();
+  void NoteFolder();
+  void PickFile(std::wstring_view name);
+  [[nodiscard]] bool RefusedByPlace(std::wstring_view path);
+  [[nodiscard]] list::LaunchGroup GroupOf(std::wstring_view path) const;
+  [[nodiscard]] bool IsProgram(std::wstring_view path) const;
+  void StopFinder();
+  /// False when there is nothing of this path to go to.
+  [[nodiscard]] bool GoToDropped(std::wstring_view path);
+  void ChooseFile(std::wstring_view name);
+
+  BrowseParts parts_;
+  BrowseState state_;
+  Finder finder_;
+  bool listsWanted_ = false;    // the box has been opened
+  bool showedOpenUse_ = false;  // when it was last opened
+};
+
+}  // namespace vantor::add

@@ -1,0 +1,152 @@
+#include <cstddef>
+
+#include "add/frmBrowse.h"
+
+namespace vantor::add {
+namespace {
+
+using form::Twips;
+
+constexpr Twips BoxWidth = 5040;
+constexpr Twips Margin = 120;
+constexpr Twips InnerWidth = BoxWidth - 2 * Margin;
+constexpr Twips Gap = 60;
+constexpr Twips CaptionHeight = 240;  // from a frame's top to what is in it
+constexpr Twips FirstTop = 270;
+constexpr Twips LabelHeight = 195;
+constexpr Twips LineHeight = 315;  // of a text box, a drive list
+constexpr Twips ButtonWidth = 960;
+constexpr Twips ButtonHeight = 390;
+constexpr Twips FindButtonWidth = 1440;
+constexpr Twips ColumnWidth = (InnerWidth - Margin) / 2;
+constexpr Twips AddListsHeight = 2400;
+
+// Given places, which the others follow.
+constexpr Twips AddedInfoLeft = 1320;
+constexpr Twips SelectLeft = 2880;
+constexpr Twips SelectTop = 4200;
+constexpr Twips CancelLeft = 3960;
+
+void DressButton(form::CommandButton& button, form::Label& label, std::wstring_view caption) {
+  label.SetCaption(caption);
+  button.SetFaceLabel(label);
+  button.SetPicture(form::Picture::ButtonNormal);
+  button.SetDownPicture(form::Picture::ButtonPressed);
+  button.SetDisabledPicture(form::Picture::ButtonDisabled);
+}
+
+void PlaceButton(form::CommandButton& button, form::Label& label, const form::Rect& place) {
+  button.SetBounds(place);
+  label.SetBounds(place);
+}
+
+}  // namespace
+
+void frmBrowse::Dress() {
+  SetCaption(L"Add To List");
+  constexpr std::wstring_view KindCaptions[] = {L"Prog.", L"File", L"Folder"};
+  FrameWhatToAdd.SetCaption(L"What To Add :");
+  for (std::size_t i = 0; i < OptionBrowse.size(); ++i) OptionBrowse[i].SetCaption(KindCaptions[i]);
+
+  LabelFolderSelect.SetCaption(L"Double click to select Folder");
+  LabelAddSelect.SetCaption(L"Select File or Program File");
+  DriveWork.SetAccessibleName(L"Drive");
+  DirWork.SetAccessibleName(L"Folder");
+  FileWork.SetAccessibleName(L"File");
+
+  FrameFindPath.SetCaption(L"To add a running Program :");
+  DressButton(CommandFindPath, LabelFindPath, L"Find Program Path");
+  LabelFindHow.SetCaption(
+      L"Left click on \"Find Program Path\" button, keep the mouse button down, place cursor on the open Window of "
+      L"the Program that you want to add and release mouse button.");
+  LabelFindResult.SetCaption(L"Path of Program File should appear in \"Path\" Text box.");
+
+  FrameAddPath.SetCaption(L"Path :");
+  TextAddPath.SetLocked(true);
+  TextAddPath.SetBackColor(form::Color::ButtonFace);
+  TextAddPath.SetAccessibleName(L"Path");
+  LabelAddPath.SetCaption(L"Do not type - select Program, File or Folder above");
+
+  FrameAddToList.SetCaption(L"Type a Launch Name");
+  TextAddName.SetAccessibleName(L"Type a Launch Name");
+  DressButton(CommandAddOK, LabelAddOK, L"Add");
+  FrameAddedInfo.SetCaption(L"Program Added To List :: Click To Hide");
+  FrameAddedInfo.SetBackColor(form::Color::LineBlue);
+  FrameAddedInfo.SetVisible(false);
+
+  FrameSelect.SetBorder(false);
+  DressButton(CommandSelectOK, LabelSelectOK, L"Open");
+  FrameAddCancel.SetBorder(false);
+  DressButton(CommandAddCancel, LabelAddCancel, L"Cancel");
+  PictureNo.SetTabStop(false);
+  PictureNo.SetTabIndex(CommandAddOK.TabIndex());  // Tab goes on from the button that was pressed
+}
+
+void frmBrowse::LayOut() {
+  const bool opening = Opening();
+  FrameBrowseBack.SetCaption(opening ? L"Open :" : L"Add To List :");
+  for (form::Frame* frame : {&FrameWhatToAdd, &FrameFindPath, &FrameAddPath, &FrameAddToList}) {
+    frame->SetVisible(!opening);
+  }
+  FrameSelect.SetVisible(opening);
+
+  Twips top = SelectTop;
+  if (opening) {
+    LayOutLists(FirstTop, SelectTop - Margin);
+  } else {
+    constexpr Twips OptionWidth = (InnerWidth - Margin) / 3;
+    FrameWhatToAdd.SetBounds({Margin, FirstTop, InnerWidth, CaptionHeight + LabelHeight + Margin});
+    for (std::size_t i = 0; i < OptionBrowse.size(); ++i) {
+      const Twips left = Margin + static_cast<Twips>(i) * OptionWidth;
+      OptionBrowse[i].SetBounds({left, CaptionHeight, OptionWidth - Gap, LabelHeight + Gap});
+    }
+    const Twips listsBottom = FrameWhatToAdd.Bottom() + Margin + AddListsHeight;
+    LayOutLists(FrameWhatToAdd.Bottom() + Margin, listsBottom);
+    top = LayOutAddFrames(listsBottom + Margin);
+  }
+  FrameSelect.SetBounds({SelectLeft, SelectTop, ButtonWidth, ButtonHeight});
+  PlaceButton(CommandSelectOK, LabelSelectOK, {0, 0, ButtonWidth, ButtonHeight});
+  FrameAddCancel.SetBounds({CancelLeft, top, ButtonWidth, ButtonHeight});
+  PlaceButton(CommandAddCancel, LabelAddCancel, {0, 0, ButtonWidth, ButtonHeight});
+
+  FrameBrowseBack.SetBounds({0, 0, BoxWidth, FrameAddCancel.Bottom() + Margin});
+  PictureNo.SetBounds({Margin, FrameAddCancel.Top(), Gap / 4, Gap / 4});
+}
+
+void frmBrowse::LayOutLists(Twips top, Twips bottom) {
+  constexpr Twips SecondLeft = BoxWidth - Margin - ColumnWidth;
+  LabelFolderSelect.SetBounds({Margin, top, ColumnWidth, LabelHeight});
+  LabelAddSelect.SetBounds({SecondLeft, top, ColumnWidth, LabelHeight});
+  const Twips listTop = top + LabelHeight + Gap / 2;
+  DriveWork.SetBounds({Margin, listTop, ColumnWidth, LineHeight});
+  const Twips folderTop = DriveWork.Bottom() + Gap;
+  DirWork.SetBounds({Margin, folderTop, ColumnWidth, bottom - folderTop});
+  FileWork.SetBounds({SecondLeft, listTop, ColumnWidth, bottom - listTop});
+}
+
+/// Returns where the row of the box's own buttons begins.
+Twips frmBrowse::LayOutAddFrames(Twips top) {
+  const Twips findTextLeft = Margin + FindButtonWidth + Margin;
+  const Twips findTextWidth = InnerWidth - findTextLeft - Margin;
+  const Twips howHeight = Ui().MeasureText(LabelFindHow.Caption(), false, findTextWidth).Height;
+  const Twips resultHeight = Ui().MeasureText(LabelFindResult.Caption(), false, findTextWidth).Height;
+  PlaceButton(CommandFindPath, LabelFindPath, {Margin, CaptionHeight + Gap / 2, FindButtonWidth, ButtonHeight});
+  LabelFindHow.SetBounds({findTextLeft, CaptionHeight, findTextWidth, howHeight});
+  LabelFindResult.SetBounds({findTextLeft, LabelFindHow.Bottom() + Gap, findTextWidth, resultHeight});
+  FrameFindPath.SetBounds({Margin, top, InnerWidth, LabelFindResult.Bottom() + Margin});
+
+  TextAddPath.SetBounds({Margin, CaptionHeight, InnerWidth - 2 * Margin, LineHeight});
+  LabelAddPath.SetBounds({Margin, TextAddPath.Bottom() + Gap / 2, InnerWidth - 2 * Margin, LabelHeight});
+  FrameAddPath.SetBounds({Margin, FrameFindPath.Bottom() + Gap, InnerWidth, LabelAddPath.Bottom() + Gap});
+
+  const Twips nameWidth = InnerWidth - ButtonWidth - 3 * Margin;
+  TextAddName.SetBounds({Margin, CaptionHeight, nameWidth, LineHeight});
+  PlaceButton(CommandAddOK, LabelAddOK,
+              {TextAddName.Right() + Margin, CaptionHeight - Gap, ButtonWidth, ButtonHeight});
+  FrameAddToList.SetBounds({Margin, FrameAddPath.Bottom() + Gap, InnerWidth, TextAddName.Bottom() + Margin});
+
+  FrameAddedInfo.SetBounds({AddedInfoLeft, FrameAddToList.Bottom() + Gap, BoxWidth - Margin - AddedInfoLeft, LineHeight});
+  return FrameAddedInfo.Bottom() + Gap;
+}
+
+}  // namespace vantor::add
