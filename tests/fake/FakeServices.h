@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -17,10 +18,12 @@ namespace vantor::fake {
 class FakeManagement : public service::Management {
  public:
   std::optional<service::DiskIdentity> Identity = service::DiskIdentity{3, L"1A2B3C4D", 80023715840.0};
+  bool Refuses = false;
   int Reads = 0;
 
   std::optional<service::DiskIdentity> ReadDiskIdentity() override {
     ++Reads;
+    if (Refuses) throw std::runtime_error("refused");
     return Identity;
   }
 };

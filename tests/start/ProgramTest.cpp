@@ -229,18 +229,14 @@ TEST_CASE("A medium with data but without its own settings must be set up anew")
 }
 
 TEST_CASE("An error during the start is asked about, and a start without a bar ends") {
-  struct Broken : fake::FakeServices {
-    struct : service::Management {
-      std::optional<service::DiskIdentity> ReadDiskIdentity() override { throw 1; }
-    } Thrower;
-  } services;
-  services.Disk.AddDrive(L'E', 1);
-  services.System.Program = L"E:\\";
-  services.Disk.AddFile(L"E:\\Vantor\\MediaSet.Orbel", ReadyMedia);
-  services.Disk.AddFile(L"E:\\Vantor\\Machine.Orbel", "3\r\n\"1A2B3C4D\"\r\n1\r\n");
+  struct : fake::FakeSystem {
+    std::wstring WindowsDirectory() override { throw 1; }
+  } brokenSystem;
+  fake::FakeServices services;
   form::Headless ui;
-  const service::Services broken{services.DataFiles, services.FileSystem,  services.Language, services.Thrower,
-                                 services.Programs,  services.ScriptShell, services.System};
+  const service::Services broken{services.DataFiles, services.FileSystem,  services.Language,
+                                 services.Management, services.Programs,    services.ScriptShell,
+                                 brokenSystem,        services.Processes,   services.WindowPicker};
   Program program(ui, broken);
   ui.WhenModal([&](form::Form& form) {
     CHECK(program.MessageState.CurrentMessageKey == L"Bug-Vantor-ActiveStart");
