@@ -1,40 +1,88 @@
 #include "text/Numbers.h"
 
+#include <algorithm>
 #include <cstdlib>
-#include <string>
 
 namespace vantor::text {
+
 namespace {
 
-/// The text without the blanks around it, when it is made of `allowed` only; else "". Keeps out what the
-/// library's own reading accepts beyond plain numbers, such as "inf" and "0x10".
-std::string Plain(std::wstring_view text, std::string_view allowed) {
-  while (!text.empty() && text.front() == L' ') text.remove_prefix(1);
-  while (!text.empty() && text.back() == L' ') text.remove_suffix(1);
-  std::string plain;
-  for (const wchar_t c : text) {
-    if (c >= 0x80 || allowed.find(static_cast<char>(c)) == std::string_view::npos) return {};
-    plain += static_cast<char>(c);
+constexpr bool IsDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
+
+/// Takes the number apart from its front. The library's own reading would accept "inf" and "0x10" too, heed the
+/// locale, and bring some 50 KB along.
+class NumberText {
+ public:
+  explicit NumberText(std::wstring_view text) : rest_(text) {
+    while (rest_.starts_with(L' ')) rest_.remove_prefix(1);
+    while (rest_.ends_with(L' ')) rest_.remove_suffix(1);
   }
-  return plain;
+
+  [[nodiscard]] bool AtEnd() const { return rest_.empty(); }
+  bool Take(std::wstring_view oneOf) {
+    if (rest_.empty() || oneOf.find(rest_.front()) == std::wstring_view::npos) return false;
+    rest_.remove_prefix(1);
+    return true;
+  }
+  /// True for a minus.
+  bool TakeSign() {
+    if (Take(L"-")) return true;
+    Take(L"+");
+    return false;
+  }
+  std::wstring_view TakeDigits() {
+    const auto end = std::find_if_not(rest_.begin(), rest_.end(), IsDigit);
+    const std::wstring_view digits = rest_.substr(0, static_cast<std::size_t>(end - rest_.begin()));
+    rest_.remove_prefix(digits.size());
+    return digits;
+  }
+
+ private:
+  std::wstring_view rest_;
+};
+
+/// The value of digits, at most `most`.
+long ToLong(std::wstring_view digits, long most) {
+  long value = 0;
+  for (const wchar_t digit : digits) value = std::min(value * 10 + (digit - L'0'), most);
+  return value;
 }
 
 }  // namespace
 
 std::optional<std::int16_t> ParseInt16(std::wstring_view text) {
-  const std::string plain = Plain(text, "+-0123456789");
-  char* end = nullptr;
-  const long value = std::strtol(plain.c_str(), &end, 10);
-  if (plain.empty() || *end != '\0' || value < INT16_MIN || value > INT16_MAX) return std::nullopt;
+  NumberText number(text);
+  const bool negative = number.TakeSign();
+  const std::wstring_view digits = number.TakeDigits();
+  const long value = ToLong(digits, INT16_MAX + 2L) * (negative ? -1 : 1);
+  if (digits.empty() || !number.AtEnd() || value < INT16_MIN || value > INT16_MAX) return std::nullopt;
   return static_cast<std::int16_t>(value);
 }
 
 std::optional<double> ParseDouble(std::wstring_view text) {
-  const std::string plain = Plain(text, "+-0123456789.eE");
-  char* end = nullptr;
-  const double value = std::strtod(plain.c_str(), &end);
-  if (plain.empty() || *end != '\0') return std::nullopt;
-  return value;
+  NumberText number(text);
+  const bool negative = number.TakeSign();
+  const std::wstring_view whole = number.TakeDigits();
+  const std::wstring_view fraction = number.Take(L".") ? number.TakeDigits() : std::wstring_view();
+  long exponent = 0;
+  bool complete = !whole.empty() || !fraction.empty();
+  if (number.Take(L"eE")) {
+    const bool negativeExponent = number.TakeSign();
+    const std::wstring_view digits = number.TakeDigits();
+    exponent = ToLong(digits, 5000) * (negativeExponent ? -1 : 1);  // far beyond what a double holds
+    complete = complete && !digits.empty();
+  }
+  if (!complete || !number.AtEnd()) return std::nullopt;
+
+  long double value = 0;
+  for (const std::wstring_view digits : {whole, fraction}) {
+    for (const wchar_t digit : digits) value = value * 10 + (digit - L'0');
+  }
+  exponent -= static_cast<long>(fraction.size());
+  long double scale = 1;
+  for (long i = value == 0 ? 0 : std::abs(exponent); i > 0; --i) scale *= 10;
+  value = exponent < 0 ? value / scale : value * scale;
+  return static_cast<double>(negative ? -value : value);
 }
 
 }  // namespace vantor::text

@@ -15,7 +15,8 @@ namespace vantor::text {
 
 /// A whole number, with blanks around it allowed; nothing when the text is something else or beyond 16 bits.
 [[nodiscard]] std::optional<std::int16_t> ParseInt16(std::wstring_view text);
-/// A decimal number with '.' as its point, whatever the user's locale; nothing when the text is something else.
+/// A decimal number with "." as its point, whatever the user's locale; exact for whole numbers below 2^53. Nothing
+/// when the text is something else.
 [[nodiscard]] std::optional<double> ParseDouble(std::wstring_view text);
 
 }  // namespace vantor::text

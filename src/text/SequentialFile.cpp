@@ -2,9 +2,8 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cmath>
-#include <cstdio>
-#include <cstdlib>
+#include <iterator>
+#include <type_traits>
 
 #include "text/Utf8.h"
 
@@ -23,60 +22,80 @@ std::wstring_view TrimBlanks(std::wstring_view text) {
   return text;
 }
 
+using Unit = std::make_unsigned_t<wchar_t>;
+
+/// Copies an ASCII text in double quotes and returns the end. `all` gathers the bits of the characters, by which
+/// the caller sees whether it was one.
+char* CopyQuoted(char* to, std::wstring_view text, Unit& all) {
+  Unit bits = 0;
+  *to++ = '"';
+  for (const wchar_t c : text) {
+    bits |= static_cast<Unit>(c);
+    *to++ = static_cast<char>(c);
+  }
+  *to++ = '"';
+  all |= bits;
+  return to;
+}
+
 }  // namespace
 
 void SequentialWriter::AppendInteger(long long value) {
   char digits[24];
   const auto end = std::to_chars(std::begin(digits), std::end(digits), value).ptr;
-  bytes_.append(digits, end).append(LineEnd);
-}
-
-void SequentialWriter::Write(double value) {
-  constexpr double ExactIntegers = 9007199254740992.0;  // 2^53
-  if (std::fabs(value) <= ExactIntegers && value == std::trunc(value)) {
-    AppendInteger(static_cast<long long>(value));
-    return;
-  }
-  // The longest double without an exponent has 309 digits before its point; the smallest, 1074 after it. The
-  // program never leaves the "C" locale, so that the point is a point. (std::to_chars would add 300 KB.)
-  char digits[1400];
-  int length = 0;
-  for (int decimals = 0; decimals <= 1074; ++decimals) {
-    length = std::snprintf(digits, sizeof digits, "%.*f", decimals, value);
-    if (std::strtod(digits, nullptr) == value) break;
-  }
-  bytes_.append(digits, static_cast<std::size_t>(length)).append(LineEnd);
+  Append({digits, end});
+  Append(LineEnd);
 }
 
 void SequentialWriter::Write(std::wstring_view text) {
   AppendQuoted(text);
-  bytes_ += LineEnd;
+  Append(LineEnd);
 }
 
 void SequentialWriter::Write(std::wstring_view first, std::wstring_view second) {
+  // Most of a save goes by here: one look at the room for the whole record.
+  char* const start = Room(first.size() + second.size() + 7);
+  Unit all = 0;
+  char* to = CopyQuoted(start, first, all);
+  *to++ = ',';
+  to = CopyQuoted(to, second, all);
+  to = std::copy(LineEnd.begin(), LineEnd.end(), to);
+  if (all < 0x80) {
+    used_ += static_cast<std::size_t>(to - start);
+    return;
+  }
   AppendQuoted(first);
-  bytes_ += ',';
+  Append(",");
   AppendQuoted(second);
-  bytes_ += LineEnd;
+  Append(LineEnd);
 }
 
 void SequentialWriter::AppendQuoted(std::wstring_view text) {
-  const std::size_t start = bytes_.size();
-  bytes_.resize(start + text.size() + 2, '"');
-  char* to = bytes_.data() + start + 1;
-  std::make_unsigned_t<wchar_t> all = 0;
-  for (const wchar_t c : text) {
-    all |= static_cast<std::make_unsigned_t<wchar_t>>(c);
-    *to++ = static_cast<char>(c);
+  Unit all = 0;
+  CopyQuoted(Room(text.size() + 2), text, all);
+  if (all < 0x80) {
+    used_ += text.size() + 2;
+    return;
   }
-  if (all < 0x80) return;
   ascii_ = false;
-  bytes_.resize(start + 1);
-  AppendUtf8(bytes_, text);
-  bytes_ += '"';
+  std::string bytes = "\"";
+  AppendUtf8(bytes, text);
+  Append(bytes += '"');
 }
 
-std::wstring SequentialWriter::Text() const { return FromUtf8(bytes_); }
+void SequentialWriter::Append(std::string_view bytes) {
+  std::copy(bytes.begin(), bytes.end(), Room(bytes.size()));
+  used_ += bytes.size();
+}
+
+char* SequentialWriter::Room(std::size_t bytes) {
+  if (buffer_.size() - used_ < bytes) buffer_.resize(std::max(used_ + bytes, 2 * buffer_.size()));
+  return buffer_.data() + used_;
+}
+
+void SequentialWriter::Reserve(std::size_t bytes) { static_cast<void>(Room(bytes)); }
+
+std::wstring SequentialWriter::Text() const { return FromUtf8(Bytes()); }
 
 std::optional<SequentialReader::Field> SequentialReader::Read() {
   while (!rest_.empty() && IsBlank(rest_.front())) rest_.remove_prefix(1);
@@ -118,7 +137,7 @@ bool WriteTextFile(service::DataFiles& files, const service::Language& language,
                    const SequentialWriter& writer) {
   if (writer.Ascii()) return files.Write(path, writer.Bytes());
   if (const auto bytes = language.ToCodePage(writer.Text())) return files.Write(path, *bytes);
-  return files.Write(path, std::string(ByteOrderMark) + writer.Bytes());
+  return files.Write(path, std::string(ByteOrderMark).append(writer.Bytes()));
 }
 
 }  // namespace vantor::text

@@ -18,26 +18,31 @@ class SequentialWriter {
   void Write(Integer value) {
     AppendInteger(value);
   }
-  /// A double, in the shortest form that reads back to the same value, without an exponent.
-  void Write(double value);
+  /// A whole number below 2^63, such as a disk's size in bytes, without an exponent. A fraction is cut off.
+  void Write(double value) { AppendInteger(static_cast<long long>(value)); }
   /// A text in double quotes. There is no escaping: a double quote inside ends the field on reading.
   void Write(std::wstring_view text);
   /// Two texts in double quotes, separated by one comma.
   void Write(std::wstring_view first, std::wstring_view second);
 
-  void Reserve(std::size_t characters) { bytes_.reserve(characters); }
+  /// Makes room for a text of so many bytes at once.
+  void Reserve(std::size_t bytes);
   [[nodiscard]] std::wstring Text() const;
 
   /// The text in UTF-8, and whether that is ASCII only: such a text is the same bytes in every code page, and
   /// most files are written without ever being widened.
-  [[nodiscard]] const std::string& Bytes() const { return bytes_; }
+  [[nodiscard]] std::string_view Bytes() const { return {buffer_.data(), used_}; }
   [[nodiscard]] bool Ascii() const { return ascii_; }
 
  private:
   void AppendInteger(long long value);
+  void Append(std::string_view bytes);
   void AppendQuoted(std::wstring_view text);
+  /// The end of the text, with room for so many bytes more.
+  char* Room(std::size_t bytes);
 
-  std::string bytes_;
+  std::string buffer_;  // longer than the text, so that appending a field is one copy
+  std::size_t used_ = 0;
   bool ascii_ = true;
 };
 
