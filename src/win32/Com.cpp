@@ -54,24 +54,19 @@ ComText MakeComText(std::wstring_view text) {
   return made;
 }
 
-std::wstring ToText(BSTR text) {
-  return {text == nullptr ? L"" : text, SysStringLen(text)};
-}
+std::wstring ToText(BSTR text) { return {text == nullptr ? L"" : text, SysStringLen(text)}; }
 
-Variant::Variant(std::wstring_view text) {
-  VariantInit(this);
+Variant::Variant(std::wstring_view text) : VARIANT{} {
   bstrVal = MakeComText(text).Release();
   vt = VT_BSTR;
 }
 
-Variant::Variant(int number) {
-  VariantInit(this);
+Variant::Variant(int number) : VARIANT{} {
   lVal = number;
   vt = VT_I4;
 }
 
-Variant::Variant(short number) {
-  VariantInit(this);
+Variant::Variant(short number) : VARIANT{} {
   iVal = number;
   vt = VT_I2;
 }
@@ -119,9 +114,7 @@ LateBound LateBound::Object(const wchar_t* name, Arguments arguments) const {
   return LateBound(std::move(object));
 }
 
-void LateBound::Put(const wchar_t* name, const Variant& value) const {
-  Invoke(name, DISPATCH_PROPERTYPUT, {value});
-}
+void LateBound::Put(const wchar_t* name, const Variant& value) const { Invoke(name, DISPATCH_PROPERTYPUT, {value}); }
 
 Variant LateBound::Invoke(const wchar_t* name, WORD kind, Arguments arguments) const {
   std::wstring member(name);
@@ -139,8 +132,7 @@ Variant LateBound::Invoke(const wchar_t* name, WORD kind, Arguments arguments) c
 
   Variant result;
   EXCEPINFO error = {};
-  HRESULT outcome =
-      object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, kind, &parameters, &result, &error, nullptr);
+  HRESULT outcome = object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, kind, &parameters, &result, &error, nullptr);
   if (outcome == DISP_E_EXCEPTION) {
     // The object's own failure is inside; that is the one that counts.
     if (error.pfnDeferredFillIn != nullptr) error.pfnDeferredFillIn(&error);

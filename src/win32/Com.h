@@ -86,7 +86,7 @@ using ComText = Handle<TextTraits>;
 /// Owns one VARIANT. Moves only.
 class Variant : public VARIANT {
  public:
-  Variant() { VariantInit(this); }
+  Variant() : VARIANT{} {}
   explicit Variant(std::wstring_view text);
   explicit Variant(int number);
   explicit Variant(short number);

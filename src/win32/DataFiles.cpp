@@ -14,8 +14,7 @@ constexpr LONGLONG LargestFile = 256LL * 1024 * 1024;
 
 bool WriteAll(HANDLE file, std::string_view bytes) {
   DWORD written = 0;
-  return WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
-         written == bytes.size();
+  return WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) && written == bytes.size();
 }
 
 /// The new file, with the attributes of the one that it is to replace.
@@ -26,13 +25,16 @@ FileHandle MakeFile(const std::wstring& path, DWORD oldAttributes) {
   return FileHandle(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, attributes, nullptr));
 }
 
-/// Moves a file over another. Whoever looks through new files, such as a virus scanner, may hold it for a moment.
-bool MoveOver(const std::wstring& from, const std::wstring& to) {
+/// Moves a file over another. Whoever looks through new files, such as a virus scanner, may hold either for a
+/// moment. Returns the error code.
+DWORD MoveOver(const std::wstring& from, const std::wstring& to) {
   constexpr int Attempts = 10;
   constexpr DWORD Pause = 20;  // milliseconds
   for (int attempt = 1;; ++attempt) {
-    if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) return true;
-    if (GetLastError() != ERROR_SHARING_VIOLATION || attempt == Attempts) return false;
+    if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) return ERROR_SUCCESS;
+    const DWORD error = GetLastError();
+    const bool mayPass = error == ERROR_SHARING_VIOLATION || error == ERROR_ACCESS_DENIED;
+    if (!mayPass || attempt == Attempts) return error;
     Sleep(Pause);
   }
 }
@@ -40,8 +42,8 @@ bool MoveOver(const std::wstring& from, const std::wstring& to) {
 /// For a folder whose files may be changed but not added to or taken away. The new bytes go over the old ones
 /// and the rest is cut off last, so that a full disk finds most of either.
 bool WriteInPlace(const std::wstring& path, std::string_view bytes) {
-  const FileHandle file(
-      CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+  const FileHandle file(CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr));
   return file && WriteAll(file.Get(), bytes) && SetEndOfFile(file.Get()) && FlushFileBuffers(file.Get());
 }
 
@@ -73,9 +75,11 @@ bool DataFiles::Write(std::wstring_view path, std::string_view bytes) {
   if (!file) return GetLastError() == ERROR_ACCESS_DENIED && WriteInPlace(place, bytes);
   const bool written = WriteAll(file.Get(), bytes) && FlushFileBuffers(file.Get());
   file.Reset();
-  const bool replaced = written && MoveOver(beside, place);
-  if (!replaced) DeleteFileW(beside.c_str());
-  return replaced;
+  const DWORD error = written ? MoveOver(beside, place) : ERROR_WRITE_FAULT;
+  if (error == ERROR_SUCCESS) return true;
+  const bool writtenInPlace = error == ERROR_ACCESS_DENIED && WriteInPlace(place, bytes);
+  DeleteFileW(beside.c_str());
+  return writtenInPlace;
 }
 
 bool DataFiles::MakeFolder(std::wstring_view path) {

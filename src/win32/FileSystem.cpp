@@ -12,7 +12,7 @@ std::wstring RootOf(std::wstring_view path) {
   if (path.size() >= 2 && path[1] == L':') return std::wstring(path.substr(0, 2)) + L'\\';
   if (path.starts_with(L"\\\\")) {
     const std::size_t share = path.find(L'\\', 2);
-    const std::size_t end = share == path.npos ? path.npos : path.find(L'\\', share + 1);
+    const std::size_t end = share == std::wstring_view::npos ? std::wstring_view::npos : path.find(L'\\', share + 1);
     return std::wstring(path.substr(0, end)) + L'\\';
   }
   return std::wstring(path);
@@ -71,11 +71,11 @@ std::wstring FileSystem::ExtensionName(std::wstring_view path) {
     Check(Make()->GetExtensionName(MakeComText(path).Get(), extension.Put()));
     std::wstring found = ToText(extension.Get());
     // Some such objects look for the dot in the whole path.
-    return found.find_first_of(L"\\/") == found.npos ? found : std::wstring();
+    return found.find_first_of(L"\\/") == std::wstring_view::npos ? found : std::wstring();
   } catch (const ComError&) {
     const std::wstring_view name = path.substr(path.find_last_of(L"\\/:") + 1);
     const std::size_t dot = name.rfind(L'.');
-    return dot == name.npos ? std::wstring() : std::wstring(name.substr(dot + 1));
+    return dot == std::wstring_view::npos ? std::wstring() : std::wstring(name.substr(dot + 1));
   }
 }
 

@@ -25,9 +25,8 @@ bool Wanted(const WIN32_FIND_DATAW& entry, EntryKind kind, const std::wstring& p
 }
 
 bool ComesBefore(const std::wstring& left, const std::wstring& right) {
-  const int order =
-      CompareStringW(LOCALE_USER_DEFAULT, NORM_IGNORECASE | SORT_STRINGSORT, left.data(),
-                     static_cast<int>(left.size()), right.data(), static_cast<int>(right.size()));
+  const int order = CompareStringW(LOCALE_USER_DEFAULT, NORM_IGNORECASE | SORT_STRINGSORT, left.data(),
+                                   static_cast<int>(left.size()), right.data(), static_cast<int>(right.size()));
   // Names that differ in letter case alone keep one order too.
   return order == CSTR_EQUAL ? left < right : order == CSTR_LESS_THAN;
 }
@@ -42,8 +41,8 @@ std::vector<std::wstring> ListFolder(std::wstring_view folder, EntryKind kind, s
   search += L'*';
 
   WIN32_FIND_DATAW entry;
-  const FindHandle found(FindFirstFileExW(CallPath(search).c_str(), FindExInfoBasic, &entry,
-                                          FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH));
+  const FindHandle found(FindFirstFileExW(CallPath(search).c_str(), FindExInfoBasic, &entry, FindExSearchNameMatch,
+                                          nullptr, FIND_FIRST_EX_LARGE_FETCH));
   if (!found) return names;
   const std::wstring fits(pattern);
   do {

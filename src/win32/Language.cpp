@@ -40,13 +40,9 @@ std::optional<std::wstring> Decode(std::string_view bytes) {
 
 }  // namespace
 
-std::wstring Language::Lower(std::wstring_view text) const {
-  return Map(text, LCMAP_LOWERCASE, L'A', L'Z', 'a' - 'A');
-}
+std::wstring Language::Lower(std::wstring_view text) const { return Map(text, LCMAP_LOWERCASE, L'A', L'Z', 'a' - 'A'); }
 
-std::wstring Language::Upper(std::wstring_view text) const {
-  return Map(text, LCMAP_UPPERCASE, L'a', L'z', 'A' - 'a');
-}
+std::wstring Language::Upper(std::wstring_view text) const { return Map(text, LCMAP_UPPERCASE, L'a', L'z', 'A' - 'a'); }
 
 std::wstring Language::FromCodePage(std::string_view bytes) const {
   if (auto whole = Decode(bytes)) return *std::move(whole);
@@ -82,8 +78,8 @@ std::optional<std::string> Language::ToCodePage(std::wstring_view text) const {
   BOOL* const tellLoss = unicode ? nullptr : &lost;
 
   std::string bytes(text.size() * 3, '\0');  // no code page takes more than three bytes for 16 bits
-  const int size = WideCharToMultiByte(CP_ACP, flags, text.data(), length, bytes.data(),
-                                       static_cast<int>(bytes.size()), nullptr, tellLoss);
+  const int size = WideCharToMultiByte(CP_ACP, flags, text.data(), length, bytes.data(), static_cast<int>(bytes.size()),
+                                       nullptr, tellLoss);
   if (size == 0 || lost) return std::nullopt;
   bytes.resize(static_cast<std::size_t>(size));
   return bytes;

@@ -25,7 +25,7 @@ std::wstring CallPath(std::wstring_view path) {
 }
 
 std::wstring FullPath(std::wstring_view path) {
-  const std::wstring given(path);
+  std::wstring given(path);
   std::wstring full(MAX_PATH, L'\0');
   for (;;) {
     const DWORD length = GetFullPathNameW(given.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);

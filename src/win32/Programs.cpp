@@ -14,13 +14,14 @@ namespace vantor::win32 {
 
 namespace {
 
-constexpr DWORD ElevationRequired = 740;                // ERROR_ELEVATION_REQUIRED, which not all headers have
+constexpr DWORD ElevationRequired = 740;           // ERROR_ELEVATION_REQUIRED, which not all headers have
 constexpr std::size_t LongestCommandLine = 32766;  // CreateProcess's own limit
 
 /// Whether the whole text is one file's name. A bare word is rather a program to be searched for, even where a
 /// file of that name lies in the current folder.
 bool NamesOneFile(std::wstring_view text) {
-  return text.find_first_of(L".\\/:") != text.npos && text.find(L'"') == text.npos && IsFile(text);
+  return text.find_first_of(L".\\/:") != std::wstring_view::npos && text.find(L'"') == std::wstring_view::npos &&
+         IsFile(text);
 }
 
 /// Starts `program` exactly, or the first word of the command line when that is null. Returns the error code.
@@ -31,8 +32,8 @@ DWORD Start(const wchar_t* program, std::wstring commandLine) {
   startup.wShowWindow = SW_SHOWNORMAL;
   PROCESS_INFORMATION started = {};
   // Our own error mode, without Windows' boxes, is not for others.
-  if (!CreateProcessW(program, commandLine.data(), nullptr, nullptr, FALSE, CREATE_DEFAULT_ERROR_MODE, nullptr,
-                      nullptr, &startup, &started)) {
+  if (!CreateProcessW(program, commandLine.data(), nullptr, nullptr, FALSE, CREATE_DEFAULT_ERROR_MODE, nullptr, nullptr,
+                      &startup, &started)) {
     return GetLastError();
   }
   const KernelHandle process(started.hProcess);
@@ -62,8 +63,7 @@ bool Programs::StartCommandLine(std::wstring_view commandLine) {
   if (commandLine.empty() || commandLine.size() > LongestCommandLine) return false;
   const bool wholeFile = NamesOneFile(commandLine);
   const std::wstring text(commandLine);
-  const DWORD error =
-      wholeFile ? Start(CallPath(FullPath(text)).c_str(), L'"' + text + L'"') : Start(nullptr, text);
+  const DWORD error = wholeFile ? Start(CallPath(FullPath(text)).c_str(), L'"' + text + L'"') : Start(nullptr, text);
   if (error != ElevationRequired) return error == ERROR_SUCCESS;
   if (wholeFile) return StartElevated(FullPath(text), {});
   const CommandLine parts = SplitCommandLine(text);

@@ -26,7 +26,7 @@ struct ValueName {
 std::optional<ValueName> Parse(std::wstring_view name) {
   const std::size_t first = name.find(L'\\');
   const std::size_t last = name.rfind(L'\\');
-  if (first == name.npos || first == last) return std::nullopt;
+  if (first == std::wstring_view::npos || first == last) return std::nullopt;
   ValueName parsed;
   parsed.Root = RootOf(name.substr(0, first));
   parsed.Key = name.substr(first + 1, last - first - 1);
@@ -62,19 +62,19 @@ std::wstring PlainRegistryRead(std::wstring_view name) {
 void PlainRegistryWrite(std::wstring_view name, std::wstring_view value) {
   const auto parsed = Parse(name);
   KeyHandle key;
-  if (!parsed || RegCreateKeyExW(parsed->Root, parsed->Key.c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
-                                 KEY_SET_VALUE, nullptr, key.Put(), nullptr) != ERROR_SUCCESS)
+  if (!parsed || RegCreateKeyExW(parsed->Root, parsed->Key.c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_SET_VALUE,
+                                 nullptr, key.Put(), nullptr) != ERROR_SUCCESS)
     return;
   const std::wstring text(value);
+  const auto size = static_cast<DWORD>(text.size() + 1) * sizeof(wchar_t);
   RegSetValueExW(key.Get(), parsed->Value.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()),
-                 static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
+                 static_cast<DWORD>(size));
 }
 
 void PlainRegistryDelete(std::wstring_view name) {
   const auto parsed = Parse(name);
   KeyHandle key;
-  if (!parsed || RegOpenKeyExW(parsed->Root, parsed->Key.c_str(), 0, KEY_SET_VALUE, key.Put()) != ERROR_SUCCESS)
-    return;
+  if (!parsed || RegOpenKeyExW(parsed->Root, parsed->Key.c_str(), 0, KEY_SET_VALUE, key.Put()) != ERROR_SUCCESS) return;
   RegDeleteValueW(key.Get(), parsed->Value.c_str());
 }
 

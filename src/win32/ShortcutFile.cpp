@@ -25,7 +25,7 @@ unsigned KeyCode(std::wstring_view key) {
 
 unsigned short HotkeyCode(std::wstring_view hotkey) {
   unsigned held = 0;
-  for (std::size_t plus = hotkey.find(L'+'); plus != hotkey.npos; plus = hotkey.find(L'+')) {
+  for (std::size_t plus = hotkey.find(L'+'); plus != std::wstring_view::npos; plus = hotkey.find(L'+')) {
     const std::wstring_view modifier = hotkey.substr(0, plus);
     if (modifier == L"CTRL")
       held |= HOTKEYF_CONTROL;
@@ -51,7 +51,8 @@ void WriteShortcutFile(const service::Shortcut& shortcut) {
   Check(link->SetWorkingDirectory(shortcut.WorkingDirectory.c_str()));
   const std::size_t comma = shortcut.IconLocation.rfind(L',');
   const bool indexed = comma != std::wstring::npos;
-  const int index = indexed ? text::ParseInt16(std::wstring_view(shortcut.IconLocation).substr(comma + 1)).value_or(0) : 0;
+  const int index =
+      indexed ? text::ParseInt16(std::wstring_view(shortcut.IconLocation).substr(comma + 1)).value_or(0) : 0;
   Check(link->SetIconLocation(shortcut.IconLocation.substr(0, comma).c_str(), index));
 
   ComPointer<IPersistFile> file;

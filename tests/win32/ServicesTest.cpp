@@ -25,10 +25,9 @@ struct ShellCalls {
 
 TEST_CASE("every special folder is found, by the scripting shell or without it") {
   ShellCalls shell;
-  for (const wchar_t* name :
-       {L"AllUsersDesktop", L"AllUsersStartMenu", L"AllUsersPrograms", L"AllUsersStartup", L"Desktop", L"Favorites",
-        L"Fonts", L"MyDocuments", L"NetHood", L"PrintHood", L"Programs", L"Recent", L"SendTo", L"StartMenu", L"Startup",
-        L"Templates"}) {
+  for (const wchar_t* name : {L"AllUsersDesktop", L"AllUsersStartMenu", L"AllUsersPrograms", L"AllUsersStartup",
+                              L"Desktop", L"Favorites", L"Fonts", L"MyDocuments", L"NetHood", L"PrintHood", L"Programs",
+                              L"Recent", L"SendTo", L"StartMenu", L"Startup", L"Templates"}) {
     const std::wstring path = shell.Script.SpecialFolder(name);
     CAPTURE(std::string(path.begin(), path.end()));
     CHECK(path.find(L":\\") == 1);
@@ -117,9 +116,14 @@ TEST_CASE("a shortcut reads back as it was meant, hot key included") {
 }
 
 TEST_CASE("hot keys") {
-  const std::pair<const wchar_t*, int> keys[] = {{L"CTRL+SHIFT+L", 0x034C}, {L"ALT+F4", 0x0473}, {L"7", 0x37},
-                                                 {L"F24", 0x87},            {L"F25", 0},         {L"HYPER+A", 0},
-                                                 {L"", 0},                  {L"CTRL+", 0}};
+  const std::pair<const wchar_t*, int> keys[] = {{L"CTRL+SHIFT+L", 0x034C},
+                                                 {L"ALT+F4", 0x0473},
+                                                 {L"7", 0x37},
+                                                 {L"F24", 0x87},
+                                                 {L"F25", 0},
+                                                 {L"HYPER+A", 0},
+                                                 {L"", 0},
+                                                 {L"CTRL+", 0}};
   for (const auto& [text, code] : keys) CHECK(HotkeyCode(text) == code);
 }
 

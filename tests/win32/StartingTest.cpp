@@ -52,9 +52,8 @@ TEST_CASE("what can't be started is told, and nothing is started in its place") 
   Starts starts;
   const std::wstring text = starts.Folder.Make(L"my text.unknown", "no program");
   starts.Folder.Make(L"my.cmd", Leaves);
-  for (const std::wstring& line :
-       {std::wstring(), std::wstring(L"nosuchprogram"), std::wstring(L"nosuchprogram x y"), text, starts.Folder.Path,
-        starts.Folder / L"none.exe", std::wstring(40000, L'x')}) {
+  for (const std::wstring& line : {std::wstring(), std::wstring(L"nosuchprogram"), std::wstring(L"nosuchprogram x y"),
+                                   text, starts.Folder.Path, starts.Folder / L"none.exe", std::wstring(40000, L'x')}) {
     CAPTURE(line.size());
     CHECK_FALSE(starts.Plain.StartCommandLine(line));
     CHECK(starts.Plain.ShellOpen(line.empty() ? L"none" : text) <= 32);
@@ -119,7 +118,8 @@ struct TestWindow {
     made.hInstance = GetModuleHandleW(nullptr);
     made.lpszClassName = windowClass;
     RegisterClassW(&made);
-    Window.Reset(CreateWindowExW(0, windowClass, title, style, 50, 50, 200, 100, owner, nullptr, made.hInstance, nullptr));
+    Window.Reset(
+        CreateWindowExW(0, windowClass, title, style, 50, 50, 200, 100, owner, nullptr, made.hInstance, nullptr));
   }
   WindowHandle Window;
 };

@@ -29,7 +29,7 @@ class TestFolder {
   [[nodiscard]] std::wstring operator/(std::wstring_view name) const { return Path + L'\\' + std::wstring(name); }
   /// Makes a file, and returns its path.
   std::wstring Make(std::wstring_view name, std::string_view bytes = "x") const {
-    const std::wstring path = *this / name;
+    std::wstring path = *this / name;
     const FileHandle file(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
     DWORD written = 0;
     WriteFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);

@@ -1,0 +1,93 @@
+#include <doctest/doctest.h>
+
+#include <cwchar>
+
+#include "TestFolder.h"
+#include "win32/FileSystem.h"
+#include "win32/Management.h"
+#include "win32/ScriptShell.h"
+
+using namespace vantor::win32;
+
+namespace {
+
+/// Takes the class of a scripting or management object away, as an administrator may.
+class Without {
+ public:
+  explicit Without(const wchar_t* className) : key_(std::wstring(L"Software\\Classes\\") + className + L"\\CLSID") {
+    DWORD size = sizeof old_;
+    RegGetValueW(HKEY_LOCAL_MACHINE, key_.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, old_, &size);
+    Set(L"{00000000-1111-2222-3333-444444444444}");
+    Apartment com;
+    com.Enter();
+    REQUIRE_THROWS_AS((void)LateBound::Create(className), ComError);
+  }
+  ~Without() { Set(old_); }
+  Without(const Without&) = delete;
+  Without& operator=(const Without&) = delete;
+
+ private:
+  void Set(const wchar_t* id) const {
+    const auto size = static_cast<DWORD>(std::wcslen(id) + 1) * sizeof(wchar_t);
+    RegSetKeyValueW(HKEY_LOCAL_MACHINE, key_.c_str(), nullptr, REG_SZ, id, static_cast<DWORD>(size));
+  }
+
+  std::wstring key_;
+  wchar_t old_[64] = L"";
+};
+
+/// Only on the test desktop, whose registry is thrown away.
+bool OnTestDesktop() { return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr; }
+
+}  // namespace
+
+TEST_CASE("without the scripting file system Windows is asked") {
+  if (!OnTestDesktop()) return;
+  const Without object(L"Scripting.FileSystemObject");
+  Apartment com;
+  FileSystem files(com);
+  const vantor::service::ManyFileCalls many(files);
+  CHECK(files.DriveType(L"C:\\") == 2);
+  CHECK_FALSE(files.DriveType(L"Q:"));
+  CHECK(files.DriveReady(L"C:"));
+  CHECK_FALSE(files.DriveReady(L"Q:"));
+  CHECK(files.FileExists(L"C:\\windows\\explorer.exe"));
+  CHECK_FALSE(files.FileExists(L"C:\\windows"));
+  CHECK(files.FolderExists(L"C:\\windows"));
+  CHECK(files.ExtensionName(L"C:\\b.c\\Edit.EXE") == L"EXE");
+  CHECK(files.ExtensionName(L"C:\\b.c\\plain").empty());
+}
+
+TEST_CASE("without the scripting shell Windows does the same") {
+  if (!OnTestDesktop()) return;
+  const Without object(L"WScript.Shell");
+  Apartment com;
+  ScriptShell shell(com);
+  TestFolder folder;
+  const std::wstring ran = folder / L"ran.txt";
+  SUBCASE("a document") { CHECK(shell.Run(folder.Make(L"my tool.cmd", "@echo ran>\"%~dp0ran.txt\"\r\n"))); }
+  SUBCASE("a command line") { CHECK(shell.Run(L"cmd /c echo ran>\"" + ran + L"\"")); }
+  CHECK(Becomes([&] { return GetFileAttributesW(ran.c_str()) != INVALID_FILE_ATTRIBUTES; }));
+  CHECK_FALSE(shell.Run(L"nosuchprogram"));
+  CHECK(shell.SpecialFolder(L"SendTo").find(L":\\") == 1);
+  shell.RegistryWrite(L"HKCU\\Software\\Vantor Test\\x", L"y");
+  CHECK(shell.RegistryRead(L"HKCU\\Software\\Vantor Test\\x") == L"y");
+  shell.RegistryDelete(L"HKCU\\Software\\Vantor Test\\x");
+  CHECK(shell.RegistryRead(L"HKCU\\Software\\Vantor Test\\x").empty());
+  vantor::service::Shortcut shortcut;
+  shortcut.File = folder / L"Vantor.lnk";
+  shortcut.TargetPath = L"C:\\windows\\explorer.exe";
+  CHECK(shell.SaveShortcut(shortcut));
+}
+
+TEST_CASE("without the management service disk C: is the same disk") {
+  if (!OnTestDesktop()) return;
+  const auto told = Management().ReadDiskIdentity();
+  const Without object(L"WinMgmts");
+  const auto found = Management().ReadDiskIdentity();
+  REQUIRE(told);
+  REQUIRE(found);
+  CHECK(found->DriveType == told->DriveType);
+  CHECK(found->VolumeSerialNumber == told->VolumeSerialNumber);
+  CHECK(found->Size > 0);  // the test desktop's service has a size of its own making
+}
