@@ -1,0 +1,48 @@
+#include <windows.h>
+
+#include "start/Program.h"
+#include "win32/WindowsDesktop.h"
+#include "win32/WindowsServices.h"
+
+namespace vantor::win32 {
+
+namespace {
+
+/// Nothing that lies beside the program or in the current folder is to be taken for a part of Windows, and no
+/// drive without a disk makes Windows ask for one.
+void Harden() {
+  HeapSetInformation(nullptr, HeapEnableTerminationOnCorruption, nullptr, 0);
+  SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
+
+  // Windows 7 has this call by an update only. SetDllDirectory would do without, but programs started from here
+  // would inherit it.
+  using SetDirectories = BOOL(WINAPI*)(DWORD);
+  constexpr DWORD SystemFolderOnly = 0x800;  // LOAD_LIBRARY_SEARCH_SYSTEM32
+  const FARPROC found = GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "SetDefaultDllDirectories");
+  if (found != nullptr) reinterpret_cast<SetDirectories>(reinterpret_cast<void*>(found))(SystemFolderOnly);
+}
+
+void RunProgram() {
+  Desktop desktop;
+  WindowsServices services(start::ApplicationTitle,
+                           [&desktop](std::wstring_view title) { desktop.SetApplicationTitle(title); });
+  start::Program program(desktop, services.All());
+  desktop.OnError = [&program](std::exception_ptr) { program.Messages.ReportBug(L"Desktop"); };
+  program.Main();
+  desktop.OnError = nullptr;
+}
+
+}  // namespace
+
+}  // namespace vantor::win32
+
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
+  vantor::win32::Harden();
+  try {
+    vantor::win32::RunProgram();
+    return 0;
+  } catch (...) {
+    // Every routine has its own trap; what reaches this point found no memory to report with.
+    return 1;
+  }
+}
