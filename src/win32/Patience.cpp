@@ -31,8 +31,8 @@ bool WaitWhilePainting(HANDLE event, DWORD milliseconds) {
   for (;;) {
     const DWORD gone = GetTickCount() - begin;
     if (gone >= milliseconds) return WaitForSingleObject(event, 0) == WAIT_OBJECT_0;
-    const DWORD woken = MsgWaitForMultipleObjectsEx(1, &event, milliseconds - gone, QS_PAINT | QS_SENDMESSAGE,
-                                                    MWMO_INPUTAVAILABLE);
+    const DWORD woken =
+        MsgWaitForMultipleObjectsEx(1, &event, milliseconds - gone, QS_PAINT | QS_SENDMESSAGE, MWMO_INPUTAVAILABLE);
     if (woken != WAIT_OBJECT_0 + 1) return woken == WAIT_OBJECT_0;
     // One at a time, with a look at the clock between: a window may ask to be painted again and again. What other
     // programs send is handled inside this call.
