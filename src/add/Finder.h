@@ -50,7 +50,7 @@ class Finder {
   service::WindowId finderWindow_ = service::WindowId::None;
   bool finderButtonDown_ = false;
   int processCount_ = 0;
-  std::vector<std::wstring> processNames_;   // 1 to ProcessCount
+  std::vector<std::wstring> processNames_;  // 1 to ProcessCount
   std::vector<std::uint32_t> processIds_;
 };
 

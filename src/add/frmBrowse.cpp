@@ -57,9 +57,7 @@ frmBrowse::frmBrowse(form::UserInterface& ui, const BrowseParts& parts)
 void frmBrowse::ConnectEvents() {
   // Each handler stands in an error trap of its own name.
   const auto on = [this](auto& event, std::wstring_view name, auto handler) {
-    event = [this, name, handler](auto&&... args) {
-      parts_.Messages.Trap(name, [&] { (this->*handler)(args...); });
-    };
+    event = [this, name, handler](auto&&... args) { parts_.Messages.Trap(name, [&] { (this->*handler)(args...); }); };
   };
   for (std::size_t i = 0; i < OptionBrowse.size(); ++i) {
     OptionBrowse[i].Click = [this, kind = static_cast<AddKind>(i)] {
@@ -94,7 +92,8 @@ void frmBrowse::Form_Load() {
     LayOut();
     OptionBrowse[0].SetValue(true);
     const bool remembered = !parts_.Environment.RunMode && !parts_.Settings.Folder.empty();
-    if (!remembered || !DirWork.SetPath(parts_.Settings.Folder)) (void)DirWork.SetPath(parts_.Environment.ProgramFolder);
+    if (!remembered || !DirWork.SetPath(parts_.Settings.Folder))
+      (void)DirWork.SetPath(parts_.Environment.ProgramFolder);
     NoteFolder();
   });
 }
@@ -132,8 +131,10 @@ void frmBrowse::Form_KeyUp(form::Key key) {
   // The drive list has its own use for these two.
   const bool dropKey = key == form::Key::Escape || key == form::Key::F4;
   if (dropKey && DriveWork.HasFocus()) return;
-  if (key != form::Key::Escape) Call(Hooks.HotKey, key);
-  else if (!TextAddName.Composing()) CommandAddCancel.DoClick();
+  if (key != form::Key::Escape)
+    Call(Hooks.HotKey, key);
+  else if (!TextAddName.Composing())
+    CommandAddCancel.DoClick();
 }
 
 // --- what to add
@@ -167,8 +168,10 @@ void frmBrowse::ReadLists() {
   listsWanted_ = true;
   DriveWork.Refresh();
   DirWork.Refresh();
-  if (FileWork.Path() == DirWork.Path()) FileWork.Refresh();
-  else FileWork.SetPath(DirWork.Path());
+  if (FileWork.Path() == DirWork.Path())
+    FileWork.Refresh();
+  else
+    FileWork.SetPath(DirWork.Path());
   NoteDrive();
   NoteFolder();
 }
@@ -199,8 +202,10 @@ void frmBrowse::DirWork_Change() {
 }
 
 void frmBrowse::DirWork_Unreachable() {
-  if (parts_.Services.FileSystem.DriveReady(DirWork.Path())) DirWork.Refresh();
-  else parts_.Messages.ShowList(L"MessageDriveNotReady");
+  if (parts_.Services.FileSystem.DriveReady(DirWork.Path()))
+    DirWork.Refresh();
+  else
+    parts_.Messages.ShowList(L"MessageDriveNotReady");
 }
 
 void frmBrowse::NoteDrive() {
@@ -375,8 +380,10 @@ void frmBrowse::ChooseFile(std::wstring_view name) {
   const auto found =
       std::find_if(files.begin(), files.end(), [&](const auto& file) { return language.Lower(file) == wanted; });
   FileWork.SetListIndex(-1);
-  if (found != files.end()) FileWork.SetListIndex(static_cast<int>(found - files.begin()));
-  else PickFile(name);  // a hidden file is in no list
+  if (found != files.end())
+    FileWork.SetListIndex(static_cast<int>(found - files.begin()));
+  else
+    PickFile(name);  // a hidden file is in no list
 }
 
 }  // namespace vantor::add

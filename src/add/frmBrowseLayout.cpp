@@ -141,11 +141,11 @@ Twips frmBrowse::LayOutAddFrames(Twips top) {
 
   const Twips nameWidth = InnerWidth - ButtonWidth - 3 * Margin;
   TextAddName.SetBounds({Margin, CaptionHeight, nameWidth, LineHeight});
-  PlaceButton(CommandAddOK, LabelAddOK,
-              {TextAddName.Right() + Margin, CaptionHeight - Gap, ButtonWidth, ButtonHeight});
+  PlaceButton(CommandAddOK, LabelAddOK, {TextAddName.Right() + Margin, CaptionHeight - Gap, ButtonWidth, ButtonHeight});
   FrameAddToList.SetBounds({Margin, FrameAddPath.Bottom() + Gap, InnerWidth, TextAddName.Bottom() + Margin});
 
-  FrameAddedInfo.SetBounds({AddedInfoLeft, FrameAddToList.Bottom() + Gap, BoxWidth - Margin - AddedInfoLeft, LineHeight});
+  FrameAddedInfo.SetBounds(
+      {AddedInfoLeft, FrameAddToList.Bottom() + Gap, BoxWidth - Margin - AddedInfoLeft, LineHeight});
   return FrameAddedInfo.Bottom() + Gap;
 }
 

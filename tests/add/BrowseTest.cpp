@@ -1,0 +1,259 @@
+#include "add/frmBrowse.h"
+
+#include "Desk.h"
+
+namespace vantor::add {
+namespace {
+
+using list::LaunchGroup;
+using Items = std::vector<std::wstring>;
+
+TEST_CASE("The extension decides the group, not the kind that is chosen") {
+  const struct {
+    AddKind Kind;
+    std::wstring File;  // "" for the folder itself
+    LaunchGroup Group;
+    std::wstring Target, Banner;
+  } cases[] = {
+      {AddKind::Program, L"Edit.EXE", LaunchGroup::Prog, L"C:\\Tools\\Edit.EXE",
+       L"Program Added To List : Click To Hide"},
+      {AddKind::File, L"Edit.EXE", LaunchGroup::Prog, L"C:\\Tools\\Edit.EXE", L"Program Added To List : Click To Hide"},
+      {AddKind::File, L"notes.txt", LaunchGroup::File, L"C:\\Tools\\notes.txt", L"File Added To List : Click To Hide"},
+      {AddKind::Folder, L"", LaunchGroup::Fold, L"C:\\Tools", L"Folder Added To List : Click To Hide"},
+  };
+  for (const auto& c : cases) {
+    Desk desk;
+    frmBrowse& box = desk.Browse;
+    desk.Panel(0);
+    desk.ChooseKind(c.Kind);
+    REQUIRE(box.DirWork.SetPath(L"c:\\Tools\\"));
+    if (!c.File.empty()) desk.Pick(c.File);
+    CHECK(box.TextAddPath.Text() == c.Target);
+    CHECK(box.TextAddName.HasFocus());
+    desk.Ui.Type(L"\rMy, \"one\"\r");
+    CHECK(desk.Items(c.Group) == Items{L"My, \"one\"=" + c.Target});
+    CHECK(box.FrameAddedInfo.Caption() == c.Banner);
+    CHECK(box.FrameAddedInfo.Visible());
+    CHECK(box.TextAddName.Text().empty());
+    CHECK(box.TextAddPath.Text().empty());
+    CHECK(box.FileWork.ListIndex() == -1);
+    CHECK_FALSE(box.CommandAddOK.Enabled());
+    CHECK_FALSE(box.TextAddName.Enabled());
+    CHECK(desk.Added == 1);
+    desk.Ui.Click(box.FrameAddedInfo);
+    CHECK_FALSE(box.FrameAddedInfo.Visible());
+  }
+}
+
+TEST_CASE("What can't be used is grey, and the focus goes to the name as soon as there is a path") {
+  Desk desk;
+  frmBrowse& box = desk.Browse;
+  desk.Settings.Folder = L"C:\\Tools";
+  desk.Panel(0);
+  CHECK(box.FrameBrowseBack.Caption() == L"Add To List :");
+  CHECK(box.FileWork.Entries() == Items{L"Edit.EXE"});
+  CHECK_FALSE(box.TextAddName.Enabled());
+  CHECK(box.TextAddName.BackColor() == form::Color::Silver);
+  CHECK(box.CommandFindPath.Enabled());
+
+  desk.ChooseKind(AddKind::File);
+  CHECK(box.FileWork.Entries() == Items{L"Edit.EXE", L"notes.txt"});
+  CHECK_FALSE(box.CommandFindPath.Enabled());
+  desk.Pick(L"notes.txt");
+  desk.Ui.Type(L"n");
+  CHECK(box.CommandAddOK.Enabled());
+  desk.Pick(L"Edit.EXE");  // has no default name
+  CHECK(box.TextAddName.Text().empty());
+  CHECK_FALSE(box.CommandAddOK.Enabled());
+
+  desk.ChooseKind(AddKind::Folder);
+  CHECK_FALSE(box.FileWork.Enabled());
+  CHECK_FALSE(box.LabelAddSelect.Enabled());
+  CHECK(box.FileWork.BackColor() == form::Color::Silver);
+  CHECK(box.TextAddPath.Text() == L"C:\\Tools");
+  CHECK(box.TextAddName.HasFocus());
+  CHECK(box.TextAddName.BackColor() == form::Color::WindowBackground);
+  REQUIRE(box.DirWork.SetPath(L"C:\\"));
+  CHECK(box.TextAddPath.Text() == L"C:\\");
+  CHECK(box.State().BrowseFolder == L"C:\\");
+
+  // A name left over from another choice adds nothing while there is no path.
+  desk.Ui.Type(L"left");
+  desk.ChooseKind(AddKind::Program);
+  CHECK_FALSE(box.TextAddName.Enabled());
+  desk.Ui.Click(box.CommandAddOK);
+  CHECK(desk.Items(LaunchGroup::File).empty());
+  CHECK(box.TextAddName.Text() == L"left");
+}
+
+TEST_CASE("A listed path is refused to the letter, a listed name in any letter case") {
+  Desk desk;
+  frmBrowse& box = desk.Browse;
+  desk.Settings.Folder = L"C:\\Tools";
+  desk.Choose.List.Of(LaunchGroup::Prog).AddItem(L"\x416uk", L"C:\\Tools\\Edit.EXE");
+  desk.Choose.List.Of(LaunchGroup::File).AddItem(L"Editor", L"C:\\tools\\NOTES.txt");
+  desk.Panel(0);
+  std::wstring told;
+
+  desk.Pick(L"Edit.EXE");
+  desk.Ui.Type(L"Other");
+  desk.Expect(told);
+  desk.Ui.Type(L"\r");
+  CHECK(told == L"Selected item has already been included in the List. There is no need to add it again.");
+  CHECK(box.FileWork.ListIndex() == -1);
+  CHECK(box.TextAddName.Text() == L"Other");
+
+  desk.ChooseKind(AddKind::File);
+  desk.Pick(L"notes.txt");
+  desk.Ui.Type(L"eDITOR");
+  desk.Expect(told);
+  desk.Ui.Type(L"\r");
+  CHECK(told.starts_with(L"The name you typed is listed name for another item in it's group.\r\n\r\nTwo different"));
+  CHECK(box.TextAddName.Text().empty());
+  CHECK(box.TextAddName.HasFocus());
+  CHECK(box.TextAddPath.Text() == L"C:\\Tools\\notes.txt");
+  desk.Ui.Type(L"\x436UK\r");  // a name of another group
+  CHECK(desk.Items(LaunchGroup::File) == Items{L"Editor=C:\\tools\\NOTES.txt", L"\x436UK=C:\\Tools\\notes.txt"});
+  CHECK(desk.Added == 1);
+}
+
+TEST_CASE("Where an item may come from") {
+  // How each refusal begins, and the length of the whole.
+  struct Text {
+    std::wstring_view Begin;
+    std::size_t Length;
+  };
+  constexpr Text None{L"", 0};
+  constexpr Text Fixed{L"You can add Program, File and Folder to Launch List only if those are in a fixed", 171};
+  constexpr Text Unknown{L"While Vantor runs from a Removable Media - it can add", 174 + 49 + 248 + 120 + 3 * 4};
+  constexpr Text FixedHere{L"From this machine you can add", 193};
+  constexpr Text Other{L"While Vantor runs from a Removable Media - Program File and Folder if", 155 + 97 + 4};
+  const struct {
+    bool Media, Unknown, Remembered;
+    wchar_t Drive;
+    Text Refusal;  // None when it may be added
+    bool EnablesRemember = false;
+  } cases[] = {
+      {false, false, false, L'D', None},        {false, false, false, L'E', Fixed},
+      {false, false, false, L'N', Fixed},       {true, true, false, L'E', None},
+      {true, true, false, L'D', Unknown, true}, {true, false, true, L'D', None},
+      {true, false, true, L'N', FixedHere},     {true, false, true, L'E', None},
+      {true, false, false, L'D', Other},        {true, false, false, L'E', None},
+  };
+  for (const auto& c : cases) {
+    CAPTURE(&c - cases);
+    Desk desk;
+    desk.Environment.RunMode = c.Media;
+    desk.Environment.MachineUnknown = c.Unknown;
+    desk.Environment.MachineRemembered = c.Remembered;
+    if (c.Media) desk.Environment.MediaDriveLetter = L"E";
+    bool enabled = false;
+    desk.Messages.Hooks.EnableRemember = [&] { enabled = true; };
+    desk.Panel(0);
+    desk.Browse.DriveWork.SetDrive(std::wstring(1, c.Drive));
+    CHECK(desk.Browse.State().SelectedDriveLetter == std::wstring(1, c.Drive));
+    REQUIRE(desk.Browse.DirWork.SetPath(std::wstring(1, c.Drive) + L":\\Work"));
+    desk.Pick(L"tool.exe");
+    std::wstring told;
+    const bool refused = c.Refusal.Length != 0;
+    if (refused) desk.Expect(told);
+    desk.Ui.Type(L"Tool\r");
+    CHECK(told.starts_with(c.Refusal.Begin));
+    CHECK(told.size() == c.Refusal.Length);
+    CHECK(enabled == c.EnablesRemember);
+    CHECK((desk.Added == 1) != refused);
+    if (refused) CHECK(desk.Browse.TextAddName.Text() == L"Tool");
+  }
+}
+
+TEST_CASE("The last folder on a fixed disk is kept for the next run, and a drive that is not ready is told") {
+  Desk desk;
+  frmBrowse& box = desk.Browse;
+  desk.Settings.Folder = L"C:\\Gone";
+  box.Load();
+  CHECK(box.DirWork.Path() == L"C:\\Vantor");
+  desk.Panel(0);
+  REQUIRE(box.DirWork.SetPath(L"D:\\Work"));
+  CHECK(box.DriveWork.Drive() == L"d:");
+  CHECK(desk.Settings.Folder == L"D:\\Work");
+
+  std::wstring told;
+  desk.Expect(told);
+  box.DriveWork.SetDrive(L"r:");
+  CHECK(told == L"The Drive you are trying to select is not ready.");
+  CHECK(box.DriveWork.Drive() == L"d:");
+  CHECK(box.DirWork.Path() == L"D:\\Work");
+
+  box.DriveWork.SetDrive(L"e:");
+  CHECK(box.DirWork.Path() == L"E:\\");
+  CHECK(desk.Settings.Folder.empty());
+  desk.Services.Disk.Drive(L'E').Ready = false;
+  desk.Expect(told);
+  box.DirWork.InputSelect(1);
+  desk.Ui.DoubleClick(box.DirWork);
+  CHECK(told == L"The Drive you are trying to select is not ready.");
+  CHECK(box.DirWork.Path() == L"E:\\");
+}
+
+TEST_CASE("The open box closes and then starts the file, and leaves the add box alone") {
+  Desk desk;
+  frmBrowse& box = desk.Browse;
+  desk.Settings.Folder = L"C:\\Tools";
+  desk.Panel(0);
+  desk.Pick(L"Edit.EXE");
+  desk.Panel(1);
+  CHECK(box.FrameBrowseBack.Caption() == L"Open :");
+  CHECK(box.FrameSelect.Visible());
+  CHECK_FALSE(box.FrameAddToList.Visible());
+  CHECK(box.FileWork.Entries() == Items{L"Edit.EXE", L"notes.txt"});
+  CHECK_FALSE(box.CommandSelectOK.Enabled());
+  desk.Pick(L"Edit.EXE");
+  desk.Ui.Click(box.CommandSelectOK);
+  CHECK(desk.Services.Programs.CommandLines == Items{L"C:\\Tools\\Edit.EXE"});
+  CHECK_FALSE(box.Visible());
+
+  desk.Panel(1);
+  desk.Services.ScriptShell.RunSucceeds = false;
+  desk.Pick(L"notes.txt");
+  std::wstring told;
+  desk.Expect(told);
+  desk.Ui.DoubleClick(box.FileWork);
+  CHECK(desk.Services.ScriptShell.Runs == Items{L"C:\\Tools\\notes.txt"});
+  CHECK(told == L"There was some error. Could not start the required program.");
+
+  desk.Panel(1);
+  REQUIRE(box.DirWork.SetPath(L"E:\\Work"));
+  desk.Panel(0);  // what was chosen on the other drive would be judged as one of this
+  CHECK(box.TextAddPath.Text().empty());
+  CHECK(box.FileWork.Entries() == Items{L"tool.exe"});
+}
+
+TEST_CASE("What is dropped on the program fills the add box as if browsed to") {
+  const std::wstring longFolder = L"D:\\" + std::wstring(200, L'\x436') + L"\\" + std::wstring(200, L'x');
+  const struct {
+    std::vector<std::wstring> Paths;
+    AddKind Kind;
+    std::wstring Path;
+  } cases[] = {
+      {{L"e:\\work\\TOOL.exe"}, AddKind::Program, L"E:\\work\\tool.exe"},
+      {{L"Z:\\no", L"C:\\Tools\\notes.txt"}, AddKind::File, L"C:\\Tools\\notes.txt"},
+      {{L"C:\\Tools\\Deep\\"}, AddKind::Folder, L"C:\\Tools\\Deep"},
+      {{longFolder + L"\\a, b 'c'.txt"}, AddKind::File, longFolder + L"\\a, b 'c'.txt"},
+      {{L"D:\\hidden.txt"}, AddKind::File, L"D:\\hidden.txt"},
+  };
+  for (const auto& c : cases) {
+    Desk desk;
+    desk.Services.Disk.AddFile(longFolder + L"\\a, b 'c'.txt");
+    desk.Services.Disk.AddFile(L"D:\\hidden.txt").Hidden = true;
+    desk.Panel(1);
+    desk.Browse.Dropped(c.Paths);
+    CHECK(desk.CommandState.OpenPanelIndex == 0);
+    CHECK(desk.Browse.State().WhatToAdd == c.Kind);
+    CHECK(desk.Browse.TextAddPath.Text() == c.Path);
+    CHECK(desk.Browse.TextAddName.HasFocus());
+    CHECK(desk.Added == 0);
+  }
+}
+
+}  // namespace
+}  // namespace vantor::add
