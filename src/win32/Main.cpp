@@ -1,5 +1,8 @@
 #include <windows.h>
 
+#include <cstdlib>
+#include <exception>
+
 #include "start/Program.h"
 #include "win32/WindowsDesktop.h"
 #include "win32/WindowsServices.h"
@@ -35,6 +38,12 @@ void RunProgram() {
 }  // namespace
 
 }  // namespace vantor::win32
+
+#ifdef __GLIBCXX__
+// The library's own handler writes the name of the uncaught exception's type to a console that is not there, and
+// brings 50 KB of demangler for it.
+void __gnu_cxx::__verbose_terminate_handler() { std::abort(); }
+#endif
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
   vantor::win32::Harden();
