@@ -94,6 +94,7 @@ void ActiveStart::LoadState() {
 
 void ActiveStart::ShowForms() {
   program_.frmMain.Load();
+  program_.frmBrowse.Load();
   program_.frmChoose.Load();
   program_.frmMain.Show();
   if (program_.Environment.FirstStart) program_.Messages.ShowList(L"MessageFisrtStart");

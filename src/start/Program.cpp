@@ -1,5 +1,6 @@
 #include "start/Program.h"
 
+#include "bar/PanelPlace.h"
 #include "start/ActiveStart.h"
 #include "start/DataFolder.h"
 
@@ -7,6 +8,7 @@ namespace vantor::start {
 
 Program::Program(form::UserInterface& ui, const service::Services& services) : Ui(ui), Services(services) {
   ConnectMessages();
+  ConnectBrowse();
 }
 
 void Program::Main() {
@@ -30,6 +32,26 @@ void Program::ConnectMessages() {
   hooks.SaveUserName = [this] { SaveUserName(Services, Environment, MessageState.UserName); };
   hooks.SendMailTo = [this](std::wstring_view address, std::wstring_view subject, std::wstring_view body) {
     return Starters.SendMailTo(address, subject, body);
+  };
+}
+
+void Program::ConnectBrowse() {
+  // One form, in two uses.
+  for (const std::size_t index : {0U, 1U}) frmMain.SetPanel(index, &frmBrowse);
+  add::BrowseHooks& hooks = frmBrowse.Hooks;
+  hooks.OpenPanel = [this](int index) {
+    if (CommandState.OpenPanelIndex != index) frmMain.CommandMenu.at(static_cast<std::size_t>(index)).DoClick();
+  };
+  hooks.ClosePanel = [this] { frmMain.ClosePanel(); };
+  hooks.ItemAdded = [this] {
+    if (!frmMain.Visible() || frmMain.WindowState() == form::WindowState::Minimized) return;
+    frmMain.TextMain.SetText({});
+    frmMain.TextMain.SetFocus();
+  };
+  hooks.HotKey = [this](form::Key key) { frmMain.HotKey(key); };
+  hooks.Place = [this](form::Size size) {
+    const form::Rect bar = frmMain.Bounds();
+    return bar::PlacePanel(bar, size, Ui.ScreenAt(bar).WorkArea);
   };
 }
 

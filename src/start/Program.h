@@ -1,5 +1,6 @@
 #pragma once
 
+#include "add/frmBrowse.h"
 #include "bar/frmMain.h"
 #include "command/CommandState.h"
 #include "command/Starters.h"
@@ -42,11 +43,14 @@ class Program {
 
   start::frmMove frmMove{Ui, Services, Environment};
   list::frmChoose frmChoose{Ui, ListFiles};
+  add::frmBrowse frmBrowse{
+      Ui, add::BrowseParts{Services, Environment, Messages, Settings, frmChoose.List, CommandState, Starters}};
   bar::frmMain frmMain{Ui, bar::BarParts{Services, Environment, Messages, Settings, Options, frmChoose, ListFiles,
                                          CommandState, Starters}};
 
  private:
   void ConnectMessages();
+  void ConnectBrowse();
 };
 
 }  // namespace vantor::start
