@@ -98,17 +98,20 @@ void ComboWindow::OnCommand(WORD notification) {
 /// Gives the window's list as many entries as the control has. They are empty: what is drawn comes from the control.
 void ComboWindow::FitList() {
   const int count = list_.ListCount();
-  if (count == shownCount_) return;
-  Default(WM_SETREDRAW, FALSE);
+  COMBOBOXINFO info{};
+  info.cbSize = sizeof info;
+  if (count == shownCount_ || GetComboBoxInfo(Hwnd(), &info) == FALSE) return;
+  const HWND list = info.hwndList;
+  SendMessageW(list, WM_SETREDRAW, FALSE, 0);
   if (count == 0) {
-    Default(CB_RESETCONTENT);
+    SendMessageW(list, LB_RESETCONTENT, 0, 0);
   } else {
-    if (count > shownCount_) Default(CB_INITSTORAGE, static_cast<WPARAM>(count - shownCount_), 0);
-    for (int i = shownCount_; i < count; ++i) Default(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L""));
-    for (int i = shownCount_; i > count; --i) Default(CB_DELETESTRING, static_cast<WPARAM>(i - 1));
+    if (count > shownCount_) SendMessageW(list, LB_INITSTORAGE, static_cast<WPARAM>(count - shownCount_), 0);
+    for (int i = shownCount_; i < count; ++i) SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L""));
+    for (int i = shownCount_; i > count; --i) SendMessageW(list, LB_DELETESTRING, static_cast<WPARAM>(i - 1), 0);
   }
   shownCount_ = count;
-  Default(WM_SETREDRAW, TRUE);
+  SendMessageW(list, WM_SETREDRAW, TRUE, 0);
 }
 
 void ComboWindow::FitWidth() {

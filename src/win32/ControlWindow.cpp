@@ -1,7 +1,5 @@
 #include "win32/ControlWindow.h"
 
-#include <commctrl.h>
-
 #include "form/Static.h"
 #include "win32/AccessibleNames.h"
 #include "win32/ButtonWindow.h"
@@ -17,8 +15,6 @@
 namespace vantor::win32 {
 
 namespace {
-
-constexpr UINT_PTR SubclassId = 1;
 
 HWND ParentOf(const FormWindow& owner, const form::Control& control) {
   const form::Control* const container = control.Container();
@@ -75,31 +71,26 @@ ControlWindow::ControlWindow(FormWindow& owner, form::Control& control, const Ki
     : owner_(owner), control_(control) {
   handle_ = CreateWindowExW(kind.ExtendedStyle, kind.ClassName, L"", WS_CHILD | WS_CLIPSIBLINGS | kind.Style, 0, 0, 0,
                             0, ParentOf(owner, control), nullptr, GetModuleHandleW(nullptr), nullptr);
-  SetWindowSubclass(handle_, Procedure, SubclassId, reinterpret_cast<DWORD_PTR>(this));
+  SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  classProcedure_ = reinterpret_cast<WNDPROC>(
+      SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure)));
   EnableWindow(handle_, control_.Enabled());
   // The system puts a new one below its siblings.
   SetWindowPos(handle_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
-ControlWindow::~ControlWindow() {
-  if (handle_ != nullptr) RemoveWindowSubclass(handle_, Procedure, SubclassId);
-}
-
 ControlWindow* ControlWindow::From(HWND handle) {
-  DWORD_PTR self = 0;
-  if (handle == nullptr || GetWindowSubclass(handle, Procedure, SubclassId, &self) == FALSE) return nullptr;
-  return reinterpret_cast<ControlWindow*>(self);
+  const FormWindow* const form = handle != nullptr ? FormWindow::From(GetAncestor(handle, GA_ROOT)) : nullptr;
+  return form != nullptr ? form->Find(handle) : nullptr;
 }
 
-LRESULT CALLBACK ControlWindow::Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR /*id*/,
-                                          DWORD_PTR self) {
-  auto& window = *reinterpret_cast<ControlWindow*>(self);
+LRESULT CALLBACK ControlWindow::Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
+  auto& window = *reinterpret_cast<ControlWindow*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
   if (message == WM_NCDESTROY) {
-    RemoveWindowSubclass(handle, Procedure, SubclassId);
     window.handle_ = nullptr;
-    return DefSubclassProc(handle, message, wParam, lParam);
+    return CallWindowProcW(window.classProcedure_, handle, message, wParam, lParam);
   }
-  if (window.Retired()) return DefSubclassProc(handle, message, wParam, lParam);
+  if (window.Retired()) return window.Default(message, wParam, lParam);
   const FormWindow::Handling handling(window.owner_);
   LRESULT result = 0;
   window.owner_.Desktop().Guard([&] { result = window.OnMessage(message, wParam, lParam); });
@@ -107,7 +98,7 @@ LRESULT CALLBACK ControlWindow::Procedure(HWND handle, UINT message, WPARAM wPar
 }
 
 LRESULT ControlWindow::Default(UINT message, WPARAM wParam, LPARAM lParam) const {
-  return DefSubclassProc(handle_, message, wParam, lParam);
+  return CallWindowProcW(classProcedure_, handle_, message, wParam, lParam);
 }
 
 LRESULT ControlWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -16,8 +16,6 @@ namespace vantor::win32 {
 /// The window that mirrors a control. It shows the control's state and tells the control what the user does.
 class ControlWindow : public form::ControlWindow {
  public:
-  ~ControlWindow() override;
-
   /// Makes the window for a control, inside its container's; null for a label that a button draws on its face.
   static std::unique_ptr<ControlWindow> Make(FormWindow& owner, form::Control& control);
   /// The control's window with this handle; null for any other handle.
@@ -78,13 +76,13 @@ class ControlWindow : public form::ControlWindow {
   void DrawBackdrop(Canvas& canvas) const;
 
  private:
-  static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                    DWORD_PTR self);
+  static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
   void LeaveFocus() const;
 
   FormWindow& owner_;
   form::Control& control_;
-  HWND handle_ = nullptr;  // goes with its parent
+  HWND handle_ = nullptr;  // goes with its parent, which goes before this object does
+  WNDPROC classProcedure_ = nullptr;
 };
 
 }  // namespace vantor::win32

@@ -1,5 +1,6 @@
 #include "win32/FormWindow.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "win32/ControlWindow.h"
@@ -76,6 +77,12 @@ FormWindow* FormWindow::From(HWND handle) {
     return nullptr;
   }
   return reinterpret_cast<FormWindow*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
+}
+
+ControlWindow* FormWindow::Find(HWND handle) const {
+  const auto found =
+      std::find_if(controls_.begin(), controls_.end(), [&](const auto& control) { return control->Hwnd() == handle; });
+  return found != controls_.end() ? found->get() : nullptr;
 }
 
 void FormWindow::Retire() {

@@ -34,6 +34,9 @@ class FormWindow final : public form::FormWindow {
   [[nodiscard]] form::Form& Form() const { return form_; }
   [[nodiscard]] int Dpi() const { return dpi_; }
 
+  /// The control's window with this handle; null for any other handle.
+  [[nodiscard]] ControlWindow* Find(HWND handle) const;
+
   /// From here on the form and its controls are not touched any more; the window is hidden.
   void Retire();
   [[nodiscard]] bool Retired() const { return retired_; }
