@@ -40,6 +40,8 @@ void Cover(std::vector<double>& row, double from, double to) {
   }
 }
 
+bool IsWhole(double number) { return std::floor(number) == number; }
+
 void AddArc(std::vector<Point>& points, Point center, double radius, double from, double to) {
   const int steps = std::max(4, static_cast<int>(radius));
   for (int i = 0; i <= steps; ++i) {
@@ -104,6 +106,10 @@ void Canvas::Polygon(const std::vector<Point>& points, COLORREF color) {
   GdiFlush();
   const auto [low, high] =
       std::minmax_element(points.begin(), points.end(), [](const Point& a, const Point& b) { return a.Y < b.Y; });
+  const auto [west, east] =
+      std::minmax_element(points.begin(), points.end(), [](const Point& a, const Point& b) { return a.X < b.X; });
+  const int left = std::clamp(static_cast<int>(std::floor(west->X)), 0, width_);
+  const int right = std::clamp(static_cast<int>(std::ceil(east->X)), left, width_);
   const int first = std::max(static_cast<int>(std::floor(low->Y)), 0);
   const int last = std::min(static_cast<int>(std::ceil(high->Y)), height_);
   std::vector<double> row(static_cast<std::size_t>(width_));
@@ -118,7 +124,7 @@ void Canvas::Polygon(const std::vector<Point>& points, COLORREF color) {
         if (winding != 0) Cover(row, crossings[i].X, crossings[i + 1].X);
       }
     }
-    for (int x = 0; x < width_; ++x) {
+    for (int x = left; x < right; ++x) {
       const double share = row[static_cast<std::size_t>(x)];
       if (share > 0) Blend(x, y, share, color);
     }
@@ -129,9 +135,22 @@ void Canvas::RoundedBox(const Box& box, double radius, COLORREF color) {
   radius = std::min({radius, box.Width / 2, box.Height / 2});
   const double right = box.Left + box.Width;
   const double bottom = box.Top + box.Height;
+  // Between the round ends nothing needs smoothing when the sides lie on pixels, as they mostly do.
+  const double end = std::ceil(radius);
+  const bool onPixels = IsWhole(box.Left) && IsWhole(box.Top) && IsWhole(box.Width) && IsWhole(box.Height);
+  const bool split = onPixels && box.Height > 2 * end;
   std::vector<Point> points;
   AddArc(points, {box.Left + radius, box.Top + radius}, radius, Pi, Pi * 1.5);
   AddArc(points, {right - radius, box.Top + radius}, radius, Pi * 1.5, Pi * 2);
+  if (split) {
+    points.push_back({right, box.Top + end});
+    points.push_back({box.Left, box.Top + end});
+    Polygon(points, color);
+    Shade({box.Left, box.Top + end, box.Width, box.Height - 2 * end}, color, color);
+    points.clear();
+    points.push_back({box.Left, bottom - end});
+    points.push_back({right, bottom - end});
+  }
   AddArc(points, {right - radius, bottom - radius}, radius, 0, Pi * 0.5);
   AddArc(points, {box.Left + radius, bottom - radius}, radius, Pi * 0.5, Pi);
   Polygon(points, color);
