@@ -234,9 +234,9 @@ TEST_CASE("An error during the start is asked about, and a start without a bar e
   } brokenSystem;
   fake::FakeServices services;
   form::Headless ui;
-  const service::Services broken{services.DataFiles, services.FileSystem,  services.Language,
-                                 services.Management, services.Programs,    services.ScriptShell,
-                                 brokenSystem,        services.Processes,   services.WindowPicker};
+  const service::Services broken{services.DataFiles,  services.FileSystem, services.Language,
+                                 services.Management, services.Programs,   services.ScriptShell,
+                                 brokenSystem,        services.Processes,  services.WindowPicker};
   Program program(ui, broken);
   ui.WhenModal([&](form::Form& form) {
     CHECK(program.MessageState.CurrentMessageKey == L"Bug-Vantor-ActiveStart");
