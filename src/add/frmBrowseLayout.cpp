@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstddef>
 
 #include "add/frmBrowse.h"
@@ -17,9 +18,11 @@ constexpr Twips LabelHeight = 195;
 constexpr Twips LineHeight = 315;  // of a text box, a drive list
 constexpr Twips ButtonWidth = 960;
 constexpr Twips ButtonHeight = 390;
-constexpr Twips FindButtonWidth = 1440;
+constexpr Twips FindButtonWidth = 1620;
 constexpr Twips ColumnWidth = (InnerWidth - Margin) / 2;
-constexpr Twips AddListsHeight = 2400;
+constexpr Twips LeastListsHeight = 2100;
+constexpr Twips MostListsHeight = 3600;
+constexpr Twips BarRoom = 600;  // of the screen, for the bar that the box stands by
 
 // Given places, which the others follow.
 constexpr Twips AddedInfoLeft = 1320;
@@ -53,6 +56,10 @@ void frmBrowse::Dress() {
   DriveWork.SetAccessibleName(L"Drive");
   DirWork.SetAccessibleName(L"Folder");
   FileWork.SetAccessibleName(L"File");
+  for (form::Control* list : {static_cast<form::Control*>(&DriveWork), static_cast<form::Control*>(&DirWork)}) {
+    list->SetBackColor(form::Color::WindowBackground);
+    list->SetForeColor(form::Color::WindowText);
+  }
 
   FrameFindPath.SetCaption(L"To add a running Program :");
   DressButton(CommandFindPath, LabelFindPath, L"Find Program Path");
@@ -100,9 +107,12 @@ void frmBrowse::LayOut() {
       const Twips left = Margin + static_cast<Twips>(i) * OptionWidth;
       OptionBrowse[i].SetBounds({left, CaptionHeight, OptionWidth - Gap, LabelHeight + Gap});
     }
-    const Twips listsBottom = FrameWhatToAdd.Bottom() + Margin + AddListsHeight;
-    LayOutLists(FrameWhatToAdd.Bottom() + Margin, listsBottom);
-    top = LayOutAddFrames(listsBottom + Margin);
+    const Twips listsTop = FrameWhatToAdd.Bottom() + Margin;
+    const Twips leastBottom = LayOutAddFrames(listsTop + LeastListsHeight + Margin) + ButtonHeight + Margin;
+    const Twips spare = Ui().ScreenAt(Bounds()).WorkArea.Height - BarRoom - leastBottom;
+    const Twips listsHeight = std::clamp(LeastListsHeight + spare, LeastListsHeight, MostListsHeight);
+    LayOutLists(listsTop, listsTop + listsHeight);
+    top = LayOutAddFrames(listsTop + listsHeight + Margin);
   }
   FrameSelect.SetBounds({SelectLeft, SelectTop, ButtonWidth, ButtonHeight});
   PlaceButton(CommandSelectOK, LabelSelectOK, {0, 0, ButtonWidth, ButtonHeight});

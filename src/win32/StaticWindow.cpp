@@ -90,12 +90,19 @@ void FrameWindow::Paint(Canvas& canvas) {
   GetTextExtentPoint32W(canvas.Dc(), frame_.Caption().c_str(), static_cast<int>(frame_.Caption().size()), &text);
   SelectObject(canvas.Dc(), oldFont);
   const double line = std::max(std::floor(Scale()), 1.0);
+  const LONG left = std::lround(8 * Scale());
+  const LONG gap = std::lround(4 * Scale());
+  if (frame_.BackColor() != form::Color::ButtonFace) {  // a banner, with its caption inside
+    canvas.EdgedBox({0, 0, double(canvas.Width()), double(canvas.Height())}, 4 * Scale(), line, look.Colors().Line,
+                    ground);
+    canvas.Text(frame_.Caption(), {left + gap, 0, canvas.Width() - left, canvas.Height()}, font,
+                look.Ink(frame_.ForeColor(), frame_.Enabled()), DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS);
+    return;
+  }
   const double top = frame_.Caption().empty() ? 0 : std::floor(text.cy / 2.0);
   canvas.EdgedBox({0, top, double(canvas.Width()), canvas.Height() - top}, 4 * Scale(), line, look.Colors().Line,
                   ground);
   if (frame_.Caption().empty()) return;
-  const LONG left = std::lround(8 * Scale());
-  const LONG gap = std::lround(4 * Scale());
   // The caption interrupts the line, which it stands on: above the line is what is behind the frame.
   const double right = std::min<double>(left + text.cx + 2 * gap, canvas.Width() - left);
   canvas.Shade({double(left), top, right - left, line}, ground, ground);
