@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "bar/frmMain.h"
+#include "fake/FakeServices.h"
 #include "form/Headless.h"
 
 using namespace vantor;
@@ -85,37 +86,6 @@ class AsciiLanguage : public service::Language {
   std::optional<std::string> ToCodePage(std::wstring_view text) const override { return Narrow(text); }
 };
 
-class NoPrograms : public service::Programs {
- public:
-  bool StartCommandLine(std::wstring_view /*commandLine*/) override { return false; }
-  int ShellOpen(std::wstring_view /*file*/) override { return 0; }
-  int RequestMakeCall(std::wstring_view /*number*/, std::wstring_view /*applicationName*/) override { return 0; }
-};
-
-class NoScriptShell : public service::ScriptShell {
- public:
-  bool Run(std::wstring_view /*target*/) override { return false; }
-  std::wstring SpecialFolder(std::wstring_view /*name*/) override { return {}; }
-  std::wstring RegistryRead(std::wstring_view /*name*/) override { return {}; }
-  void RegistryWrite(std::wstring_view /*name*/, std::wstring_view /*value*/) override {}
-  void RegistryDelete(std::wstring_view /*name*/) override {}
-  bool SaveShortcut(const service::Shortcut& /*shortcut*/) override { return false; }
-};
-
-class NoManagement : public service::Management {
- public:
-  std::optional<service::DiskIdentity> ReadDiskIdentity() override { return std::nullopt; }
-};
-
-class NoSystem : public service::System {
- public:
-  std::wstring WindowsDirectory() override { return {}; }
-  std::wstring ProgramFolder() override { return {}; }
-  bool PreviousInstance() override { return false; }
-  void SetTitle(std::wstring_view /*title*/) override {}
-  bool ActivateInstance(std::wstring_view /*title*/) override { return false; }
-};
-
 /// Milliseconds that the quickest of some runs takes, which is the one least disturbed by other programs; `prepare`
 /// is not counted.
 double Quickest(int runs, const std::function<void()>& prepare, const std::function<void()>& work) {
@@ -163,11 +133,9 @@ struct Bench {
   RealDataFiles DataFiles;
   RealFileSystem FileSystem;
   AsciiLanguage Language;
-  NoManagement Management;
-  NoPrograms Programs;
-  NoScriptShell ScriptShell;
-  NoSystem System;
-  service::Services Services{DataFiles, FileSystem, Language, Management, Programs, ScriptShell, System};
+  fake::FakeServices Fakes;  // for what is not measured
+  service::Services Services{DataFiles,         FileSystem,   Language,        Fakes.Management,  Fakes.Programs,
+                             Fakes.ScriptShell, Fakes.System, Fakes.Processes, Fakes.WindowPicker};
   form::Headless Desktop;
   start::Environment Environment;
   std::wstring Folder;
@@ -176,7 +144,7 @@ struct Bench {
   message::MessageState MessageState;
   message::Messages Messages{Desktop, MessageState};
   command::CommandState State;
-  command::Starters Starters{Programs, ScriptShell};
+  command::Starters Starters{Fakes.Programs, Fakes.ScriptShell};
   list::ListFiles ListFiles{Services, Environment, Settings};
   list::frmChoose Choose{Desktop, ListFiles};
   bar::frmMain Main{Desktop, {Services, Environment, Messages, Settings, Options, Choose, ListFiles, State, Starters}};

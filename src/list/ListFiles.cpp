@@ -52,7 +52,7 @@ class RecordWriter {
 
 /// What one group's loading and saving go by.
 struct ListFiles::Group {
-  LaunchGroup Code;
+  LaunchGroup Code = LaunchGroup::Web;
   const std::wstring& File;
   std::int16_t& Upper;
   // The list file of the remembered computer: in removable-media mode only, and not for web sites, whose targets
