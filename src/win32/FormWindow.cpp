@@ -123,6 +123,7 @@ void FormWindow::ShowVisible() {
       ShowWindow(Hwnd(), SW_MINIMIZE);
     } else {
       SetForegroundWindow(Hwnd());
+      desktop_.StandBehind(*this);
       UpdateWindow(Hwnd());
     }
     return;
@@ -143,6 +144,7 @@ void FormWindow::ShowEnabled() {
 void FormWindow::SetTopMost(bool topMost) {
   SetWindowPos(Hwnd(), topMost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
                SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  desktop_.StandBehind(*this);
 }
 
 void FormWindow::Drag() {
@@ -221,7 +223,15 @@ void FormWindow::OnSize(WPARAM kind) {
   const auto state = kind == SIZE_MINIMIZED ? form::WindowState::Minimized : form::WindowState::Normal;
   if (state == form_.WindowState()) return;
   form_.InputWindowState(state);
-  if (state == form::WindowState::Normal) Place();  // the program may have moved the form meanwhile
+  if (state == form::WindowState::Minimized) return;
+  Place();  // the program may have moved the form meanwhile
+  if (GetActiveWindow() == Hwnd()) GiveFocus();
+}
+
+/// The form itself does nothing with the keyboard.
+void FormWindow::GiveFocus() const {
+  const form::Control* const control = form_.ActiveControl();
+  if (control != nullptr && control->Window() != nullptr) control->Window()->TakeFocus();
 }
 
 void FormWindow::MouseMoves(WPARAM buttons) { form_.InputMouseMove(HeldButton(buttons)); }
@@ -330,9 +340,7 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       }
       break;
     case WM_SETFOCUS:
-      if (const form::Control* control = form_.ActiveControl(); control != nullptr && control->Window() != nullptr) {
-        control->Window()->TakeFocus();
-      }
+      GiveFocus();
       return 0;
     case WM_SIZE:
       OnSize(wParam);

@@ -70,6 +70,7 @@ class FormWindow final : public form::FormWindow {
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
   bool OnKey(const MSG& message);
   void OnSize(WPARAM kind);
+  void GiveFocus() const;
   void OnDpiChanged(int dpi, const RECT& suggested);
 
   void ShowVisible();
