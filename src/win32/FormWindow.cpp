@@ -55,10 +55,9 @@ FormWindow::FormWindow(win32::Desktop& desktop, form::Form& form, bool onTaskbar
   RegisterFormClass(Procedure);
   const Styles styles = StylesOf(form_);
   const RECT place = PlaceInPixels();
-  handle_.Reset(CreateWindowExW(styles.Extended | (onTaskbar ? WS_EX_APPWINDOW : 0), FormClass,
-                                form_.Caption().c_str(), styles.Style, place.left, place.top, place.right - place.left,
-                                place.bottom - place.top, desktop_.ApplicationWindow(), nullptr,
-                                GetModuleHandleW(nullptr), nullptr));
+  handle_.Reset(CreateWindowExW(styles.Extended | (onTaskbar ? WS_EX_APPWINDOW : 0), FormClass, form_.Caption().c_str(),
+                                styles.Style, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                                desktop_.ApplicationWindow(), nullptr, GetModuleHandleW(nullptr), nullptr));
   SetWindowLongPtrW(Hwnd(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   for (form::Control* control : form_.Controls()) {
     if (auto window = ControlWindow::Make(*this, *control)) controls_.push_back(std::move(window));
@@ -142,8 +141,7 @@ void FormWindow::ShowEnabled() {
 }
 
 void FormWindow::SetTopMost(bool topMost) {
-  SetWindowPos(Hwnd(), topMost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
-               SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  SetWindowPos(Hwnd(), topMost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   desktop_.StandBehind(*this);
 }
 

@@ -20,9 +20,9 @@ void ToolTips::Relay(const MSG& message) {
     if (control->TipText().empty()) return;
     const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_BAR_CLASSES};
     InitCommonControlsEx(&classes);
-    window_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
-                              CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, owner_.Hwnd(), nullptr,
-                              nullptr, nullptr);
+    window_ =
+        CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT,
+                        CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, owner_.Hwnd(), nullptr, nullptr, nullptr);
     SendMessageW(window_, TTM_SETMAXTIPWIDTH, 0, MulDiv(MaximumWidth, owner_.Dpi(), 96));
   }
   TTTOOLINFOW tool{};

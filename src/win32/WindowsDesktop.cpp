@@ -106,8 +106,8 @@ void Desktop::StartTimer(form::Timer& timer) {
 }
 
 void Desktop::StopTimer(form::Timer& timer) {
-  const auto found =
-      std::find_if(timers_.begin(), timers_.end(), [&](const RunningTimer& running) { return running.Timer == &timer; });
+  const auto found = std::find_if(timers_.begin(), timers_.end(),
+                                  [&](const RunningTimer& running) { return running.Timer == &timer; });
   if (found == timers_.end()) return;
   KillTimer(application_.Get(), found->Id);
   timers_.erase(found);
