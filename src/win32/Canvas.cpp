@@ -93,7 +93,7 @@ void Canvas::Shade(const Box& box, COLORREF top, COLORREF bottom) {
 
 void Canvas::Blend(int x, int y, double share, COLORREF color) {
   std::uint32_t& pixel = pixels_[y * width_ + x];
-  const int part = std::min(static_cast<int>(share * 256 + 0.5), 256);
+  const int part = static_cast<int>(std::min(std::lround(share * 256), 256L));
   const auto mix = [&](unsigned shift, int to) {
     const int from = static_cast<int>(pixel >> shift & 0xFFU);
     return static_cast<std::uint32_t>(from + (to - from) * part / 256) << shift;

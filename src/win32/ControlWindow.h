@@ -45,8 +45,8 @@ class ControlWindow : public form::ControlWindow {
 
  protected:
   struct Kind {
-    const wchar_t* ClassName;
-    DWORD Style;
+    const wchar_t* ClassName = nullptr;
+    DWORD Style = 0;
     DWORD ExtendedStyle = 0;
   };
   ControlWindow(FormWindow& owner, form::Control& control, const Kind& kind);

@@ -1,6 +1,7 @@
 #include "win32/EditWindow.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <utility>
 
@@ -173,7 +174,7 @@ void EditWindow::LayOut(RECT& inside) const {
   GetTextMetricsW(dc, &metrics);
   SelectObject(dc, oldFont);
   ReleaseDC(Hwnd(), dc);
-  const auto scaled = [&](int pixels) { return static_cast<LONG>(pixels * Scale() + 0.5); };
+  const auto scaled = [&](int pixels) { return std::lround(pixels * Scale()); };
   const LONG height = inside.bottom - inside.top;
   const LONG line = std::min<LONG>(metrics.tmHeight, std::max<LONG>(height - scaled(2), 0));
   const LONG side = std::min(scaled(5), (inside.right - inside.left) / 2);

@@ -118,8 +118,6 @@ LRESULT FrameWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_ERASEBKGND:
       return 1;
-    case WM_NCHITTEST:
-      return HTCLIENT;  // a group box lets the mouse through
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
       pressed_ = true;
@@ -133,6 +131,8 @@ LRESULT FrameWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_MOUSEMOVE:
       return OnMouseMove(wParam, point);
+    case WM_NCHITTEST:
+      return HTCLIENT;  // a group box lets the mouse through
     default:
       return ControlWindow::OnMessage(message, wParam, lParam);
   }

@@ -57,7 +57,7 @@ class WindowsPerson : public Person {
     current_ = this;
     hook_ = SetWindowsHookExW(WH_GETMESSAGE, WatchMessages, nullptr, GetCurrentThreadId());
     watch_ = SetTimer(nullptr, 0, 10, WatchModal);
-    desktop_.OnError = [this](std::exception_ptr error) {
+    desktop_.OnError = [this](const std::exception_ptr& error) {
       if (!error_) error_ = error;
     };
   }
