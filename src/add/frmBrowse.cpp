@@ -128,9 +128,7 @@ void frmBrowse::Form_KeyUp(form::Key key) {
     if (key == form::Key::Escape) StopFinder();
     return;
   }
-  // The drive list has its own use for these two.
-  const bool dropKey = key == form::Key::Escape || key == form::Key::F4;
-  if (dropKey && DriveWork.HasFocus()) return;
+  if (key == form::Key::F4 && DriveWork.HasFocus()) return;  // which opens the drive list
   if (key != form::Key::Escape)
     Call(Hooks.HotKey, key);
   else if (!TextAddName.Composing())
@@ -342,7 +340,7 @@ void frmBrowse::StopFinder() {
 
 // --- drag and drop
 
-void frmBrowse::Dropped(const std::vector<std::wstring>& paths) {
+void frmBrowse::FillWith(const std::vector<std::wstring>& paths) {
   parts_.Messages.Trap(L"BrowseDropped", [&] {
     if (paths.empty() || Ui().ModalForm() != nullptr) return;
     if (!Adding()) Call(Hooks.OpenPanel, static_cast<int>(AddPanel));

@@ -49,8 +49,6 @@ struct BrowseHooks {
   std::function<void(form::Key key)> HotKey;
   /// Where a box of this size stands by the bar.
   std::function<form::Rect(form::Size size)> Place;
-  /// A web address was dropped: it goes into the add-web box.
-  std::function<void(std::wstring_view address)> OfferWebSite;
 };
 
 /// The browse box, in two uses that OpenPanelIndex tells apart: "Add To List" (0) and "Open" (1).
@@ -107,7 +105,7 @@ class frmBrowse : public form::Form, public bar::Panel {
 
   /// Files and folders were dropped on the program: the first that can be gone to fills the box as if it had been
   /// browsed to. Adding it is still up to the user.
-  void Dropped(const std::vector<std::wstring>& paths);
+  void FillWith(const std::vector<std::wstring>& paths);
 
   [[nodiscard]] const BrowseState& State() const { return state_; }
 

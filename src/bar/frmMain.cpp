@@ -309,6 +309,14 @@ void frmMain::CommandWeb_Click() {
   ClearTextMain();
 }
 
+void frmMain::OfferWebSite(std::wstring_view address) {
+  parts_.Messages.Trap(L"OfferWebSite", [&] {
+    if (!addWebShown_) CommandWeb_Click();
+    Web.TextWebUrl.SetText(address);
+    Web.TextWebName.SetFocus();
+  });
+}
+
 void frmMain::ShowWebFace() { CommandWeb.SetPicture(BButton[addWebShown_ ? 7 : 6]); }
 
 void frmMain::ClearTextMain() {

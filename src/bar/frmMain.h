@@ -75,6 +75,9 @@ class frmMain : public form::Form {
   /// Closes the open panel, if there is one, and goes back to an empty command line.
   void ClosePanel();
 
+  /// Unfolds the add-web box with an address in it, ready for the name.
+  void OfferWebSite(std::wstring_view address);
+
   /// A message or a panel opens: the bar leaves the topmost band, if it keeps itself there.
   void PauseOnTop();
   /// A message or a panel has closed: with no panel open, the bar keeps itself on top if the user wants that.

@@ -120,7 +120,9 @@ void Form::MoveFocus(bool backwards) {
   const auto here = std::find(order.begin(), order.end(), activeControl_);
   const std::size_t count = order.size();
   // With nothing active the first control comes next, and the last one before.
-  const std::size_t from = here != order.end() ? static_cast<std::size_t>(here - order.begin()) : backwards ? 0 : count - 1;
+  const std::size_t from = here != order.end() ? static_cast<std::size_t>(here - order.begin())
+                           : backwards         ? 0
+                                               : count - 1;
   Control* next = order[(from + (backwards ? count - 1 : 1)) % count];
   if (next->IsReachable()) next->SetFocus();
 }
@@ -137,6 +139,10 @@ void Form::InputMoved(const Rect& bounds) { bounds_ = bounds; }
 
 void Form::InputClose() {
   if (loaded_) Form_Close();
+}
+
+void Form::InputDrop(const DroppedItems& items) {
+  if (acceptsDrops_ && AcceptsInput()) Dropped(items);
 }
 
 void Form::InputFocus(Control* control) {

@@ -32,6 +32,12 @@ class FormWindow {
   FormWindow& operator=(const FormWindow&) = default;
 };
 
+/// What the user dropped on a form: files and folders, or the address of a web site.
+struct DroppedItems {
+  std::vector<std::wstring> Paths;
+  std::wstring Address;
+};
+
 enum class WindowState { Normal, Minimized };
 enum class BorderStyle { None, Dialog };
 
@@ -82,6 +88,11 @@ class Form {
   void Drag();
   void Activate();
 
+  /// Whether things can be dropped on the form; they are told by Dropped.
+  [[nodiscard]] bool AcceptsDrops() const { return acceptsDrops_; }
+  void SetAcceptsDrops(bool accepts) { acceptsDrops_ = accepts; }  // before the form is shown
+  Event<const DroppedItems&> Dropped;
+
   [[nodiscard]] const std::vector<Control*>& Controls() const { return controls_; }
   /// The control that has the focus while the form is active; null for none.
   [[nodiscard]] Control* ActiveControl() const { return activeControl_; }
@@ -97,6 +108,7 @@ class Form {
   void InputWindowState(form::WindowState state) { windowState_ = state; }
   /// The user closes the window, or Windows ends.
   void InputClose();
+  void InputDrop(const DroppedItems& items);
   /// The focus went to a control by mouse, Tab or the window manager.
   void InputFocus(Control* control);
 
@@ -131,6 +143,7 @@ class Form {
   form::BorderStyle borderStyle_ = form::BorderStyle::None;
   form::WindowState windowState_ = form::WindowState::Normal;
   bool topMost_ = false;
+  bool acceptsDrops_ = false;
   bool loaded_ = false;
   bool visible_ = false;
   std::vector<Control*> controls_;

@@ -38,6 +38,10 @@ void Program::ConnectMessages() {
 void Program::ConnectBrowse() {
   // One form, in two uses.
   for (const std::size_t index : {0U, 1U}) frmMain.SetPanel(index, &frmBrowse);
+  for (form::Form* form : {static_cast<form::Form*>(&frmMain), static_cast<form::Form*>(&frmBrowse)}) {
+    form->SetAcceptsDrops(true);
+    form->Dropped = [this](const form::DroppedItems& items) { Take(items); };
+  }
   add::BrowseHooks& hooks = frmBrowse.Hooks;
   hooks.OpenPanel = [this](int index) {
     if (CommandState.OpenPanelIndex != index) frmMain.CommandMenu.at(static_cast<std::size_t>(index)).DoClick();
@@ -53,6 +57,13 @@ void Program::ConnectBrowse() {
     const form::Rect bar = frmMain.Bounds();
     return bar::PlacePanel(bar, size, Ui.ScreenAt(bar).WorkArea);
   };
+}
+
+void Program::Take(const form::DroppedItems& items) {
+  if (!items.Paths.empty())
+    frmBrowse.FillWith(items.Paths);
+  else if (!items.Address.empty())
+    frmMain.OfferWebSite(items.Address);
 }
 
 }  // namespace vantor::start

@@ -51,6 +51,7 @@ class Program {
  private:
   void ConnectMessages();
   void ConnectBrowse();
+  void Take(const form::DroppedItems& items);
 };
 
 }  // namespace vantor::start

@@ -15,6 +15,10 @@ constexpr wchar_t FormClass[] = L"VantorForm";
 /// The program's icon in its resources.
 constexpr WORD IconId = 1;
 
+// Messages of the form's window to itself, for what is put off.
+constexpr UINT AcceptDropsMessage = WM_APP + 1;
+constexpr UINT DroppedMessage = WM_APP + 2;
+
 void RegisterFormClass(WNDPROC procedure) {
   const HINSTANCE instance = GetModuleHandleW(nullptr);
   WNDCLASSW description{};
@@ -63,10 +67,13 @@ FormWindow::FormWindow(win32::Desktop& desktop, form::Form& form, bool onTaskbar
     if (auto window = ControlWindow::Make(*this, *control)) controls_.push_back(std::move(window));
   }
   if (form_.TopMost()) SetTopMost(true);
+  // Only once the form has been shown: what this needs of the system takes its time.
+  if (form_.AcceptsDrops()) PostMessageW(Hwnd(), AcceptDropsMessage, 0, 0);
 }
 
 FormWindow::~FormWindow() {
   retired_ = true;
+  drops_.reset();
   handle_.Reset();
 }
 
@@ -111,6 +118,22 @@ void FormWindow::Changed(form::Property property) {
     default:
       break;
   }
+}
+
+void FormWindow::AcceptDrops() {
+  drops_.emplace(
+      Hwnd(), [this] { return !retired_ && form_.AcceptsInput(); },
+      [this](form::DroppedItems items) {
+        dropped_ = std::move(items);
+        PostMessageW(Hwnd(), DroppedMessage, 0, 0);  // the program that they come from is waiting
+      });
+}
+
+void FormWindow::TakeDrop() {
+  form::DroppedItems items = std::exchange(dropped_, {});
+  for (std::wstring& path : items.Paths) path = ShortcutTarget(path);
+  SetForegroundWindow(Hwnd());
+  form_.InputDrop(items);
 }
 
 void FormWindow::ShowVisible() {
@@ -356,6 +379,12 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_NOTIFY:
       if (tips_.OnNotify(*reinterpret_cast<NMHDR*>(lParam))) return 0;
       break;
+    case AcceptDropsMessage:
+      AcceptDrops();
+      return 0;
+    case DroppedMessage:
+      TakeDrop();
+      return 0;
     case WM_CLOSE:
       form_.InputClose();
       return 0;

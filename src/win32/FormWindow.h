@@ -4,9 +4,11 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "form/Form.h"
+#include "win32/DropTarget.h"
 #include "win32/Handle.h"
 #include "win32/ToolTips.h"
 
@@ -73,6 +75,8 @@ class FormWindow final : public form::FormWindow {
   void GiveFocus() const;
   void OnDpiChanged(int dpi, const RECT& suggested);
 
+  void AcceptDrops();
+  void TakeDrop();
   void ShowVisible();
   /// The form's bounds in pixels, with the edges of a dialog around them.
   [[nodiscard]] RECT PlaceInPixels() const;
@@ -89,6 +93,8 @@ class FormWindow final : public form::FormWindow {
   std::vector<std::unique_ptr<ControlWindow>> controls_;
   ToolTips tips_;
   WindowHandle handle_;
+  std::optional<DropRegistration> drops_;
+  form::DroppedItems dropped_;  // not told yet
 };
 
 }  // namespace vantor::win32

@@ -246,7 +246,7 @@ TEST_CASE("What is dropped on the program fills the add box as if browsed to") {
     desk.Services.Disk.AddFile(longFolder + L"\\a, b 'c'.txt");
     desk.Services.Disk.AddFile(L"D:\\hidden.txt").Hidden = true;
     desk.Panel(1);
-    desk.Browse.Dropped(c.Paths);
+    desk.Browse.FillWith(c.Paths);
     CHECK(desk.CommandState.OpenPanelIndex == 0);
     CHECK(desk.Browse.State().WhatToAdd == c.Kind);
     CHECK(desk.Browse.TextAddPath.Text() == c.Path);
