@@ -1,0 +1,115 @@
+#include "desktop/Program.h"
+
+#include "desktop/Input.h"
+#include "desktop/Text.h"
+#include "desktop/Wait.h"
+#include "desktop/Window.h"
+
+namespace vantor::desktop {
+namespace {
+
+bool IsMessage(HWND window) {
+  const std::string caption = window::Text(window);
+  return caption == "myMessage" || caption.starts_with("Message For - ");
+}
+
+}  // namespace
+
+Program::Program(const Folder& folder) {
+  std::wstring commandLine = Wide('"' + folder.Path("Vantor.exe") + '"');
+  STARTUPINFOW startup = {};
+  startup.cb = sizeof startup;
+  if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, Wide(folder.Path()).c_str(),
+                      &startup, &process_)) {
+    throw std::runtime_error("Vantor.exe does not start");
+  }
+}
+
+Program::~Program() {
+  if (Running()) {
+    TerminateProcess(process_.hProcess, 99);
+    WaitForSingleObject(process_.hProcess, 5000);
+  }
+  CloseHandle(process_.hThread);
+  CloseHandle(process_.hProcess);
+}
+
+HWND Program::Bar() const {
+  for (HWND window : window::OfProcess(process_.dwProcessId)) {
+    if (window::Control(window, "BUTTON", "Exit")) return window;
+  }
+  return nullptr;
+}
+
+HWND Program::Message() const {
+  for (HWND window : window::OfProcess(process_.dwProcessId)) {
+    if (IsMessage(window)) return window;
+  }
+  return nullptr;
+}
+
+HWND Program::AwaitBar() {
+  Await("the bar to have the input", [this] { return window::HasInput(Bar()); });
+  return Bar();
+}
+
+HWND Program::AwaitMessage() {
+  Await("a message to have the input", [this] { return window::HasInput(Message()); });
+  return Message();
+}
+
+HWND Program::TextMain() const { return window::Control(Bar(), "EDIT"); }
+
+std::string Program::Line() const { return window::Text(TextMain()); }
+
+std::string Program::LineWithSelection() const {
+  std::wstring text = Wide(Line());
+  const auto selection = static_cast<DWORD>(SendMessageW(TextMain(), EM_GETSEL, 0, 0));
+  const std::size_t begin = LOWORD(selection);
+  const std::size_t end = HIWORD(selection);
+  if (begin < end && end <= text.size()) text.insert(end, L"]").insert(begin, L"[");
+  return Narrow(text);
+}
+
+void Program::TypeLine(const std::string& line) {
+  input::Press(VK_F12);
+  Await("an empty line", [this] { return Line().empty(); });
+  input::Type(line);
+  // A proposal may make it longer, and change its case.
+  Await("the line " + line, [this, &line] { return Wide(Line()).size() >= Wide(line).size(); });
+}
+
+HWND Program::Button(const std::string& name) const { return window::Control(Bar(), "BUTTON", name); }
+
+std::string Program::MessageText() const {
+  std::string texts;
+  if (HWND message = Message()) {
+    for (HWND control : window::Controls(message)) texts += window::Text(control) + '\n';
+  }
+  return texts;
+}
+
+void Program::AnswerMessage(const std::string& word) {
+  HWND message = AwaitMessage();
+  HWND button = window::Control(message, "BUTTON", word);
+  if (!button) throw std::runtime_error("no button " + word + " in: " + MessageText());
+  input::Click(window::Middle(button));
+  Await("the message to close", [message] { return !IsWindowVisible(message); });
+}
+
+bool Program::Running() const { return WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT; }
+
+DWORD Program::AwaitEnd() {
+  Await("the program to end", [this] { return !Running(); });
+  DWORD code = 0;
+  GetExitCodeProcess(process_.hProcess, &code);
+  return code;
+}
+
+void Program::Exit() {
+  AwaitBar();
+  input::Press(VK_F10);
+  if (AwaitEnd() != 0) throw std::runtime_error("the program failed at its end");
+}
+
+}  // namespace vantor::desktop

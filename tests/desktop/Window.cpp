@@ -1,0 +1,90 @@
+#include "desktop/Window.h"
+
+#include "desktop/Text.h"
+
+namespace vantor::desktop::window {
+namespace {
+
+constexpr UINT PatienceMilliseconds = 2000;  // with a program that does not answer
+
+BOOL CALLBACK Collect(HWND window, LPARAM list) {
+  if (IsWindowVisible(window)) reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+  return TRUE;
+}
+
+}  // namespace
+
+std::string Text(HWND window) {
+  DWORD_PTR length = 0;
+  SendMessageTimeoutW(window, WM_GETTEXTLENGTH, 0, 0, SMTO_ABORTIFHUNG, PatienceMilliseconds, &length);
+  std::wstring text(length + 1, L'\0');
+  length = 0;
+  SendMessageTimeoutW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()), SMTO_ABORTIFHUNG,
+                      PatienceMilliseconds, &length);
+  text.resize(length);
+  return Narrow(text);
+}
+
+std::string ClassName(HWND window) {
+  wchar_t name[64];
+  return Narrow(std::wstring(name, static_cast<std::size_t>(GetClassNameW(window, name, 64))));
+}
+
+std::vector<HWND> OfProcess(DWORD process) {
+  std::vector<HWND> windows;
+  EnumWindows(Collect, reinterpret_cast<LPARAM>(&windows));
+  std::erase_if(windows, [process](HWND window) {
+    DWORD owner = 0;
+    GetWindowThreadProcessId(window, &owner);
+    return owner != process;
+  });
+  return windows;
+}
+
+std::vector<HWND> Controls(HWND window) {
+  std::vector<HWND> controls;
+  EnumChildWindows(window, Collect, reinterpret_cast<LPARAM>(&controls));
+  return controls;
+}
+
+HWND Control(HWND window, const std::string& className, const std::string& textBegin) {
+  for (HWND control : Controls(window)) {
+    if (_stricmp(ClassName(control).c_str(), className.c_str()) == 0 && Text(control).starts_with(textBegin)) {
+      return control;
+    }
+  }
+  return nullptr;
+}
+
+bool IsFrame(HWND control) {
+  return ClassName(control) == "Button" && (GetWindowLongW(control, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
+}
+
+RECT Bounds(HWND window) {
+  RECT bounds = {};
+  GetWindowRect(window, &bounds);
+  return bounds;
+}
+
+POINT Middle(HWND window) {
+  const RECT bounds = Bounds(window);
+  return {(bounds.left + bounds.right) / 2, (bounds.top + bounds.bottom) / 2};
+}
+
+bool HasInput(HWND window) {
+  GUITHREADINFO thread = {};
+  thread.cbSize = sizeof thread;
+  return GetForegroundWindow() == window && GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &thread) &&
+         thread.hwndFocus && (thread.hwndFocus == window || IsChild(window, thread.hwndFocus));
+}
+
+bool IsTopMost(HWND window) { return (GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; }
+
+bool IsAbove(HWND upper, HWND lower) {
+  for (HWND window = upper; window; window = GetWindow(window, GW_HWNDNEXT)) {
+    if (window == lower) return true;
+  }
+  return false;
+}
+
+}  // namespace vantor::desktop::window

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+/// Windows of other programs, looked at from outside.
+namespace vantor::desktop::window {
+
+/// The title of a window or the content of a control, in UTF-8.
+std::string Text(HWND window);
+std::string ClassName(HWND window);
+/// The top-level windows of a process that are shown, minimised ones too.
+std::vector<HWND> OfProcess(DWORD process);
+/// The controls of a window that are shown, in its own order.
+std::vector<HWND> Controls(HWND window);
+/// The first control shown of a class whose text begins so; null when there is none.
+HWND Control(HWND window, const std::string& className, const std::string& textBegin = {});
+
+/// Whether a control only surrounds others.
+bool IsFrame(HWND control);
+
+RECT Bounds(HWND window);
+POINT Middle(HWND window);
+/// Whether the window has the input: it is in the foreground and it, or a control of it, has the focus.
+bool HasInput(HWND window);
+bool IsTopMost(HWND window);
+/// Whether the first window stands somewhere above the second.
+bool IsAbove(HWND upper, HWND lower);
+
+}  // namespace vantor::desktop::window
