@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "win32/Handle.h"
+
 namespace vantor::win32 {
 
 class FormWindow;
@@ -15,13 +17,15 @@ class ToolTips {
 
   /// Sees each mouse message for a control of the form.
   void Relay(const MSG& message);
+  /// Puts the tool tip that is shown above all other windows again.
+  void Raise();
   /// Answers the tool-tip window's question for its text. Returns false for any other notification.
   bool OnNotify(NMHDR& notification);
 
  private:
   FormWindow& owner_;
-  HWND window_ = nullptr;  // goes with its owner
-  std::wstring text_;      // what the window shows, which must outlive the question
+  WindowHandle window_;
+  std::wstring text_;  // what the window shows, which must outlive the question
 };
 
 }  // namespace vantor::win32
