@@ -30,7 +30,7 @@ constexpr std::int16_t IdleTicksBeforeName = 60;
 // CommandMenu buttons before the command line; the others stand after it.
 constexpr std::size_t MenusBeforeText = 4;
 
-constexpr std::array<std::wstring_view, frmMain::MenuCount> MenuTips{
+constexpr std::array<std::wstring_view, menu::Count> MenuTips{
     L"Show | Hide Add To List---F2",    L"Show | Hide Open---F3",
     L"Show | Hide Open From List---F4", L"Show | Hide Run (Orbel's Program)---F5",
     L"Show | Hide Preferences---F6",    L"Show | Hide Help---F7",
@@ -58,7 +58,7 @@ frmMain::frmMain(form::UserInterface& ui, const BarParts& parts)
 
 void frmMain::NameControls() {
   CommandWeb.SetToolTip(L"Show | Hide Add URL---F1");
-  for (std::size_t i = 0; i < MenuCount; ++i) {
+  for (std::size_t i = 0; i < menu::Count; ++i) {
     CommandMenu[i].SetToolTip(MenuTips[i]);
     CommandMenu[i].SetVisible(false);
   }
@@ -68,7 +68,7 @@ void frmMain::NameControls() {
 
   int tabIndex = 0;
   CommandWeb.SetTabIndex(tabIndex++);
-  for (std::size_t i = 0; i < MenuCount; ++i) {
+  for (std::size_t i = 0; i < menu::Count; ++i) {
     if (i == MenusBeforeText) TextMain.SetTabIndex(tabIndex++);
     CommandMenu[i].SetTabIndex(tabIndex++);
   }
@@ -84,7 +84,7 @@ void frmMain::NameControls() {
 void frmMain::HandleEvents() {
   message::Messages& messages = parts_.Messages;
   CommandWeb.Click = [this, &messages] { messages.Trap(L"CommandWeb_Click", [this] { CommandWeb_Click(); }); };
-  for (std::size_t i = 0; i < MenuCount; ++i) {
+  for (std::size_t i = 0; i < menu::Count; ++i) {
     CommandMenu[i].Click = [this, &messages, i] {
       messages.Trap(L"CommandMenu_Click", [this, i] { CommandMenu_Click(i); });
     };
@@ -157,7 +157,7 @@ void frmMain::LayOut() {
   };
   place(ImageLauncher, MarkSize, MarkSize);
   place(CommandWeb, ButtonWidth, BarHeight);
-  for (std::size_t i = 0; i < MenuCount; ++i) {
+  for (std::size_t i = 0; i < menu::Count; ++i) {
     if (i == MenusBeforeText) place(TextMain, TextWidth, TextHeight);
     place(CommandMenu[i], ButtonWidth, BarHeight);
   }
@@ -288,7 +288,7 @@ void frmMain::ClosePanel() {
 }
 
 void frmMain::ShowMenuCaptions() {
-  for (std::size_t i = 0; i < MenuCount; ++i) {
+  for (std::size_t i = 0; i < menu::Count; ++i) {
     const bool open = parts_.CommandState.OpenPanelIndex == static_cast<std::int16_t>(i);
     CommandMenu[i].SetCaption(open ? command::OpenMenuCaption : command::MenuButtonCaptions[i]);
   }

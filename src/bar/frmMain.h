@@ -40,9 +40,6 @@ struct BarParts {
 /// The bar: the program's face. Unloading it saves the settings and the launch list and ends the program.
 class frmMain : public form::Form {
  public:
-  /// Of the CommandMenu buttons.
-  static constexpr std::size_t MenuCount = 7;
-
   /// The pictures of buttons: 0, 1, 2 and 3 normal, pressed, disabled and open, 5 normal again for the panels'
   /// buttons, 6 and 7 the faces of CommandWeb while its box is folded and unfolded.
   static constexpr std::array BButton{
@@ -56,7 +53,7 @@ class frmMain : public form::Form {
   form::Frame FrameButtons{*this, L"FrameButtons"};
   form::Image ImageLauncher{FrameButtons, L"ImageLauncher"};
   form::CommandButton CommandWeb{FrameButtons, L"CommandWeb"};
-  std::array<form::CommandButton, MenuCount> CommandMenu{
+  std::array<form::CommandButton, menu::Count> CommandMenu{
       form::CommandButton{FrameButtons, L"CommandMenu(0)"}, form::CommandButton{FrameButtons, L"CommandMenu(1)"},
       form::CommandButton{FrameButtons, L"CommandMenu(2)"}, form::CommandButton{FrameButtons, L"CommandMenu(3)"},
       form::CommandButton{FrameButtons, L"CommandMenu(4)"}, form::CommandButton{FrameButtons, L"CommandMenu(5)"},
@@ -114,7 +111,7 @@ class frmMain : public form::Form {
 
   BarParts parts_;
   command::CommandLine commandLine_;
-  std::array<Panel*, MenuCount> panels_{};
+  std::array<Panel*, menu::Count> panels_{};
   double twipsPerPixelX_ = 15;
   form::Twips narrowWidth_ = 0;  // to the right edge of CommandExit
   form::Twips wideWidth_ = 0;    // to the right edge of the unfolded add-web box

@@ -1,9 +1,76 @@
 #include "list/frmChoose.h"
 
+#include "list/PictureButton.h"
+
 namespace vantor::list {
 
-frmChoose::frmChoose(form::UserInterface& ui, const ListFiles& files) : Form(ui, L"frmChoose"), files_(files) {}
+namespace {
 
-void frmChoose::Form_Load() { files_.LoadLaunchList(List); }
+constexpr form::Twips Margin = 120;
+
+}  // namespace
+
+frmChoose::frmChoose(form::UserInterface& ui, const ListFiles& files, const service::Language& language,
+                     message::Messages& messages)
+    : Form(ui, L"frmChoose"), Page(*this, language, messages), files_(files), messages_(messages) {
+  Page.FrameList.SetVisible(false);
+  FrameCancel.SetBorder(false);
+  DressButton(CommandListCancel, LabelListCancel, L"Cancel");
+  CommandListCancel.Click = [this] {
+    messages_.Trap(L"CommandListCancel_Click", [this] { CommandListCancel_Click(); });
+  };
+  for (const LaunchGroup group : LaunchGroups) {
+    Page.Of(group).Start = [this, group](std::wstring_view target) { Start(group, target); };
+  }
+}
+
+void frmChoose::Form_Load() {
+  messages_.Trap(L"LoadLaunchList", [this] { files_.LoadLaunchList(List); });
+}
+
+void frmChoose::ShowPage(ChoosePage& page) {
+  Load();
+  if (shown_ != nullptr && shown_ != &page) shown_->Frame().SetVisible(false);
+  shown_ = &page;
+  SetCaption(page.Title());
+  page.Prepare();
+  const form::Size size = page.LayOut();
+  page.Frame().SetBounds({0, 0, size.Width, size.Height});
+  page.Frame().SetVisible(true);
+
+  const bool closes = !page.CloseCaption().empty();
+  FrameCancel.SetVisible(closes);
+  form::Twips height = size.Height;
+  if (closes) {
+    LabelListCancel.SetCaption(page.CloseCaption());
+    const form::Twips width = ButtonWidth(LabelListCancel);
+    FrameCancel.SetBounds({size.Width - Margin - width, height, width, ButtonHeight});
+    PlaceButton(CommandListCancel, LabelListCancel, {0, 0, width, ButtonHeight});
+    height += ButtonHeight + Margin;
+  }
+  SetBounds(Hooks.Place ? Hooks.Place({size.Width, height})
+                        : form::Rect{Bounds().Left, Bounds().Top, size.Width, height});
+  form::Control* const first = page.First();
+  Show();
+  (first != nullptr ? *first : CommandListCancel).SetFocus();
+}
+
+void frmChoose::CommandListCancel_Click() {
+  if (Hooks.ClosePanel) Hooks.ClosePanel();
+}
+
+void frmChoose::Start(LaunchGroup group, std::wstring_view target) {
+  CommandListCancel_Click();
+  const auto& start = group == LaunchGroup::Prog ? Hooks.RunProgram : Hooks.OpenWithShell;
+  if (start) start(target);
+}
+
+void frmChoose::Form_KeyUp(form::Key key) {
+  if (key == form::Key::Escape) {
+    CommandListCancel_Click();
+  } else if (Hooks.HotKey) {
+    Hooks.HotKey(key);
+  }
+}
 
 }  // namespace vantor::list

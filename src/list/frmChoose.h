@@ -1,44 +1,77 @@
 #pragma once
 
 #include <functional>
-#include <string>
+#include <string_view>
 
+#include "form/Button.h"
 #include "form/Form.h"
 #include "form/ListControl.h"
 #include "form/Static.h"
+#include "list/ChoosePage.h"
 #include "list/LaunchList.h"
 #include "list/ListFiles.h"
+#include "list/ListPage.h"
+#include "message/Messages.h"
+#include "service/Language.h"
 
 namespace vantor::list {
 
+/// What the bar does for the dialog. An empty one does nothing.
+struct ChooseHooks {
+  std::function<void()> ClosePanel;
+  /// Start a target; a failure is told there.
+  std::function<void(std::wstring_view target)> RunProgram;
+  std::function<void(std::wstring_view target)> OpenWithShell;
+  /// A function key was let go.
+  std::function<void(form::Key key)> HotKey;
+  /// Where a box of this size stands by the bar.
+  std::function<form::Rect(form::Size size)> Place;
+};
+
 /// The list dialog. Its eight boxes are the launch list for the length of the run; loading the form fills them.
+/// It also shows the other pages that are put on it.
 class frmChoose : public form::Form {
  public:
-  frmChoose(form::UserInterface& ui, const ListFiles& files);
+  frmChoose(form::UserInterface& ui, const ListFiles& files, const service::Language& language,
+            message::Messages& messages);
 
-  form::Frame FrameProgList{*this, L"FrameProgList"};
-  form::ComboBox ComboListProgName{FrameProgList, L"ComboListProgName"};
-  form::ComboBox ComboListProgPath{FrameProgList, L"ComboListProgPath"};
-  form::Frame FrameFileList{*this, L"FrameFileList"};
-  form::ComboBox ComboListFileName{FrameFileList, L"ComboListFileName"};
-  form::ComboBox ComboListFilePath{FrameFileList, L"ComboListFilePath"};
-  form::Frame FrameFoldList{*this, L"FrameFoldList"};
-  form::ComboBox ComboListFoldName{FrameFoldList, L"ComboListFoldName"};
-  form::ComboBox ComboListFoldPath{FrameFoldList, L"ComboListFoldPath"};
-  form::Frame FrameWebList{*this, L"FrameWebList"};
-  form::ComboBox ComboListWebName{FrameWebList, L"ComboListWebName"};
-  form::ComboBox ComboListWebPath{FrameWebList, L"ComboListWebPath"};
+  ListPage Page;
+  form::ComboBox& ComboListProgName = Page.Prog.Name;
+  form::ComboBox& ComboListProgPath = Page.Prog.Path;
+  form::ComboBox& ComboListFileName = Page.File.Name;
+  form::ComboBox& ComboListFilePath = Page.File.Path;
+  form::ComboBox& ComboListFoldName = Page.Fold.Name;
+  form::ComboBox& ComboListFoldPath = Page.Fold.Path;
+  form::ComboBox& ComboListWebName = Page.Web.Name;
+  form::ComboBox& ComboListWebPath = Page.Web.Path;
+
+  form::Frame FrameCancel{*this, L"FrameCancel"};
+  form::CommandButton CommandListCancel{FrameCancel, L"CommandListCancel"};
+  form::Label LabelListCancel{FrameCancel, L"LabelListCancel"};
 
   LaunchList List{{ComboListFileName, ComboListFilePath},
                   {ComboListFoldName, ComboListFoldPath},
                   {ComboListProgName, ComboListProgPath},
                   {ComboListWebName, ComboListWebPath}};
 
+  ChooseHooks Hooks;
+
+  /// Shows a page whose frame is on this form, and no other one.
+  void ShowPage(ChoosePage& page);
+  /// Closes the panel, by the bar.
+  void CommandListCancel_Click();
+
  protected:
   void Form_Load() override;
+  void Form_KeyUp(form::Key key) override;
+  void Form_Close() override { CommandListCancel_Click(); }
 
  private:
+  void Start(LaunchGroup group, std::wstring_view target);
+
   const ListFiles& files_;
+  message::Messages& messages_;
+  ChoosePage* shown_ = nullptr;
 };
 
 }  // namespace vantor::list

@@ -1,5 +1,6 @@
 #include "start/Program.h"
 
+#include "add/MachineIdentity.h"
 #include "bar/PanelPlace.h"
 #include "start/ActiveStart.h"
 #include "start/DataFolder.h"
@@ -9,6 +10,7 @@ namespace vantor::start {
 Program::Program(form::UserInterface& ui, const service::Services& services) : Ui(ui), Services(services) {
   ConnectMessages();
   ConnectBrowse();
+  ConnectChoose();
 }
 
 void Program::Main() {
@@ -33,11 +35,13 @@ void Program::ConnectMessages() {
   hooks.SendMailTo = [this](std::wstring_view address, std::wstring_view subject, std::wstring_view body) {
     return Starters.SendMailTo(address, subject, body);
   };
+  hooks.EnableRemember = [this] { OptionsPage.EnableRemember(); };
+  hooks.CompanionsPresent = [this] { return frmMain.HasPanel(bar::menu::Companions); };
 }
 
 void Program::ConnectBrowse() {
   // One form, in two uses.
-  for (const std::size_t index : {0U, 1U}) frmMain.SetPanel(index, &frmBrowse);
+  for (const std::size_t index : {bar::menu::Add, bar::menu::Open}) frmMain.SetPanel(index, &frmBrowse);
   for (form::Form* form : {static_cast<form::Form*>(&frmMain), static_cast<form::Form*>(&frmBrowse)}) {
     form->SetAcceptsDrops(true);
     form->Dropped = [this](const form::DroppedItems& items) { Take(items); };
@@ -53,10 +57,28 @@ void Program::ConnectBrowse() {
     frmMain.TextMain.SetFocus();
   };
   hooks.HotKey = [this](form::Key key) { frmMain.HotKey(key); };
-  hooks.Place = [this](form::Size size) {
-    const form::Rect bar = frmMain.Bounds();
-    return bar::PlacePanel(bar, size, Ui.ScreenAt(bar).WorkArea);
-  };
+  hooks.Place = [this](form::Size size) { return PlaceByBar(size); };
+}
+
+void Program::ConnectChoose() {
+  frmMain.SetPanel(bar::menu::List, &ListPanel);
+  frmMain.SetPanel(bar::menu::Options, &OptionsPanel);
+  frmMain.SetPanel(bar::menu::Help, &HelpPanel);
+  frmMain.SetPanel(bar::menu::Code, &CodePanel);
+  CodePage.CompanionsPresent = [this] { return frmMain.HasPanel(bar::menu::Companions); };
+  list::ChooseHooks& hooks = frmChoose.Hooks;
+  hooks.ClosePanel = [this] { frmMain.ClosePanel(); };
+  hooks.RunProgram = [this](std::wstring_view target) { Messages.ShowList(Starters.RunProgramCommand(target)); };
+  hooks.OpenWithShell = [this](std::wstring_view target) { Messages.ShowList(Starters.OpenWithShell(target)); };
+  hooks.HotKey = [this](form::Key key) { frmMain.HotKey(key); };
+  hooks.Place = [this](form::Size size) { return PlaceByBar(size); };
+  OptionsPage.Hooks.ClosePanel = [this] { frmMain.ClosePanel(); };
+  OptionsPage.Hooks.RememberMyComputer = [this] { return add::RememberMyComputer(Services, Messages, Environment); };
+}
+
+form::Rect Program::PlaceByBar(form::Size size) const {
+  const form::Rect bar = frmMain.Bounds();
+  return bar::PlacePanel(bar, size, Ui.ScreenAt(bar).WorkArea);
 }
 
 void Program::Take(const form::DroppedItems& items) {

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "add/frmBrowse.h"
+#include "bar/ChoosePanel.h"
+#include "bar/CodePage.h"
+#include "bar/HelpPage.h"
 #include "bar/frmMain.h"
 #include "command/CommandState.h"
 #include "command/Starters.h"
@@ -11,6 +14,7 @@
 #include "message/MessageState.h"
 #include "message/Messages.h"
 #include "options/OptionFlags.h"
+#include "options/OptionsPage.h"
 #include "service/Services.h"
 #include "start/Environment.h"
 #include "start/frmMove.h"
@@ -42,7 +46,14 @@ class Program {
   list::ListFiles ListFiles{Services, Environment, Settings};
 
   start::frmMove frmMove{Ui, Services, Environment};
-  list::frmChoose frmChoose{Ui, ListFiles};
+  list::frmChoose frmChoose{Ui, ListFiles, Services.Language, Messages};
+  options::OptionsPage OptionsPage{frmChoose, {Services.ScriptShell, Environment, Messages, Settings, Options}};
+  bar::HelpPage HelpPage{frmChoose, Environment};
+  bar::CodePage CodePage{frmChoose};
+  bar::ListPanel ListPanel{frmChoose};
+  bar::ChoosePanel OptionsPanel{frmChoose, OptionsPage};
+  bar::ChoosePanel HelpPanel{frmChoose, HelpPage};
+  bar::ChoosePanel CodePanel{frmChoose, CodePage};
   add::frmBrowse frmBrowse{
       Ui, add::BrowseParts{Services, Environment, Messages, Settings, frmChoose.List, CommandState, Starters}};
   bar::frmMain frmMain{Ui, bar::BarParts{Services, Environment, Messages, Settings, Options, frmChoose, ListFiles,
@@ -52,6 +63,9 @@ class Program {
   void ConnectMessages();
   void ConnectBrowse();
   void Take(const form::DroppedItems& items);
+  void ConnectChoose();
+  /// Where a panel of this size stands.
+  [[nodiscard]] form::Rect PlaceByBar(form::Size size) const;
 };
 
 }  // namespace vantor::start

@@ -25,7 +25,7 @@ struct Desk {
   command::CommandState CommandState;
   command::Starters Starters{Services.Programs, Services.ScriptShell};
   list::ListFiles ListFiles{Services.All(), Environment, Settings};
-  list::frmChoose Choose{Ui, ListFiles};
+  list::frmChoose Choose{Ui, ListFiles, Services.Language, Messages};
   frmBrowse Browse{Ui,
                    BrowseParts{Services.All(), Environment, Messages, Settings, Choose.List, CommandState, Starters}};
   int Added = 0;

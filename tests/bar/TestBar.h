@@ -21,7 +21,7 @@ struct TestBar {
   options::OptionFlags Options{0, 1, 0};
   command::CommandState State;
   list::ListFiles ListFiles{Fakes.All(), Environment, Settings};
-  list::frmChoose Choose{Desktop, ListFiles};
+  list::frmChoose Choose{Desktop, ListFiles, Fakes.Language, Messages};
   command::Starters Starters{Fakes.Programs, Fakes.ScriptShell};
   bar::frmMain Main{Desktop,
                     {Fakes.All(), Environment, Messages, Settings, Options, Choose, ListFiles, State, Starters}};

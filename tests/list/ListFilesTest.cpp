@@ -48,7 +48,9 @@ struct Run {
   start::Environment Environment;
   list::Settings Settings;
   list::ListFiles Files{Fakes.All(), Environment, Settings};
-  list::frmChoose Choose{Desktop, Files};
+  message::MessageState MessageState;
+  message::Messages Messages{Desktop, MessageState};
+  list::frmChoose Choose{Desktop, Files, Fakes.Language, Messages};
 };
 
 using Items = std::vector<std::wstring>;

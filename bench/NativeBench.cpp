@@ -1,0 +1,239 @@
+// What the launch list costs at its greatest size, beside the least that the same work can cost.
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "bar/frmMain.h"
+#include "fake/FakeServices.h"
+#include "form/Headless.h"
+
+using namespace vantor;
+using list::LaunchGroup;
+
+namespace {
+
+constexpr int Count = 32767;  // the most that a group holds
+
+std::string Narrow(std::wstring_view text) {
+  std::string narrow;
+  narrow.reserve(text.size());
+  for (const wchar_t c : text) narrow += static_cast<char>(c);
+  return narrow;
+}
+
+class RealDataFiles : public service::DataFiles {
+ public:
+  std::optional<std::string> Read(std::wstring_view path) override {
+    std::FILE* const file = std::fopen(Narrow(path).c_str(), "rb");
+    if (file == nullptr) return std::nullopt;
+    struct stat about {};
+    std::string bytes;
+    if (fstat(fileno(file), &about) == 0) bytes.resize(static_cast<std::size_t>(about.st_size));
+    bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file));
+    (void)std::fclose(file);
+    return bytes;
+  }
+  /// As the program writes: beside the old file, to the disk, and then over the old one.
+  bool Write(std::wstring_view path, std::string_view bytes) override {
+    const std::string beside = Narrow(path) + '~';
+    std::FILE* const file = std::fopen(beside.c_str(), "wb");
+    if (file == nullptr) return false;
+    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size() && std::fflush(file) == 0 &&
+                         fsync(fileno(file)) == 0;
+    return std::fclose(file) == 0 && written && std::rename(beside.c_str(), Narrow(path).c_str()) == 0;
+  }
+  bool MakeFolder(std::wstring_view /*path*/) override { return true; }
+  bool FolderIsEmpty(std::wstring_view /*path*/) override { return false; }
+};
+
+class RealFileSystem : public service::FileSystem {
+ public:
+  bool FileExists(std::wstring_view path) override { return Mode(path) == S_IFREG; }
+  bool FolderExists(std::wstring_view path) override { return Mode(path) == S_IFDIR; }
+  std::optional<int> DriveType(std::wstring_view /*root*/) override { return 2; }
+  std::wstring ExtensionName(std::wstring_view /*path*/) override { return {}; }
+  std::vector<service::Drive> Drives() override { return {}; }
+  bool DriveReady(std::wstring_view /*path*/) override { return true; }
+  std::vector<std::wstring> Folders(std::wstring_view /*path*/) override { return {}; }
+  std::vector<std::wstring> Files(std::wstring_view /*path*/, std::wstring_view /*pattern*/) override { return {}; }
+
+ private:
+  static unsigned Mode(std::wstring_view path) {
+    struct stat about {};
+    return stat(Narrow(path).c_str(), &about) == 0 ? about.st_mode & S_IFMT : 0;
+  }
+};
+
+class AsciiLanguage : public service::Language {
+ public:
+  std::wstring Lower(std::wstring_view text) const override {
+    std::wstring lower(text);
+    for (wchar_t& c : lower) {
+      if (c >= L'A' && c <= L'Z') c += L'a' - L'A';
+    }
+    return lower;
+  }
+  std::wstring Upper(std::wstring_view text) const override { return std::wstring(text); }
+  std::wstring FromCodePage(std::string_view bytes) const override { return {bytes.begin(), bytes.end()}; }
+  std::optional<std::string> ToCodePage(std::wstring_view text) const override { return Narrow(text); }
+};
+
+/// Milliseconds that the quickest of some runs takes, which is the one least disturbed by other programs; `prepare`
+/// is not counted.
+double Quickest(int runs, const std::function<void()>& prepare, const std::function<void()>& work) {
+  using Clock = std::chrono::steady_clock;
+  double quickest = 1e9;
+  for (int run = 0; run < runs; ++run) {
+    prepare();
+    const auto begin = Clock::now();
+    work();
+    quickest = std::min(quickest, std::chrono::duration<double, std::milli>(Clock::now() - begin).count());
+  }
+  return quickest;
+}
+
+void Print(const char* what, double ours, const char* floorName, double floor) {
+  std::printf("%-48s %9.3f ms   %-36s %9.3f ms   ratio %5.2f\n", what, ours, floorName, floor, ours / floor);
+}
+
+/// What the optimiser must not take away.
+volatile std::size_t result = 0;
+
+/// A program's state, and folders and files for it.
+struct Bench {
+  explicit Bench(const std::wstring& folder) {
+    Environment.Files = {folder + L"/Set.Orbel",      L"",
+                         folder + L"/ListFile.Orbel", folder + L"/ListFold.Orbel",
+                         folder + L"/ListProg.Orbel", folder + L"/ListWeb.Orbel"};
+    Folder = folder;
+  }
+
+  /// Saves four full groups whose targets exist, with paths of a usual length.
+  void WriteFullLists() {
+    const std::wstring file = Folder + L"/Program Files/Some Vendor/Some Program/program.exe";
+    for (int i = 0; i < Count; ++i) {
+      wchar_t name[32];
+      std::swprintf(name, std::size(name), L"Item number %05d", i);
+      Choose.List.Of(LaunchGroup::File).AddItem(name, file);
+      Choose.List.Of(LaunchGroup::Fold).AddItem(name, Folder + L"/Program Files/Some Vendor");
+      Choose.List.Of(LaunchGroup::Prog).AddItem(name, file);
+      Choose.List.Of(LaunchGroup::Web).AddItem(name, L"http://www.example.org/some/page?number=" + std::to_wstring(i));
+    }
+    ListFiles.SaveLaunchList(Choose.List, 0, 0);
+  }
+
+  RealDataFiles DataFiles;
+  RealFileSystem FileSystem;
+  AsciiLanguage Language;
+  fake::FakeServices Fakes;  // for what is not measured
+  service::Services Services{DataFiles,         FileSystem,   Language,        Fakes.Management,  Fakes.Programs,
+                             Fakes.ScriptShell, Fakes.System, Fakes.Processes, Fakes.WindowPicker};
+  form::Headless Desktop;
+  start::Environment Environment;
+  std::wstring Folder;
+  list::Settings Settings;
+  options::OptionFlags Options;
+  message::MessageState MessageState;
+  message::Messages Messages{Desktop, MessageState};
+  command::CommandState State;
+  command::Starters Starters{Fakes.Programs, Fakes.ScriptShell};
+  list::ListFiles ListFiles{Services, Environment, Settings};
+  list::frmChoose Choose{Desktop, ListFiles, Language, Messages};
+  bar::frmMain Main{Desktop, {Services, Environment, Messages, Settings, Options, Choose, ListFiles, State, Starters}};
+};
+
+void Keystrokes(Bench& bench) {
+  bench.Main.Show();
+  form::TextBox& box = bench.Main.TextMain;
+  const auto& names = bench.Choose.ComboListWebName.Entries();
+
+  // The match is the last name, and the others differ from it only in their last characters.
+  const std::wstring typed = L"item number 3276";
+  const auto prepare = [&] {
+    bench.State.BackspaceFlag = true;
+    box.SetText(L"w-" + typed);
+    box.Select(static_cast<int>(box.Text().size()), 0);
+  };
+  const double ours = Quickest(501, prepare, [&] { bench.Desktop.Type(L"6"); });
+  if (bench.State.MatchedItemIndex != Count - 1) std::exit(1);
+
+  // Every character that has to be looked at, once.
+  const std::wstring whole = typed + L'6';
+  const double floor = Quickest(
+      501, [] {},
+      [&] {
+        std::size_t found = 0;
+        for (const std::wstring& name : names) {
+          std::size_t same = 0;
+          while (same < whole.size() && same < name.size() && (name[same] | 0x20) == whole[same]) ++same;
+          found += same == whole.size() ? 1 : 0;
+        }
+        result = found;
+      });
+  Print("keystroke, 32,767 names, match last", ours, "bare pass over the names", floor);
+}
+
+void LoadAndSave(Bench& bench) {
+  const std::vector<std::wstring> files{bench.Environment.Files.Set, bench.Environment.Files.ListFile,
+                                        bench.Environment.Files.ListFold, bench.Environment.Files.ListProg,
+                                        bench.Environment.Files.ListWeb};
+  const double save = Quickest(
+      41, [] {}, [&] { bench.ListFiles.SaveLaunchList(bench.Choose.List, 0, 0); });
+  std::vector<std::string> contents;
+  for (const std::wstring& file : files) contents.push_back(bench.DataFiles.Read(file).value());
+  const double write = Quickest(
+      41, [] {},
+      [&] {
+        for (std::size_t i = 0; i < files.size(); ++i) {
+          if (!bench.DataFiles.Write(files[i], contents[i])) std::exit(1);
+        }
+      });
+
+  std::unique_ptr<Bench> fresh;
+  const auto prepare = [&] {
+    fresh = std::make_unique<Bench>(bench.Folder);
+    list::LoadSettings(fresh->DataFiles, fresh->Language, files[0], fresh->Settings);
+  };
+  const double load = Quickest(15, prepare, [&] { fresh->Choose.Load(); });
+  if (fresh->Choose.ComboListProgPath.ListCount() != Count) std::exit(1);
+  const double check = Quickest(
+      41, [] {},
+      [&] {
+        std::size_t found = 0;
+        for (std::size_t i = 1; i < files.size(); ++i) found += bench.DataFiles.Read(files[i]).value().size();
+        for (const auto& path : bench.Choose.ComboListFilePath.Entries()) found += bench.FileSystem.FileExists(path);
+        for (const auto& path : bench.Choose.ComboListFoldPath.Entries()) found += bench.FileSystem.FolderExists(path);
+        for (const auto& path : bench.Choose.ComboListProgPath.Entries()) found += bench.FileSystem.FileExists(path);
+        result = found;
+      });
+  Print("load, four groups of 32,767 items", load, "bare reads and existence checks", check);
+  Print("save, four groups of 32,767 items", save, "bare writes of the same bytes", write);
+}
+
+}  // namespace
+
+int main() {
+  std::string folder = "/tmp/vantor-bench-XXXXXX";
+  if (mkdtemp(folder.data()) == nullptr) return 1;
+  const std::string vendor = folder + "/Program Files/Some Vendor";
+  const std::string commands = "mkdir -p '" + vendor + "/Some Program' && : >'" + vendor + "/Some Program/program.exe'";
+  if (std::system(commands.c_str()) != 0) return 1;
+  {
+    const std::wstring place(folder.begin(), folder.end());
+    Bench(place).WriteFullLists();
+    Bench bench(place);
+    list::LoadSettings(bench.DataFiles, bench.Language, bench.Environment.Files.Set, bench.Settings);
+    bench.Choose.Load();
+    Keystrokes(bench);
+    LoadAndSave(bench);
+  }
+  return std::system(("rm -rf '" + folder + "'").c_str()) == 0 ? 0 : 1;
+}

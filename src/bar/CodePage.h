@@ -1,0 +1,50 @@
+#pragma once
+
+#include <algorithm>
+#include <functional>
+#include <string_view>
+
+#include "bar/PageText.h"
+#include "form/Static.h"
+#include "list/ChoosePage.h"
+
+namespace vantor::bar {
+
+/// The chart of the command language.
+class CodePage : public list::ChoosePage {
+ public:
+  explicit CodePage(form::Form& form);
+
+  /// Whether any of the maker's other programs is present, which have a letter of their own.
+  std::function<bool()> CompanionsPresent;
+
+  form::Frame FrameCode;
+  form::Frame FrameSubstitute{FrameCode, L"FrameSubstitute"};
+
+  form::Frame& Frame() override { return FrameCode; }
+  [[nodiscard]] std::wstring_view Title() const override { return L"Code"; }
+  [[nodiscard]] std::wstring_view CloseCaption() const override { return L"Hide"; }
+  form::Size LayOut() override;
+  void Prepare() override;
+
+ private:
+  /// A list of code words under its head.
+  struct Words {
+    form::Label& Head;
+    form::Label& List;
+
+    [[nodiscard]] form::Twips Width() const { return std::max(WidthOf(Head), WidthOf(List)); }
+  };
+
+  PageText text_;
+  TextTable first_;
+  TextTable second_;
+  form::Label& substituteWhen_;
+  TextTable substitute_;
+  form::Label& predefined_;
+  Words folders_;
+  Words controlPanel_;
+  Words mails_;
+};
+
+}  // namespace vantor::bar

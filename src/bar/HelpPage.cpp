@@ -1,0 +1,87 @@
+#include "bar/HelpPage.h"
+
+#include <algorithm>
+
+namespace vantor::bar {
+
+namespace {
+
+using form::Twips;
+
+constexpr Twips Margin = 120;
+constexpr Twips CaptionHeight = 300;
+constexpr Twips ColumnGap = 360;
+constexpr Twips UnderHead = 45;
+constexpr Twips SectionGap = 180;
+constexpr Twips LineHeight = 315;
+constexpr Twips ProseWidth = 4200;
+
+constexpr std::wstring_view TypedLines =
+    L"p=notepad\r\nf=C:\\letter.doc\r\nd=C:\\Music\r\nd.Desktop\r\nc.Mouse\r\nw;example.org\r\nc/example\r\n"
+    L"e=ann@example.org\r\nt=5550100\r\np-  f-  d-  w-";
+constexpr std::wstring_view TypedMeanings =
+    L"runs a program\r\nopens a file\r\nopens a folder\r\nopens a special folder\r\nopens a Control Panel page\r\n"
+    L"opens a web site\r\nopens www.example.com\r\nwrites a mail\r\ndials a telephone number\r\n"
+    L"and a name: opens it from your list";
+constexpr std::wstring_view ButtonLines =
+    L"F1\r\n+   F2\r\n>   F3\r\nL   F4\r\nP   F6\r\n?   F7\r\nC   F8\r\nF9, Esc\r\nF10\r\nF12";
+constexpr std::wstring_view ButtonMeanings =
+    L"unfolds the box that adds web sites\r\nadds programs, files and folders to your list\r\nopens any file\r\n"
+    L"opens, renames and removes what is in your list\r\npreferences\r\nthis help\r\nall codes and their words\r\n"
+    L"minimizes the bar; Esc closes an open panel first\r\nsaves and exits\r\nempties the line";
+
+}  // namespace
+
+HelpPage::HelpPage(form::Form& form, const start::Environment& environment)
+    : FrameHelp(form, L"FrameHelp"),
+      environment_(environment),
+      typing_{text_.Add(FrameHelp, L"Type a code and what it is about, then press Enter", true),
+              text_.Add(FrameHelp, TypedLines), text_.Add(FrameHelp, TypedMeanings)},
+      completion_(text_.Add(
+          FrameHelp, L"Names and words complete while you type. Enter takes the completion, Backspace drops it.")),
+      buttons_{text_.Add(FrameHelp, L"Buttons and keys", true), text_.Add(FrameHelp, ButtonLines),
+               text_.Add(FrameHelp, ButtonMeanings)},
+      adding_{text_.Add(FrameHelp, L"Adding to your list", true),
+              text_.Add(FrameHelp,
+                        L"Press + (F2), say whether it is a program, a file or a folder, and pick it; or press \"Find "
+                        L"Program Path\" and let go over the window of a running program. Type a name for it and press "
+                        L"Enter.\r\n\r\nFor a web site press F1, type its address and a name, and press Enter.")},
+      data_{text_.Add(FrameHelp, L"Your data", true),
+            text_.Add(FrameHelp,
+                      L"Your list and your preferences are saved when the program exits, in this folder and nowhere "
+                      L"else. Copy it to take them along.")},
+      stick_{text_.Add(FrameHelp, L"On a stick", true),
+             text_.Add(FrameHelp,
+                       L"Started from a removable drive, Vantor keeps its data there. What lies on the drive stays in "
+                       L"your list on every computer, whatever letter the drive gets.\r\n\r\nThings on the fixed "
+                       L"disks of one computer can be in the list too: press \"Remember My Computer\" in the "
+                       L"preferences there. On other computers they rest unseen.")} {
+  FrameHelp.SetCaption(L"Help");
+  FrameHelp.SetVisible(false);
+  TextHelpFolder.SetLocked(true);
+  TextHelpFolder.SetBackColor(form::Color::ButtonFace);
+  TextHelpFolder.SetAccessibleName(L"Data folder");
+}
+
+void HelpPage::Prepare() { TextHelpFolder.SetText(environment_.DataFolder); }
+
+form::Size HelpPage::LayOut() {
+  const Twips tablesWidth = std::max(typing_.Width(), buttons_.Width());
+  Twips left = Margin;
+  Twips bottom = typing_.PlaceAt(left, CaptionHeight, tablesWidth) + UnderHead;
+  bottom = Place(completion_, left, bottom, tablesWidth);
+  bottom = buttons_.PlaceAt(left, bottom + SectionGap, tablesWidth);
+
+  left += tablesWidth + ColumnGap;
+  const auto place = [left](const Paragraph& paragraph, Twips top) {
+    const Twips under = Place(paragraph.Head, left, top, ProseWidth) + UnderHead;
+    return Place(paragraph.Text, left, under, ProseWidth);
+  };
+  Twips y = place(adding_, CaptionHeight);
+  y = place(data_, y + SectionGap);
+  TextHelpFolder.SetBounds({left, y + UnderHead, ProseWidth, LineHeight});
+  y = place(stick_, TextHelpFolder.Bottom() + SectionGap);
+  return {left + ProseWidth + Margin, std::max(bottom, y) + Margin};
+}
+
+}  // namespace vantor::bar

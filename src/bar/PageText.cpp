@@ -1,0 +1,47 @@
+#include "bar/PageText.h"
+
+#include <algorithm>
+#include <string>
+
+#include "form/UserInterface.h"
+
+namespace vantor::bar {
+
+namespace {
+
+using form::Twips;
+
+constexpr Twips BetweenColumns = 180;
+constexpr Twips UnderHead = 45;
+// More than any line needs, so that none is broken.
+constexpr Twips AnyWidth = 30000;
+
+}  // namespace
+
+form::Label& PageText::Add(form::Control& container, std::wstring_view text, bool bold) {
+  form::Label& label = labels_.emplace_back(container, L"LabelText" + std::to_wstring(labels_.size()));
+  label.SetCaption(text);
+  label.SetBold(bold);
+  return label;
+}
+
+Twips WidthOf(const form::Label& label) {
+  return label.OwnerForm().Ui().MeasureText(label.Caption(), label.Bold(), AnyWidth).Width;
+}
+
+Twips Place(form::Label& label, Twips left, Twips top, Twips width) {
+  const Twips height = label.OwnerForm().Ui().MeasureText(label.Caption(), label.Bold(), width).Height;
+  label.SetBounds({left, top, width, height});
+  return label.Bottom();
+}
+
+Twips TextTable::Width() const { return std::max(WidthOf(Head), WidthOf(Left) + BetweenColumns + WidthOf(Right)); }
+
+Twips TextTable::PlaceAt(Twips left, Twips top, Twips width) const {
+  const Twips under = Place(Head, left, top, width) + UnderHead;
+  const Twips leftWidth = WidthOf(Left);
+  const Twips rightLeft = left + leftWidth + BetweenColumns;
+  return std::max(Place(Left, left, under, leftWidth), Place(Right, rightLeft, under, left + width - rightLeft));
+}
+
+}  // namespace vantor::bar

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <deque>
+#include <string_view>
+
+#include "form/Form.h"
+#include "form/Static.h"
+
+namespace vantor::bar {
+
+/// The labels of a page that mostly is text. Places and sizes are in twips, relative to the labels' container.
+class PageText {
+ public:
+  /// Adds a label with a text of one or more lines, which end by CR LF.
+  form::Label& Add(form::Control& container, std::wstring_view text, bool bold = false);
+
+ private:
+  std::deque<form::Label> labels_;
+};
+
+/// The width that shows the lines of a label unbroken.
+[[nodiscard]] form::Twips WidthOf(const form::Label& label);
+/// Places a label, as high as its text needs at this width. Returns its lower edge.
+form::Twips Place(form::Label& label, form::Twips left, form::Twips top, form::Twips width);
+
+/// Two labels whose lines belong together, line by line, under a head.
+struct TextTable {
+  form::Label& Head;
+  form::Label& Left;
+  form::Label& Right;
+
+  [[nodiscard]] form::Twips Width() const;
+  /// Returns the lower edge.
+  form::Twips PlaceAt(form::Twips left, form::Twips top, form::Twips width) const;
+};
+
+}  // namespace vantor::bar

@@ -1,0 +1,204 @@
+#include "list/GroupFrame.h"
+
+#include <algorithm>
+#include <string>
+
+#include "form/Form.h"
+#include "form/Keys.h"
+#include "form/UserInterface.h"
+#include "list/NameMatch.h"
+#include "list/PictureButton.h"
+
+namespace vantor::list {
+
+namespace {
+
+using form::Twips;
+
+constexpr Twips Margin = 120;
+constexpr Twips Gap = 60;
+constexpr Twips CaptionHeight = 270;  // from the frame's top to what is in it
+constexpr Twips LineHeight = 330;
+constexpr Twips LabelTop = 60;  // brings a label's text to the height of the text in the box beside it
+constexpr Twips LabelHeight = 210;
+
+std::wstring ControlName(std::wstring_view kind, std::wstring_view code, std::wstring_view what) {
+  return std::wstring(kind).append(L"List").append(code).append(what);
+}
+
+}  // namespace
+
+GroupFrame::GroupFrame(form::Control& page, const GroupTexts& texts, const service::Language& language,
+                       message::Messages& messages)
+    : Frame(page, std::wstring(L"Frame").append(texts.Code).append(L"List")),
+      LabelName(Frame, ControlName(L"Label", texts.Code, L"Name")),
+      Name(Frame, ControlName(L"Combo", texts.Code, L"Name")),
+      LabelPath(Frame, ControlName(L"Label", texts.Code, L"Path")),
+      Path(Frame, ControlName(L"Combo", texts.Code, L"Path")),
+      Open(Frame, ControlName(L"Command", texts.Code, L"Open")),
+      LabelOpen(Frame, ControlName(L"Label", texts.Code, L"Open")),
+      Rename(Frame, ControlName(L"Command", texts.Code, L"Rename")),
+      LabelRename(Frame, ControlName(L"Label", texts.Code, L"Rename")),
+      Remove(Frame, ControlName(L"Command", texts.Code, L"Remove")),
+      LabelRemove(Frame, ControlName(L"Label", texts.Code, L"Remove")),
+      FrameRename(Frame, ControlName(L"Frame", texts.Code, L"Rename")),
+      LabelNewName(FrameRename, ControlName(L"Label", texts.Code, L"NewName")),
+      TextRename(FrameRename, ControlName(L"Text", texts.Code, L"Rename")),
+      RenOK(FrameRename, ControlName(L"Command", texts.Code, L"RenOK")),
+      LabelRenOK(FrameRename, ControlName(L"Label", texts.Code, L"RenOK")),
+      RenCancel(FrameRename, ControlName(L"Command", texts.Code, L"RenCancel")),
+      LabelRenCancel(FrameRename, ControlName(L"Label", texts.Code, L"RenCancel")),
+      language_(language),
+      messages_(messages) {
+  Dress(texts);
+  ConnectEvents();
+}
+
+void GroupFrame::Dress(const GroupTexts& texts) {
+  const std::wstring item(texts.Item);
+  Frame.SetCaption(texts.Caption);
+  LabelName.SetCaption(L"Name :");
+  LabelPath.SetCaption(L"Launch Path :");
+  Name.SetAccessibleName(item + L" Name");
+  Path.SetAccessibleName(item + L" Launch Path");
+  DressButton(Open, LabelOpen, L"Open");
+  DressButton(Rename, LabelRename, L"Rename");
+  DressButton(Remove, LabelRemove, L"Remove From List");
+  FrameRename.SetBorder(false);
+  FrameRename.SetVisible(false);
+  LabelNewName.SetCaption(texts.NewNameLabel);
+  TextRename.SetAccessibleName(item + L" New Name");
+  DressButton(RenOK, LabelRenOK, L"OK");
+  DressButton(RenCancel, LabelRenCancel, L"Cancel");
+  RenOK.SetEnabled(false);
+}
+
+void GroupFrame::ConnectEvents() {
+  // Each handler stands in an error trap of its own name.
+  const auto on = [this](form::Control& control, auto& event, std::wstring_view what, auto handler) {
+    event = [this, name = control.Name() + std::wstring(what), handler](auto&&... args) {
+      messages_.Trap(name, [&] { (this->*handler)(args...); });
+    };
+  };
+  on(Name, Name.Click, L"_Click", &GroupFrame::Name_Click);
+  on(Path, Path.Click, L"_Click", &GroupFrame::Path_Click);
+  on(Open, Open.Click, L"_Click", &GroupFrame::Open_Click);
+  on(Rename, Rename.Click, L"_Click", &GroupFrame::Rename_Click);
+  on(Remove, Remove.Click, L"_Click", &GroupFrame::Remove_Click);
+  on(TextRename, TextRename.Change, L"_Change", &GroupFrame::TextRename_Change);
+  on(TextRename, TextRename.KeyPress, L"_KeyPress", &GroupFrame::TextRename_KeyPress);
+  on(RenOK, RenOK.Click, L"_Click", &GroupFrame::RenOK_Click);
+  on(RenCancel, RenCancel.Click, L"_Click", &GroupFrame::RenCancel_Click);
+}
+
+Twips GroupFrame::LayOut(Twips left, Twips top, Twips width) {
+  const form::UserInterface& ui = Frame.OwnerForm().Ui();
+  Twips labelWidth = 0;
+  for (const form::Label* label : {&LabelName, &LabelPath, &LabelNewName}) {
+    labelWidth = std::max(labelWidth, ui.MeasureText(label->Caption(), false, width).Width);
+  }
+  const Twips boxLeft = Margin + labelWidth + Margin;
+  const Twips boxWidth = width - boxLeft - Margin;
+  Twips y = CaptionHeight;
+  LabelName.SetBounds({Margin, y + LabelTop, labelWidth, LabelHeight});
+  Name.SetBounds({boxLeft, y, boxWidth, LineHeight});
+  y = Name.Bottom() + Gap;
+  LabelPath.SetBounds({Margin, y + LabelTop, labelWidth, LabelHeight});
+  Path.SetBounds({boxLeft, y, boxWidth, LineHeight});
+  y = Path.Bottom() + Margin;
+
+  Twips x = boxLeft;
+  const auto place = [&x](form::CommandButton& button, form::Label& label, Twips at) {
+    PlaceButton(button, label, {x, at, ButtonWidth(label), ButtonHeight});
+    x += button.Width() + Gap;
+  };
+  place(Open, LabelOpen, y);
+  place(Rename, LabelRename, y);
+  place(Remove, LabelRemove, y);
+  y += ButtonHeight + Gap;
+
+  FrameRename.SetBounds({Gap, y, width - 2 * Gap, ButtonHeight});
+  const Twips inside = Margin - Gap;
+  LabelNewName.SetBounds({inside, LabelTop + (ButtonHeight - LineHeight) / 2, labelWidth, LabelHeight});
+  const Twips buttons = ButtonWidth(LabelRenOK) + Gap + ButtonWidth(LabelRenCancel);
+  const Twips textLeft = boxLeft - Gap;
+  x = FrameRename.Width() - inside - buttons;
+  TextRename.SetBounds({textLeft, (ButtonHeight - LineHeight) / 2, x - Gap - textLeft, LineHeight});
+  place(RenOK, LabelRenOK, 0);
+  place(RenCancel, LabelRenCancel, 0);
+
+  Frame.SetBounds({left, top, width, FrameRename.Bottom() + Margin});
+  return Frame.Height();
+}
+
+void GroupFrame::Prepare() {
+  ShowRename(false);
+  if (Path.ListIndex() == -1 && Path.ListCount() > 0) Path.SetListIndex(0);
+  EnableByCount();
+}
+
+void GroupFrame::EnableByCount() {
+  const bool any = Path.ListCount() != 0;
+  for (form::CommandButton* button : {&Open, &Rename, &Remove}) button->SetEnabled(any);
+}
+
+void GroupFrame::Name_Click() {
+  Path.SetListIndex(Name.ListIndex());
+  TextRename_Change();  // another name is compared now
+}
+
+void GroupFrame::Open_Click() {
+  if (Path.ListIndex() == -1) return;
+  const std::wstring target = Path.Text();
+  if (Start) Start(target);
+}
+
+void GroupFrame::Rename_Click() {
+  const bool visible = !FrameRename.Visible();
+  ShowRename(visible);
+  TextRename.SetText({});
+  if (visible) TextRename.SetFocus();
+}
+
+void GroupFrame::ShowRename(bool visible) {
+  Rename.SetPicture(visible ? form::Picture::ButtonOpen : form::Picture::ButtonNormal);
+  FrameRename.SetVisible(visible);
+}
+
+void GroupFrame::TextRename_Change() {
+  const std::wstring& name = TextRename.Text();
+  RenOK.SetEnabled(!name.empty() && Name.ListIndex() != -1 && name != Name.Text());
+}
+
+void GroupFrame::TextRename_KeyPress(wchar_t& character) {
+  if (character != form::CharEnter) return;
+  character = 0;  // a box of one line would beep
+  if (!TextRename.Text().empty()) RenOK_Click();
+}
+
+void GroupFrame::RenOK_Click() {
+  if (Name.ListIndex() == -1) return;
+  const std::wstring newName = TextRename.Text();
+  const message::MessageKey listed = CheckNameListed(language_, newName, Name);
+  if (!listed.empty()) {
+    messages_.ShowList(listed);
+    TextRename.SetText({});
+    TextRename.SetFocus();
+    return;
+  }
+  Name.SetList(Name.ListIndex(), newName);
+  ShowRename(false);
+  Rename.SetFocus();
+}
+
+void GroupFrame::Remove_Click() {
+  const int index = Path.ListIndex();
+  if (index == -1) return;
+  Name.RemoveItem(index);
+  Path.RemoveItem(index);
+  if (Path.ListCount() > 0) Path.SetListIndex(0);
+  EnableByCount();
+  TextRename_Change();
+}
+
+}  // namespace vantor::list

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <functional>
+#include <string_view>
+
+#include "form/Button.h"
+#include "form/ListControl.h"
+#include "form/Static.h"
+#include "form/TextBox.h"
+#include "message/Messages.h"
+#include "service/Language.h"
+
+namespace vantor::list {
+
+/// What the frames of the groups do alike, and what they say differently.
+struct GroupTexts {
+  std::wstring_view Code;  // "Prog", "File", …: part of the controls' names
+  std::wstring_view Caption;
+  std::wstring_view Item;          // what an item is, for the accessible names
+  std::wstring_view NewNameLabel;  // of the rename box
+};
+
+/// One group on the list page: its two boxes and what can be done with the entry that is selected in both.
+class GroupFrame {
+ public:
+  GroupFrame(form::Control& page, const GroupTexts& texts, const service::Language& language,
+             message::Messages& messages);
+
+  /// Starts a target, after the panel has closed.
+  std::function<void(std::wstring_view target)> Start;
+
+  form::Frame Frame;
+  form::Label LabelName;
+  form::ComboBox Name;
+  form::Label LabelPath;
+  form::ComboBox Path;
+  form::CommandButton Open;
+  form::Label LabelOpen;
+  form::CommandButton Rename;
+  form::Label LabelRename;
+  form::CommandButton Remove;
+  form::Label LabelRemove;
+
+  form::Frame FrameRename;
+  form::Label LabelNewName;
+  form::TextBox TextRename;
+  form::CommandButton RenOK;
+  form::Label LabelRenOK;
+  form::CommandButton RenCancel;
+  form::Label LabelRenCancel;
+
+  /// Places the controls in a frame of the given width with its corner at (left, top), in twips. Returns the height.
+  form::Twips LayOut(form::Twips left, form::Twips top, form::Twips width);
+  /// Selects an entry if there is one, and closes the rename box.
+  void Prepare();
+
+ private:
+  void Dress(const GroupTexts& texts);
+  void ConnectEvents();
+
+  void Name_Click();
+  void Path_Click() { Name.SetListIndex(Path.ListIndex()); }
+  void Open_Click();
+  void Rename_Click();
+  void Remove_Click();
+  void TextRename_Change();
+  void TextRename_KeyPress(wchar_t& character);
+  void RenOK_Click();
+  void RenCancel_Click() { ShowRename(false); }
+
+  void ShowRename(bool visible);
+  void EnableByCount();
+
+  const service::Language& language_;
+  message::Messages& messages_;
+};
+
+}  // namespace vantor::list

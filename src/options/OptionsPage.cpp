@@ -1,0 +1,159 @@
+#include "options/OptionsPage.h"
+
+#include <algorithm>
+#include <numeric>
+
+#include "form/Form.h"
+#include "form/UserInterface.h"
+#include "list/PictureButton.h"
+
+namespace vantor::options {
+
+namespace {
+
+using form::Twips;
+using list::ButtonHeight;
+
+constexpr Twips Margin = 120;
+constexpr Twips Gap = 60;
+constexpr Twips CaptionHeight = 330;
+constexpr Twips CheckHeight = 300;
+constexpr Twips CheckMark = 420;  // what a check box takes beside its caption
+constexpr Twips LeastWidth = 3600;
+
+constexpr std::array<std::wstring_view, OptionsPage::Count> Captions{L"Start With Windows", L"Always On Top",
+                                                                     L"Show Add URL Box At Start"};
+constexpr std::wstring_view RunValue =
+    L"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run\\OrbelsLauncher";
+constexpr int NormalWindow = 1;
+
+}  // namespace
+
+OptionsPage::OptionsPage(form::Form& form, const OptionsParts& parts)
+    : FrameOptions(form, L"FrameOptions"), parts_(parts) {
+  Dress();
+  ConnectEvents();
+}
+
+void OptionsPage::Dress() {
+  FrameOptions.SetCaption(L"Preferences");
+  FrameOptions.SetVisible(false);
+  for (std::size_t i = 0; i < Count; ++i) CheckOptionMain[i].SetCaption(Captions[i]);
+  list::DressButton(CommandOptionShortcut, LabelOptionShortcut, L"Create Desktop Shortcut");
+  list::DressButton(CommandOptionRemember, LabelOptionRemember, L"Remember My Computer");
+  list::DressButton(CommandOptionOK, LabelOptionOK, L"OK");
+  list::DressButton(CommandOptionCancel, LabelOptionCancel, L"Cancel");
+  CommandOptionRemember.SetEnabled(false);
+}
+
+void OptionsPage::ConnectEvents() {
+  // Each handler stands in an error trap of its own name.
+  const auto on = [this](form::CommandButton& button, std::wstring_view name, void (OptionsPage::*handler)()) {
+    button.Click = [this, name, handler] { parts_.Messages.Trap(name, [&] { (this->*handler)(); }); };
+  };
+  for (std::size_t i = 0; i < Count; ++i) {
+    CheckOptionMain[i].Click = [this, i] {
+      parts_.Messages.Trap(L"CheckOptionMain_Click", [&] { CheckOptionMain_Click(i); });
+    };
+  }
+  on(CommandOptionOK, L"CommandOptionOK_Click", &OptionsPage::CommandOptionOK_Click);
+  on(CommandOptionCancel, L"CommandOptionCancel_Click", &OptionsPage::CommandOptionCancel_Click);
+  on(CommandOptionShortcut, L"CommandOptionShortcut_Click", &OptionsPage::CommandOptionShortcut_Click);
+  on(CommandOptionRemember, L"CommandOptionRemember_Click", &OptionsPage::CommandOptionRemember_Click);
+}
+
+form::Size OptionsPage::LayOut() {
+  constexpr Twips AnyWidth = 30000;
+  CommandOptionRemember.SetVisible(parts_.Environment.RunMode);
+  Twips width = LeastWidth;
+  for (const form::CheckBox& box : CheckOptionMain) {
+    const Twips text = FrameOptions.OwnerForm().Ui().MeasureText(box.Caption(), false, AnyWidth).Width;
+    width = std::max(width, CheckMark + text + 2 * Margin);
+  }
+  for (const form::Label* label : {&LabelOptionShortcut, &LabelOptionRemember}) {
+    width = std::max(width, list::ButtonWidth(*label) + 2 * Margin);
+  }
+  Twips top = CaptionHeight;
+  for (form::CheckBox& box : CheckOptionMain) {
+    box.SetBounds({Margin, top, width - 2 * Margin, CheckHeight});
+    top += CheckHeight + Gap;
+  }
+  top += Gap;
+  const auto placeWide = [&](form::CommandButton& button, form::Label& label) {
+    if (!button.Visible()) return;
+    list::PlaceButton(button, label, {Margin, top, width - 2 * Margin, ButtonHeight});
+    top += ButtonHeight + Gap;
+  };
+  placeWide(CommandOptionShortcut, LabelOptionShortcut);
+  placeWide(CommandOptionRemember, LabelOptionRemember);
+  top += Margin;
+  const Twips cancelWidth = list::ButtonWidth(LabelOptionCancel);
+  const Twips okWidth = list::ButtonWidth(LabelOptionOK);
+  const Twips cancelLeft = width - Margin - cancelWidth;
+  list::PlaceButton(CommandOptionCancel, LabelOptionCancel, {cancelLeft, top, cancelWidth, ButtonHeight});
+  list::PlaceButton(CommandOptionOK, LabelOptionOK, {cancelLeft - Gap - okWidth, top, okWidth, ButtonHeight});
+  return {width, top + ButtonHeight + Margin};
+}
+
+void OptionsPage::Prepare() {
+  const std::array<std::int16_t, Count> options{parts_.Options.StartWithWindows, parts_.Options.AlwaysOnTop,
+                                                parts_.Options.ShowAddUrlAtStart};
+  for (std::size_t i = 0; i < Count; ++i) {
+    optionBits_[i] = static_cast<std::int16_t>(options[i] << i);
+    CheckOptionMain[i].SetValue(options[i] != 0);
+  }
+  pendingOptionMask_ = parts_.Settings.OptionMask;
+  CommandOptionOK.SetEnabled(false);
+}
+
+void OptionsPage::CheckOptionMain_Click(std::size_t index) {
+  optionBits_[index] = static_cast<std::int16_t>(CheckOptionMain[index].Value() ? 1 << index : 0);
+  pendingOptionMask_ = std::accumulate(optionBits_.begin(), optionBits_.end(), std::int16_t{0},
+                                       [](auto sum, auto bit) { return static_cast<std::int16_t>(sum + bit); });
+  CommandOptionOK.SetEnabled(pendingOptionMask_ != parts_.Settings.OptionMask);
+}
+
+void OptionsPage::CommandOptionOK_Click() {
+  const OptionFlags chosen = DecodeOptionMask(pendingOptionMask_);
+  if (chosen.StartWithWindows != parts_.Options.StartWithWindows) SetStartWithWindows(chosen.StartWithWindows != 0);
+  parts_.Settings.OptionMask = pendingOptionMask_;
+  parts_.Options = chosen;
+  if (Hooks.ClosePanel) Hooks.ClosePanel();
+}
+
+void OptionsPage::CommandOptionCancel_Click() {
+  if (Hooks.ClosePanel) Hooks.ClosePanel();
+}
+
+void OptionsPage::SetStartWithWindows(bool start) {
+  const std::wstring current = parts_.ScriptShell.RegistryRead(RunValue);
+  if (!start) {
+    if (!current.empty()) parts_.ScriptShell.RegistryDelete(RunValue);
+  } else if (const std::wstring command = ProgramFile(); command != current) {
+    parts_.ScriptShell.RegistryWrite(RunValue, command);
+  }
+}
+
+void OptionsPage::CommandOptionShortcut_Click() {
+  const std::wstring name(start::ProductName);
+  const std::wstring desktop = parts_.ScriptShell.SpecialFolder(L"Desktop");
+  if (desktop.empty()) return;
+  const bool saved = parts_.ScriptShell.SaveShortcut({.File = desktop + L"\\" + name + L".lnk",
+                                                      .TargetPath = ProgramFile(),
+                                                      .WindowStyle = NormalWindow,
+                                                      .Hotkey = L"CTRL+SHIFT+L",
+                                                      .IconLocation = ProgramFile() + L", 0",
+                                                      .Description = name,
+                                                      .WorkingDirectory = parts_.Environment.ProgramFolder});
+  if (saved) parts_.Messages.ShowText(L"A shortcut for " + name + L" has been placed on your Desktop.");
+}
+
+void OptionsPage::CommandOptionRemember_Click() {
+  if (Hooks.RememberMyComputer && Hooks.RememberMyComputer()) CommandOptionRemember.SetEnabled(false);
+}
+
+std::wstring OptionsPage::ProgramFile() const {
+  return (parts_.Environment.ProgramFolder + std::wstring(start::ProductName)).append(L".exe");
+}
+
+}  // namespace vantor::options
