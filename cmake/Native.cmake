@@ -19,4 +19,5 @@ vantor_add_tests(native VANTOR_UNIT_TEST_SOURCES PREFIX ${prefix} TIMEOUT 120 CO
 if(VANTOR_BENCH_SOURCES)
   add_executable(vantor_bench ${VANTOR_BENCH_SOURCES})
   target_link_libraries(vantor_bench PRIVATE vantor_core)
+  target_include_directories(vantor_bench PRIVATE "${PROJECT_SOURCE_DIR}/tests")
 endif()

@@ -14,6 +14,9 @@ namespace {
 // Stands for the medium's drive letter in the files, so that the medium may be mounted as any drive.
 constexpr wchar_t OpenDriveLetter = L'#';
 
+// Four quotes, a comma and a line end.
+constexpr std::size_t PunctuationOfRecord = 7;
+
 // A record can't hold a double quote: it would end the field, and with it the reading of all records after it.
 std::wstring WithoutQuotes(std::wstring_view text, std::wstring_view substitute) {
   std::wstring result(text);
@@ -27,6 +30,8 @@ std::wstring WithoutQuotes(std::wstring_view text, std::wstring_view substitute)
 class RecordWriter {
  public:
   explicit RecordWriter(std::wstring_view quoteInTarget) : quoteInTarget_(quoteInTarget) {}
+
+  void Reserve(std::size_t characters) { file_.Reserve(characters); }
 
   void Write(std::wstring_view name, std::wstring_view target) {
     if (name.find(L'"') == std::wstring_view::npos && target.find(L'"') == std::wstring_view::npos) {
@@ -47,7 +52,7 @@ class RecordWriter {
 
 /// What one group's loading and saving go by.
 struct ListFiles::Group {
-  LaunchGroup Code;
+  LaunchGroup Code = LaunchGroup::Web;
   const std::wstring& File;
   std::int16_t& Upper;
   // The list file of the remembered computer: in removable-media mode only, and not for web sites, whose targets
@@ -97,8 +102,9 @@ void ListFiles::LoadFile(const Group& group, const GroupBoxes& boxes, std::wstri
   const auto content = text::ReadTextFile(services_.DataFiles, services_.Language, path);
   if (!content) return;
 
-  // The upper index may be a damaged one; a record has at least the four quotes, a comma and a line end.
-  const int fitting = static_cast<int>(std::min<std::size_t>(content->size() / 6, static_cast<std::size_t>(upper)));
+  // The upper index may be a damaged one.
+  const int fitting =
+      static_cast<int>(std::min<std::size_t>(content->size() / PunctuationOfRecord, static_cast<std::size_t>(upper)));
   boxes.Name.Reserve(boxes.Name.ListCount() + fitting + 1);
   boxes.Path.Reserve(boxes.Path.ListCount() + fitting + 1);
 
@@ -154,6 +160,11 @@ void ListFiles::SaveGroupList(const Group& group, const GroupBoxes& boxes) const
   const std::wstring_view quoteInTarget = group.Code == LaunchGroup::Web ? L"%22" : L"'";
   RecordWriter main(quoteInTarget);
   RecordWriter machine(quoteInTarget);
+  std::size_t size = 0;
+  for (int i = 0; i <= total; ++i) {
+    size += boxes.Name.List(i).size() + boxes.Path.List(i).size() + PunctuationOfRecord;
+  }
+  main.Reserve(size);
   std::wstring open;
   for (int i = 0; i <= total; ++i) {
     const std::wstring& name = boxes.Name.List(i);

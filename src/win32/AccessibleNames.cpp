@@ -21,14 +21,16 @@ constexpr wchar_t NamedMark[] = L"VantorNamed";
 
 void NameForReaders(HWND window, const std::wstring& name) {
   if (name.empty() || GetPropW(window, NamedMark) != nullptr) return;
-  SetPropW(window, NamedMark, reinterpret_cast<HANDLE>(1));
+  const bool entered = SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED));
   void* made = nullptr;
-  if (FAILED(CoCreateInstance(PropertyServices, nullptr, CLSCTX_INPROC_SERVER, PropertyServicesInterface, &made))) {
-    return;
+  if (SUCCEEDED(CoCreateInstance(PropertyServices, nullptr, CLSCTX_INPROC_SERVER, PropertyServicesInterface, &made))) {
+    auto* const services = static_cast<IAccPropServices*>(made);
+    services->SetHwndPropStr(window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, NameProperty, name.c_str());
+    services->Release();
   }
-  auto* const services = static_cast<IAccPropServices*>(made);
-  services->SetHwndPropStr(window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, NameProperty, name.c_str());
-  services->Release();
+  if (entered) CoUninitialize();
+  // Also where it failed, which it would do again.
+  SetPropW(window, NamedMark, reinterpret_cast<HANDLE>(1));
 }
 
 }  // namespace vantor::win32

@@ -98,6 +98,7 @@ void ButtonWindow::OnDraw(const DRAWITEMSTRUCT& item) {
   const std::wstring& caption = label != nullptr ? label->Caption() : button_.Caption();
   const bool bold = (label != nullptr && label->Bold()) || IsSign(caption);
   RECT area{0, 0, size.cx, size.cy};
+  if (!IsSign(caption)) InflateRect(&area, -static_cast<int>(4 * Scale()), 0);
   canvas.Text(caption, area, Font(bold), face.Ink, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
   canvas.Show(item.hDC, item.rcItem.left, item.rcItem.top);
 }

@@ -19,7 +19,8 @@ void ChoiceWindow::Show(form::Property property) {
   if (property == form::Property::Caption) {
     std::wstring text = Caption();
     // An ampersand would underline the letter behind it.
-    for (std::size_t at = text.find(L'&'); at != std::wstring::npos; at = text.find(L'&', at + 2)) text.insert(at, 1, L'&');
+    for (std::size_t at = text.find(L'&'); at != std::wstring::npos; at = text.find(L'&', at + 2))
+      text.insert(at, 1, L'&');
     ShowWindowText(text);
   } else if (property == form::Property::Value) {
     SendMessageW(Hwnd(), BM_SETCHECK, Value() ? BST_CHECKED : BST_UNCHECKED, 0);
@@ -87,8 +88,7 @@ void OptionWindow::ChooseNeighbour(bool backwards) {
   const auto here = std::find(group.begin(), group.end(), &button_);
   if (here == group.end()) return;
   const std::size_t count = group.size();
-  const std::size_t next =
-      (static_cast<std::size_t>(here - group.begin()) + (backwards ? count - 1 : 1)) % count;
+  const std::size_t next = (static_cast<std::size_t>(here - group.begin()) + (backwards ? count - 1 : 1)) % count;
   form::OptionButton& button = *group[next];
   button.SetFocus();
   if (!Retired()) button.InputClick();

@@ -72,8 +72,8 @@ ControlWindow::ControlWindow(FormWindow& owner, form::Control& control, const Ki
   handle_ = CreateWindowExW(kind.ExtendedStyle, kind.ClassName, L"", WS_CHILD | WS_CLIPSIBLINGS | kind.Style, 0, 0, 0,
                             0, ParentOf(owner, control), nullptr, GetModuleHandleW(nullptr), nullptr);
   SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-  classProcedure_ = reinterpret_cast<WNDPROC>(
-      SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure)));
+  classProcedure_ =
+      reinterpret_cast<WNDPROC>(SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure)));
   EnableWindow(handle_, control_.Enabled());
   // The system puts a new one below its siblings.
   SetWindowPos(handle_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);

@@ -36,8 +36,7 @@ EditWindow::EditWindow(FormWindow& owner, form::TextBox& box)
 void EditWindow::Refresh() {
   ControlWindow::Refresh();
   // The room around the text follows the font.
-  SetWindowPos(Hwnd(), nullptr, 0, 0, 0, 0,
-               SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+  SetWindowPos(Hwnd(), nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
   SendMessageW(Hwnd(), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
   ShowText();
   ShowSelection();
@@ -57,8 +56,7 @@ void EditWindow::ShowText() {
 
 void EditWindow::ShowSelection() {
   showing_ = true;
-  SendMessageW(Hwnd(), EM_SETSEL, static_cast<WPARAM>(box_.SelStart()),
-               box_.SelStart() + box_.SelLength());
+  SendMessageW(Hwnd(), EM_SETSEL, static_cast<WPARAM>(box_.SelStart()), box_.SelStart() + box_.SelLength());
   SendMessageW(Hwnd(), EM_SCROLLCARET, 0, 0);
   showing_ = false;
 }

@@ -59,10 +59,9 @@ FormWindow::FormWindow(win32::Desktop& desktop, form::Form& form, bool onTaskbar
   RegisterFormClass(Procedure);
   const Styles styles = StylesOf(form_);
   const RECT place = PlaceInPixels();
-  handle_.Reset(CreateWindowExW(styles.Extended | (onTaskbar ? WS_EX_APPWINDOW : 0), FormClass,
-                                form_.Caption().c_str(), styles.Style, place.left, place.top, place.right - place.left,
-                                place.bottom - place.top, desktop_.ApplicationWindow(), nullptr,
-                                GetModuleHandleW(nullptr), nullptr));
+  handle_.Reset(CreateWindowExW(styles.Extended | (onTaskbar ? WS_EX_APPWINDOW : 0), FormClass, form_.Caption().c_str(),
+                                styles.Style, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                                desktop_.ApplicationWindow(), nullptr, GetModuleHandleW(nullptr), nullptr));
   SetWindowLongPtrW(Hwnd(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   for (form::Control* control : form_.Controls()) {
     if (auto window = ControlWindow::Make(*this, *control)) controls_.push_back(std::move(window));
@@ -146,6 +145,7 @@ void FormWindow::ShowVisible() {
       ShowWindow(Hwnd(), SW_MINIMIZE);
     } else {
       SetForegroundWindow(Hwnd());
+      desktop_.StandBehind(*this);
       UpdateWindow(Hwnd());
     }
     return;
@@ -164,9 +164,9 @@ void FormWindow::ShowEnabled() {
 }
 
 void FormWindow::SetTopMost(bool topMost) {
-  SetWindowPos(Hwnd(), topMost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
-               SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  SetWindowPos(Hwnd(), topMost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   if (topMost) tips_.Raise();
+  desktop_.StandBehind(*this);
 }
 
 void FormWindow::Drag() {
@@ -245,7 +245,15 @@ void FormWindow::OnSize(WPARAM kind) {
   const auto state = kind == SIZE_MINIMIZED ? form::WindowState::Minimized : form::WindowState::Normal;
   if (state == form_.WindowState()) return;
   form_.InputWindowState(state);
-  if (state == form::WindowState::Normal) Place();  // the program may have moved the form meanwhile
+  if (state == form::WindowState::Minimized) return;
+  Place();  // the program may have moved the form meanwhile
+  if (GetActiveWindow() == Hwnd()) GiveFocus();
+}
+
+/// The form itself does nothing with the keyboard.
+void FormWindow::GiveFocus() const {
+  const form::Control* const control = form_.ActiveControl();
+  if (control != nullptr && control->Window() != nullptr) control->Window()->TakeFocus();
 }
 
 void FormWindow::MouseMoves(WPARAM buttons) { form_.InputMouseMove(HeldButton(buttons)); }
@@ -354,9 +362,7 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       }
       break;
     case WM_SETFOCUS:
-      if (const form::Control* control = form_.ActiveControl(); control != nullptr && control->Window() != nullptr) {
-        control->Window()->TakeFocus();
-      }
+      GiveFocus();
       return 0;
     case WM_SIZE:
       OnSize(wParam);

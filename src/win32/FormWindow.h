@@ -72,6 +72,7 @@ class FormWindow final : public form::FormWindow {
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
   bool OnKey(const MSG& message);
   void OnSize(WPARAM kind);
+  void GiveFocus() const;
   void OnDpiChanged(int dpi, const RECT& suggested);
 
   void AcceptDrops();

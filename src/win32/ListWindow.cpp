@@ -17,9 +17,8 @@ constexpr int Indentation = 10;
 
 ListWindow::ListWindow(FormWindow& owner, form::ListControl& list)
     : ControlWindow(owner, list,
-                    {L"LISTBOX",
-                     WS_TABSTOP | WS_VSCROLL | WS_BORDER | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_HASSTRINGS |
-                         LBS_OWNERDRAWFIXED}),
+                    {L"LISTBOX", WS_TABSTOP | WS_VSCROLL | WS_BORDER | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT |
+                                     LBS_HASSTRINGS | LBS_OWNERDRAWFIXED}),
       list_(list) {}
 
 void ListWindow::Refresh() {

@@ -11,7 +11,8 @@ namespace {
 template <class Function>
 Function Find(const wchar_t* library, const char* name) {
   const HMODULE module = GetModuleHandleW(library);
-  return module != nullptr ? reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(module, name))) : nullptr;
+  return module != nullptr ? reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(module, name)))
+                           : nullptr;
 }
 
 int DpiOfMonitor(HMONITOR monitor) {
@@ -72,9 +73,7 @@ int Overlap(int from, int to, int otherFrom, int otherTo) {
   return std::max(std::min(to, otherTo) - std::max(from, otherFrom), 0);
 }
 
-int Gap(int from, int to, int otherFrom, int otherTo) {
-  return std::max({otherFrom - to, from - otherTo, 0});
-}
+int Gap(int from, int to, int otherFrom, int otherTo) { return std::max({otherFrom - to, from - otherTo, 0}); }
 
 /// The screen that holds most of the place; the nearest one if none does.
 Place Best(const form::Rect& place) {

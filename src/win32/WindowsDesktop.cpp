@@ -93,12 +93,8 @@ void Desktop::Handle(MSG& message) {
   Sweep();
 }
 
-void Desktop::Guard(const std::function<void()>& work) const {
-  try {
-    work();
-  } catch (...) {
-    if (OnError) OnError(std::current_exception());
-  }
+void Desktop::ReportError() const {
+  if (OnError) OnError(std::current_exception());
 }
 
 void Desktop::StartTimer(form::Timer& timer) {
@@ -110,8 +106,8 @@ void Desktop::StartTimer(form::Timer& timer) {
 }
 
 void Desktop::StopTimer(form::Timer& timer) {
-  const auto found =
-      std::find_if(timers_.begin(), timers_.end(), [&](const RunningTimer& running) { return running.Timer == &timer; });
+  const auto found = std::find_if(timers_.begin(), timers_.end(),
+                                  [&](const RunningTimer& running) { return running.Timer == &timer; });
   if (found == timers_.end()) return;
   KillTimer(application_.Get(), found->Id);
   timers_.erase(found);
@@ -212,6 +208,12 @@ HWND Desktop::OwnerFor(const FormWindow& window) const {
   // What a minimised or hidden window owns can't be seen.
   const bool useful = owner != nullptr && IsWindowVisible(owner->Hwnd()) != FALSE && IsIconic(owner->Hwnd()) == FALSE;
   return useful ? owner->Hwnd() : application_.Get();
+}
+
+void Desktop::StandBehind(const FormWindow& window) const {
+  if (!IsMain(window) || GetWindow(window.Hwnd(), GW_HWNDNEXT) == application_.Get()) return;
+  SetWindowPos(application_.Get(), window.Hwnd(), 0, 0, 0, 0,
+               SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
 }
 
 FormWindow* Desktop::SuccessorOf(const FormWindow& window) const {

@@ -44,10 +44,19 @@ class Desktop final : public form::UserInterface {
 
   [[nodiscard]] Theme& Look() const { return theme_; }
   /// Runs a window's work and hands what it throws to OnError.
-  void Guard(const std::function<void()>& work) const;
+  template <class Work>
+  void Guard(const Work& work) const {
+    try {
+      work();
+    } catch (...) {
+      ReportError();
+    }
+  }
   [[nodiscard]] bool IsMain(const FormWindow& window) const { return &window == main_; }
   /// The window to stand above: the bar for a panel, the one in use for a modal form.
   [[nodiscard]] HWND OwnerFor(const FormWindow& window) const;
+  /// Puts the application window directly behind the main form, where another copy of the program expects it.
+  void StandBehind(const FormWindow& window) const;
   /// The window that comes to the front when this one goes; null for none.
   [[nodiscard]] FormWindow* SuccessorOf(const FormWindow& window) const;
   void Activated(FormWindow& window) { active_ = &window; }
@@ -69,6 +78,7 @@ class Desktop final : public form::UserInterface {
   };
 
   static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
+  void ReportError() const;
   void Handle(MSG& message);
   void Tick(UINT_PTR id);
   /// Destroys the discarded windows that handle no message any more.

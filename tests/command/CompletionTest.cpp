@@ -8,9 +8,9 @@ using test::TestBar;
 
 TEST_CASE("typing completes to the first entry that begins so") {
   struct Row {
-    const wchar_t* Typed;
-    const wchar_t* Text;
-    int SelStart;
+    const wchar_t* Typed = nullptr;
+    const wchar_t* Text = nullptr;
+    int SelStart = 0;
     int Item = command::NoIndex;
     int Mail = command::NoIndex;
   };

@@ -39,6 +39,7 @@ struct Run {
   std::vector<std::wstring> Items(LaunchGroup group) {
     const list::GroupBoxes& boxes = Choose.List.Of(group);
     std::vector<std::wstring> items;
+    items.reserve(boxes.Name.Entries().size());
     for (int i = 0; i < boxes.Name.ListCount(); ++i) items.push_back(boxes.Name.List(i) + L">" + boxes.Path.List(i));
     return items;
   }
