@@ -35,8 +35,8 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
   const std::wstring title = L"Floor";
   HWND const window = CreateWindowExW(WS_EX_TOPMOST | WS_EX_APPWINDOW, L"Floor", title.c_str(), WS_POPUP, 0, 0, 560, 32,
                                       nullptr, nullptr, instance, nullptr);
-  HWND const edit = CreateWindowExW(0, L"EDIT", L"Floor", WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, 150, 4, 260, 24, window,
-                                    nullptr, instance, nullptr);
+  HWND const edit = CreateWindowExW(0, L"EDIT", L"Floor", WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, 150, 4, 260, 24,
+                                    window, nullptr, instance, nullptr);
   ShowWindow(window, SW_SHOW);
   SetFocus(edit);
   MSG message;

@@ -29,7 +29,7 @@ int clsActiveProcess::GetActiveProcess() {
   records_.assign(GrowBy + 1, {});  // record 0 is never filled
   for (bool filled = processes_.First(snapshot, entry); filled; filled = processes_.Next(snapshot, entry)) {
     ++count_;
-    if (count_ % GrowBy == 0) records_.resize(static_cast<std::size_t>(count_ + GrowBy + 1));
+    if (count_ % GrowBy == 0) records_.resize(static_cast<std::size_t>(count_) + GrowBy + 1);
     records_[static_cast<std::size_t>(count_)] = entry;
   }
   processes_.CloseSnapshot(snapshot);

@@ -29,8 +29,7 @@ Control::Control(class Form& form, std::wstring_view name, ControlKind kind)
   form_.AddControl(*this);
 }
 
-Control::Control(Control& container, std::wstring_view name, ControlKind kind)
-    : Control(container.form_, name, kind) {
+Control::Control(Control& container, std::wstring_view name, ControlKind kind) : Control(container.form_, name, kind) {
   container_ = &container;
 }
 

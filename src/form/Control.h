@@ -38,7 +38,7 @@ enum class Property {
   Caption,
   Picture,
   Value,
-  List,       // any change of a list's entries
+  List,  // any change of a list's entries
   ListIndex,
 };
 

@@ -64,9 +64,7 @@ std::wstring DriveList::Drive() const {
 
 void DriveList::SetDrive(std::wstring_view path) {
   const std::wstring drive = DriveOf(path);
-  const auto isDrive = [&](const std::wstring& entry) {
-    return entry == drive || entry.starts_with(drive + L" [");
-  };
+  const auto isDrive = [&](const std::wstring& entry) { return entry == drive || entry.starts_with(drive + L" ["); };
   auto found = std::find_if(list_.begin(), list_.end(), isDrive);
   if (found == list_.end()) {
     found = list_.insert(list_.end(), drive);
@@ -127,6 +125,8 @@ void FileList::SetPattern(std::wstring_view pattern) {
   Refresh();
 }
 
-void FileList::Refresh() { ReplaceEntries(path_.empty() ? std::vector<std::wstring>() : files_.Files(path_, pattern_)); }
+void FileList::Refresh() {
+  ReplaceEntries(path_.empty() ? std::vector<std::wstring>() : files_.Files(path_, pattern_));
+}
 
 }  // namespace vantor::form

@@ -9,11 +9,11 @@ enum class Picture {
   ButtonPressed,
   ButtonDisabled,
   ButtonOpen,
-  FaceUnfold,   // the add-web box is folded; a click unfolds it
-  FaceFold,     // the add-web box is unfolded; a click folds it
+  FaceUnfold,  // the add-web box is folded; a click unfolds it
+  FaceFold,    // the add-web box is unfolded; a click folds it
   FaceMinimize,
   FaceExit,
-  Launcher,     // the product's mark
+  Launcher,  // the product's mark
   MessageBackground,
 };
 

@@ -30,7 +30,7 @@ void RunProgram() {
   WindowsServices services(start::ApplicationTitle,
                            [&desktop](std::wstring_view title) { desktop.SetApplicationTitle(title); });
   start::Program program(desktop, services.All());
-  desktop.OnError = [&program](std::exception_ptr) { program.Messages.ReportBug(L"Desktop"); };
+  desktop.OnError = [&program](const std::exception_ptr&) { program.Messages.ReportBug(L"Desktop"); };
   program.Main();
   desktop.OnError = nullptr;
 }

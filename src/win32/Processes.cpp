@@ -96,7 +96,7 @@ std::wstring Processes::ImageName(std::uint32_t processId) {
   if (!process) return {};
   std::wstring path(MAX_PATH, L'\0');
   for (;;) {
-    DWORD length = static_cast<DWORD>(path.size());
+    auto length = static_cast<DWORD>(path.size());
     if (QueryFullProcessImageNameW(process.Get(), 0, path.data(), &length)) {
       path.resize(length);
       return path;

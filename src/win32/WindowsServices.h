@@ -26,7 +26,8 @@ class WindowsServices {
         system_(program, std::move(setTitle)) {}
 
   [[nodiscard]] service::Services All() {
-    return {dataFiles_, fileSystem_, language_, management_, programs_, scriptShell_, system_, processes_, windowPicker_};
+    return {dataFiles_,   fileSystem_, language_,  management_,  programs_,
+            scriptShell_, system_,     processes_, windowPicker_};
   }
 
  private:

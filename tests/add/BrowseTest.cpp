@@ -129,8 +129,10 @@ TEST_CASE("Where an item may come from") {
   constexpr Text FixedHere{L"From this machine you can add", 193};
   constexpr Text Other{L"While Vantor runs from a Removable Media - Program File and Folder if", 155 + 97 + 4};
   const struct {
-    bool Media, Unknown, Remembered;
-    wchar_t Drive;
+    bool Media = false;
+    bool Unknown = false;
+    bool Remembered = false;
+    wchar_t Drive = 0;
     Text Refusal;  // None when it may be added
     bool EnablesRemember = false;
   } cases[] = {

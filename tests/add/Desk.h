@@ -75,6 +75,7 @@ struct Desk {
   [[nodiscard]] std::vector<std::wstring> Items(list::LaunchGroup group) const {
     std::vector<std::wstring> items;
     const list::GroupBoxes& boxes = Choose.List.Of(group);
+    items.reserve(static_cast<std::size_t>(boxes.Name.ListCount()));
     for (int i = 0; i < boxes.Name.ListCount(); ++i) items.push_back(boxes.Name.List(i) + L"=" + boxes.Path.List(i));
     return items;
   }

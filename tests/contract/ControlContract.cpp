@@ -44,7 +44,9 @@ struct Stage {
   std::unique_ptr<Person> Someone = MakePerson();
   TestForm Form{Someone->Ui()};
 
-  Stage() { REQUIRE(Someone->WaitUntil([&] { return Someone->IsShownFocused(Form.Text); })); }
+  Stage() {
+    REQUIRE(Someone->WaitUntil([&] { return Someone->IsShownFocused(Form.Text); }));
+  }
   ~Stage() { Form.Unload(); }
 };
 

@@ -74,7 +74,7 @@ TEST_CASE("the drive, folder and file lists walk a disk by keyboard and by the p
   CHECK(form.Dir.Path() == L"C:\\");
   CHECK(form.Dir.PathOf(1) == L"C:\\Tools");
   told.clear();
-  form.Dir.Unreachable = [&] { told.push_back(L"unreachable"); };
+  form.Dir.Unreachable = [&] { told.emplace_back(L"unreachable"); };
   disk.Remove(L"C:\\Tools\\Old");
   CHECK(form.Dir.SetPath(L"C:\\Tools"));
   disk.Remove(L"C:\\Tools\\Deep");
