@@ -27,7 +27,7 @@ std::string Fill(std::string text, const Folder& folder) {
   const std::pair<std::string, std::string> words[] = {
       {"{f}", folder.Path()}, {"{r}", '"' + folder.Path("recorder.exe") + '"'}, {"{w}", Narrow(windows) + "\\"}};
   for (const auto& [word, by] : words) {
-    while (text.find(word) != text.npos) text.replace(text.find(word), word.size(), by);
+    while (text.find(word) != std::string::npos) text.replace(text.find(word), word.size(), by);
   }
   return text;
 }
@@ -75,13 +75,13 @@ TEST_CASE("programs and documents start from codes and from the list") {
   const ListedFolder folder;
   Recorder recorder(folder);
   Program program(folder);
-  RunRows({{"p={r} one  Two \"3 4\"", "{r} one  Two \"3 4\""},
-           {"P={f}\\recorder.exe plain", "{f}\\recorder.exe plain"},
-           {"p={f}\\My Tools\\recorder.exe", "\"{f}\\My Tools\\recorder.exe\""},
+  RunRows({{R"(p={r} one  Two "3 4")", R"({r} one  Two "3 4")"},
+           {R"(P={f}\recorder.exe plain)", R"({f}\recorder.exe plain)"},
+           {R"(p={f}\My Tools\recorder.exe)", R"("{f}\My Tools\recorder.exe")"},
            {"p-to", "{r}"},
-           {"P-SPACED", "\"{f}\\My Tools\\recorder.exe\""},
-           {"f={f}\\My Notes.vantortest", "{r} document \"{f}\\My Notes.vantortest\""},
-           {"f-no", "{r} document \"{f}\\My Notes.vantortest\""}},
+           {"P-SPACED", R"("{f}\My Tools\recorder.exe")"},
+           {R"(f={f}\My Notes.vantortest)", R"({r} document "{f}\My Notes.vantortest")"},
+           {"f-no", R"({r} document "{f}\My Notes.vantortest")"}},
           folder, program, recorder);
   program.Exit();
 }

@@ -105,7 +105,7 @@ TEST_CASE("letters of any language are typed, stored and started") {
       program.TypeLine(typed[row]);
       input::Press(VK_RETURN);
       CHECK(recorder.Next() == '"' + folder.Path(started[row]) + '"');
-      CHECK_BECOMES(program.Line(), "");
+      CHECK_BECOMES(program.Line().empty(), true);
     }
     program.TypeLine("w-ca");
     const bool western = GetACP() == 1252;

@@ -35,7 +35,9 @@ std::string Settings::Bytes() const {
 
 std::string ListBytes(const Items& items) {
   std::string bytes;
-  for (const auto& [name, target] : items) bytes += '"' + name + "\",\"" + target + "\"\r\n";
+  for (const auto& [name, target] : items) {
+    bytes.append("\"").append(name).append("\",\"").append(target).append("\"\r\n");
+  }
   return bytes;
 }
 

@@ -53,7 +53,7 @@ xdotool mousemove $(($3 + step - X + left)) $(($4 - Y + top))
 xdotool mouseup 1)script";
 
 void DragOnDisplay(POINT from, POINT to) {
-  std::string commandLine = std::string("Z:\\bin\\bash -c \"") + DragScript + "\" drag";
+  std::string commandLine = std::string(R"(Z:\bin\bash -c ")") + DragScript + "\" drag";
   for (const LONG number : {from.x, from.y, to.x, to.y}) commandLine += ' ' + std::to_string(number);
   STARTUPINFOA startup = {};
   startup.cb = sizeof startup;

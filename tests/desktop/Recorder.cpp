@@ -20,7 +20,7 @@ HKEY ClassesRoot() { return UnderWine() ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER
 
 void SetKey(HKEY root, const std::wstring& key, const std::wstring& name, const std::wstring& value) {
   if (RegSetKeyValueW(root, key.c_str(), name.c_str(), REG_SZ, value.c_str(),
-                      static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t))) != ERROR_SUCCESS) {
+                      static_cast<DWORD>(value.size() + 1) * sizeof(wchar_t)) != ERROR_SUCCESS) {
     throw std::runtime_error("the registry can't be written");
   }
 }
@@ -38,8 +38,8 @@ Recorder::Recorder(const Folder& folder) : folder_(folder) {
   folder_.Write(RecordName, "");
   SetEnvironmentVariableW(L"VANTOR_RECORD", Wide(folder_.Path(RecordName)).c_str());
   SetKey(ClassesRoot(), std::wstring(Classes) + L".vantortest", L"", L"VantorTest");
-  SetKey(ClassesRoot(), std::wstring(Classes) + L"VantorTest\\shell\\open\\command", L"",
-         Wide('"' + folder_.Path("recorder.exe") + "\" document \"%1\""));
+  SetKey(ClassesRoot(), std::wstring(Classes) + LR"(VantorTest\shell\open\command)", L"",
+         Wide('"' + folder_.Path("recorder.exe") + R"(" document "%1")"));
 }
 
 Recorder::~Recorder() {
