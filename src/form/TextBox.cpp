@@ -39,6 +39,15 @@ void TextBox::InputSelection(int selStart, int selLength) {
   selLength_ = selLength;
 }
 
+void TextBox::InputComposing(bool composing) {
+  if (composing_ == composing) return;
+  composing_ = composing;
+  if (composing_)
+    textBeforeComposing_ = text_;
+  else if (text_ != textBeforeComposing_)
+    Change();
+}
+
 void TextBox::InputDblClick() {
   if (AcceptsInput()) DblClick();
 }

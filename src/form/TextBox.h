@@ -45,7 +45,8 @@ class TextBox : public Control {
   /// The text as the user's editing left it.
   void InputEdited(std::wstring_view text, int selStart, int selLength);
   void InputSelection(int selStart, int selLength);
-  void InputComposing(bool composing) { composing_ = composing; }
+  /// Composing begins or ends. When it ends with another text than it began with, Change is raised once more.
+  void InputComposing(bool composing);
   void InputDblClick();
 
  private:
@@ -53,6 +54,7 @@ class TextBox : public Control {
   int selStart_ = 0;
   int selLength_ = 0;
   bool composing_ = false;
+  std::wstring textBeforeComposing_;
   bool locked_ = false;
 };
 

@@ -76,7 +76,9 @@ LRESULT EditWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     throw;
   }
   --depth_;
-  if (depth_ == 0 && !showing_ && !Retired() && (edited_ || MaySelect(message))) Report();
+  if (depth_ > 0 || showing_ || Retired()) return result;
+  if (edited_ || MaySelect(message)) Report();
+  if (std::exchange(composed_, false) && !Retired()) box_.InputComposing(false);
   return result;
 }
 
@@ -114,10 +116,11 @@ LRESULT EditWindow::Process(UINT message, WPARAM wParam, LPARAM lParam) {
       return result;
     }
     case WM_IME_STARTCOMPOSITION:
+      composed_ = false;
       box_.InputComposing(true);
       break;
     case WM_IME_ENDCOMPOSITION:
-      box_.InputComposing(false);
+      composed_ = true;  // told after the text that it leaves
       break;
     case WM_SETFOCUS:
     case WM_KILLFOCUS: {
