@@ -209,6 +209,7 @@ void frmMain::KeepOnScreen() {
 // --- staying on top
 
 void frmMain::PauseOnTop() {
+  TimerWatchOnTop.SetEnabled(false);  // who opens has the bar's place now, and the focus
   if (!TimerOnTop.Enabled()) return;
   TimerOnTop.SetEnabled(false);
   SetTopMost(false);

@@ -179,6 +179,12 @@ TEST_CASE("minimising closes the panel and leaves the top; restoring takes the f
   bar.Desktop.Advance(2000);
   CHECK(bar.Main.TextMain.HasFocus());
   CHECK(bar.Main.TopMost());
+  // A panel that opens sooner than the restore is noticed stays in front.
+  bar.Desktop.Press(Key::F9);
+  bar.Main.InputWindowState(form::WindowState::Normal);
+  bar.Desktop.Press(Key::F8);
+  bar.Desktop.Advance(10000);
+  CHECK(!bar.Main.TopMost());
 }
 
 TEST_CASE("one panel at a time is open, and one that refuses leaves none") {
