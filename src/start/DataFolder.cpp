@@ -67,7 +67,10 @@ message::MessageKey PrepareMedia(const service::Services& services, Environment&
   }
   const auto media = ReadMediaSet(services, environment);
   if (!media) return L"MessageRecreateMedia";
-  return media->State == MediaSetup ? L"MessageMediaRunCancel" : L"";
+  if (media->State == MediaSetup) return L"MessageMediaRunCancel";
+  if (services.FileSystem.FileExists(environment.Files.Set)) return L"";
+  environment.FirstStart = true;
+  return WriteFirstSettings(services, environment) ? L"" : L"MessageMediaCreateError";
 }
 
 std::wstring LoadUserName(const service::Services& services, const Environment& environment) {

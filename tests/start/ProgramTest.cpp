@@ -187,6 +187,7 @@ TEST_CASE("A medium is used, or refused, by the state it was left in") {
     computer.RunFrom(L'f', 1);
     computer.Services.Disk.AddDrive(L'F', 1);
     computer.Services.Disk.AddFile(L"F:\\Tools\\Vantor\\MediaSet.Orbel", c.MediaSet);
+    computer.Services.Disk.AddFile(L"F:\\Tools\\Vantor\\Set.Orbel", FirstSettings);
     if (!c.Text.empty()) computer.Expect();
     CHECK(computer.Start() == c.Text.empty());
     if (c.Text.empty())
@@ -196,6 +197,16 @@ TEST_CASE("A medium is used, or refused, by the state it was left in") {
     CHECK(computer.Started.Environment.MediaDriveLetter == L"F");
     CHECK(computer.Services.Disk.Written.empty());
   }
+}
+
+TEST_CASE("A medium whose settings file is gone starts as for the first time") {
+  Computer computer;
+  computer.RunFrom(L'E', 1);
+  computer.Services.Disk.AddFile(L"E:\\Tools\\Vantor\\MediaSet.Orbel", ReadyMedia);
+  computer.Expect();
+  REQUIRE(computer.Start());
+  CHECK(computer.Told.at(0).starts_with(L"If you missed it"));
+  CHECK(computer.Bytes(L"E:\\Tools\\Vantor\\Set.Orbel") == FirstSettings);
 }
 
 TEST_CASE("A first run that can't write is refused, and told apart from a medium in use at the next start") {
