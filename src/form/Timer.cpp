@@ -19,14 +19,6 @@ void Timer::SetEnabled(bool enabled) {
   }
 }
 
-void Timer::SetInterval(int milliseconds) {
-  if (interval_ == milliseconds) return;
-  const bool wasEnabled = enabled_;
-  SetEnabled(false);
-  interval_ = milliseconds;
-  SetEnabled(wasEnabled);
-}
-
 void Timer::InputTick() {
   // A handler that shows a modal form lets time pass meanwhile.
   if (!enabled_ || ticking_) return;

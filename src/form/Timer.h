@@ -20,7 +20,6 @@ class Timer {
   [[nodiscard]] bool Enabled() const { return enabled_; }
   void SetEnabled(bool enabled);
   [[nodiscard]] int Interval() const { return interval_; }
-  void SetInterval(int milliseconds);
 
   Event<> Tick;
 
