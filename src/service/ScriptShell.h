@@ -15,7 +15,7 @@ struct Shortcut {
   std::wstring WorkingDirectory;
 };
 
-/// The object "WScript.Shell". Where it is missing or refuses, the plain Windows call does the same.
+/// The object "WScript.Shell". Where it is missing or lacks the call, the plain Windows call does the same.
 class ScriptShell {
  public:
   virtual ~ScriptShell() = default;
