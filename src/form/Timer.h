@@ -8,8 +8,7 @@ class Form;
 class UserInterface;
 
 /// Raises Tick every Interval milliseconds while it is enabled, on the user-interface thread. Ticks never
-/// overlap. Enabling it, or changing the interval of an enabled one, begins a whole interval anew; enabling one
-/// that is enabled already does nothing.
+/// overlap. Enabling it begins a whole interval anew; enabling one that is enabled already does nothing.
 class Timer {
  public:
   Timer(Form& form, int intervalMilliseconds);
