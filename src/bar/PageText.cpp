@@ -19,7 +19,7 @@ constexpr Twips AnyWidth = 30000;
 }  // namespace
 
 form::Label& PageText::Add(form::Control& container, std::wstring_view text, bool bold) {
-  form::Label& label = labels_.emplace_back(container, L"LabelText" + std::to_wstring(labels_.size()));
+  form::Label& label = labels_.emplace_back(container, L"LabelText");
   label.SetCaption(text);
   label.SetBold(bold);
   return label;

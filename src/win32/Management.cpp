@@ -55,7 +55,7 @@ std::optional<service::DiskIdentity> AskWindows() {
       !GetDiskFreeSpaceExW(Root, nullptr, &size, nullptr))
     return std::nullopt;
   wchar_t digits[16];
-  std::swprintf(digits, std::size(digits), L"%08lX", serial);
+  wsprintfW(digits, L"%08lX", serial);  // std::swprintf would add 20 KB
   // Both number the drive types alike from 2 on, and 0 is unknown to both.
   return service::DiskIdentity{static_cast<int>(GetDriveTypeW(Root)), digits, static_cast<double>(size.QuadPart)};
 }

@@ -49,7 +49,9 @@ std::wstring PlainRegistryRead(std::wstring_view name) {
     DWORD number = 0;
     size = sizeof number;
     RegQueryValueExW(key.Get(), parsed->Value.c_str(), nullptr, nullptr, reinterpret_cast<BYTE*>(&number), &size);
-    return std::to_wstring(static_cast<LONG>(number));
+    wchar_t digits[16];
+    wsprintfW(digits, L"%ld", static_cast<LONG>(number));  // std::to_wstring would add 20 KB
+    return digits;
   }
   if (type != REG_SZ && type != REG_EXPAND_SZ) return {};
   std::wstring text(size / sizeof(wchar_t), L'\0');
