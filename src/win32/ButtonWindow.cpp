@@ -17,6 +17,21 @@ bool IsSign(const std::wstring& caption) {
   return caption.size() == 1 || (caption.size() == 2 && IsCharAlphaW(caption[0]) == FALSE);
 }
 
+bool HasPictures(const form::CommandButton& button) {
+  return button.Picture() != Picture::None || button.DownPicture() != Picture::None ||
+         button.DisabledPicture() != Picture::None;
+}
+
+DWORD StyleOf(const form::CommandButton& button) { return HasPictures(button) ? BS_OWNERDRAW : BS_PUSHBUTTON; }
+
+/// The window's text is what a screen reader calls the button; the system's own button also shows it.
+std::wstring NameOf(const form::CommandButton& button) {
+  std::wstring name = button.AccessibleName();
+  if (name.empty() && button.FaceLabel() != nullptr) name = button.FaceLabel()->Caption();
+  if ((name.empty() || !HasPictures(button)) && !button.Caption().empty()) name = button.Caption();
+  return name;
+}
+
 bool IsGround(Picture picture) {
   return picture == Picture::ButtonNormal || picture == Picture::ButtonPressed || picture == Picture::ButtonDisabled ||
          picture == Picture::ButtonOpen;
@@ -25,7 +40,7 @@ bool IsGround(Picture picture) {
 }  // namespace
 
 ButtonWindow::ButtonWindow(FormWindow& owner, form::CommandButton& button)
-    : ControlWindow(owner, button, {L"BUTTON", WS_TABSTOP | BS_PUSHBUTTON}), button_(button) {
+    : ControlWindow(owner, button, {L"BUTTON", WS_TABSTOP | StyleOf(button), NameOf(button)}), button_(button) {
   for (form::Control* control : owner.Form().Controls()) {
     if (control == button_.FaceLabel()) control->AttachWindow(&faceLabel_);
   }
@@ -39,35 +54,14 @@ bool ButtonWindow::IsOnFace(const form::Control& control) {
   });
 }
 
-bool ButtonWindow::HasPictures() const {
-  return button_.Picture() != Picture::None || button_.DownPicture() != Picture::None ||
-         button_.DisabledPicture() != Picture::None;
-}
-
-void ButtonWindow::Refresh() {
-  ControlWindow::Refresh();
-  Show(form::Property::Picture);
-  ShowName();
-}
-
 void ButtonWindow::Show(form::Property property) {
-  if (property == form::Property::Picture) {
-    const WPARAM style = HasPictures() ? BS_OWNERDRAW : BS_PUSHBUTTON;
-    if ((GetWindowLongPtrW(Hwnd(), GWL_STYLE) & BS_TYPEMASK) != static_cast<LONG_PTR>(style)) {
-      SendMessageW(Hwnd(), BM_SETSTYLE, style, FALSE);
-    }
-  } else {
-    ShowName();
+  if (property != form::Property::Picture) {
+    ShowWindowText(NameOf(button_));
+  } else if (const DWORD style = StyleOf(button_);
+             (GetWindowLongPtrW(Hwnd(), GWL_STYLE) & BS_TYPEMASK) != static_cast<LONG_PTR>(style)) {
+    SendMessageW(Hwnd(), BM_SETSTYLE, style, FALSE);
   }
   Redraw();
-}
-
-/// The window's text is what a screen reader calls the button; the system's own button also shows it.
-void ButtonWindow::ShowName() {
-  std::wstring name = button_.AccessibleName();
-  if (name.empty() && button_.FaceLabel() != nullptr) name = button_.FaceLabel()->Caption();
-  if (name.empty() || !HasPictures()) name = button_.Caption().empty() ? name : button_.Caption();
-  ShowWindowText(name);
 }
 
 void ButtonWindow::OnCommand(WORD notification) {
@@ -110,7 +104,7 @@ void ButtonWindow::SetHot(bool hot) {
     TRACKMOUSEEVENT track{sizeof track, TME_LEAVE, Hwnd(), 0};
     TrackMouseEvent(&track);
   }
-  if (HasPictures()) Redraw();
+  if (HasPictures(button_)) Redraw();
 }
 
 LRESULT ButtonWindow::OnMouseButton(form::MouseButton button, bool down, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -150,7 +144,7 @@ LRESULT ButtonWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       SetHot(false);
       break;
     case WM_ERASEBKGND:
-      if (HasPictures()) return 1;
+      if (HasPictures(button_)) return 1;
       break;
     default:
       break;

@@ -13,7 +13,6 @@ class ButtonWindow final : public ControlWindow {
   /// Whether a button of the form draws this control on its face, so that it needs no window of its own.
   [[nodiscard]] static bool IsOnFace(const form::Control& control);
 
-  void Refresh() override;
   void OnCommand(WORD notification) override;
   void OnDraw(const DRAWITEMSTRUCT& item) override;
 
@@ -33,8 +32,6 @@ class ButtonWindow final : public ControlWindow {
     ButtonWindow& button_;
   };
 
-  [[nodiscard]] bool HasPictures() const;
-  void ShowName();
   void SetHot(bool hot);
   LRESULT OnMouseButton(form::MouseButton button, bool down, UINT message, WPARAM wParam, LPARAM lParam);
 

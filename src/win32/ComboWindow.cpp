@@ -32,11 +32,6 @@ ComboWindow::ComboWindow(FormWindow& owner, form::ListControl& list)
                     {L"COMBOBOX", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_HASSTRINGS | CBS_OWNERDRAWFIXED}),
       list_(list) {}
 
-void ComboWindow::Refresh() {
-  ControlWindow::Refresh();
-  Redraw();
-}
-
 void ComboWindow::Place() {
   // The height that the system is given is that of the dropped list; the window's own follows from its line's.
   const form::Rect& bounds = Control().Bounds();

@@ -11,7 +11,6 @@ class ComboWindow final : public ControlWindow {
  public:
   ComboWindow(FormWindow& owner, form::ListControl& list);
 
-  void Refresh() override;
   [[nodiscard]] std::wstring TipText() const override;
   [[nodiscard]] bool KeepsKeys() const override { return IsDropped(); }
   void OnCommand(WORD notification) override;

@@ -17,9 +17,8 @@ namespace vantor::win32 {
 namespace {
 
 HWND ParentOf(const FormWindow& owner, const form::Control& control) {
-  const form::Control* const container = control.Container();
-  if (container == nullptr || container->Window() == nullptr) return owner.Hwnd();
-  return static_cast<const ControlWindow*>(container->Window())->Hwnd();
+  const ControlWindow* const container = ControlWindow::Of(control.Container());
+  return container != nullptr ? container->Hwnd() : owner.Hwnd();
 }
 
 /// The picture that an image shows; None for other controls.
@@ -59,28 +58,35 @@ std::unique_ptr<ControlWindow> ControlWindow::Make(FormWindow& owner, form::Cont
         return std::make_unique<StaticWindow>(owner, control);
     }
   };
-  if (control.Kind() == form::ControlKind::Label && ButtonWindow::IsOnFace(control)) return nullptr;
   auto window = make();
   control.AttachWindow(window.get());
   window->Refresh();
-  if (control.Visible()) ShowWindow(window->Hwnd(), SW_SHOWNA);
   return window;
 }
 
 ControlWindow::ControlWindow(FormWindow& owner, form::Control& control, const Kind& kind)
-    : owner_(owner), control_(control) {
-  handle_ = CreateWindowExW(kind.ExtendedStyle, kind.ClassName, L"", WS_CHILD | WS_CLIPSIBLINGS | kind.Style, 0, 0, 0,
-                            0, ParentOf(owner, control), nullptr, GetModuleHandleW(nullptr), nullptr);
+    : owner_(owner), control_(control), placed_(PlaceInPixels()), shownText_(kind.Text) {
+  const DWORD state = WS_VISIBLE | (control_.Enabled() ? 0 : WS_DISABLED);
+  handle_ = CreateWindowExW(0, kind.ClassName, kind.Text.c_str(), WS_CHILD | WS_CLIPSIBLINGS | state | kind.Style,
+                            placed_.left, placed_.top, placed_.right, placed_.bottom, ParentOf(owner, control), nullptr,
+                            GetModuleHandleW(nullptr), nullptr);
   SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   classProcedure_ =
       reinterpret_cast<WNDPROC>(SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure)));
-  EnableWindow(handle_, control_.Enabled());
-  // The system puts a new one below its siblings.
-  SetWindowPos(handle_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+const ControlWindow* ControlWindow::Of(const form::Control* control) {
+  const bool has = control != nullptr && control->Window() != nullptr && control->Window()->Handle() != 0;
+  return has ? static_cast<const ControlWindow*>(control->Window()) : nullptr;
 }
 
 ControlWindow* ControlWindow::From(HWND handle) {
-  const FormWindow* const form = handle != nullptr ? FormWindow::From(GetAncestor(handle, GA_ROOT)) : nullptr;
+  if (handle == nullptr) return nullptr;
+  // Mostly nobody has put another procedure before this one, and the answer is at hand.
+  if (reinterpret_cast<WNDPROC>(GetWindowLongPtrW(handle, GWLP_WNDPROC)) == Procedure) {
+    return reinterpret_cast<ControlWindow*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
+  }
+  const FormWindow* const form = FormWindow::From(GetAncestor(handle, GA_ROOT));
   return form != nullptr ? form->Find(handle) : nullptr;
 }
 
@@ -157,12 +163,18 @@ void ControlWindow::Refresh() {
   Place();
 }
 
-void ControlWindow::Place() {
+RECT ControlWindow::PlaceInPixels() const {
   const form::Rect& bounds = control_.Bounds();
   const int dpi = owner_.Dpi();
-  SetWindowPos(handle_, nullptr, Screens::ToPixels(bounds.Left, dpi), Screens::ToPixels(bounds.Top, dpi),
-               Screens::ToPixels(bounds.Width, dpi), Screens::ToPixels(bounds.Height, dpi),
-               SWP_NOZORDER | SWP_NOACTIVATE);
+  return {Screens::ToPixels(bounds.Left, dpi), Screens::ToPixels(bounds.Top, dpi), Screens::ToPixels(bounds.Width, dpi),
+          Screens::ToPixels(bounds.Height, dpi)};
+}
+
+void ControlWindow::Place() {
+  const RECT place = PlaceInPixels();
+  if (EqualRect(&place, &placed_) != FALSE) return;
+  placed_ = place;
+  SetWindowPos(handle_, nullptr, place.left, place.top, place.right, place.bottom, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 HBRUSH ControlWindow::OnColor(HDC dc) {
@@ -182,7 +194,11 @@ SIZE ControlWindow::ClientSize() const {
 
 HFONT ControlWindow::Font(bool bold) const { return Look().Font(owner_.Dpi(), bold); }
 
-void ControlWindow::ShowWindowText(const std::wstring& text) const { SetWindowTextW(handle_, text.c_str()); }
+void ControlWindow::ShowWindowText(const std::wstring& text) {
+  if (text == shownText_) return;
+  shownText_ = text;
+  SetWindowTextW(handle_, text.c_str());
+}
 
 void ControlWindow::Redraw() const { InvalidateRect(handle_, nullptr, TRUE); }
 
@@ -209,9 +225,7 @@ COLORREF ControlWindow::Ground() const {
 void ControlWindow::DrawBackdrop(Canvas& canvas) const {
   const form::Control* const container = control_.Container();
   COLORREF ground = Look().Background(owner_.Form().BackColor());
-  if (container != nullptr && container->Window() != nullptr) {
-    ground = static_cast<const ControlWindow*>(container->Window())->Ground();
-  }
+  if (const ControlWindow* window = Of(container)) ground = window->Ground();
   canvas.Clear(ground);
   RECT here;
   GetWindowRect(handle_, &here);
@@ -219,9 +233,10 @@ void ControlWindow::DrawBackdrop(Canvas& canvas) const {
     if (other == &control_) break;  // those after it stand before it
     const bool below = other == container || (other->Container() == container && other->Visible());
     const form::Picture picture = PictureOf(*other);
-    if (!below || picture == form::Picture::None || other->Window() == nullptr) continue;
+    const ControlWindow* const window = Of(other);
+    if (!below || picture == form::Picture::None || window == nullptr) continue;
     RECT there;
-    GetWindowRect(static_cast<const ControlWindow*>(other->Window())->Hwnd(), &there);
+    GetWindowRect(window->Hwnd(), &there);
     DrawPicture(canvas, picture,
                 {double(there.left - here.left), double(there.top - here.top), double(there.right - there.left),
                  double(there.bottom - there.top)},

@@ -16,8 +16,10 @@ namespace vantor::win32 {
 /// The window that mirrors a control. It shows the control's state and tells the control what the user does.
 class ControlWindow : public form::ControlWindow {
  public:
-  /// Makes the window for a control, inside its container's; null for a label that a button draws on its face.
+  /// Makes the window for a control, inside its container's.
   static std::unique_ptr<ControlWindow> Make(FormWindow& owner, form::Control& control);
+  /// The window of a control; null when it has none yet, or is null itself.
+  [[nodiscard]] static const ControlWindow* Of(const form::Control* control);
   /// The control's window with this handle; null for any other handle.
   [[nodiscard]] static ControlWindow* From(HWND handle);
 
@@ -47,7 +49,7 @@ class ControlWindow : public form::ControlWindow {
   struct Kind {
     const wchar_t* ClassName = nullptr;
     DWORD Style = 0;
-    DWORD ExtendedStyle = 0;
+    std::wstring Text = {};
   };
   ControlWindow(FormWindow& owner, form::Control& control, const Kind& kind);
 
@@ -58,6 +60,8 @@ class ControlWindow : public form::ControlWindow {
   virtual void Show(form::Property /*property*/) {}
   /// Brings the window to the control's bounds.
   virtual void Place();
+  /// The control's bounds in pixels: x, y, width and height.
+  [[nodiscard]] RECT PlaceInPixels() const;
   /// Draws a window that does not draw itself.
   virtual void Paint(Canvas& /*canvas*/) {}
 
@@ -66,7 +70,7 @@ class ControlWindow : public form::ControlWindow {
   [[nodiscard]] double Scale() const { return owner_.Dpi() / 96.0; }
   [[nodiscard]] SIZE ClientSize() const;
   [[nodiscard]] HFONT Font(bool bold = false) const;
-  void ShowWindowText(const std::wstring& text) const;
+  void ShowWindowText(const std::wstring& text);
   void Redraw() const;
   /// Paints all of the window by Paint.
   void PaintWindow();
@@ -83,6 +87,8 @@ class ControlWindow : public form::ControlWindow {
   form::Control& control_;
   HWND handle_ = nullptr;  // goes with its parent, which goes before this object does
   WNDPROC classProcedure_ = nullptr;
+  RECT placed_{};           // as PlaceInPixels
+  std::wstring shownText_;  // the window's text, as far as this object sets it
 };
 
 }  // namespace vantor::win32

@@ -28,7 +28,7 @@ bool MaySelect(UINT message) {
 }  // namespace
 
 EditWindow::EditWindow(FormWindow& owner, form::TextBox& box)
-    : ControlWindow(owner, box, {L"EDIT", WS_TABSTOP | ES_AUTOHSCROLL}), box_(box) {
+    : ControlWindow(owner, box, {L"EDIT", WS_TABSTOP | ES_AUTOHSCROLL, box.Text()}), box_(box) {
   SendMessageW(Hwnd(), EM_SETLIMITTEXT, LongestText, 0);
   SendMessageW(Hwnd(), EM_SETREADONLY, box_.Locked() ? TRUE : FALSE, 0);
 }
@@ -38,7 +38,7 @@ void EditWindow::Refresh() {
   // The room around the text follows the font.
   SetWindowPos(Hwnd(), nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
   SendMessageW(Hwnd(), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
-  ShowText();
+  if (ShownText() != box_.Text()) ShowText();
   ShowSelection();
 }
 
@@ -50,7 +50,7 @@ void EditWindow::Show(form::Property property) {
 void EditWindow::ShowText() {
   showing_ = true;
   edited_ = false;
-  ShowWindowText(box_.Text());
+  SetWindowTextW(Hwnd(), box_.Text().c_str());
   showing_ = false;
 }
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "win32/ControlWindow.h"
+#include "win32/ButtonWindow.h"
 #include "win32/Screens.h"
 #include "win32/WindowsDesktop.h"
 
@@ -55,17 +55,20 @@ form::MouseButton HeldButton(WPARAM buttons) {
 }  // namespace
 
 FormWindow::FormWindow(win32::Desktop& desktop, form::Form& form, bool onTaskbar)
-    : desktop_(desktop), form_(form), dpi_(Screens::DpiOf(Screens::PixelsOf(form.Bounds()))), tips_(*this) {
+    : desktop_(desktop),
+      form_(form),
+      dpi_(Screens::DpiOf(Screens::PixelsOf(form.Bounds()))),
+      owner_(desktop.ApplicationWindow()),
+      tips_(*this) {
   RegisterFormClass(Procedure);
   const Styles styles = StylesOf(form_);
   const RECT place = PlaceInPixels();
   handle_.Reset(CreateWindowExW(styles.Extended | (onTaskbar ? WS_EX_APPWINDOW : 0), FormClass, form_.Caption().c_str(),
                                 styles.Style, place.left, place.top, place.right - place.left, place.bottom - place.top,
-                                desktop_.ApplicationWindow(), nullptr, GetModuleHandleW(nullptr), nullptr));
+                                owner_, nullptr, GetModuleHandleW(nullptr), nullptr));
   SetWindowLongPtrW(Hwnd(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-  for (form::Control* control : form_.Controls()) {
-    if (auto window = ControlWindow::Make(*this, *control)) controls_.push_back(std::move(window));
-  }
+  for (form::Control* control : form_.Controls()) control->AttachWindow(&unmade_);
+  MakeControls(nullptr);
   if (form_.TopMost()) SetTopMost(true);
   // Only once the form has been shown: what this needs of the system takes its time.
   if (form_.AcceptsDrops()) PostMessageW(Hwnd(), AcceptDropsMessage, 0, 0);
@@ -83,6 +86,35 @@ FormWindow* FormWindow::From(HWND handle) {
     return nullptr;
   }
   return reinterpret_cast<FormWindow*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
+}
+
+void FormWindow::MakeControls(const form::Control* container) {
+  const std::vector<form::Control*>& controls = form_.Controls();
+  const bool others = std::any_of(controls.begin(), controls.end(), [&](const form::Control* control) {
+    return control->Container() == container && win32::ControlWindow::Of(control) != nullptr;
+  });
+  // From the foremost to the hindmost, because the system puts a new window behind its siblings.
+  HWND before = HWND_TOP;
+  for (auto at = controls.rbegin(); at != controls.rend(); ++at) {
+    form::Control& control = **at;
+    if (control.Container() != container) continue;
+    if (control.Window() == &unmade_ && control.Visible() && !ButtonWindow::IsOnFace(control)) {
+      controls_.push_back(win32::ControlWindow::Make(*this, control));
+      if (others) {
+        SetWindowPos(controls_.back()->Hwnd(), before, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+      }
+    }
+    if (const auto* window = win32::ControlWindow::Of(&control)) before = window->Hwnd();
+  }
+  for (const form::Control* control : controls) {
+    if (control->Container() == container && win32::ControlWindow::Of(control) != nullptr) MakeControls(control);
+  }
+}
+
+void FormWindow::SetOwnerWindow(HWND owner) {
+  if (owner == owner_) return;
+  owner_ = owner;
+  SetWindowLongPtrW(Hwnd(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
 }
 
 ControlWindow* FormWindow::Find(HWND handle) const {
@@ -138,7 +170,7 @@ void FormWindow::TakeDrop() {
 
 void FormWindow::ShowVisible() {
   if (form_.Visible()) {
-    SetWindowLongPtrW(Hwnd(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(desktop_.OwnerFor(*this)));
+    SetOwnerWindow(desktop_.OwnerFor(*this));
     Place();
     SetWindowPos(Hwnd(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
     if (form_.WindowState() == form::WindowState::Minimized) {

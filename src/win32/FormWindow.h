@@ -39,6 +39,10 @@ class FormWindow final : public form::FormWindow {
   /// The control's window with this handle; null for any other handle.
   [[nodiscard]] ControlWindow* Find(HWND handle) const;
 
+  /// The window that this one stands above and goes away with.
+  [[nodiscard]] HWND OwnerWindow() const { return owner_; }
+  void SetOwnerWindow(HWND owner);
+
   /// From here on the form and its controls are not touched any more; the window is hidden.
   void Retire();
   [[nodiscard]] bool Retired() const { return retired_; }
@@ -69,6 +73,21 @@ class FormWindow final : public form::FormWindow {
 
  private:
   static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
+  /// Stands for the windows of controls that have not been visible yet, and so have none.
+  class Unmade final : public form::ControlWindow {
+   public:
+    explicit Unmade(FormWindow& owner) : owner_(owner) {}
+    void Changed(form::Property property) override {
+      if (property == form::Property::Visible) owner_.MakeControls(nullptr);
+    }
+    void TakeFocus() override {}
+
+   private:
+    FormWindow& owner_;
+  };
+
+  /// Makes the windows that are missing for the visible controls in a container (null: on the form).
+  void MakeControls(const form::Control* container);
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
   bool OnKey(const MSG& message);
   void OnSize(WPARAM kind);
@@ -86,10 +105,12 @@ class FormWindow final : public form::FormWindow {
   win32::Desktop& desktop_;
   form::Form& form_;
   int dpi_;
+  HWND owner_;
   bool retired_ = false;
   bool placing_ = false;
   int handling_ = 0;
   std::array<bool, 256> keysDown_{};  // went down while this form had them
+  Unmade unmade_{*this};
   std::vector<std::unique_ptr<ControlWindow>> controls_;
   ToolTips tips_;
   WindowHandle handle_;

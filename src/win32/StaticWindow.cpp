@@ -5,23 +5,26 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <string>
 
 #include "win32/Pictures.h"
 
 namespace vantor::win32 {
 
-StaticWindow::StaticWindow(FormWindow& owner, form::Control& control)
-    : ControlWindow(owner, control, {L"STATIC", SS_NOTIFY}) {}
+namespace {
 
-void StaticWindow::Refresh() {
-  ControlWindow::Refresh();
-  Show(form::Property::Caption);
+std::wstring CaptionOf(const form::Control& control) {
+  const bool isLabel = control.Kind() == form::ControlKind::Label;
+  return isLabel ? static_cast<const form::Label&>(control).Caption() : std::wstring();
 }
 
+}  // namespace
+
+StaticWindow::StaticWindow(FormWindow& owner, form::Control& control)
+    : ControlWindow(owner, control, {L"STATIC", SS_NOTIFY, CaptionOf(control)}) {}
+
 void StaticWindow::Show(form::Property property) {
-  if (Control().Kind() == form::ControlKind::Label && property == form::Property::Caption) {
-    ShowWindowText(static_cast<const form::Label&>(Control()).Caption());
-  }
+  if (property == form::Property::Caption) ShowWindowText(CaptionOf(Control()));
   Redraw();
 }
 
@@ -64,12 +67,7 @@ LRESULT StaticWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 FrameWindow::FrameWindow(FormWindow& owner, form::Frame& frame)
-    : ControlWindow(owner, frame, {L"BUTTON", BS_GROUPBOX | WS_CLIPCHILDREN}), frame_(frame) {}
-
-void FrameWindow::Refresh() {
-  ControlWindow::Refresh();
-  Show(form::Property::Caption);
-}
+    : ControlWindow(owner, frame, {L"BUTTON", BS_GROUPBOX | WS_CLIPCHILDREN, frame.Caption()}), frame_(frame) {}
 
 void FrameWindow::Show(form::Property property) {
   if (property == form::Property::Caption) ShowWindowText(frame_.Caption());

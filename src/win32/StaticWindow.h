@@ -10,8 +10,6 @@ class StaticWindow final : public ControlWindow {
  public:
   StaticWindow(FormWindow& owner, form::Control& control);
 
-  void Refresh() override;
-
  protected:
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   void Show(form::Property property) override;
@@ -22,8 +20,6 @@ class StaticWindow final : public ControlWindow {
 class FrameWindow final : public ControlWindow {
  public:
   FrameWindow(FormWindow& owner, form::Frame& frame);
-
-  void Refresh() override;
 
  protected:
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;

@@ -178,9 +178,7 @@ void Desktop::Discard(std::unique_ptr<form::FormWindow> window) {
   if (active_ == gone.get()) active_ = nullptr;
   // Windows destroys what a window owns along with it.
   for (FormWindow* other : windows_) {
-    if (GetWindow(other->Hwnd(), GW_OWNER) == gone->Hwnd()) {
-      SetWindowLongPtrW(other->Hwnd(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(application_.Get()));
-    }
+    if (other->OwnerWindow() == gone->Hwnd()) other->SetOwnerWindow(application_.Get());
   }
   gone->Retire();
   discarded_.push_back(std::move(gone));
@@ -221,7 +219,7 @@ FormWindow* Desktop::SuccessorOf(const FormWindow& window) const {
     return other != nullptr && other != &window && IsWindowVisible(other->Hwnd()) != FALSE &&
            IsWindowEnabled(other->Hwnd()) != FALSE && IsIconic(other->Hwnd()) == FALSE;
   };
-  FormWindow* const owner = FormWindow::From(GetWindow(window.Hwnd(), GW_OWNER));
+  FormWindow* const owner = FormWindow::From(window.OwnerWindow());
   if (suits(owner)) return owner;
   const auto found = std::find_if(windows_.rbegin(), windows_.rend(), suits);
   return found != windows_.rend() ? *found : nullptr;

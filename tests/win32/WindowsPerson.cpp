@@ -20,8 +20,8 @@ constexpr WORD SentinelKey = 0xE8;
 constexpr DWORD Patience = 5000;  // milliseconds
 
 HWND HandleOf(const form::Control& control) {
-  const form::ControlWindow* const window = control.Window();
-  return window != nullptr ? static_cast<const win32::ControlWindow*>(window)->Hwnd() : nullptr;
+  const win32::ControlWindow* const window = win32::ControlWindow::Of(&control);
+  return window != nullptr ? window->Hwnd() : nullptr;
 }
 
 HWND HandleOf(const form::Form& form) {
