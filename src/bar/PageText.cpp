@@ -1,7 +1,6 @@
 #include "bar/PageText.h"
 
 #include <algorithm>
-#include <string>
 
 #include "form/UserInterface.h"
 
