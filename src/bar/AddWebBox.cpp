@@ -43,12 +43,14 @@ AddWebBox::AddWebBox(form::Form& bar, const list::LaunchList& list, const servic
   PictureNo.SetTabStop(false);
   EnableByText();
 
-  TextWebUrl.Change = [this] { messages_.Trap(L"TextWebUrl_Change", [this] { TextWebUrl_Change(); }); };
-  TextWebName.Change = [this] { messages_.Trap(L"TextWebName_Change", [this] { TextWebName_Change(); }); };
-  TextWebName.KeyPress = [this](wchar_t& character) {
-    messages_.Trap(L"TextWebName_KeyPress", [&] { TextWebName_KeyPress(character); });
+  // Each handler stands in an error trap of its own name.
+  const auto on = [this](auto& event, std::wstring_view name, auto handler) {
+    event = [this, name, handler](auto&&... args) { messages_.Trap(name, [&] { (this->*handler)(args...); }); };
   };
-  CommandAddWeb.Click = [this] { messages_.Trap(L"CommandAddWeb_Click", [this] { CommandAddWeb_Click(); }); };
+  on(TextWebUrl.Change, L"TextWebUrl_Change", &AddWebBox::TextWebUrl_Change);
+  on(TextWebName.Change, L"TextWebName_Change", &AddWebBox::TextWebName_Change);
+  on(TextWebName.KeyPress, L"TextWebName_KeyPress", &AddWebBox::TextWebName_KeyPress);
+  on(CommandAddWeb.Click, L"CommandAddWeb_Click", &AddWebBox::CommandAddWeb_Click);
   FrameAddedInfo.Click = [this] { FrameAddedInfo.SetVisible(false); };
 }
 

@@ -82,28 +82,25 @@ void frmMain::NameControls() {
 }
 
 void frmMain::HandleEvents() {
-  message::Messages& messages = parts_.Messages;
-  CommandWeb.Click = [this, &messages] { messages.Trap(L"CommandWeb_Click", [this] { CommandWeb_Click(); }); };
+  // Each handler stands in an error trap of its own name.
+  const auto on = [this](auto& event, std::wstring_view name, auto handler) {
+    event = [this, name, handler](auto&&... args) { parts_.Messages.Trap(name, [&] { (this->*handler)(args...); }); };
+  };
+  on(CommandWeb.Click, L"CommandWeb_Click", &frmMain::CommandWeb_Click);
   for (std::size_t i = 0; i < menu::Count; ++i) {
-    CommandMenu[i].Click = [this, &messages, i] {
-      messages.Trap(L"CommandMenu_Click", [this, i] { CommandMenu_Click(i); });
+    CommandMenu[i].Click = [this, i] {
+      parts_.Messages.Trap(L"CommandMenu_Click", [this, i] { CommandMenu_Click(i); });
     };
   }
-  CommandMin.Click = [this, &messages] { messages.Trap(L"CommandMin_Click", [this] { CommandMin_Click(); }); };
-  CommandExit.Click = [this] { Unload(); };
-  TextMain.KeyPress = [this, &messages](wchar_t& character) {
-    messages.Trap(L"TextMain_KeyPress", [&] { commandLine_.TextMain_KeyPress(character); });
-  };
-  TextMain.Change = [this, &messages] {
-    messages.Trap(L"TextMain_Change", [this] { commandLine_.TextMain_Change(); });
-  };
-  TextMain.DblClick = [this] { TextMain.SetText({}); };
-  TimerOnTop.Tick = [this, &messages] { messages.Trap(L"TimerOnTop_Timer", [this] { TimerOnTop_Tick(); }); };
-  TimerWatchOnTop.Tick = [this, &messages] {
-    messages.Trap(L"TimerWatchOnTop_Timer", [this] { TimerWatchOnTop_Tick(); });
-  };
+  on(CommandMin.Click, L"CommandMin_Click", &frmMain::CommandMin_Click);
+  on(CommandExit.Click, L"CommandExit_Click", &frmMain::CommandExit_Click);
+  on(TextMain.KeyPress, L"TextMain_KeyPress", &frmMain::TextMain_KeyPress);
+  on(TextMain.Change, L"TextMain_Change", &frmMain::TextMain_Change);
+  on(TextMain.DblClick, L"TextMain_DblClick", &frmMain::EmptyTextMain);
+  on(TimerOnTop.Tick, L"TimerOnTop_Timer", &frmMain::TimerOnTop_Timer);
+  on(TimerWatchOnTop.Tick, L"TimerWatchOnTop_Timer", &frmMain::TimerWatchOnTop_Timer);
   Web.Added = [this] { ClearTextMain(); };
-  parts_.Starters.Started = [this] { TextMain.SetText({}); };
+  parts_.Starters.Started = [this] { EmptyTextMain(); };
   commandLine_.Hooks.Minimize = [this] { CommandMin.DoClick(); };
   commandLine_.Hooks.ClickMenu = [this](int index) { CommandMenu.at(static_cast<std::size_t>(index)).DoClick(); };
 }
@@ -219,7 +216,7 @@ void frmMain::ResumeOnTop() {
   if (Loaded() && parts_.CommandState.OpenPanelIndex == command::NoIndex) TimerOnTop.SetEnabled(StayOnTop());
 }
 
-void frmMain::TimerOnTop_Tick() {
+void frmMain::TimerOnTop_Timer() {
   SetTopMost(true);
   if (!TextMain.Text().empty() || TextMain.Composing()) {
     idleTicks_ = 0;
@@ -238,7 +235,7 @@ void frmMain::CommandMin_Click() {
   SetWindowState(form::WindowState::Minimized);
 }
 
-void frmMain::TimerWatchOnTop_Tick() {
+void frmMain::TimerWatchOnTop_Timer() {
   if (WindowState() == form::WindowState::Minimized) return;
   TimerWatchOnTop.SetEnabled(false);
   TimerOnTop.SetEnabled(StayOnTop());

@@ -102,8 +102,12 @@ class frmMain : public form::Form {
   void CommandWeb_Click();
   void CommandMenu_Click(std::size_t index);
   void CommandMin_Click();
-  void TimerOnTop_Tick();
-  void TimerWatchOnTop_Tick();
+  void CommandExit_Click() { Unload(); }
+  void TextMain_KeyPress(wchar_t& character) { commandLine_.TextMain_KeyPress(character); }
+  void TextMain_Change() { commandLine_.TextMain_Change(); }
+  void TimerOnTop_Timer();
+  void TimerWatchOnTop_Timer();
+  void EmptyTextMain() { TextMain.SetText({}); }
   void ClearTextMain();
   void ShowWebFace();
   void ShowMenuCaptions();
