@@ -1,6 +1,7 @@
 #include "bar/AddWebBox.h"
 
 #include "form/Keys.h"
+#include "form/UserInterface.h"
 #include "list/NameMatch.h"
 
 namespace vantor::bar {
@@ -10,12 +11,12 @@ namespace {
 using form::Twips;
 
 // The labels stand above the fields, so that the box needs no more height than the bar has.
-constexpr Twips LabelHeight = 195;
+constexpr Twips LabelHeight = 180;
 constexpr Twips Gap = 60;
 constexpr Twips UrlWidth = 1860;
 constexpr Twips NameWidth = 1440;
 constexpr Twips AddWidth = 480;
-constexpr Twips BottomMargin = 15;
+constexpr Twips BottomMargin = 30;
 
 }  // namespace
 
@@ -59,7 +60,8 @@ void AddWebBox::LayOut(Twips left, Twips height) {
   TextWebUrl.SetBounds({Gap, LabelHeight, UrlWidth, fieldHeight});
   TextWebName.SetBounds({TextWebUrl.Right() + Gap, LabelHeight, NameWidth, fieldHeight});
   CommandAddWeb.SetBounds({TextWebName.Right() + Gap, LabelHeight, AddWidth, fieldHeight});
-  LabelWebName.SetBounds({TextWebName.Left(), 0, NameWidth, LabelHeight});
+  const Twips labelWidth = FrameWeb.OwnerForm().Ui().MeasureText(LabelWebName.Caption(), false, NameWidth).Width;
+  LabelWebName.SetBounds({TextWebName.Left() + Gap, 0, labelWidth + Gap, LabelHeight});
   FrameWeb.SetBounds({left, 0, CommandAddWeb.Right() + Gap, height});
   FrameAddedInfo.SetBounds({left, 0, FrameWeb.Width(), LabelHeight});
 }

@@ -289,6 +289,7 @@ void frmMain::ShowMenuCaptions() {
   for (std::size_t i = 0; i < menu::Count; ++i) {
     const bool open = parts_.CommandState.OpenPanelIndex == static_cast<std::int16_t>(i);
     CommandMenu[i].SetCaption(open ? command::OpenMenuCaption : command::MenuButtonCaptions[i]);
+    CommandMenu[i].SetPicture(BButton[open ? 3 : 0]);
   }
 }
 

@@ -7,6 +7,7 @@ namespace vantor::list {
 namespace {
 
 constexpr form::Twips Margin = 120;
+constexpr form::Twips EdgeMargin = 60;  // around a page whose frame has an edge
 
 }  // namespace
 
@@ -34,8 +35,10 @@ void frmChoose::ShowPage(ChoosePage& page) {
   shown_ = &page;
   SetCaption(page.Title());
   page.Prepare();
-  const form::Size size = page.LayOut();
-  page.Frame().SetBounds({0, 0, size.Width, size.Height});
+  const form::Size content = page.LayOut();
+  const form::Twips edge = page.Frame().Border() ? EdgeMargin : 0;
+  page.Frame().SetBounds({edge, edge, content.Width, content.Height});
+  const form::Size size{content.Width + 2 * edge, content.Height + 2 * edge};
   page.Frame().SetVisible(true);
 
   const bool closes = !page.CloseCaption().empty();
