@@ -30,8 +30,8 @@ class EditWindow final : public ControlWindow {
   void PaintEdge();
 
   form::TextBox& box_;
-  int depth_ = 0;        // messages that the edit handles just now, one inside the other
-  bool edited_ = false;  // the text changed by the user since it was last reported
+  int depth_ = 0;          // messages that the edit handles just now, one inside the other
+  bool edited_ = false;    // the text changed by the user since it was last reported
   bool composed_ = false;  // an input method has ended composing, not told yet
   bool showing_ = false;
 };
