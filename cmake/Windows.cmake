@@ -38,21 +38,9 @@ else()
 endif()
 target_link_libraries(vantor_win32 ${scope} vantor_core ${VANTOR_WINDOWS_LIBRARIES})
 
-# The shell's library is the largest that the program needs, and a start needs nothing of it: it is loaded at the first
-# call. A function that is missing in the list is imported as usual.
-set(VANTOR_DELAYED_SHELL32 "${PROJECT_BINARY_DIR}/libshell32_delayed.a")
-add_custom_command(
-  OUTPUT "${VANTOR_DELAYED_SHELL32}"
-  COMMAND "${CMAKE_DLLTOOL}" --kill-at --input-def "${PROJECT_SOURCE_DIR}/cmake/shell32.def" --output-delaylib
-          "${VANTOR_DELAYED_SHELL32}"
-  DEPENDS "${PROJECT_SOURCE_DIR}/cmake/shell32.def"
-  VERBATIM)
-add_custom_target(shell32_delayed DEPENDS "${VANTOR_DELAYED_SHELL32}")
-
 if(EXISTS "${VANTOR_ENTRY_POINT}")
   add_executable(Vantor WIN32 ${VANTOR_ENTRY_POINT} ${VANTOR_WIN32_RESOURCES})
-  add_dependencies(Vantor shell32_delayed)
-  target_link_libraries(Vantor PRIVATE vantor_win32 "${VANTOR_DELAYED_SHELL32}" delayimp)
+  target_link_libraries(Vantor PRIVATE vantor_win32)
   target_link_options(Vantor PRIVATE -municode -s)
 endif()
 
