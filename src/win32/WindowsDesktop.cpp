@@ -200,7 +200,8 @@ void Desktop::ModalChanged() {
 }
 
 HWND Desktop::OwnerFor(const FormWindow& window) const {
-  if (IsMain(window)) return application_.Get();
+  // Wine does not let a window out of the topmost band while its owner stands directly behind it.
+  if (IsMain(window)) return nullptr;
   const FormWindow* owner = main_;
   if (ModalForm() == &window.Form() && active_ != nullptr && active_ != &window) owner = active_;
   // What a minimised or hidden window owns can't be seen.
