@@ -128,7 +128,6 @@ void frmBrowse::Form_KeyUp(form::Key key) {
     if (key == form::Key::Escape) StopFinder();
     return;
   }
-  if (key == form::Key::F4 && DriveWork.HasFocus()) return;  // which opens the drive list
   if (key != form::Key::Escape)
     Call(Hooks.HotKey, key);
   else if (!TextAddName.Composing())
