@@ -9,6 +9,7 @@
 
 #include "win32/Com.h"
 #include "win32/LongPath.h"
+#include "win32/ShellFunction.h"
 
 namespace vantor::win32 {
 
@@ -49,10 +50,11 @@ std::vector<std::wstring> PathsOf(IDataObject& data) {
   if (medium.Memory() == nullptr) return paths;
   const auto files = static_cast<HDROP>(medium.Memory());
   constexpr UINT CountThem = 0xFFFFFFFF;
-  const UINT count = DragQueryFileW(files, CountThem, nullptr, 0);
+  auto* const dragQueryFile = ShellFunction<decltype(DragQueryFileW)>("DragQueryFileW");
+  const UINT count = dragQueryFile(files, CountThem, nullptr, 0);
   for (UINT i = 0; i < count; ++i) {
-    std::wstring path(DragQueryFileW(files, i, nullptr, 0) + 1, L'\0');
-    path.resize(DragQueryFileW(files, i, path.data(), static_cast<UINT>(path.size())));
+    std::wstring path(dragQueryFile(files, i, nullptr, 0) + 1, L'\0');
+    path.resize(dragQueryFile(files, i, path.data(), static_cast<UINT>(path.size())));
     paths.push_back(std::move(path));
   }
   return paths;

@@ -9,6 +9,7 @@
 #include "win32/CommandLine.h"
 #include "win32/Handle.h"
 #include "win32/LongPath.h"
+#include "win32/ShellFunction.h"
 
 namespace vantor::win32 {
 
@@ -74,7 +75,8 @@ int Programs::ShellOpen(std::wstring_view file) {
   apartment_.Enter();
   // What opens it may be running already and has to come to the front.
   AllowSetForegroundWindow(ASFW_ANY);
-  const HINSTANCE result = ShellExecuteW(nullptr, L"open", std::wstring(file).c_str(), nullptr, nullptr, SW_SHOW);
+  const HINSTANCE result = ShellFunction<decltype(ShellExecuteW)>("ShellExecuteW")(
+      nullptr, L"open", std::wstring(file).c_str(), nullptr, nullptr, SW_SHOW);
   return static_cast<int>(reinterpret_cast<INT_PTR>(result));
 }
 
@@ -100,7 +102,7 @@ bool Programs::StartElevated(std::wstring_view program, std::wstring_view argume
   what.lpFile = file.c_str();
   what.lpParameters = parameters.empty() ? nullptr : parameters.c_str();
   what.nShow = SW_SHOWNORMAL;
-  return ShellExecuteExW(&what) != FALSE;
+  return ShellFunction<decltype(ShellExecuteExW)>("ShellExecuteExW")(&what) != FALSE;
 }
 
 }  // namespace vantor::win32

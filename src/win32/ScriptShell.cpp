@@ -8,6 +8,7 @@
 #include "win32/Language.h"
 #include "win32/LongPath.h"
 #include "win32/RegistryValue.h"
+#include "win32/ShellFunction.h"
 #include "win32/ShortcutFile.h"
 #include "win32/SpecialFolders.h"
 
@@ -33,7 +34,7 @@ bool PlainRun(std::wstring_view target) {
     what.lpFile = file.c_str();
     what.lpParameters = arguments.empty() ? nullptr : arguments.c_str();
     what.nShow = SW_SHOWNORMAL;
-    return ShellExecuteExW(&what) != FALSE;
+    return ShellFunction<decltype(ShellExecuteExW)>("ShellExecuteExW")(&what) != FALSE;
   };
   if (IsFile(target) || IsFolder(target)) return open(std::wstring(target), {});
   const CommandLine parts = SplitCommandLine(target);

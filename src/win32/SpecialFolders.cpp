@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <shlobj.h>
+#include "win32/ShellFunction.h"
 
 namespace vantor::win32 {
 
@@ -38,7 +39,8 @@ std::wstring PlainSpecialFolder(std::wstring_view name) {
   for (const SpecialFolderName& known : Names) {
     if (known.Name != name) continue;
     wchar_t path[MAX_PATH] = L"";
-    return SHGetFolderPathW(nullptr, known.Id, nullptr, SHGFP_TYPE_CURRENT, path) == S_OK ? path : L"";
+    auto* const getFolderPath = ShellFunction<decltype(SHGetFolderPathW)>("SHGetFolderPathW");
+    return getFolderPath(nullptr, known.Id, nullptr, SHGFP_TYPE_CURRENT, path) == S_OK ? path : L"";
   }
   return {};
 }

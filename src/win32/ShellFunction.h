@@ -1,0 +1,18 @@
+#pragma once
+
+#include <windows.h>
+
+namespace vantor::win32 {
+
+/// The address of a function of shell32.dll. That library is by far the largest that the program calls, and a start
+/// calls nothing of it, so it is loaded at the first question instead of with the program. Throws std::runtime_error
+/// when it can't be loaded or lacks the function.
+FARPROC FindShellFunction(const char* name);
+
+/// The same, typed: ShellFunction<decltype(ShellExecuteW)>("ShellExecuteW").
+template <class Function>
+Function* ShellFunction(const char* name) {
+  return reinterpret_cast<Function*>(reinterpret_cast<void*>(FindShellFunction(name)));
+}
+
+}  // namespace vantor::win32
