@@ -17,6 +17,7 @@ constexpr Twips UrlWidth = 1860;
 constexpr Twips NameWidth = 1440;
 constexpr Twips AddWidth = 480;
 constexpr Twips BottomMargin = 30;
+constexpr Twips BannerHeight = 210;
 
 }  // namespace
 
@@ -63,7 +64,7 @@ void AddWebBox::LayOut(Twips left, Twips height) {
   const Twips labelWidth = FrameWeb.OwnerForm().Ui().MeasureText(LabelWebName.Caption(), false, NameWidth).Width;
   LabelWebName.SetBounds({TextWebName.Left() + Gap, 0, labelWidth + Gap, LabelHeight});
   FrameWeb.SetBounds({left, 0, CommandAddWeb.Right() + Gap, height});
-  FrameAddedInfo.SetBounds({left, 0, FrameWeb.Width(), LabelHeight});
+  FrameAddedInfo.SetBounds({left, 0, FrameWeb.Width(), BannerHeight});
 }
 
 void AddWebBox::SetShown(bool shown) {
