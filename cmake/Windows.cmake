@@ -15,6 +15,12 @@ target_compile_options(vantor_flags INTERFACE -ffunction-sections -fdata-section
 # The run time is linked in: the program needs nothing but what every Windows has.
 target_link_options(vantor_flags INTERFACE -static -Wl,--gc-sections -Wl,--dynamicbase -Wl,--nxcompat)
 
+# The program is optimised as a whole, which takes a seventh off its size. In one partition, because this compiler
+# (GCC 12) fails with several. The objects hold plain code as well, so that the test programs link quickly.
+set(VANTOR_WHOLE_COMPILE -flto -ffat-lto-objects)
+set(VANTOR_WHOLE_LINK -flto -flto-partition=none)
+set(VANTOR_PLAIN_LINK -fno-lto)
+
 set(VANTOR_WINDOWS_LIBRARIES
     comctl32
     comdlg32
@@ -37,11 +43,18 @@ else()
   set(scope PUBLIC)
 endif()
 target_link_libraries(vantor_win32 ${scope} vantor_core ${VANTOR_WINDOWS_LIBRARIES})
+foreach(library IN ITEMS vantor_core vantor_win32)
+  get_target_property(kind ${library} TYPE)
+  if(NOT kind STREQUAL "INTERFACE_LIBRARY")
+    target_compile_options(${library} PRIVATE ${VANTOR_WHOLE_COMPILE})
+  endif()
+endforeach()
 
 if(EXISTS "${VANTOR_ENTRY_POINT}")
   add_executable(Vantor WIN32 ${VANTOR_ENTRY_POINT} ${VANTOR_WIN32_RESOURCES})
   target_link_libraries(Vantor PRIVATE vantor_win32)
-  target_link_options(Vantor PRIVATE -municode -s)
+  target_compile_options(Vantor PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${VANTOR_WHOLE_COMPILE}>")
+  target_link_options(Vantor PRIVATE -municode -s ${VANTOR_WHOLE_LINK})
 endif()
 
 # doctest is one header. A copy of its own keeps the host's include folder off the cross compiler's path.
@@ -65,6 +78,7 @@ if(VANTOR_WIN32_TEST_SOURCES)
   set(contract_test_sources ${VANTOR_CONTRACT_SOURCES} ${VANTOR_WIN32_TEST_SOURCES})
   add_executable(contract_tests ${VANTOR_TEST_MAIN} ${contract_test_sources})
   target_link_libraries(contract_tests PRIVATE vantor_win32 vantor_fakes vantor_doctest)
+  target_link_options(contract_tests PRIVATE ${VANTOR_PLAIN_LINK})
   vantor_add_tests(
     desktop contract_test_sources PREFIX "win32/" TIMEOUT 300
     RUNNER ${on_desktop} COMMAND $<TARGET_FILE:contract_tests>)
@@ -98,7 +112,8 @@ foreach(source IN LISTS VANTOR_WIN32_BENCH_SOURCES)
   get_filename_component(name "${source}" NAME_WE)
   add_executable(${name} ${source})
   target_link_libraries(${name} PRIVATE vantor_flags ${VANTOR_WINDOWS_LIBRARIES})
-  target_link_options(${name} PRIVATE -municode -s)
+  target_compile_options(${name} PRIVATE ${VANTOR_WHOLE_COMPILE})
+  target_link_options(${name} PRIVATE -municode -s ${VANTOR_WHOLE_LINK})
 endforeach()
 if(TARGET Floor)
   set_target_properties(Floor PROPERTIES WIN32_EXECUTABLE ON)
