@@ -76,7 +76,8 @@ endif()
 # The same contract as natively, here with real windows behind it, and the Windows side's own tests.
 if(VANTOR_WIN32_TEST_SOURCES)
   set(contract_test_sources ${VANTOR_CONTRACT_SOURCES} ${VANTOR_WIN32_TEST_SOURCES})
-  add_executable(contract_tests ${VANTOR_TEST_MAIN} ${contract_test_sources})
+  # With the program's resources, because its manifest decides which make of controls the windows get.
+  add_executable(contract_tests ${VANTOR_TEST_MAIN} ${contract_test_sources} ${VANTOR_WIN32_RESOURCES})
   target_link_libraries(contract_tests PRIVATE vantor_win32 vantor_fakes vantor_doctest)
   target_link_options(contract_tests PRIVATE ${VANTOR_PLAIN_LINK})
   vantor_add_tests(

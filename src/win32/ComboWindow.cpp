@@ -249,6 +249,7 @@ LRESULT ComboWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   if (Answer(message, wParam, lParam, result)) return result;
   switch (message) {
     case WM_KEYDOWN:
+      if (wParam == VK_F4) return 0;  // it would drop the list, but belongs to the form; Alt and Down do so as well
       if (!IsDropped() && OnKey(wParam)) return 0;
       break;
     case WM_CHAR:

@@ -35,7 +35,7 @@ class ControlWindow : public form::ControlWindow {
   virtual void Refresh();
   /// What the tool tip says; "" for none.
   [[nodiscard]] virtual std::wstring TipText() const { return control_.ToolTip(); }
-  /// Whether the window uses keys like Escape and Enter for itself at the moment.
+  /// Whether the window uses keys like Escape and Enter for itself at the moment. The function keys are the form's.
   [[nodiscard]] virtual bool KeepsKeys() const { return false; }
 
   // What the window tells its parent, handed back.

@@ -308,7 +308,8 @@ bool FormWindow::OnKey(const MSG& message) {
   if (key >= keysDown_.size()) return false;
   const ControlWindow* const control = ControlWindow::From(message.hwnd);
   if (message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN) {
-    keysDown_[key] = control == nullptr || !control->KeepsKeys();
+    const bool functionKey = key >= VK_F1 && key <= VK_F12;
+    keysDown_[key] = functionKey || control == nullptr || !control->KeepsKeys();
     const bool plainTab = key == VK_TAB && message.message == WM_KEYDOWN && GetKeyState(VK_CONTROL) >= 0;
     if (!plainTab || !form_.AcceptsInput()) return false;
     form_.MoveFocus(GetKeyState(VK_SHIFT) < 0);

@@ -4,6 +4,7 @@
 
 #include "contract/Person.h"
 #include "form/Button.h"
+#include "form/ListControl.h"
 #include "form/TextBox.h"
 #include "form/Timer.h"
 
@@ -18,10 +19,12 @@ class RecordingForm : public Form {
     SetBounds({1500, 1500, 4500, 1500});
     Text.SetBounds({150, 150, 4200, 450});
     Close.SetBounds({150, 750, 1500, 450});
+    List.SetBounds({1800, 750, 1500, 315});
   }
 
   TextBox Text{*this, L"Text"};
   CommandButton Close{*this, L"Close"};
+  ComboBox List{*this, L"List"};
   Timer Clock{*this, 100};
 
  protected:
@@ -72,7 +75,11 @@ TEST_CASE("a form sees the function keys whichever control has the focus") {
   form.Close.SetFocus();
   someone->Press(Key::F10);
   someone->Press(Key::F12);
-  CHECK(told == "F1 F10 F12 ");
+  form.List.AddItem(L"one");
+  form.List.SetFocus();
+  someone->Press(Key::F4);  // drops lists elsewhere
+  someone->Press(Key::F2);
+  CHECK(told == "F1 F10 F12 F4 F2 ");
   form.Unload();
 }
 
