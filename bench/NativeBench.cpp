@@ -207,6 +207,7 @@ void LoadAndSave(Bench& bench) {
   const double save = Quickest(
       41, [] {}, [&] { bench.ListFiles.SaveLaunchList(bench.Choose.List, 0, 0); });
   std::vector<std::string> contents;
+  contents.reserve(files.size());
   for (const std::wstring& file : files) contents.push_back(bench.DataFiles.Read(file).value());
   const double write = Quickest(
       41, [] {},

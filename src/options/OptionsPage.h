@@ -64,7 +64,7 @@ class OptionsPage : public list::ChoosePage {
   [[nodiscard]] std::wstring_view CloseCaption() const override { return {}; }
   form::Size LayOut() override;
   void Prepare() override;
-  form::Control* First() override { return &CheckOptionMain[0]; }
+  form::Control* First() override { return &CheckOptionMain.front(); }
 
  private:
   void Dress();
