@@ -1,6 +1,7 @@
 #include "win32/FormWindow.h"
 
 #include <algorithm>
+#include <ranges>
 #include <utility>
 
 #include "win32/ButtonWindow.h"
@@ -95,16 +96,15 @@ void FormWindow::MakeControls(const form::Control* container) {
   });
   // From the foremost to the hindmost, because the system puts a new window behind its siblings.
   HWND before = HWND_TOP;
-  for (auto at = controls.rbegin(); at != controls.rend(); ++at) {
-    form::Control& control = **at;
-    if (control.Container() != container) continue;
-    if (control.Window() == &unmade_ && control.Visible() && !ButtonWindow::IsOnFace(control)) {
-      controls_.push_back(win32::ControlWindow::Make(*this, control));
+  for (form::Control* control : std::views::reverse(controls)) {
+    if (control->Container() != container) continue;
+    if (control->Window() == &unmade_ && control->Visible() && !ButtonWindow::IsOnFace(*control)) {
+      controls_.push_back(win32::ControlWindow::Make(*this, *control));
       if (others) {
         SetWindowPos(controls_.back()->Hwnd(), before, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
       }
     }
-    if (const auto* window = win32::ControlWindow::Of(&control)) before = window->Hwnd();
+    if (const auto* window = win32::ControlWindow::Of(control)) before = window->Hwnd();
   }
   for (const form::Control* control : controls) {
     if (control->Container() == container && win32::ControlWindow::Of(control) != nullptr) MakeControls(control);
