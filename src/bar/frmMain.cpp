@@ -187,6 +187,10 @@ void frmMain::Form_MouseMove(form::MouseButton held) {
   });
 }
 
+void frmMain::Form_Moved() {
+  parts_.Messages.Trap(L"Form_Moved", [this] { KeepOnScreen(); });
+}
+
 void frmMain::ShowWidth() {
   form::Rect place = Bounds();
   place.Width = BarWidth();

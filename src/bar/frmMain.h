@@ -88,6 +88,7 @@ class frmMain : public form::Form {
   void Form_Unload() override;
   void Form_KeyUp(form::Key key) override;
   void Form_MouseMove(form::MouseButton held) override;
+  void Form_Moved() override;
 
  private:
   void NameControls();

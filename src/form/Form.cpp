@@ -100,7 +100,10 @@ void Form::SetTopMost(bool topMost) {
 }
 
 void Form::Drag() {
-  if (window_ != nullptr) window_->Drag();
+  if (window_ == nullptr) return;
+  dragging_ = true;
+  window_->Drag();
+  dragging_ = false;
 }
 
 void Form::Activate() {
@@ -135,7 +138,10 @@ void Form::InputMouseMove(MouseButton held) {
   if (AcceptsInput()) Form_MouseMove(held);
 }
 
-void Form::InputMoved(const Rect& bounds) { bounds_ = bounds; }
+void Form::InputMoved(const Rect& bounds) {
+  bounds_ = bounds;
+  if (!dragging_) Form_Moved();
+}
 
 void Form::InputClose() {
   if (loaded_) Form_Close();

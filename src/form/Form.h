@@ -120,6 +120,8 @@ class Form {
   virtual void Form_KeyUp(Key /*key*/) {}
   /// The mouse moves over a free spot: no control is there, or only frames without border, labels and images,
   /// which let the mouse through to the form unless a Click handler wants it.
+  /// The window was moved from outside, by the window manager say, which may tell of a drag's end late.
+  virtual void Form_Moved() {}
   virtual void Form_MouseMove(MouseButton /*held*/) {}
   /// What closing the window does: an unload unless the form does otherwise.
   virtual void Form_Close() { Unload(); }
@@ -143,6 +145,7 @@ class Form {
   form::BorderStyle borderStyle_ = form::BorderStyle::None;
   form::WindowState windowState_ = form::WindowState::Normal;
   bool topMost_ = false;
+  bool dragging_ = false;
   bool acceptsDrops_ = false;
   bool loaded_ = false;
   bool visible_ = false;

@@ -92,6 +92,11 @@ TEST_CASE("dragging ends within the screen, and leaves room for what unfolds") {
   bar.Desktop.Press(Key::F1);
   CHECK(placeAfter(99999, 0).first == screen.Width - bar.Main.Web.FrameWeb.Right() - 480);
   bar.Main.InputMouseMove(form::MouseButton::None);
+
+  // A window manager may tell of the drag's end after the drag.
+  bar.Main.InputMoved({-900, 300, bar.Main.Bounds().Width, bar.Main.Bounds().Height});
+  CHECK(bar.Main.Bounds().Left == 0);
+  CHECK(bar.Main.Bounds().Top == 300);
 }
 
 TEST_CASE("a saved place that no screen shows is brought back") {
