@@ -1,8 +1,8 @@
 #include "bar/AddWebBox.h"
 
+#include "add/AddToList.h"
 #include "form/Keys.h"
 #include "form/UserInterface.h"
-#include "list/NameMatch.h"
 
 namespace vantor::bar {
 
@@ -18,6 +18,8 @@ constexpr Twips NameWidth = 1440;
 constexpr Twips AddWidth = 480;
 constexpr Twips BottomMargin = 30;
 constexpr Twips BannerHeight = 210;
+
+constexpr std::wstring_view AddedCaption = L"Site Added To List : Click To Hide";
 
 }  // namespace
 
@@ -39,7 +41,7 @@ AddWebBox::AddWebBox(form::Form& bar, const list::LaunchList& list, const servic
   CommandAddWeb.SetPicture(form::Picture::ButtonNormal);
   CommandAddWeb.SetDownPicture(form::Picture::ButtonPressed);
   CommandAddWeb.SetDisabledPicture(form::Picture::ButtonDisabled);
-  FrameAddedInfo.SetCaption(L"Site Added To List : Click To Hide");
+  FrameAddedInfo.SetCaption(AddedCaption);
   FrameAddedInfo.SetBackColor(form::Color::LineBlue);
   FrameAddedInfo.SetVisible(false);
   PictureNo.SetTabStop(false);
@@ -98,29 +100,17 @@ void AddWebBox::TextWebName_KeyPress(wchar_t& character) {
 
 void AddWebBox::CommandAddWeb_Click() {
   PictureNo.SetFocus();
-  const list::GroupBoxes& web = list_.Of(list::LaunchGroup::Web);
-  const message::MessageKey pathListed = list::PathAlreadyListed(TextWebUrl.Text(), web.Path);
-  if (!pathListed.empty()) {
-    messages_.ShowList(pathListed);
-    TextWebUrl.SetFocus();
-    return;
+  const add::AddBox box{TextWebUrl, TextWebName, FrameAddedInfo};
+  switch (add::AddUnlessListed(box, list_.Of(list::LaunchGroup::Web), AddedCaption, messages_, language_)) {
+    case add::AddResult::PathListed:
+      TextWebUrl.SetFocus();
+      break;
+    case add::AddResult::NameListed:
+      break;
+    case add::AddResult::Added:
+      if (Added) Added();
+      break;
   }
-  const message::MessageKey nameListed = list::CheckNameListed(language_, TextWebName.Text(), web.Name);
-  if (!nameListed.empty()) {
-    messages_.ShowList(nameListed);
-    TextWebName.SetText({});
-    TextWebName.SetFocus();
-    return;
-  }
-  AddToList();
-}
-
-void AddWebBox::AddToList() {
-  list_.Of(list::LaunchGroup::Web).AddItem(TextWebName.Text(), TextWebUrl.Text());
-  TextWebUrl.SetText({});
-  TextWebName.SetText({});
-  FrameAddedInfo.SetVisible(true);
-  if (Added) Added();
 }
 
 }  // namespace vantor::bar

@@ -39,7 +39,6 @@ class AddWebBox {
   void TextWebName_Change();
   void TextWebName_KeyPress(wchar_t& character);
   void CommandAddWeb_Click();
-  void AddToList();
 
   /// The name box is open to the user exactly when there is an address, the button when both boxes hold text.
   void EnableByText();
