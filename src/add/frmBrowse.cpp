@@ -59,8 +59,8 @@ void frmBrowse::ConnectEvents() {
   const auto on = [this](auto& event, std::wstring_view name, auto handler) {
     event = [this, name, handler](auto&&... args) { parts_.Messages.Trap(name, [&] { (this->*handler)(args...); }); };
   };
-  for (std::size_t i = 0; i < OptionBrowse.size(); ++i) {
-    OptionBrowse[i].Click = [this, kind = static_cast<AddKind>(i)] {
+  for (int index = 0; form::OptionButton& option : OptionBrowse) {
+    option.Click = [this, kind = static_cast<AddKind>(index++)] {
       parts_.Messages.Trap(L"OptionBrowse_Click", [&] { OptionBrowse_Click(kind); });
     };
   }
