@@ -59,7 +59,7 @@ void frmBrowse::ConnectEvents() {
   const auto on = [this](auto& event, std::wstring_view name, auto handler) {
     event = [this, name, handler](auto&&... args) { parts_.Messages.Trap(name, [&] { (this->*handler)(args...); }); };
   };
-  for (int index = 0; form::OptionButton& option : OptionBrowse) {
+  for (int index = 0; form::OptionButton & option : OptionBrowse) {
     option.Click = [this, kind = static_cast<AddKind>(index++)] {
       parts_.Messages.Trap(L"OptionBrowse_Click", [&] { OptionBrowse_Click(kind); });
     };
