@@ -103,6 +103,15 @@ void DoubleClick(POINT at) {
   Click(at);
 }
 
+void Hold(POINT at) {
+  Mouse(at, 0);
+  Mouse(at, MOUSEEVENTF_LEFTDOWN);
+}
+
+void Move(POINT to) { Mouse(to, 0); }
+
+void LetGo(POINT at) { Mouse(at, MOUSEEVENTF_LEFTUP); }
+
 void Drag(POINT from, POINT to) {
   if (UnderWine()) {
     DragOnDisplay(from, to);

@@ -13,6 +13,10 @@ void Press(WORD key);
 
 void Click(POINT at);
 void DoubleClick(POINT at);
+/// The parts of a drag: the left button goes down, the mouse moves with it, the button goes up.
+void Hold(POINT at);
+void Move(POINT to);
+void LetGo(POINT at);
 /// Presses the left button at one point, moves and lets go at the other.
 void Drag(POINT from, POINT to);
 
