@@ -1,15 +1,14 @@
 #include <doctest/doctest.h>
 
-#include "bar/TestBar.h"
+#include "bar/StartedProgram.h"
 
 using namespace vantor;
 using form::Key;
 using list::LaunchGroup;
-using test::TestBar;
+using test::StartedProgram;
 
 TEST_CASE("a site is added from the keyboard alone") {
-  TestBar bar;
-  bar.Show();
+  StartedProgram bar;
   bar::AddWebBox& web = bar.Main.Web;
   bar.Desktop.Press(Key::F1);
   CHECK(web.FrameWeb.Visible());
@@ -41,30 +40,27 @@ TEST_CASE("a site is added from the keyboard alone") {
 }
 
 TEST_CASE("an address or a name that is listed is refused") {
-  TestBar bar;
-  bar.Options.ShowAddUrlAtStart = 1;
-  bar.Show();
+  StartedProgram bar("6");
   bar.Add(LaunchGroup::Web, L"News", L"http://news");
   bar::AddWebBox& web = bar.Main.Web;
   web.TextWebUrl.SetText(L"http://news");
   web.TextWebName.SetText(L"Other");
   bar.ExpectMessage();
   bar.Desktop.Click(web.CommandAddWeb);
-  CHECK(bar.Shown.back().starts_with(L"Selected item has already been included"));
+  CHECK(bar.Told.back().starts_with(L"Selected item has already been included"));
   CHECK(web.TextWebName.Text() == L"Other");
   web.TextWebUrl.SetText(L"http://News");
   web.TextWebName.SetText(L"NEWS");
   bar.ExpectMessage();
   bar.Desktop.Click(web.CommandAddWeb);
-  CHECK(bar.Shown.back().starts_with(L"The name you typed is listed name"));
+  CHECK(bar.Told.back().starts_with(L"The name you typed is listed name"));
   CHECK(web.TextWebName.Text().empty());
   CHECK(web.TextWebName.HasFocus());
   CHECK(bar.Choose.ComboListWebName.ListCount() == 1);
 }
 
 TEST_CASE("unfolding near the right edge pulls the bar left") {
-  TestBar bar;
-  bar.Show();
+  StartedProgram bar;
   bar.Desktop.DragBy(bar.Main, 99999, 0);
   bar.Desktop.Press(Key::F1);
   CHECK(bar.Main.Bounds().Right() == bar.Desktop.Desktop.Bounds.Width);

@@ -14,25 +14,16 @@ namespace {
 struct ListPanel : StartedProgram {
   ListPanel() {
     for (const wchar_t* name : {L"Mail", L"Edit", L"Calc"}) {
-      Program.frmChoose.List.Of(LaunchGroup::Prog).AddItem(name, std::wstring(L"C:\\") + name + L".exe");
+      Add(LaunchGroup::Prog, name, std::wstring(L"C:\\") + name + L".exe");
     }
-    Program.frmChoose.List.Of(LaunchGroup::Fold).AddItem(L"Docs", L"C:\\My docs");
-    Program.frmChoose.List.Of(LaunchGroup::Web).AddItem(L"News", L"http://news");
+    Add(LaunchGroup::Fold, L"Docs", L"C:\\My docs");
+    Add(LaunchGroup::Web, L"News", L"http://news");
     Desktop.Press(Key::F4);
   }
   list::GroupFrame& Prog = Program.frmChoose.Page.Prog;
 };
 
 }  // namespace
-
-TEST_CASE("an empty list is told, and its panel stays closed") {
-  StartedProgram program;
-  program.ExpectMessage();
-  program.Desktop.Press(Key::F4);
-  CHECK(program.Told.back().starts_with(L"Launch List is empty."));
-  CHECK(!program.Program.frmChoose.Visible());
-  CHECK(program.Program.CommandState.OpenPanelIndex == -1);
-}
 
 TEST_CASE("the list panel opens with an entry selected in each group that has items, and closes by each way") {
   ListPanel panel;
@@ -152,7 +143,7 @@ TEST_CASE("removing goes on with the first entry, to the last, and adding begins
   prog.TextRename.SetFocus();
   panel.Desktop.Type(L"\r");  // nothing left to rename
   panel.Desktop.Press(Key::Escape);
-  panel.Program.frmChoose.List.Of(LaunchGroup::Prog).AddItem(L"Again", L"C:\\again.exe");
+  panel.Add(LaunchGroup::Prog, L"Again", L"C:\\again.exe");
   panel.Desktop.Press(Key::F4);
   CHECK(prog.Name.Text() == L"Again");
   CHECK(prog.Open.Enabled());
