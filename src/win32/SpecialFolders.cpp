@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <shlobj.h>
+
 #include "win32/ShellFunction.h"
 
 namespace vantor::win32 {

@@ -129,14 +129,15 @@ struct TestWindow {
 TEST_CASE("the bar of the copy that runs is restored, whatever stands before its application window") {
   const TestWindow application(L"ThunderRT6Main", L"Vantor Test Title", nullptr, WS_POPUP);
   const TestWindow bar(L"VantorTestBar", L"bar", application.Window.Get(), WS_POPUP | WS_VISIBLE | WS_MINIMIZEBOX);
+  ShowWindow(bar.Window.Get(), SW_MINIMIZE);
+  REQUIRE(IsIconic(bar.Window.Get()));
   std::unique_ptr<TestWindow> helper;
   SUBCASE("directly the bar") {}
   SUBCASE("a window that can't be seen") {
     helper = std::make_unique<TestWindow>(L"VantorTestHelper", L"", nullptr, WS_POPUP);
-    SetWindowPos(application.Window.Get(), helper->Window.Get(), 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    SetWindowPos(helper->Window.Get(), bar.Window.Get(), 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    REQUIRE(GetWindow(application.Window.Get(), GW_HWNDPREV) == helper->Window.Get());
   }
-  ShowWindow(bar.Window.Get(), SW_MINIMIZE);
-  REQUIRE(IsIconic(bar.Window.Get()));
   WindowsServices services(L"Vantor Test", [](std::wstring_view) {});
   CHECK(services.All().System.ActivateInstance(L"Vantor Test Title"));
   CHECK_FALSE(IsIconic(bar.Window.Get()));
