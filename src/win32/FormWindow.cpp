@@ -1,7 +1,6 @@
 #include "win32/FormWindow.h"
 
 #include <algorithm>
-#include <ranges>
 #include <utility>
 
 #include "win32/ButtonWindow.h"
@@ -96,7 +95,8 @@ void FormWindow::MakeControls(const form::Control* container) {
   });
   // From the foremost to the hindmost, because the system puts a new window behind its siblings.
   HWND before = HWND_TOP;
-  for (form::Control* control : std::views::reverse(controls)) {
+  for (auto next = controls.rbegin(); next != controls.rend(); ++next) {
+    form::Control* const control = *next;
     if (control->Container() != container) continue;
     if (control->Window() == &unmade_ && control->Visible() && !ButtonWindow::IsOnFace(*control)) {
       controls_.push_back(win32::ControlWindow::Make(*this, *control));

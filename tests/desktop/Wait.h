@@ -30,8 +30,9 @@ void Await(const std::string& what, Condition condition) {
 }  // namespace vantor::desktop
 
 /// The value becomes the expected one within the limit. A failure shows what it was instead.
-#define CHECK_BECOMES(value, expected)                                        \
-  do {                                                                        \
-    (void)vantor::desktop::Eventually([&] { return (value) == (expected); }); \
-    CHECK((value) == (expected));                                             \
+#define CHECK_BECOMES(value, expected)                                     \
+  do {                                                                     \
+    const auto& awaited = (expected);                                      \
+    (void)vantor::desktop::Eventually([&] { return (value) == awaited; }); \
+    CHECK((value) == awaited);                                             \
   } while (false)
