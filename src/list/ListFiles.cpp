@@ -82,25 +82,29 @@ ListFiles::Group ListFiles::GroupOf(LaunchGroup group) const {
   return Group{LaunchGroup::Web, files.ListWeb, settings.WebUpper};
 }
 
-void ListFiles::LoadLaunchList(const LaunchList& list) const {
+void ListFiles::LoadSettings() {
+  backup_.SetWhole(list::LoadSettings(backup_, services_.Language, environment_.Files.Set, settings_));
+}
+
+void ListFiles::LoadLaunchList(const LaunchList& list) {
   const service::ManyFileCalls many(services_.FileSystem);
   for (const LaunchGroup group : {LaunchGroup::Web, LaunchGroup::File, LaunchGroup::Fold, LaunchGroup::Prog}) {
     LoadGroupList(GroupOf(group), list.Of(group));
   }
 }
 
-void ListFiles::LoadGroupList(const Group& group, const GroupBoxes& boxes) const {
-  LoadFile(group, boxes, group.File, group.Upper, group.MachineFile != nullptr);
+void ListFiles::LoadGroupList(const Group& group, const GroupBoxes& boxes) {
+  bool whole = LoadFile(group, boxes, group.File, group.Upper, group.MachineFile != nullptr);
   if (group.MachineFile != nullptr && environment_.MachineRemembered) {
-    LoadFile(group, boxes, *group.MachineFile, *group.MachineUpper, false);
+    whole &= LoadFile(group, boxes, *group.MachineFile, *group.MachineUpper, false);
   }
+  if (!whole) backup_.SetWhole(false);
 }
 
-void ListFiles::LoadFile(const Group& group, const GroupBoxes& boxes, std::wstring_view path, int upper,
-                         bool onMedia) const {
-  if (upper < 0) return;
-  const auto content = text::ReadTextFile(services_.DataFiles, services_.Language, path);
-  if (!content) return;
+bool ListFiles::LoadFile(const Group& group, const GroupBoxes& boxes, std::wstring_view path, int upper, bool onMedia) {
+  if (upper < 0) return true;
+  const auto content = text::ReadTextFile(backup_, services_.Language, path);
+  if (!content) return false;
 
   // The upper index may be a damaged one.
   const int fitting =
@@ -113,12 +117,13 @@ void ListFiles::LoadFile(const Group& group, const GroupBoxes& boxes, std::wstri
   for (int i = 0; i <= upper; ++i) {
     const auto name = reader.Read();
     const auto stored = name ? reader.Read() : std::nullopt;
-    if (!stored) return;
+    if (!stored) return false;
     target.clear();
     if (onMedia) target = environment_.MediaDriveLetter;
     target += onMedia && !stored->Text.empty() ? stored->Text.substr(1) : stored->Text;
     if (TargetExists(group, target)) boxes.AddItem(name->Text, target);
   }
+  return true;
 }
 
 bool ListFiles::TargetExists(const Group& group, std::wstring_view target) const {
@@ -132,7 +137,7 @@ bool ListFiles::TargetExists(const Group& group, std::wstring_view target) const
   }
 }
 
-void ListFiles::SaveLaunchList(const LaunchList& list, form::Twips barLeft, form::Twips barTop) const {
+void ListFiles::SaveLaunchList(const LaunchList& list, form::Twips barLeft, form::Twips barTop) {
   settings_.Left = text::ToInt16(barLeft);
   settings_.Top = text::ToInt16(barTop);
   if (environment_.RunMode) settings_.Folder.clear();
@@ -142,10 +147,12 @@ void ListFiles::SaveLaunchList(const LaunchList& list, form::Twips barLeft, form
     const bool split = group.MachineFile != nullptr && environment_.MachineRemembered;
     group.Upper = split ? CountMediaItems(group, list.Of(code), total) : total;
   }
-  (void)SaveSettings(services_.DataFiles, services_.Language, environment_.Files.Set, settings_);
+  backup_.BeginSave();
+  (void)SaveSettings(backup_, services_.Language, environment_.Files.Set, settings_);
   for (const LaunchGroup group : {LaunchGroup::Web, LaunchGroup::File, LaunchGroup::Fold, LaunchGroup::Prog}) {
     SaveGroupList(GroupOf(group), list.Of(group));
   }
+  backup_.EndSave();
 }
 
 std::int16_t ListFiles::CountMediaItems(const Group& group, const GroupBoxes& boxes, std::int16_t upper) const {
@@ -155,7 +162,7 @@ std::int16_t ListFiles::CountMediaItems(const Group& group, const GroupBoxes& bo
   return static_cast<std::int16_t>(count - 1);
 }
 
-void ListFiles::SaveGroupList(const Group& group, const GroupBoxes& boxes) const {
+void ListFiles::SaveGroupList(const Group& group, const GroupBoxes& boxes) {
   const int total = text::ToInt16(boxes.Path.ListCount() - 1);
   const std::wstring_view quoteInTarget = group.Code == LaunchGroup::Web ? L"%22" : L"'";
   RecordWriter main(quoteInTarget);
@@ -181,7 +188,7 @@ void ListFiles::SaveGroupList(const Group& group, const GroupBoxes& boxes) const
   }
   const auto write = [this](const std::wstring& path, const RecordWriter& records) {
     if (records.File().Bytes().empty()) return;  // the file of a list that is empty stays as it is
-    (void)text::WriteTextFile(services_.DataFiles, services_.Language, path, records.File());
+    (void)text::WriteTextFile(backup_, services_.Language, path, records.File());
   };
   write(group.File, main);
   if (group.MachineFile != nullptr) write(*group.MachineFile, machine);

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "form/Geometry.h"
+#include "list/Backup.h"
 #include "list/LaunchList.h"
 #include "list/Settings.h"
 #include "service/Services.h"
@@ -16,23 +17,29 @@ namespace vantor::list {
 class ListFiles {
  public:
   ListFiles(const service::Services& services, const start::Environment& environment, Settings& settings)
-      : services_(services), environment_(environment), settings_(settings) {}
+      : services_(services), environment_(environment), settings_(settings), backup_(services, environment) {}
 
+  /// The first of all: undoes a save that was broken off.
+  void Restore() { backup_.Restore(); }
+  /// Reads the settings. What can't be read stays as it is.
+  void LoadSettings();
   /// Appends the items of the list files whose targets exist to the empty boxes.
-  void LoadLaunchList(const LaunchList& list) const;
+  void LoadLaunchList(const LaunchList& list);
   /// Writes the settings, with the upper indexes of the boxes as they are now and the bar's place in twips, and
   /// then the list files. The file of an empty group is left as it is.
-  void SaveLaunchList(const LaunchList& list, form::Twips barLeft, form::Twips barTop) const;
+  void SaveLaunchList(const LaunchList& list, form::Twips barLeft, form::Twips barTop);
 
  private:
   struct Group;
 
   [[nodiscard]] Group GroupOf(LaunchGroup group) const;
-  void LoadGroupList(const Group& group, const GroupBoxes& boxes) const;
-  void LoadFile(const Group& group, const GroupBoxes& boxes, std::wstring_view path, int upper, bool onMedia) const;
+  void LoadGroupList(const Group& group, const GroupBoxes& boxes);
+  /// False when the file holds fewer records than it should.
+  [[nodiscard]] bool LoadFile(const Group& group, const GroupBoxes& boxes, std::wstring_view path, int upper,
+                              bool onMedia);
   [[nodiscard]] bool TargetExists(const Group& group, std::wstring_view target) const;
   [[nodiscard]] std::int16_t CountMediaItems(const Group& group, const GroupBoxes& boxes, std::int16_t upper) const;
-  void SaveGroupList(const Group& group, const GroupBoxes& boxes) const;
+  void SaveGroupList(const Group& group, const GroupBoxes& boxes);
   /// Whether the target is written into the group's main list file, in removable-media mode with the drive
   /// letter left open; the machine's list file takes the others.
   [[nodiscard]] bool BelongsToMain(const Group& group, std::wstring_view target) const;
@@ -40,6 +47,7 @@ class ListFiles {
   service::Services services_;
   const start::Environment& environment_;
   Settings& settings_;
+  Backup backup_;
 };
 
 }  // namespace vantor::list

@@ -19,14 +19,17 @@ constexpr std::array<Number, 7> NumbersBeforeFolder{
 constexpr std::array<Number, 3> NumbersAfterFolder{&Settings::MachineFileUpper, &Settings::MachineFoldUpper,
                                                    &Settings::MachineProgUpper};
 
+/// Reads what there is of so many numbers. Whether that is all of them, each in its range.
 template <std::size_t Count>
 bool ReadNumbers(text::SequentialReader& reader, const std::array<Number, Count>& numbers, Settings& settings) {
+  bool whole = true;
   for (const Number number : numbers) {
     const auto field = reader.Read();
-    if (!field) return false;
-    if (const auto value = text::ParseInt16(field->Text)) settings.*number = *value;
+    const auto value = field ? text::ParseInt16(field->Text) : std::nullopt;
+    if (value) settings.*number = *value;
+    whole &= value.has_value();
   }
-  return true;
+  return whole;
 }
 
 }  // namespace
@@ -36,12 +39,12 @@ bool LoadSettings(service::DataFiles& files, const service::Language& language, 
   const auto content = text::ReadTextFile(files, language, path);
   if (!content) return false;
   text::SequentialReader reader(*content);
-  if (!ReadNumbers(reader, NumbersBeforeFolder, settings)) return true;
+  bool whole = ReadNumbers(reader, NumbersBeforeFolder, settings);
   const auto folder = reader.Read();
-  if (!folder) return true;
-  settings.Folder = folder->Text;
-  ReadNumbers(reader, NumbersAfterFolder, settings);
-  return true;
+  if (folder) settings.Folder = folder->Text;
+  whole &= folder.has_value();
+  whole &= ReadNumbers(reader, NumbersAfterFolder, settings);
+  return whole;
 }
 
 bool SaveSettings(service::DataFiles& files, const service::Language& language, std::wstring_view path,

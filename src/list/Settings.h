@@ -29,7 +29,7 @@ struct Settings {
 };
 
 /// Reads the settings file. A short one leaves the values after its end as they are, and a value that is no
-/// 16-bit number leaves that one. False when the file is missing or can't be read.
+/// 16-bit number leaves that one. False when the file was not read whole.
 bool LoadSettings(service::DataFiles& files, const service::Language& language, std::wstring_view path,
                   Settings& settings);
 /// Replaces the settings file. False when it could not be written.

@@ -11,7 +11,7 @@ constexpr form::Twips EdgeMargin = 60;  // around a page whose frame has an edge
 
 }  // namespace
 
-frmChoose::frmChoose(form::UserInterface& ui, const ListFiles& files, const service::Language& language,
+frmChoose::frmChoose(form::UserInterface& ui, ListFiles& files, const service::Language& language,
                      message::Messages& messages)
     : Form(ui, L"frmChoose"), Page(*this, language, messages), files_(files), messages_(messages) {
   Page.FrameList.SetVisible(false);

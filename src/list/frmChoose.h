@@ -32,8 +32,7 @@ struct ChooseHooks {
 /// It also shows the other pages that are put on it.
 class frmChoose : public form::Form {
  public:
-  frmChoose(form::UserInterface& ui, const ListFiles& files, const service::Language& language,
-            message::Messages& messages);
+  frmChoose(form::UserInterface& ui, ListFiles& files, const service::Language& language, message::Messages& messages);
 
   ListPage Page;
   form::ComboBox& ComboListProgName = Page.Prog.Name;
@@ -69,7 +68,7 @@ class frmChoose : public form::Form {
  private:
   void Start(LaunchGroup group, std::wstring_view target);
 
-  const ListFiles& files_;
+  ListFiles& files_;
   message::Messages& messages_;
   ChoosePage* shown_ = nullptr;
 };

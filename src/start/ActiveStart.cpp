@@ -65,6 +65,7 @@ void ActiveStart::ChooseRunMode() {
 void ActiveStart::PrepareData() {
   Environment& environment = program_.Environment;
   SetDataFiles(environment);
+  program_.ListFiles.Restore();
   if (!environment.RunMode) {
     PrepareDataFolder(program_.Services, environment);
     return;
@@ -85,9 +86,7 @@ void ActiveStart::AskForName() {
 }
 
 void ActiveStart::LoadState() {
-  // What can't be read stays as it is at a first start.
-  list::LoadSettings(program_.Services.DataFiles, program_.Services.Language, program_.Environment.Files.Set,
-                     program_.Settings);
+  program_.ListFiles.LoadSettings();  // what can't be read stays as it is at a first start
   command::InitCodeTables(program_.CommandState);
   program_.Options = options::DecodeOptionMask(program_.Settings.OptionMask);
 }

@@ -25,23 +25,35 @@ FileHandle MakeFile(const std::wstring& path, DWORD oldAttributes) {
   return FileHandle(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, attributes, nullptr));
 }
 
-/// Moves a file over another. Whoever looks through new files, such as a virus scanner, may hold either for a
-/// moment. Returns the error code.
-DWORD MoveOver(const std::wstring& from, const std::wstring& to) {
+/// Does what fails while somebody else holds a file, for which whoever looks through new files, such as a virus
+/// scanner, needs a moment. Returns the error code.
+template <class Attempt>
+DWORD Patiently(Attempt attempt) {
   constexpr int Attempts = 10;
   constexpr DWORD Pause = 20;  // milliseconds
-  for (int attempt = 1;; ++attempt) {
-    if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) return ERROR_SUCCESS;
+  for (int count = 1;; ++count) {
+    if (attempt()) return ERROR_SUCCESS;
     const DWORD error = GetLastError();
     const bool mayPass = error == ERROR_SHARING_VIOLATION || error == ERROR_ACCESS_DENIED;
-    if (!mayPass || attempt == Attempts) return error;
+    if (!mayPass || count == Attempts) return error;
     Sleep(Pause);
   }
 }
 
+DWORD MoveOver(const std::wstring& from, const std::wstring& to) {
+  return Patiently([&] {
+    return MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
+  });
+}
+
+/// What a write is refused for at once: waiting would not help.
+bool IsRefused(DWORD attributes) {
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY));
+}
+
 /// For a folder whose files may be changed but not added to or taken away. The new bytes go over the old ones
 /// and the rest is cut off last, so that a full disk finds most of either.
-bool WriteInPlace(const std::wstring& path, std::string_view bytes) {
+bool WriteOver(const std::wstring& path, std::string_view bytes) {
   const FileHandle file(CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
                                     FILE_ATTRIBUTE_NORMAL, nullptr));
   return file && WriteAll(file.Get(), bytes) && SetEndOfFile(file.Get()) && FlushFileBuffers(file.Get());
@@ -66,20 +78,38 @@ bool DataFiles::Write(std::wstring_view path, std::string_view bytes) {
   if (bytes.size() > LargestFile) return false;
   const std::wstring place = CallPath(path);
   const DWORD attributes = GetFileAttributesW(place.c_str());
-  // A replacement would not ask what a write is refused for.
-  if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)))
-    return false;
+  if (IsRefused(attributes)) return false;  // a replacement would not ask
 
   const std::wstring beside = CallPath(std::wstring(path) + L"~");
   FileHandle file = MakeFile(beside, attributes);
-  if (!file) return GetLastError() == ERROR_ACCESS_DENIED && WriteInPlace(place, bytes);
+  if (!file) return GetLastError() == ERROR_ACCESS_DENIED && WriteOver(place, bytes);
   const bool written = WriteAll(file.Get(), bytes) && FlushFileBuffers(file.Get());
   file.Reset();
   const DWORD error = written ? MoveOver(beside, place) : ERROR_WRITE_FAULT;
   if (error == ERROR_SUCCESS) return true;
-  const bool writtenInPlace = error == ERROR_ACCESS_DENIED && WriteInPlace(place, bytes);
+  const bool writtenInPlace = error == ERROR_ACCESS_DENIED && WriteOver(place, bytes);
   DeleteFileW(beside.c_str());
   return writtenInPlace;
+}
+
+bool DataFiles::WriteInPlace(std::wstring_view path, std::string_view bytes) {
+  if (bytes.size() > LargestFile) return false;
+  const std::wstring place = CallPath(path);
+  const DWORD attributes = GetFileAttributesW(place.c_str());
+  if (IsRefused(attributes)) return false;
+  FileHandle file;
+  const DWORD error = Patiently([&] {
+    file = MakeFile(place, attributes);
+    return static_cast<bool>(file);
+  });
+  return error == ERROR_SUCCESS && WriteAll(file.Get(), bytes) && FlushFileBuffers(file.Get());
+}
+
+bool DataFiles::Remove(std::wstring_view path) {
+  const std::wstring place = CallPath(path);
+  if (DeleteFileW(place.c_str())) return true;
+  const DWORD error = GetLastError();
+  return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
 }
 
 bool DataFiles::MakeFolder(std::wstring_view path) {

@@ -8,11 +8,13 @@
 
 namespace vantor::win32 {
 
-/// The program's own files. A file is replaced by a finished new one, so that no power cut leaves half of it.
+/// The program's own files. Write replaces a file by a finished new one, so that no power cut leaves half of it.
 class DataFiles final : public service::DataFiles {
  public:
   [[nodiscard]] std::optional<std::string> Read(std::wstring_view path) override;
   [[nodiscard]] bool Write(std::wstring_view path, std::string_view bytes) override;
+  [[nodiscard]] bool WriteInPlace(std::wstring_view path, std::string_view bytes) override;
+  [[nodiscard]] bool Remove(std::wstring_view path) override;
   [[nodiscard]] bool MakeFolder(std::wstring_view path) override;
   [[nodiscard]] bool FolderIsEmpty(std::wstring_view path) override;
 };

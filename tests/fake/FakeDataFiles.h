@@ -15,6 +15,8 @@ class FakeDataFiles : public service::DataFiles {
     return entry->Bytes;
   }
   bool Write(std::wstring_view path, std::string_view bytes) override { return disk_.Write(path, bytes); }
+  bool WriteInPlace(std::wstring_view path, std::string_view bytes) override { return disk_.Write(path, bytes); }
+  bool Remove(std::wstring_view path) override { return disk_.RemoveFile(path); }
   bool MakeFolder(std::wstring_view path) override { return disk_.MakeFolder(path); }
   bool FolderIsEmpty(std::wstring_view path) override { return disk_.In(path).empty(); }
 

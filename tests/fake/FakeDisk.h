@@ -115,6 +115,12 @@ class FakeDisk {
     Written.emplace_back(path);
     return true;
   }
+  [[nodiscard]] bool RemoveFile(std::wstring_view path) {
+    if (!HasFile(path)) return true;
+    if (!CanWrite(path) || !Find(path)->Writable) return false;
+    Remove(path);
+    return true;
+  }
   [[nodiscard]] bool MakeFolder(std::wstring_view path) {
     if (FolderExists(path)) return true;
     if (HasFile(path) || !CanWrite(path)) return false;

@@ -13,7 +13,8 @@ namespace {
 struct Run {
   explicit Run(fake::FakeServices& fakes, wchar_t drive = L'C') : Fakes(fakes) {
     Environment.MediaDriveLetter = drive;
-    const std::wstring folder = Environment.MediaDriveLetter + L":\\Vantor\\Vantor\\";
+    Environment.DataFolder = Environment.MediaDriveLetter + L":\\Vantor\\Vantor";
+    const std::wstring folder = Environment.DataFolder + L"\\";
     Environment.Files = {folder + L"Set.Orbel",      L"",
                          folder + L"ListFile.Orbel", folder + L"ListFold.Orbel",
                          folder + L"ListProg.Orbel", folder + L"ListWeb.Orbel"};
@@ -28,7 +29,8 @@ struct Run {
     Environment.Files.MachineProg = folder + L"MachineProg.Orbel";
   }
   void Load() {
-    list::LoadSettings(Fakes.DataFiles, Fakes.Language, Environment.Files.Set, Settings);
+    Files.Restore();
+    Files.LoadSettings();
     Choose.Load();
   }
   void Save() { Files.SaveLaunchList(Choose.List, 150, 300); }
@@ -165,12 +167,13 @@ TEST_CASE("a damaged settings file gives what could be read of it") {
     int FileUpper;
     int Left;
     int MachineProgUpper;
+    bool Whole = false;
   };
   constexpr Row Rows[] = {
       {"", 2, -1, 0, -1},
       {"5", 5, -1, 0, -1},
       {"5\r\n3\r", 5, 3, 0, -1},
-      {"5\n3\n-1\n-1\n-1\n70\n80\n\"x\"\n0\n0\n9", 5, 3, 70, 9},
+      {"5\n3\n-1\n-1\n-1\n70\n80\n\"x\"\n0\n0\n9", 5, 3, 70, 9, true},
       {"5\r\n99999\r\n0\r\nabc\r\n0\r\n7\r\n8\r\n\"\"\r\n1\r\n1\r\n1\r\nmore\r\n", 5, -1, 7, 1},
       {"5\r\n0\r\n0\r\n0\r\n0\r\n7\r\n8\r\n\"not closed\r\n1\r\n1\r\n1\r\n", 5, 0, 7, -1},
   };
@@ -179,7 +182,8 @@ TEST_CASE("a damaged settings file gives what could be read of it") {
     fake::FakeServices fakes;
     Run run(fakes);
     fakes.Disk.AddFile(run.Environment.Files.Set, row.Bytes);
-    CHECK(list::LoadSettings(fakes.DataFiles, fakes.Language, run.Environment.Files.Set, run.Settings));
+    const bool whole = list::LoadSettings(fakes.DataFiles, fakes.Language, run.Environment.Files.Set, run.Settings);
+    CHECK(whole == row.Whole);
     CHECK(run.Settings.OptionMask == row.OptionMask);
     CHECK(run.Settings.FileUpper == row.FileUpper);
     CHECK(run.Settings.Left == row.Left);

@@ -139,6 +139,8 @@ TEST_CASE("a data file is replaced whole or left whole") {
     SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_HIDDEN);
     CHECK(data.Write(path, "new"));
     CHECK(data.Read(path) == "new");
+    CHECK(data.WriteInPlace(path, "newer"));
+    CHECK(data.Read(path) == "newer");
     CHECK((GetFileAttributesW(path.c_str()) & FILE_ATTRIBUTE_HIDDEN) != 0);
   }
   SUBCASE("no new file can be made beside it") {
@@ -156,6 +158,30 @@ TEST_CASE("a data file is replaced whole or left whole") {
   SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
   Apartment com;
   CHECK(FileSystem(com).Files(folder.Path, L"*.*") == Names{L"Set \x4E2D.Orbel"});
+}
+
+TEST_CASE("a data file is written in place and removed, where that is allowed") {
+  TestFolder folder;
+  DataFiles data;
+  const std::wstring path = folder / L"Set.Orbel";
+  CHECK(data.Remove(path));
+  CHECK(data.Remove(folder / L"none\\Set.Orbel"));
+  REQUIRE(data.WriteInPlace(path, "longer"));
+  CHECK(data.WriteInPlace(path, "short"));
+  CHECK(data.Read(path) == "short");
+  {
+    const FileHandle held(CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
+    CHECK_FALSE(data.WriteInPlace(path, "new"));
+    CHECK_FALSE(data.Remove(path));
+  }
+  SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY);
+  CHECK_FALSE(data.WriteInPlace(path, "new"));
+  CHECK(data.Read(path) == "short");
+  SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+  CHECK_FALSE(data.WriteInPlace(folder.Path, "new"));
+  CHECK_FALSE(data.WriteInPlace(folder / L"none\\Set.Orbel", "new"));
+  CHECK(data.Remove(path));
+  CHECK_FALSE(data.Read(path));
 }
 
 TEST_CASE("data folders are made once and known when empty") {
