@@ -12,14 +12,34 @@ target_compile_definitions(
             _WIN32_WINNT=0x0601
             _WIN32_IE=0x0800)
 target_compile_options(vantor_flags INTERFACE -ffunction-sections -fdata-sections)
-# The run time is linked in: the program needs nothing but what every Windows has.
-target_link_options(vantor_flags INTERFACE -static -Wl,--gc-sections -Wl,--dynamicbase -Wl,--nxcompat)
+target_link_options(
+  vantor_flags
+  INTERFACE
+    # The run time is linked in: the program needs nothing but what every Windows has.
+    -static
+    -Wl,--gc-sections
+    # At a place that can't be foretold, without code on the stack or the heap, and without handlers that Windows
+    # would have to take from the stack.
+    -Wl,--dynamicbase
+    -Wl,--nxcompat
+    -Wl,--no-seh
+    -Wl,--tsaware
+    # Windows 7 and newer.
+    -Wl,--major-os-version=6,--minor-os-version=1,--major-subsystem-version=6,--minor-subsystem-version=1
+    # The same sources make the same file.
+    -Wl,--no-insert-timestamp)
 
 # The program is optimised as a whole, which takes a seventh off its size. In one partition, because this compiler
 # (GCC 12) fails with several. The objects hold plain code as well, so that the test programs link quickly.
 set(VANTOR_WHOLE_COMPILE -flto -ffat-lto-objects)
 set(VANTOR_WHOLE_LINK -flto -flto-partition=none)
 set(VANTOR_PLAIN_LINK -fno-lto)
+
+# Of the program's functions, those that hold arrays look at their return address before they take it. What they ask for
+# is no part of a library, because the optimised whole asks for it when libraries are no longer searched.
+set(VANTOR_STACK_GUARD_COMPILE -fstack-protector-strong)
+add_library(vantor_stack_guard OBJECT ${VANTOR_STACK_GUARD})
+target_link_libraries(vantor_stack_guard PRIVATE vantor_flags)
 
 set(VANTOR_WINDOWS_LIBRARIES
     comctl32
@@ -46,13 +66,13 @@ target_link_libraries(vantor_win32 ${scope} vantor_core ${VANTOR_WINDOWS_LIBRARI
 foreach(library IN ITEMS vantor_core vantor_win32)
   get_target_property(kind ${library} TYPE)
   if(NOT kind STREQUAL "INTERFACE_LIBRARY")
-    target_compile_options(${library} PRIVATE ${VANTOR_WHOLE_COMPILE})
+    target_compile_options(${library} PRIVATE ${VANTOR_WHOLE_COMPILE} ${VANTOR_STACK_GUARD_COMPILE})
   endif()
 endforeach()
 
 if(EXISTS "${VANTOR_ENTRY_POINT}")
   add_executable(Vantor WIN32 ${VANTOR_ENTRY_POINT} ${VANTOR_WIN32_RESOURCES})
-  target_link_libraries(Vantor PRIVATE vantor_win32)
+  target_link_libraries(Vantor PRIVATE vantor_win32 vantor_stack_guard)
   target_compile_options(Vantor PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${VANTOR_WHOLE_COMPILE}>")
   target_link_options(Vantor PRIVATE -municode -s ${VANTOR_WHOLE_LINK})
 endif()
@@ -78,7 +98,11 @@ if(VANTOR_WIN32_TEST_SOURCES)
   set(contract_test_sources ${VANTOR_CONTRACT_SOURCES} ${VANTOR_WIN32_TEST_SOURCES})
   # With the program's resources, because its manifest decides which make of controls the windows get.
   add_executable(contract_tests ${VANTOR_TEST_MAIN} ${contract_test_sources} ${VANTOR_WIN32_RESOURCES})
-  target_link_libraries(contract_tests PRIVATE vantor_win32 vantor_fakes vantor_doctest)
+  target_link_libraries(contract_tests PRIVATE vantor_win32 vantor_stack_guard vantor_fakes vantor_doctest version)
+  # What the shipped file holds is looked at as well.
+  if(TARGET Vantor)
+    add_dependencies(contract_tests Vantor)
+  endif()
   target_link_options(contract_tests PRIVATE ${VANTOR_PLAIN_LINK})
   vantor_add_tests(
     desktop contract_test_sources PREFIX "win32/" TIMEOUT 300
@@ -98,7 +122,7 @@ if(VANTOR_DESKTOP_SOURCES)
   endif()
   add_executable(desktop_tests ${main} ${VANTOR_DESKTOP_SOURCES})
   target_link_libraries(desktop_tests PRIVATE vantor_flags vantor_doctest ${VANTOR_WINDOWS_LIBRARIES})
-  foreach(program IN ITEMS Vantor recorder)
+  foreach(program IN ITEMS Vantor recorder installer)
     if(TARGET ${program})
       add_dependencies(desktop_tests ${program})
     endif()

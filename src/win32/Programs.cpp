@@ -10,6 +10,7 @@
 #include "win32/Handle.h"
 #include "win32/LongPath.h"
 #include "win32/ShellFunction.h"
+#include "win32/SystemLibrary.h"
 
 namespace vantor::win32 {
 
@@ -41,13 +42,6 @@ DWORD Start(const wchar_t* program, std::wstring commandLine) {
   const KernelHandle thread(started.hThread);
   AllowSetForegroundWindow(started.dwProcessId);
   return ERROR_SUCCESS;
-}
-
-std::wstring SystemFile(std::wstring_view name) {
-  wchar_t folder[MAX_PATH] = L"";
-  const UINT length = GetSystemDirectoryW(folder, MAX_PATH);
-  if (length == 0 || length >= MAX_PATH) return {};
-  return std::wstring(folder) + L"\\" + std::wstring(name);
 }
 
 std::string Ansi(std::wstring_view text) {
@@ -84,7 +78,7 @@ int Programs::RequestMakeCall(std::wstring_view number, std::wstring_view applic
   constexpr LONG NoRequestRecipient = -2;  // TAPIERR_NOREQUESTRECIPIENT
   using MakeCall = LONG(WINAPI*)(LPCSTR address, LPCSTR application, LPCSTR calledParty, LPCSTR comment);
 
-  const LibraryHandle telephony(LoadLibraryW(SystemFile(L"TAPI32.DLL").c_str()));
+  const LibraryHandle telephony(LoadSystemLibrary(L"TAPI32.DLL"));
   if (!telephony) return NoRequestRecipient;
   const FARPROC found = GetProcAddress(telephony.Get(), "tapiRequestMakeCall");
   if (found == nullptr) return NoRequestRecipient;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "win32/SystemLibrary.h"
+
 namespace vantor::win32 {
 
 namespace {
@@ -16,11 +18,10 @@ Function Find(const wchar_t* library, const char* name) {
 }
 
 int DpiOfMonitor(HMONITOR monitor) {
-  // Shcore.dll came with Windows 8.1. It is found in the system's folder alone.
+  // Shcore.dll came with Windows 8.1.
   using GetDpi = HRESULT(WINAPI*)(HMONITOR, int, UINT*, UINT*);
   static const GetDpi getDpi = [] {
-    constexpr DWORD systemFolderOnly = 0x00000800;  // LOAD_LIBRARY_SEARCH_SYSTEM32
-    LoadLibraryExW(L"shcore.dll", nullptr, systemFolderOnly);
+    LoadSystemLibrary(L"shcore.dll");
     return Find<GetDpi>(L"shcore.dll", "GetDpiForMonitor");
   }();
   UINT x = 0;

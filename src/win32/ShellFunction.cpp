@@ -2,11 +2,13 @@
 
 #include <stdexcept>
 
+#include "win32/SystemLibrary.h"
+
 namespace vantor::win32 {
 
 FARPROC FindShellFunction(const char* name) {
-  // One of the libraries that Windows takes from its own folder alone, and never unloaded: it does not bear that well.
-  const HMODULE library = LoadLibraryW(L"shell32.dll");
+  // Never unloaded: it does not bear that well.
+  const HMODULE library = LoadSystemLibrary(L"shell32.dll");
   const FARPROC found = library != nullptr ? GetProcAddress(library, name) : nullptr;
   if (found == nullptr) throw std::runtime_error("a function of the shell's library is missing");
   return found;

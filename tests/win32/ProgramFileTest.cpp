@@ -1,0 +1,179 @@
+// What the finished Vantor.exe promises to Windows, read from the file as it lies beside this test.
+#include <doctest/doctest.h>
+
+#include <windows.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <set>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "product/Product.rc.h"
+#include "start/Environment.h"
+#include "win32/DataFiles.h"
+#include "win32/System.h"
+
+namespace {
+
+std::wstring ProgramPath() { return vantor::win32::System({}, {}).ProgramFolder() + L"\\Vantor.exe"; }
+
+/// The file as bytes, and the parts of its headers.
+struct Image {
+  std::string Bytes = vantor::win32::DataFiles().Read(ProgramPath()).value_or("");
+  std::size_t HeadersAt = static_cast<std::size_t>(At<IMAGE_DOS_HEADER>(0)->e_lfanew);
+  const IMAGE_NT_HEADERS32* Headers = At<IMAGE_NT_HEADERS32>(HeadersAt);
+  std::span<const IMAGE_SECTION_HEADER> Sections{
+      At<IMAGE_SECTION_HEADER>(HeadersAt + offsetof(IMAGE_NT_HEADERS32, OptionalHeader) +
+                               Headers->FileHeader.SizeOfOptionalHeader),
+      Headers->FileHeader.NumberOfSections};
+
+  template <class T>
+  [[nodiscard]] const T* At(std::size_t offset) const {
+    REQUIRE(offset + sizeof(T) <= Bytes.size());
+    return reinterpret_cast<const T*>(Bytes.data() + offset);
+  }
+  /// What will lie at an address of the loaded program.
+  template <class T>
+  [[nodiscard]] const T* Loaded(DWORD address) const {
+    for (const IMAGE_SECTION_HEADER& section : Sections) {
+      if (address - section.VirtualAddress < section.SizeOfRawData)
+        return At<T>(address - section.VirtualAddress + section.PointerToRawData);
+    }
+    REQUIRE_MESSAGE(false, "no section holds the address");
+    return nullptr;
+  }
+  [[nodiscard]] const IMAGE_DATA_DIRECTORY& Directory(int index) const {
+    return Headers->OptionalHeader.DataDirectory[index];
+  }
+};
+
+std::string Upper(std::string text) {
+  std::ranges::transform(text, text.begin(),
+                         [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; });
+  return text;
+}
+
+/// The file's resources, without running it.
+struct Resources {
+  HMODULE Module = LoadLibraryExW(ProgramPath().c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
+  ~Resources() { FreeLibrary(Module); }
+
+  [[nodiscard]] std::string Bytes(int id, LPWSTR type) const {
+    const HRSRC found = FindResourceW(Module, MAKEINTRESOURCEW(id), type);
+    REQUIRE(found != nullptr);
+    return {static_cast<const char*>(LockResource(LoadResource(Module, found))), SizeofResource(Module, found)};
+  }
+};
+
+}  // namespace
+
+TEST_CASE("the program file asks for the mitigations that its tool chain can give") {
+  const Image image;
+  const auto& optional = image.Headers->OptionalHeader;
+  for (const int flag : {IMAGE_DLLCHARACTERISTICS_DYNAMIC_BASE, IMAGE_DLLCHARACTERISTICS_NX_COMPAT,
+                         IMAGE_DLLCHARACTERISTICS_NO_SEH, IMAGE_DLLCHARACTERISTICS_TERMINAL_SERVER_AWARE}) {
+    CAPTURE(flag);
+    CHECK((optional.DllCharacteristics & flag) != 0);
+  }
+  // An address can be chosen only for a program that can be moved.
+  CHECK((image.Headers->FileHeader.Characteristics & IMAGE_FILE_RELOCS_STRIPPED) == 0);
+  CHECK(image.Directory(IMAGE_DIRECTORY_ENTRY_BASERELOC).Size > 1000);
+  CHECK(optional.MajorSubsystemVersion * 100 + optional.MinorSubsystemVersion == 601);
+
+  for (const IMAGE_SECTION_HEADER& section : image.Sections) {
+    const DWORD both = IMAGE_SCN_MEM_EXECUTE | IMAGE_SCN_MEM_WRITE;
+    CHECK((section.Characteristics & both) != both);
+  }
+
+  // The way that a function with an overwritten stack takes: mov ecx, 2; int 29h.
+  CHECK(image.Bytes.find(std::string("\xB9\x02\0\0\0\xCD\x29", 7)) != std::string::npos);
+  CHECK(image.Bytes.size() < 600 * 1024);
+  CHECK(image.Headers->FileHeader.TimeDateStamp == 0);
+}
+
+TEST_CASE("the program starts with libraries that Windows takes from its own folder, whatever lies beside it") {
+  // Windows' known libraries, and the common controls, which the manifest binds to Windows' store of them.
+  const std::set<std::string> known = {"ADVAPI32.DLL", "COMCTL32.DLL", "COMDLG32.DLL", "GDI32.DLL",
+                                       "IMM32.DLL",    "KERNEL32.DLL", "MSVCRT.DLL",   "OLE32.DLL",
+                                       "OLEAUT32.DLL", "SHELL32.DLL",  "SHLWAPI.DLL",  "USER32.DLL"};
+  const Image image;
+  const DWORD imports = image.Directory(IMAGE_DIRECTORY_ENTRY_IMPORT).VirtualAddress;
+  int count = 0;
+  for (const auto* library = image.Loaded<IMAGE_IMPORT_DESCRIPTOR>(imports); library->Name != 0; ++library, ++count) {
+    const std::string name = image.Loaded<char>(library->Name);
+    CAPTURE(name);
+    CHECK(known.contains(Upper(name)));
+  }
+  CHECK(count >= 5);
+}
+
+TEST_CASE("the manifest names what the program knows of Windows") {
+  const std::string manifest = Resources().Bytes(1, RT_MANIFEST);
+  for (const char* part :
+       {R"(level="asInvoker" uiAccess="false")", R"(Microsoft.Windows.Common-Controls" version="6.0.0.0")",
+        "{35138b9a-5d96-4fbd-8e2d-a2440225f93a}", "{4a2f28e3-53b9-4441-ba9c-d69d4a4a6e38}",
+        "{1f676c76-80e1-4239-95bb-83d0f6d0da78}", "{8e0f7a12-bfb3-4fe8-b9a5-48fd50a15a9a}", ">true/pm</dpiAware>",
+        ">PerMonitorV2, PerMonitor</dpiAwareness>", ">true</longPathAware>",
+        "name=\"" PRODUCT_PUBLISHER ".Vantor\" version=\"" PRODUCT_VERSION_FULL_TEXT "\""}) {
+    CAPTURE(part);
+    CHECK(manifest.find(part) != std::string::npos);
+  }
+  // Windows reads it as it starts the program; one that is not well made would stop the start.
+  ACTCTXW what = {};
+  what.cbSize = sizeof what;
+  what.dwFlags = ACTCTX_FLAG_RESOURCE_NAME_VALID;
+  const std::wstring path = ProgramPath();
+  what.lpSource = path.c_str();
+  what.lpResourceName = MAKEINTRESOURCEW(1);
+  const HANDLE context = CreateActCtxW(&what);
+  CHECK(context != INVALID_HANDLE_VALUE);
+  ReleaseActCtx(context);
+}
+
+TEST_CASE("every field of the version resource is filled, and says one version") {
+  const std::wstring path = ProgramPath();
+  std::vector<char> block(GetFileVersionInfoSizeW(path.c_str(), nullptr));
+  REQUIRE(GetFileVersionInfoW(path.c_str(), 0, static_cast<DWORD>(block.size()), block.data()) != FALSE);
+  const auto value = [&block](const std::wstring& name) {
+    void* text = nullptr;
+    UINT length = 0;
+    const std::wstring key = L"\\StringFileInfo\\040904B0\\" + name;
+    const bool found = VerQueryValueW(block.data(), key.c_str(), &text, &length) != FALSE && length > 1;
+    return found ? std::wstring(static_cast<const wchar_t*>(text)) : std::wstring();
+  };
+  for (const wchar_t* name : {L"Comments", L"CompanyName", L"FileDescription", L"LegalCopyright", L"ProductName"})
+    CHECK_FALSE(value(name).empty());
+  CHECK(value(L"InternalName") == L"Vantor");
+  CHECK(value(L"OriginalFilename") == L"Vantor.exe");
+  CHECK(L"Version " + value(L"ProductVersion") == vantor::start::VersionText);
+  CHECK(value(L"FileVersion").starts_with(value(L"ProductVersion") + L"."));
+
+  void* fixed = nullptr;
+  UINT length = 0;
+  REQUIRE(VerQueryValueW(block.data(), L"\\", &fixed, &length) != FALSE);
+  const auto* numbers = static_cast<const VS_FIXEDFILEINFO*>(fixed);
+  for (const DWORD version : {numbers->dwFileVersionMS, numbers->dwProductVersionMS})
+    CHECK(std::to_wstring(HIWORD(version)) + L'.' + std::to_wstring(LOWORD(version)) == value(L"ProductVersion"));
+}
+
+TEST_CASE("the icon has a picture for every size that Windows shows it in, each with soft edges") {
+  const Resources resources;
+  const std::string group = resources.Bytes(1, RT_GROUP_ICON);
+  constexpr std::size_t Header = 6;
+  constexpr std::size_t Entry = 14;
+  std::vector<int> sizes;
+  for (std::size_t at = Header; at + Entry <= group.size(); at += Entry) {
+    const int size = static_cast<unsigned char>(group[at]);
+    sizes.push_back(size == 0 ? 256 : size);
+    CHECK(group[at + 6] == 32);  // bits a pixel
+    const int id = static_cast<unsigned char>(group[at + 12]) + 256 * static_cast<unsigned char>(group[at + 13]);
+    std::string picture = resources.Bytes(id, RT_ICON);
+    const HICON icon = CreateIconFromResourceEx(reinterpret_cast<BYTE*>(picture.data()),
+                                                static_cast<DWORD>(picture.size()), TRUE, 0x30000, 0, 0, 0);
+    CHECK(icon != nullptr);
+    DestroyIcon(icon);
+  }
+  CHECK(sizes == std::vector<int>{16, 20, 24, 32, 40, 48, 64, 256});
+}
