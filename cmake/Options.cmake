@@ -41,7 +41,7 @@ endfunction()
 
 # One CTest test for each source file: a failure names its file, and files can run side by side.
 # A filter that matches nothing is a failure too. A line "// desktop: OPTIONS" in a file sets options of the command that
-# runs it: the desktop that its tests need.
+# runs it: the desktop that its tests need. A file with several such lines runs on each of these desktops.
 function(vantor_add_tests label sources)
   cmake_parse_arguments(arg "" "TIMEOUT;PREFIX" "RUNNER;COMMAND" ${ARGN})
   foreach(source IN LISTS ${sources})
@@ -49,21 +49,33 @@ function(vantor_add_tests label sources)
     if(NOT cases)
       continue()
     endif()
-    file(STRINGS "${source}" options REGEX "^// desktop: " LIMIT_COUNT 1)
-    string(REGEX REPLACE "^// desktop: " "" options "${options}")
-    separate_arguments(options UNIX_COMMAND "${options}")
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${source}")
     file(RELATIVE_PATH relative "${PROJECT_SOURCE_DIR}/tests" "${source}")
-    string(REGEX REPLACE "\\.cpp$" "" name "${relative}")
-    set(name "${arg_PREFIX}${name}")
-    if(NOT arg_RUNNER)
-      set(options)
+    string(REGEX REPLACE "\\.cpp$" "" name "${arg_PREFIX}${relative}")
+    set(desktops)
+    if(arg_RUNNER)
+      file(STRINGS "${source}" desktops REGEX "^// desktop: ")
     endif()
-    add_test(NAME ${name} COMMAND ${arg_RUNNER} ${options} ${arg_COMMAND} "--source-file=*tests/${relative}" --no-colors=true)
-    set_tests_properties(
-      ${name}
-      PROPERTIES LABELS "${label}"
-                 TIMEOUT ${arg_TIMEOUT}
-                 FAIL_REGULAR_EXPRESSION "test cases: +0 ")
+    if(NOT desktops)
+      set(desktops "// desktop: ")
+    endif()
+    set(number 0)
+    list(LENGTH desktops count)
+    foreach(desktop IN LISTS desktops)
+      string(REGEX REPLACE "^// desktop: " "" options "${desktop}")
+      separate_arguments(options UNIX_COMMAND "${options}")
+      math(EXPR number "${number} + 1")
+      set(test "${name}")
+      if(count GREATER 1)
+        string(APPEND test "-${number}")
+      endif()
+      add_test(NAME ${test} COMMAND ${arg_RUNNER} ${options} ${arg_COMMAND} "--source-file=*tests/${relative}"
+                                    --no-colors=true)
+      set_tests_properties(
+        ${test}
+        PROPERTIES LABELS "${label}"
+                   TIMEOUT ${arg_TIMEOUT}
+                   FAIL_REGULAR_EXPRESSION "test cases: +0 ")
+    endforeach()
   endforeach()
 endfunction()

@@ -2,12 +2,9 @@
 
 #include <doctest/doctest.h>
 
-#include "desktop/Input.h"
 #include "desktop/Program.h"
-#include "desktop/Recorder.h"
 #include "desktop/Wait.h"
 #include "desktop/Window.h"
-#include "desktop/Wine.h"
 
 namespace vantor::desktop {
 namespace {
@@ -82,39 +79,6 @@ TEST_CASE("damaged data files stop nothing, and what can be read is kept") {
     CHECK(folder.Read("Vantor\\Set.Orbel") == folder.Saved(row.SettingsAfter));
     CHECK(folder.Read("Vantor\\ListWeb.Orbel") == row.WebAfter);
   }
-}
-
-TEST_CASE("letters of any language are typed, stored and started") {
-  const Folder folder;
-  Recorder recorder(folder);
-  const std::string cafe = "Caf\xC3\xA9";                              // in the Western code page
-  const std::string nippon = "\xE6\x97\xA5\xE6\x9C\xAC \xD0\x96.exe";  // in none together
-  folder.CopyProgram("recorder.exe", cafe + ".exe");
-  folder.CopyProgram("recorder.exe", nippon);
-  folder.WriteSettings({.ProgUpper = 1, .WebUpper = 0});
-  const std::string programs =
-      "\xEF\xBB\xBF" + ListBytes({{cafe, folder.Path(cafe + ".exe")}, {nippon, folder.Path(nippon)}});
-  folder.Write("Vantor\\ListProg.Orbel", programs);
-  folder.Write("Vantor\\ListWeb.Orbel", "\"Caf\xE9\",\"http://caf\xE9\"\r\n");
-  {
-    Program program(folder);
-    program.AwaitBar();
-    const std::string typed[] = {"p-CAF\xC3\x89", "p-\xE6\x97\xA5", "p=" + folder.Path(nippon)};
-    const std::string started[] = {cafe + ".exe", nippon, nippon};
-    for (int row = 0; row < 3; ++row) {
-      program.TypeLine(typed[row]);
-      input::Press(VK_RETURN);
-      CHECK(recorder.Next() == '"' + folder.Path(started[row]) + '"');
-      CHECK_BECOMES(program.Line().empty(), true);
-    }
-    program.TypeLine("w-ca");
-    const bool western = GetACP() == 1252;
-    if (western) CHECK_BECOMES(program.LineWithSelection(), "w-Ca[f\xC3\xA9]");
-    program.Exit();
-  }
-  CHECK(folder.Read("Vantor\\ListProg.Orbel") == programs);
-  SKIP_UNLESS(GetACP() == 1252, "a system with the Western code page");
-  CHECK(folder.Read("Vantor\\ListWeb.Orbel") == "\"Caf\xE9\",\"http://caf\xE9\"\r\n");
 }
 
 TEST_CASE("a read-only data folder: the program starts, works and ends") {
