@@ -15,14 +15,22 @@ bool IsMessage(HWND window) {
 
 }  // namespace
 
-Program::Program(const Folder& folder) {
-  std::wstring commandLine = Wide('"' + folder.Path("Vantor.exe") + '"');
+Program::Program(const Folder& folder) : Program(folder.Path("Vantor.exe")) {}
+
+Program::Program(const std::string& path) {
+  std::wstring commandLine = Wide('"' + path + '"');
   STARTUPINFOW startup = {};
   startup.cb = sizeof startup;
-  if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, Wide(folder.Path()).c_str(),
-                      &startup, &process_)) {
+  if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                      Wide(path.substr(0, path.rfind('\\'))).c_str(), &startup, &process_)) {
     throw std::runtime_error("Vantor.exe does not start");
   }
+}
+
+Program::Program(DWORD process) {
+  process_.dwProcessId = process;
+  process_.hProcess = OpenProcess(PROCESS_ALL_ACCESS, FALSE, process);
+  if (process_.hProcess == nullptr) throw std::runtime_error("no such program runs");
 }
 
 Program::~Program() {
@@ -30,7 +38,7 @@ Program::~Program() {
     TerminateProcess(process_.hProcess, 99);
     WaitForSingleObject(process_.hProcess, 5000);
   }
-  CloseHandle(process_.hThread);
+  if (process_.hThread != nullptr) CloseHandle(process_.hThread);
   CloseHandle(process_.hProcess);
 }
 

@@ -12,6 +12,10 @@ namespace vantor::desktop {
 class Program {
  public:
   explicit Program(const Folder& folder);
+  /// From a path in UTF-8.
+  explicit Program(const std::string& path);
+  /// One that something else has started.
+  explicit Program(DWORD process);
   ~Program();
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;

@@ -1,0 +1,248 @@
+; The installer, for one user and without an administrator's rights: the program keeps its data in its own folder, so
+; that folder must be the user's. Built by CMake (target "installer"), which hands over the values in capitals.
+;
+;   Vantor-2.0.0-setup.exe /S [/D=FOLDER]    installs or upgrades without a question; a running copy is closed, saves,
+;                                            and is started again
+;   Uninstall.exe /S [/DELETEDATA]           removes; the user's list and settings stay unless that is asked for
+;
+; Exit code 0: done; 1: the user stopped it; 2: it could not be done, and an older copy is as it was.
+
+Unicode true
+SetCompressor /SOLID lzma
+SetDateSave off ; the same sources make the same installer
+AllowSkipFiles off
+
+!include LogicLib.nsh
+!include FileFunc.nsh
+!include MUI2.nsh
+!include Sections.nsh
+!include Win\COM.nsh
+!include WinMessages.nsh
+
+!define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Vantor"
+
+Name "Vantor"
+OutFile "${OUTPUT}"
+BrandingText "Vantor ${VERSION}"
+RequestExecutionLevel user
+InstallDir "$LOCALAPPDATA\Programs\Vantor"
+InstallDirRegKey HKCU "${UNINSTALL_KEY}" "InstallLocation"
+ManifestDPIAware true
+ManifestSupportedOS all
+ShowInstDetails nevershow
+ShowUninstDetails nevershow
+
+VIProductVersion "${VERSION}.0"
+VIFileVersion "${VERSION}.0"
+VIAddVersionKey "CompanyName" "${PUBLISHER}"
+VIAddVersionKey "FileDescription" "Vantor Setup"
+VIAddVersionKey "FileVersion" "${VERSION}.0"
+VIAddVersionKey "LegalCopyright" "Copyright (C) ${PUBLISHER}"
+VIAddVersionKey "ProductName" "Vantor"
+VIAddVersionKey "ProductVersion" "${VERSION}"
+
+!define MUI_ICON "${ICON}"
+!define MUI_UNICON "${ICON}"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${PICTURE}"
+!define MUI_DIRECTORYPAGE_TEXT_TOP "Vantor keeps your list and settings in its own folder. Choose one that you may write to."
+!define MUI_PAGE_CUSTOMFUNCTION_LEAVE RefuseForeignFolder
+!insertmacro MUI_PAGE_DIRECTORY
+!insertmacro MUI_PAGE_INSTFILES
+!define MUI_FINISHPAGE_RUN "$INSTDIR\Vantor.exe"
+!define MUI_FINISHPAGE_SHOWREADME "$INSTDIR\Guide.html"
+!define MUI_FINISHPAGE_SHOWREADME_TEXT "Read the guide"
+!define MUI_FINISHPAGE_SHOWREADME_NOTCHECKED
+!insertmacro MUI_PAGE_FINISH
+
+!define MUI_COMPONENTSPAGE_NODESC
+!define MUI_COMPONENTSPAGE_TEXT_TOP "Vantor will be removed. Your list and settings stay where they are unless you tick them too."
+!insertmacro MUI_UNPAGE_COMPONENTS
+!insertmacro MUI_UNPAGE_INSTFILES
+!insertmacro MUI_LANGUAGE "English"
+
+Var WasRunning
+
+; Closes the copy that runs from $INSTDIR as the end of the Windows session does, so that it saves what it holds, and
+; waits for its end. $WasRunning tells whether there was one.
+!macro CloseRunningCopy un
+Function ${un}CloseRunningCopy
+  StrCpy $0 0
+  ${Do}
+    FindWindow $0 "ThunderRT6Main" "Vantor Orbel" 0 $0
+    ${IfThen} $0 P= 0 ${|} ${Break} ${|}
+    System::Call 'user32::GetWindowThreadProcessId(p r0, *i .r1)'
+    ; SYNCHRONIZE | PROCESS_QUERY_LIMITED_INFORMATION
+    System::Call 'kernel32::OpenProcess(i 0x101000, i 0, i r1) p .r2'
+    ${IfThen} $2 P= 0 ${|} ${Continue} ${|}
+    System::Call 'kernel32::QueryFullProcessImageNameW(p r2, i 0, w .r3, *i ${NSIS_MAX_STRLEN})'
+    ${If} $3 == "$INSTDIR\Vantor.exe"
+      StrCpy $WasRunning 1
+      SendMessage $0 ${WM_QUERYENDSESSION} 0 1 $4 /TIMEOUT=5000
+      ${If} $4 <> 0
+        SendMessage $0 ${WM_ENDSESSION} 1 1 /TIMEOUT=10000
+        System::Call 'kernel32::WaitForSingleObject(p r2, i 10000)'
+        StrCpy $0 0 ; its window is gone, so the search begins anew
+      ${EndIf}
+    ${EndIf}
+    System::Call 'kernel32::CloseHandle(p r2)'
+  ${Loop}
+FunctionEnd
+!macroend
+!insertmacro CloseRunningCopy ""
+!insertmacro CloseRunningCopy "un."
+
+; Sets the error flag when $INSTDIR can't be written to.
+Function TryFolder
+  ClearErrors
+  CreateDirectory "$INSTDIR"
+  FileOpen $0 "$INSTDIR\Vantor.exe.new" w
+  FileClose $0
+  ${If} ${Errors}
+    RMDir "$INSTDIR"
+    SetErrors
+  ${Else}
+    Delete "$INSTDIR\Vantor.exe.new"
+    RMDir "$INSTDIR" ; fails where something is in it
+    ClearErrors
+  ${EndIf}
+FunctionEnd
+
+Function RefuseForeignFolder
+  Call TryFolder
+  ${If} ${Errors}
+    MessageBox MB_OK|MB_ICONEXCLAMATION "You may not write to this folder, so Vantor could not keep your list there.$\r$\n$\r$\nChoose another one."
+    Abort
+  ${EndIf}
+FunctionEnd
+
+Function .onInit
+  StrCpy $WasRunning 0
+FunctionEnd
+
+Section "Vantor" SectionProgram
+  Call TryFolder
+  ${IfThen} ${Errors} ${|} Abort "No right to write to $INSTDIR." ${|}
+  ReadRegStr $R0 HKCU "${UNINSTALL_KEY}" "InstallLocation"
+
+  ; The new program lies beside the old one, whole, before that is touched.
+  SetOutPath "$INSTDIR"
+  File "/oname=Vantor.exe.new" "${PROGRAM}"
+  replace:
+  Call CloseRunningCopy
+  StrCpy $1 20
+  ${Do}
+    ; MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH. What looks into a new file can hold it for a moment.
+    System::Call 'kernel32::MoveFileExW(w "$INSTDIR\Vantor.exe.new", w "$INSTDIR\Vantor.exe", i 9) i .r0'
+    ${IfThen} $0 <> 0 ${|} ${Break} ${|}
+    Sleep 100
+    IntOp $1 $1 - 1
+  ${LoopUntil} $1 = 0
+  ${If} $0 = 0
+    MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "Vantor.exe is in use. Close Vantor (F10 on its bar), then try again." /SD IDCANCEL IDRETRY replace
+    Delete "$INSTDIR\Vantor.exe.new"
+    Abort "Vantor.exe is in use."
+  ${EndIf}
+  File "${GUIDE}"
+  File "${NOTICES}"
+  WriteUninstaller "$INSTDIR\Uninstall.exe"
+
+  ; A start-menu entry that the user removed stays away.
+  ${If} $R0 == ""
+  ${OrIf} ${FileExists} "$SMPROGRAMS\Vantor.lnk"
+    CreateShortcut "$SMPROGRAMS\Vantor.lnk" "$INSTDIR\Vantor.exe" "" "" "" "" "" "${DESCRIPTION}"
+  ${EndIf}
+
+  SectionGetSize ${SectionProgram} $0
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayName" "Vantor"
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayVersion" "${VERSION}"
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayIcon" "$INSTDIR\Vantor.exe,0"
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "Publisher" "${PUBLISHER}"
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "URLInfoAbout" "${SITE}"
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "HelpLink" "$INSTDIR\Guide.html"
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "InstallLocation" "$INSTDIR"
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "UninstallString" '"$INSTDIR\Uninstall.exe"'
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "QuietUninstallString" '"$INSTDIR\Uninstall.exe" /S'
+  WriteRegDWORD HKCU "${UNINSTALL_KEY}" "EstimatedSize" $0
+  WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoModify" 1
+  WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoRepair" 1
+
+  ; With a person before it, the last page asks.
+  ${If} ${Silent}
+  ${AndIf} $WasRunning = 1
+    Exec '"$INSTDIR\Vantor.exe"'
+  ${EndIf}
+SectionEnd
+
+; Removes the shortcut that the preferences page makes, when it leads here.
+Function un.RemoveDesktopShortcut
+  !insertmacro ComHlpr_CreateInProcInstance ${CLSID_ShellLink} ${IID_IShellLink} r0 ""
+  ${IfThen} $0 P= 0 ${|} Return ${|}
+  StrCpy $2 ""
+  ${IUnknown::QueryInterface} $0 '("${IID_IPersistFile}",.r1)'
+  ${If} $1 P<> 0
+    ${IPersistFile::Load} $1 '("$DESKTOP\Vantor.lnk",${STGM_READ})'
+    ${IShellLink::GetPath} $0 '(.r2,${NSIS_MAX_STRLEN},p 0,0)'
+    ${IUnknown::Release} $1 ""
+  ${EndIf}
+  ${IUnknown::Release} $0 ""
+  ${IfThen} $2 == "$INSTDIR\Vantor.exe" ${|} Delete "$DESKTOP\Vantor.lnk" ${|}
+FunctionEnd
+
+Section "un.Vantor"
+  SectionIn RO
+  StrCpy $WasRunning 0
+  remove:
+  Call un.CloseRunningCopy
+  StrCpy $1 20
+  ${Do}
+    ClearErrors
+    Delete "$INSTDIR\Vantor.exe"
+    ${IfThen} ${Errors} ${|} Sleep 100 ${|}
+    IntOp $1 $1 - 1
+    ${IfThen} $1 = 0 ${|} ${Break} ${|}
+  ${LoopWhile} ${FileExists} "$INSTDIR\Vantor.exe"
+  ${If} ${FileExists} "$INSTDIR\Vantor.exe"
+    MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "Vantor.exe is in use. Close Vantor (F10 on its bar), then try again." /SD IDCANCEL IDRETRY remove
+    Abort "Vantor.exe is in use."
+  ${EndIf}
+
+  ; "Start With Windows" of this copy.
+  ReadRegStr $0 HKLM "Software\Microsoft\Windows\CurrentVersion\Run" "OrbelsLauncher"
+  ${If} $0 == "$INSTDIR\Vantor.exe"
+    DeleteRegValue HKLM "Software\Microsoft\Windows\CurrentVersion\Run" "OrbelsLauncher"
+  ${EndIf}
+  Call un.RemoveDesktopShortcut
+
+  Delete "$INSTDIR\Guide.html"
+  Delete "$INSTDIR\Notices.txt"
+  Delete "$INSTDIR\Uninstall.exe"
+  ; Unless a copy in another folder has been installed since.
+  ReadRegStr $0 HKCU "${UNINSTALL_KEY}" "InstallLocation"
+  ${If} $0 == $INSTDIR
+    Delete "$SMPROGRAMS\Vantor.lnk"
+    DeleteRegKey HKCU "${UNINSTALL_KEY}"
+  ${EndIf}
+SectionEnd
+
+Section /o "un.My list and settings" SectionData
+  Delete "$INSTDIR\Vantor\Backup\*.Orbel"
+  Delete "$INSTDIR\Vantor\Backup\*.Orbel~"
+  RMDir "$INSTDIR\Vantor\Backup"
+  Delete "$INSTDIR\Vantor\*.Orbel"
+  Delete "$INSTDIR\Vantor\*.Orbel~"
+  RMDir "$INSTDIR\Vantor"
+SectionEnd
+
+Section "-un.Folder"
+  SetOutPath "$TEMP"
+  RMDir "$INSTDIR" ; fails where something is in it
+SectionEnd
+
+Function un.onInit
+  ${GetParameters} $0
+  ClearErrors
+  ${GetOptions} $0 "/DELETEDATA" $1
+  ${IfNot} ${Errors}
+    !insertmacro SelectSection ${SectionData}
+  ${EndIf}
+FunctionEnd

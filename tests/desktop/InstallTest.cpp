@@ -1,0 +1,232 @@
+// The installer and the uninstaller, quietly, with and without a running copy. What a person had entered stays.
+
+#include <doctest/doctest.h>
+#include <shlobj.h>
+
+#include "desktop/Program.h"
+#include "desktop/Text.h"
+#include "desktop/Wait.h"
+#include "desktop/Wine.h"
+#include "product/Product.rc.h"
+
+namespace vantor::desktop {
+namespace {
+
+constexpr wchar_t UninstallKey[] = LR"(Software\Microsoft\Windows\CurrentVersion\Uninstall\Vantor)";
+constexpr wchar_t RunKey[] = LR"(Software\Microsoft\Windows\CurrentVersion\Run)";
+
+/// Runs a program to its end. Returns its exit code.
+DWORD Run(const std::string& commandLine) {
+  std::wstring line = Wide(commandLine);
+  STARTUPINFOW startup = {};
+  startup.cb = sizeof startup;
+  PROCESS_INFORMATION process = {};
+  if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process))
+    throw std::runtime_error("does not start: " + commandLine);
+  const bool ended = WaitForSingleObject(process.hProcess, 60000) == WAIT_OBJECT_0;
+  DWORD code = 0;
+  GetExitCodeProcess(process.hProcess, &code);
+  CloseHandle(process.hThread);
+  CloseHandle(process.hProcess);
+  if (!ended) throw std::runtime_error("does not end: " + commandLine);
+  return code;
+}
+
+bool Exists(const std::string& path) { return GetFileAttributesW(Wide(path).c_str()) != INVALID_FILE_ATTRIBUTES; }
+
+std::string SystemFolder(int id) {
+  wchar_t path[MAX_PATH] = L"";
+  SHGetFolderPathW(nullptr, id, nullptr, SHGFP_TYPE_CURRENT, path);
+  return Narrow(path);
+}
+
+std::string Value(HKEY root, const wchar_t* key, const wchar_t* name) {
+  wchar_t text[1024] = L"";
+  DWORD bytes = sizeof text;
+  return RegGetValueW(root, key, name, RRF_RT_REG_SZ, nullptr, text, &bytes) == ERROR_SUCCESS ? Narrow(text) : "(none)";
+}
+std::string Entry(const wchar_t* name) { return Value(HKEY_CURRENT_USER, UninstallKey, name); }
+
+/// A shortcut's file: what it leads to, or making it lead somewhere.
+class Shortcut {
+ public:
+  explicit Shortcut(const std::string& path) : path_(Wide(path)) {
+    CoInitialize(nullptr);
+    CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW, reinterpret_cast<void**>(&link_));
+    link_->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&file_));
+  }
+  ~Shortcut() {
+    file_->Release();
+    link_->Release();
+    CoUninitialize();
+  }
+  Shortcut(const Shortcut&) = delete;
+  Shortcut& operator=(const Shortcut&) = delete;
+
+  std::string Target() {
+    wchar_t target[MAX_PATH] = L"";
+    if (file_->Load(path_.c_str(), STGM_READ) == S_OK) link_->GetPath(target, MAX_PATH, nullptr, 0);
+    return Narrow(target);
+  }
+  void LeadTo(const std::string& target) {
+    link_->SetPath(Wide(target).c_str());
+    CHECK(file_->Save(path_.c_str(), TRUE) == S_OK);
+  }
+
+ private:
+  std::wstring path_;
+  IShellLinkW* link_ = nullptr;
+  IPersistFile* file_ = nullptr;
+};
+
+/// The installer as it was built, and a place for it whose name is in no code page as a whole.
+struct Installation {
+  Installation() { Work.CopyProgram("package\\Vantor-" PRODUCT_PACKAGE_VERSION "-setup.exe", "setup.exe"); }
+
+  Folder Work;
+  std::string Name =
+      "Gr\xC3\xB6\xC3\x9F"
+      "e \xE6\x97\xA5\xE6\x9C\xAC";
+  std::string Program = Work.Path(Name + "\\Vantor.exe");
+  std::string StartMenu = SystemFolder(CSIDL_PROGRAMS) + "\\Vantor.lnk";
+
+  [[nodiscard]] DWORD Install(const std::string& folder = {}) const {
+    return Run('"' + Work.Path("setup.exe") + "\" /S" + (folder.empty() ? "" : " /D=" + folder));
+  }
+  /// The uninstaller goes on by a copy of itself that nobody can wait for.
+  void Uninstall(const std::string& options) const {
+    const std::string uninstaller = Work.Path(Name + "\\Uninstall.exe");
+    Run('"' + uninstaller + "\" /S" + options);
+    Await("the uninstaller's end", [&] { return Entry(L"DisplayName") == "(none)" && !Exists(uninstaller); });
+  }
+  /// As a person left it who has used it: a name, and one web site of the five that are counted.
+  void WriteData() const {
+    Work.Write(Name + "\\Vantor\\Set.Orbel", Settings{.WebUpper = 4}.Bytes());
+    Work.Write(Name + "\\Vantor\\User.Orbel", "\"Anna\"\r\n");
+    Work.Write(Name + "\\Vantor\\ListWeb.Orbel", ListBytes({{"One", "http://one"}}));
+  }
+  /// Whether a copy has saved at its end: the count is right then.
+  [[nodiscard]] bool Saved() const {
+    // Its folder is none that the code page could hold.
+    const std::string settings = "\xEF\xBB\xBF" + Settings{.WebUpper = 0, .Folder = Work.Path(Name)}.Bytes();
+    return Work.Read(Name + "\\Vantor\\Set.Orbel") == settings &&
+           Work.Read(Name + "\\Vantor\\ListWeb.Orbel") == ListBytes({{"One", "http://one"}});
+  }
+};
+
+DWORD RunningProcess() {
+  DWORD process = 0;
+  GetWindowThreadProcessId(FindWindowW(L"ThunderRT6Main", L"Vantor Orbel"), &process);
+  return process;
+}
+
+}  // namespace
+
+TEST_CASE("install, upgrade over a running copy, uninstall and come back, in a folder with foreign letters") {
+  SKIP_UNLESS(UnderWine(), "a Windows installation of the test's own");
+  const Installation it;
+  REQUIRE(it.Install(it.Work.Path(it.Name)) == 0);
+  const std::string built = it.Work.Read("Vantor.exe");
+  CHECK(it.Work.Read(it.Name + "\\Vantor.exe") == built);
+  for (const char* name : {"Guide.html", "Notices.txt", "Uninstall.exe"})
+    CHECK(Exists(it.Work.Path(it.Name + '\\' + name)));
+  CHECK(Exists(it.StartMenu));
+  CHECK(Entry(L"DisplayName") == "Vantor");
+  CHECK(Entry(L"DisplayVersion") == PRODUCT_PACKAGE_VERSION);
+  CHECK(Entry(L"Publisher") == PRODUCT_PUBLISHER);
+  CHECK(Entry(L"InstallLocation") == it.Work.Path(it.Name));
+  CHECK(Entry(L"QuietUninstallString") == '"' + it.Work.Path(it.Name + "\\Uninstall.exe") + "\" /S");
+  DWORD kilobytes = 0;
+  DWORD size = sizeof kilobytes;
+  RegGetValueW(HKEY_CURRENT_USER, UninstallKey, L"EstimatedSize", RRF_RT_REG_DWORD, nullptr, &kilobytes, &size);
+  CHECK(kilobytes > built.size() / 1024);
+  CHECK(kilobytes < 5 * built.size() / 1024);
+
+  // An older version is there, and its start-menu entry was not wanted.
+  it.Work.Write(it.Name + "\\Vantor.exe", "old");
+  it.Work.Write(it.Name + "\\Guide.html", "old");
+  RegSetKeyValueW(HKEY_CURRENT_USER, UninstallKey, L"DisplayVersion", REG_SZ, L"1.0", 8);
+  DeleteFileW(Wide(it.StartMenu).c_str());
+  it.WriteData();
+  REQUIRE(it.Install() == 0);
+  CHECK(it.Work.Read(it.Name + "\\Vantor.exe") == built);
+  CHECK(it.Work.Read(it.Name + "\\Guide.html").starts_with("<!DOCTYPE html>"));
+  CHECK(Entry(L"DisplayVersion") == PRODUCT_PACKAGE_VERSION);
+  CHECK_FALSE(Exists(it.StartMenu));
+
+  // The copy that runs saves and ends, and runs again afterwards.
+  {
+    Program running(it.Program);
+    running.AwaitBar();
+    CHECK(running.Message() == nullptr);
+    REQUIRE(it.Install() == 0);
+    CHECK(running.AwaitEnd() == 0);
+    CHECK(it.Saved());
+    CHECK_BECOMES(RunningProcess() != 0, true);
+    Program again(RunningProcess());
+    again.Exit();
+  }
+
+  // It goes without what was entered, and what a copy that still runs has to save.
+  it.WriteData();
+  {
+    Program running(it.Program);
+    running.AwaitBar();
+    it.Uninstall("");
+    CHECK(running.AwaitEnd() == 0);
+  }
+  CHECK_FALSE(Exists(it.Program));
+  CHECK(it.Saved());
+
+  REQUIRE(it.Install(it.Work.Path(it.Name)) == 0);
+  {
+    Program back(it.Program);
+    back.AwaitBar();
+    CHECK(back.Message() == nullptr);
+    back.Exit();
+  }
+  CHECK(it.Saved());
+  it.Uninstall(" /DELETEDATA");
+  CHECK_BECOMES(Exists(it.Work.Path(it.Name)), false);
+  CHECK_FALSE(Exists(it.StartMenu));
+}
+
+TEST_CASE("an installation that can't be done says so and leaves all as it was") {
+  SKIP_UNLESS(UnderWine(), "a Windows installation of the test's own");
+  const Installation it;
+  constexpr DWORD NotDone = 2;
+  it.Work.MakeFolder("full\\Vantor.exe.new");
+  CHECK(it.Install(it.Work.Path("full")) == NotDone);
+  CHECK(Entry(L"DisplayName") == "(none)");
+
+  it.Work.Write(it.Name + "\\Vantor.exe", "held");
+  const HANDLE held =
+      CreateFileW(Wide(it.Program).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+  CHECK(it.Install(it.Work.Path(it.Name)) == NotDone);
+  CloseHandle(held);
+  CHECK(it.Work.Read(it.Name + "\\Vantor.exe") == "held");
+  CHECK_FALSE(Exists(it.Program + ".new"));
+  CHECK(Entry(L"DisplayName") == "(none)");
+}
+
+TEST_CASE("nothing asked for, the folder is one that its user may write to; what preferences make goes with it") {
+  SKIP_UNLESS(UnderWine(), "a Windows installation of the test's own");
+  const Installation it;
+  const std::string folder = SystemFolder(CSIDL_LOCAL_APPDATA) + "\\Programs\\Vantor";
+  const std::wstring program = Wide(folder + "\\Vantor.exe");
+  REQUIRE(it.Install() == 0);
+  CHECK(Exists(folder + "\\Vantor.exe"));
+  CHECK(Shortcut(it.StartMenu).Target() == folder + "\\Vantor.exe");
+
+  const std::string desktop = SystemFolder(CSIDL_DESKTOPDIRECTORY) + "\\Vantor.lnk";
+  Shortcut(desktop).LeadTo(folder + "\\Vantor.exe");
+  RegSetKeyValueW(HKEY_LOCAL_MACHINE, RunKey, L"OrbelsLauncher", REG_SZ, program.c_str(),
+                  static_cast<DWORD>(program.size() + 1) * sizeof(wchar_t));
+  Run('"' + folder + "\\Uninstall.exe\" /S");
+  CHECK_BECOMES(Exists(folder), false);
+  CHECK_FALSE(Exists(desktop));
+  CHECK_FALSE(Exists(it.StartMenu));
+  CHECK(Value(HKEY_LOCAL_MACHINE, RunKey, L"OrbelsLauncher") == "(none)");
+}
+
+}  // namespace vantor::desktop
