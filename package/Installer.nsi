@@ -31,6 +31,7 @@ ManifestDPIAware true
 ManifestSupportedOS all
 ShowInstDetails nevershow
 ShowUninstDetails nevershow
+SpaceTexts none
 
 VIProductVersion "${VERSION}.0"
 VIFileVersion "${VERSION}.0"
@@ -56,6 +57,10 @@ VIAddVersionKey "ProductVersion" "${VERSION}"
 
 !define MUI_COMPONENTSPAGE_NODESC
 !define MUI_COMPONENTSPAGE_TEXT_TOP "Vantor will be removed. Your list and settings stay where they are unless you tick them too."
+!define MUI_PAGE_HEADER_TEXT "Remove Vantor"
+!define MUI_PAGE_HEADER_SUBTEXT "Choose what goes."
+!define MUI_COMPONENTSPAGE_TEXT_INSTTYPE " "
+!define MUI_COMPONENTSPAGE_TEXT_COMPLIST " "
 !insertmacro MUI_UNPAGE_COMPONENTS
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE "English"
