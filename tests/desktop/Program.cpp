@@ -84,7 +84,12 @@ void Program::TypeLine(const std::string& line) {
   Await("an empty line", [this] { return Line().empty(); });
   input::Type(line);
   // A proposal may make it longer, and change its case.
-  Await("the line " + line, [this, &line] { return Wide(Line()).size() >= Wide(line).size(); });
+  Await("the line " + line, [this, typed = Wide(line)] {
+    const std::wstring shown = Wide(Line()).substr(0, typed.size());
+    const int length = static_cast<int>(typed.size());
+    return shown.size() == typed.size() &&
+           CompareStringOrdinal(shown.data(), length, typed.data(), length, TRUE) == CSTR_EQUAL;
+  });
 }
 
 HWND Program::Button(const std::string& name) const { return window::Control(Bar(), "BUTTON", name); }

@@ -85,7 +85,7 @@ TEST_CASE("on a full disk the old list or the new one stays, whole") {
   list.PutInto(folder);
   const std::string filler = folder.Path("filler");
   // No room at all, some for what is kept, enough for that but not for the new list, enough for everything.
-  for (const std::size_t room : {0, 40'000, 90'000, 200'000}) {
+  for (const std::size_t room : {0U, 40'000U, 90'000U, 200'000U}) {
     CAPTURE(room);
     ULARGE_INTEGER free = {};
     REQUIRE(GetDiskFreeSpaceExA(disk.c_str(), &free, nullptr, nullptr));
