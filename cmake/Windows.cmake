@@ -42,7 +42,6 @@ add_library(vantor_stack_guard OBJECT ${VANTOR_STACK_GUARD})
 target_link_libraries(vantor_stack_guard PRIVATE vantor_flags)
 
 set(VANTOR_WINDOWS_LIBRARIES
-    comctl32
     comdlg32
     gdi32
     imm32
@@ -70,6 +69,10 @@ foreach(library IN ITEMS vantor_core vantor_win32)
   endif()
 endforeach()
 
+# What the resource compiler reads beside its own file.
+file(GLOB resource_parts CONFIGURE_DEPENDS src/win32/*.manifest src/win32/*.ico)
+set_source_files_properties(${VANTOR_WIN32_RESOURCES} PROPERTIES OBJECT_DEPENDS "${resource_parts}")
+
 if(EXISTS "${VANTOR_ENTRY_POINT}")
   add_executable(Vantor WIN32 ${VANTOR_ENTRY_POINT} ${VANTOR_WIN32_RESOURCES})
   target_link_libraries(Vantor PRIVATE vantor_win32 vantor_stack_guard)
@@ -96,7 +99,7 @@ endif()
 # The same contract as natively, here with real windows behind it, and the Windows side's own tests.
 if(VANTOR_WIN32_TEST_SOURCES)
   set(contract_test_sources ${VANTOR_CONTRACT_SOURCES} ${VANTOR_WIN32_TEST_SOURCES})
-  # With the program's resources, because its manifest decides which make of controls the windows get.
+  # With the program's resources, because its manifests decide which make of controls the windows get.
   add_executable(contract_tests ${VANTOR_TEST_MAIN} ${contract_test_sources} ${VANTOR_WIN32_RESOURCES})
   target_link_libraries(contract_tests PRIVATE vantor_win32 vantor_stack_guard vantor_fakes vantor_doctest version)
   # What the shipped file holds is looked at as well.

@@ -5,6 +5,7 @@
 #include "win32/ButtonWindow.h"
 #include "win32/ChoiceWindow.h"
 #include "win32/ComboWindow.h"
+#include "win32/CommonControls.h"
 #include "win32/EditWindow.h"
 #include "win32/ListWindow.h"
 #include "win32/Pictures.h"
@@ -47,11 +48,15 @@ std::unique_ptr<ControlWindow> ControlWindow::Make(FormWindow& owner, form::Cont
       case form::ControlKind::OptionButton:
         return std::make_unique<OptionWindow>(owner, static_cast<form::OptionButton&>(control));
       case form::ControlKind::ComboBox:
-      case form::ControlKind::DriveList:
+      case form::ControlKind::DriveList: {
+        const CommonControls version6;
         return std::make_unique<ComboWindow>(owner, static_cast<form::ListControl&>(control));
+      }
       case form::ControlKind::FolderList:
-      case form::ControlKind::FileList:
+      case form::ControlKind::FileList: {
+        const CommonControls version6;
         return std::make_unique<ListWindow>(owner, static_cast<form::ListControl&>(control));
+      }
       case form::ControlKind::Frame:
         return std::make_unique<FrameWindow>(owner, static_cast<form::Frame&>(control));
       default:

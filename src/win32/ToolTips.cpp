@@ -2,6 +2,7 @@
 
 #include <commctrl.h>
 
+#include "win32/CommonControls.h"
 #include "win32/ControlWindow.h"
 #include "win32/WindowsDesktop.h"
 
@@ -19,8 +20,7 @@ void ToolTips::Relay(const MSG& message) {
   if (control == nullptr) return;
   if (!window_) {
     if (control->TipText().empty()) return;
-    const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_BAR_CLASSES};
-    InitCommonControlsEx(&classes);
+    const CommonControls version6;
     // Owned by the form it would take the form's topmost place from it under Wine.
     window_.Reset(CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
                                   CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT,
