@@ -71,6 +71,8 @@ endforeach()
 
 # What the resource compiler reads beside its own file.
 file(GLOB resource_parts CONFIGURE_DEPENDS src/win32/*.manifest src/win32/*.ico)
+list(APPEND resource_parts "${PROJECT_BINARY_DIR}/generated/product/Product.rc.h"
+     "${PROJECT_BINARY_DIR}/generated/product/Vantor.manifest")
 set_source_files_properties(${VANTOR_WIN32_RESOURCES} PROPERTIES OBJECT_DEPENDS "${resource_parts}")
 
 if(EXISTS "${VANTOR_ENTRY_POINT}")

@@ -14,6 +14,7 @@
 #include "start/Environment.h"
 #include "win32/DataFiles.h"
 #include "win32/System.h"
+#include "win32/SystemLibrary.h"
 
 namespace {
 
@@ -107,6 +108,21 @@ TEST_CASE("the program starts with libraries that Windows takes from its own fol
     CHECK(known.contains(Upper(name)));
   }
   CHECK(count >= 5);
+}
+
+TEST_CASE("what is loaded later comes from Windows' folder alone too") {
+  // Any module will do; this one lies where a library that is named without its folder is looked for first.
+  const std::wstring planted = vantor::win32::System({}, {}).ProgramFolder() + L"\\vantor-planted.dll";
+  REQUIRE(CopyFileW(ProgramPath().c_str(), planted.c_str(), FALSE) != FALSE);
+  CHECK(vantor::win32::LoadSystemLibrary(L"vantor-planted.dll") == nullptr);
+  const HMODULE usual = LoadLibraryW(L"vantor-planted.dll");
+  CHECK(usual != nullptr);
+  FreeLibrary(usual);
+  DeleteFileW(planted.c_str());
+
+  const HMODULE shell = vantor::win32::LoadSystemLibrary(L"shell32.dll");
+  CHECK(shell != nullptr);
+  FreeLibrary(shell);
 }
 
 TEST_CASE("the manifests name what the program knows of Windows") {
