@@ -98,19 +98,18 @@ struct Replacement {
   std::wstring_view By;
 };
 
+/// What stands in braces and is no such word stays as it is.
 template <std::size_t Count>
 std::wstring Replace(std::wstring_view text, const Replacement (&replacements)[Count]) {
   std::wstring result;
   while (!text.empty()) {
-    const std::size_t open = std::min(text.find(L'{'), text.size());
-    result += text.substr(0, open);
-    text.remove_prefix(open);
-    for (const Replacement& replacement : replacements) {
-      if (!text.starts_with(replacement.Word)) continue;
-      result += replacement.By;
-      text.remove_prefix(replacement.Word.size());
-      break;
-    }
+    const auto* const word = std::find_if(std::begin(replacements), std::end(replacements),
+                                          [&](const Replacement& each) { return text.starts_with(each.Word); });
+    const bool found = word != std::end(replacements);
+    // A brace that begins no word is passed over like any other character.
+    const std::size_t taken = found ? word->Word.size() : std::min(text.find(L'{', 1), text.size());
+    result += found ? word->By : text.substr(0, taken);
+    text.remove_prefix(taken);
   }
   return result;
 }

@@ -31,11 +31,11 @@ UINT BstrLength(std::wstring_view text) {
 }  // namespace
 
 void Check(HRESULT result) {
-  if (FAILED(result)) throw ComError(result, MeansLacking(result));
+  if (FAILED(result)) throw ComError(MeansLacking(result));
 }
 
 void CheckMade(HRESULT result) {
-  if (FAILED(result)) throw ComError(result, true);
+  if (FAILED(result)) throw ComError(true);
 }
 
 Apartment::~Apartment() {
@@ -108,7 +108,7 @@ Variant LateBound::Get(const wchar_t* name, Arguments arguments) const {
 
 LateBound LateBound::Object(const wchar_t* name, Arguments arguments) const {
   const Variant value = Get(name, arguments);
-  if (value.vt != VT_DISPATCH || value.pdispVal == nullptr) throw ComError(DISP_E_TYPEMISMATCH, false);
+  if (value.vt != VT_DISPATCH || value.pdispVal == nullptr) throw ComError(false);
   ComPointer<IDispatch> object;
   Check(value.pdispVal->QueryInterface(IID_IDispatch, object.PutVoid()));
   return LateBound(std::move(object));

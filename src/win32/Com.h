@@ -19,15 +19,13 @@ namespace vantor::win32 {
 /// An object could not be made, or refused a call. Never leaves the service that it happened in.
 class ComError final : public std::exception {
  public:
-  ComError(HRESULT result, bool lacking) : result_(result), lacking_(lacking) {}
+  explicit ComError(bool lacking) : lacking_(lacking) {}
 
   [[nodiscard]] const char* what() const noexcept override { return "COM call failed"; }
-  [[nodiscard]] HRESULT Result() const { return result_; }
   /// Whether the object is missing or has no such call, and so never tried: the time for the plain Windows call.
   [[nodiscard]] bool Lacking() const { return lacking_; }
 
  private:
-  HRESULT result_;
   bool lacking_;
 };
 

@@ -124,7 +124,7 @@ void FileSystem::EndMany() {
 
 FileSystem::Object FileSystem::Make() {
   if (held_) return held_.Share();
-  if (missing_) throw ComError(REGDB_E_CLASSNOTREG, true);
+  if (missing_) throw ComError(true);
   apartment_.Enter();
   CLSID id;
   Object object;

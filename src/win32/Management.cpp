@@ -29,7 +29,7 @@ bool IsAnswer(HRESULT result) {
 LateBound SystemDisk() {
   ComPointer<IDispatch> disk;
   const HRESULT found = CoGetObject(L"WinMgmts:Win32_LogicalDisk='C:'", nullptr, IID_IDispatch, disk.PutVoid());
-  if (FAILED(found)) throw ComError(found, !IsAnswer(found));
+  if (FAILED(found)) throw ComError(!IsAnswer(found));
   return LateBound(std::move(disk));
 }
 
@@ -42,7 +42,7 @@ std::optional<service::DiskIdentity> AskService() {
   const auto serial = disk.Get(L"VolumeSerialNumber").Text();
   const auto size = disk.Get(L"Size").Text();
   const auto bytes = size ? text::ParseDouble(*size) : std::nullopt;
-  if (!type || !serial || !bytes) throw ComError(DISP_E_TYPEMISMATCH, false);
+  if (!type || !serial || !bytes) throw ComError(false);
   return service::DiskIdentity{*type, *serial, *bytes};
 }
 

@@ -42,7 +42,7 @@ std::vector<service::ManagedProcess> AskService() {
   const Variant className(L"Win32_Process");
   const LateBound instances = LateBound(std::move(services)).Object(L"InstancesOf", {className});
   const Variant all = instances.Get(L"_NewEnum");
-  if (all.vt != VT_UNKNOWN && all.vt != VT_DISPATCH) throw ComError(DISP_E_TYPEMISMATCH, false);
+  if (all.vt != VT_UNKNOWN && all.vt != VT_DISPATCH) throw ComError(false);
   ComPointer<IEnumVARIANT> walk;
   Check(all.punkVal->QueryInterface(IID_IEnumVARIANT, walk.PutVoid()));
 

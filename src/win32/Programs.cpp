@@ -60,9 +60,11 @@ bool Programs::StartCommandLine(std::wstring_view commandLine) {
   const std::wstring text(commandLine);
   const DWORD error = wholeFile ? Start(CallPath(FullPath(text)).c_str(), L'"' + text + L'"') : Start(nullptr, text);
   if (error != ElevationRequired) return error == ERROR_SUCCESS;
-  if (wholeFile) return StartElevated(FullPath(text), {});
+  // Only the shell can give a program the administrator's rights.
+  apartment_.Enter();
+  if (wholeFile) return OpenByShell(FullPath(text), {});
   const CommandLine parts = SplitCommandLine(text);
-  return StartElevated(parts.Program, parts.Arguments);
+  return OpenByShell(parts.Program, parts.Arguments);
 }
 
 int Programs::ShellOpen(std::wstring_view file) {
@@ -84,19 +86,6 @@ int Programs::RequestMakeCall(std::wstring_view number, std::wstring_view applic
   if (found == nullptr) return NoRequestRecipient;
   const auto makeCall = reinterpret_cast<MakeCall>(reinterpret_cast<void*>(found));
   return makeCall(Ansi(number).c_str(), Ansi(applicationName).c_str(), "", "");
-}
-
-bool Programs::StartElevated(std::wstring_view program, std::wstring_view arguments) {
-  apartment_.Enter();
-  const std::wstring file(program);
-  const std::wstring parameters(arguments);
-  SHELLEXECUTEINFOW what = {};
-  what.cbSize = sizeof what;
-  what.fMask = SEE_MASK_FLAG_NO_UI;
-  what.lpFile = file.c_str();
-  what.lpParameters = parameters.empty() ? nullptr : parameters.c_str();
-  what.nShow = SW_SHOWNORMAL;
-  return ShellFunction<decltype(ShellExecuteExW)>("ShellExecuteExW")(&what) != FALSE;
 }
 
 }  // namespace vantor::win32

@@ -16,9 +16,6 @@ class Programs final : public service::Programs {
   [[nodiscard]] int RequestMakeCall(std::wstring_view number, std::wstring_view applicationName) override;
 
  private:
-  /// For a program that asks for the administrator's rights, which only the shell can give.
-  [[nodiscard]] bool StartElevated(std::wstring_view program, std::wstring_view arguments);
-
   Apartment& apartment_;  // the shell's extensions are COM objects
 };
 

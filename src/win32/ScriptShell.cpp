@@ -2,8 +2,6 @@
 
 #include <windows.h>
 
-#include <shellapi.h>
-
 #include "win32/CommandLine.h"
 #include "win32/Language.h"
 #include "win32/LongPath.h"
@@ -27,18 +25,9 @@ std::wstring Quoted(std::wstring_view target) {
 }
 
 bool PlainRun(std::wstring_view target) {
-  const auto open = [](const std::wstring& file, const std::wstring& arguments) {
-    SHELLEXECUTEINFOW what = {};
-    what.cbSize = sizeof what;
-    what.fMask = SEE_MASK_FLAG_NO_UI;
-    what.lpFile = file.c_str();
-    what.lpParameters = arguments.empty() ? nullptr : arguments.c_str();
-    what.nShow = SW_SHOWNORMAL;
-    return ShellFunction<decltype(ShellExecuteExW)>("ShellExecuteExW")(&what) != FALSE;
-  };
-  if (IsFile(target) || IsFolder(target)) return open(std::wstring(target), {});
+  if (IsFile(target) || IsFolder(target)) return OpenByShell(std::wstring(target), {});
   const CommandLine parts = SplitCommandLine(target);
-  return open(parts.Program, parts.Arguments);
+  return OpenByShell(parts.Program, parts.Arguments);
 }
 
 /// Whether the scripting object, which thinks in the code page, keeps all of a shortcut's texts.

@@ -1,5 +1,7 @@
 #include "win32/ShellFunction.h"
 
+#include <shellapi.h>
+
 #include <stdexcept>
 
 #include "win32/SystemLibrary.h"
@@ -12,6 +14,16 @@ FARPROC FindShellFunction(const char* name) {
   const FARPROC found = library != nullptr ? GetProcAddress(library, name) : nullptr;
   if (found == nullptr) throw std::runtime_error("a function of the shell's library is missing");
   return found;
+}
+
+bool OpenByShell(const std::wstring& file, const std::wstring& arguments) {
+  SHELLEXECUTEINFOW what = {};
+  what.cbSize = sizeof what;
+  what.fMask = SEE_MASK_FLAG_NO_UI;
+  what.lpFile = file.c_str();
+  what.lpParameters = arguments.empty() ? nullptr : arguments.c_str();
+  what.nShow = SW_SHOWNORMAL;
+  return ShellFunction<decltype(ShellExecuteExW)>("ShellExecuteExW")(&what) != FALSE;
 }
 
 }  // namespace vantor::win32

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <string>
+
 namespace vantor::win32 {
 
 /// The address of a function of shell32.dll. That library is by far the largest that the program calls, and a start
@@ -14,5 +16,9 @@ template <class Function>
 Function* ShellFunction(const char* name) {
   return reinterpret_cast<Function*>(reinterpret_cast<void*>(FindShellFunction(name)));
 }
+
+/// Opens a file or starts a program as the shell does, asking for the administrator's rights where it needs them. False
+/// when that fails; nothing is shown then. The shell's extensions are COM objects, so the thread must have entered COM.
+bool OpenByShell(const std::wstring& file, const std::wstring& arguments);
 
 }  // namespace vantor::win32
