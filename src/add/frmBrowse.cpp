@@ -1,19 +1,13 @@
 #include "add/frmBrowse.h"
 
-#include <algorithm>
-#include <array>
-#include <cstddef>
+#include <utility>
 
 #include "add/Drives.h"
+#include "add/ItemGroup.h"
 #include "add/PlaceRules.h"
 
 namespace vantor::add {
 namespace {
-
-// Of the bar's CommandMenu buttons.
-constexpr std::int16_t AddPanel = 0;
-constexpr std::int16_t OpenPanel = 1;
-constexpr std::int16_t ListPanel = 2;
 
 constexpr std::wstring_view EveryFile = L"*.*";
 constexpr std::wstring_view Programs = L"*.exe";
@@ -21,17 +15,6 @@ constexpr std::wstring_view Programs = L"*.exe";
 template <class Hook, class... Args>
 void Call(const Hook& hook, Args&&... args) {
   if (hook) hook(std::forward<Args>(args)...);
-}
-
-std::wstring_view BannerOf(list::LaunchGroup group) {
-  switch (group) {
-    case list::LaunchGroup::Fold:
-      return L"Folder Added To List : Click To Hide";
-    case list::LaunchGroup::Prog:
-      return L"Program Added To List : Click To Hide";
-    default:
-      return L"File Added To List : Click To Hide";
-  }
 }
 
 service::WindowId WindowOf(const form::Control& control) {
@@ -81,9 +64,9 @@ void frmBrowse::ConnectEvents() {
   FrameAddedInfo.Click = [this] { FrameAddedInfo.SetVisible(false); };
 }
 
-bool frmBrowse::Adding() const { return parts_.CommandState.OpenPanelIndex == AddPanel; }
+bool frmBrowse::Adding() const { return parts_.CommandState.OpenPanelIndex == bar::menu::Add; }
 
-bool frmBrowse::Opening() const { return parts_.CommandState.OpenPanelIndex == OpenPanel; }
+bool frmBrowse::Opening() const { return parts_.CommandState.OpenPanelIndex == bar::menu::Open; }
 
 // --- loading, opening and closing
 
@@ -111,8 +94,7 @@ void frmBrowse::Open() {
     showedOpenUse_ = Opening();
     CommandSelectOK.SetEnabled(false);
     LayOut();
-    const form::Size size{FrameBrowseBack.Width(), FrameBrowseBack.Height()};
-    SetBounds(Hooks.Place ? Hooks.Place(size) : form::Rect{Bounds().Left, Bounds().Top, size.Width, size.Height});
+    if (Hooks.Place) SetBounds(Hooks.Place({Bounds().Width, Bounds().Height}));
     Show();
   });
 }
@@ -238,7 +220,11 @@ void frmBrowse::FileWork_DblClick() {
 
 // --- adding
 
-void frmBrowse::TextAddPath_Change() { EnableNameBox(!TextAddPath.Text().empty()); }
+void frmBrowse::TextAddPath_Change() {
+  state_.PickerDriveType = NoPickerDriveType;  // it told of the path that was here
+  TextAddPath.SetToolTip(TextAddPath.Text());  // most paths are longer than the box
+  EnableNameBox(!TextAddPath.Text().empty());
+}
 
 void frmBrowse::EnableNameBox(bool enable) {
   TextAddName.SetEnabled(enable);
@@ -258,7 +244,7 @@ void frmBrowse::CommandAddOK_Click() {
   const std::wstring path = TextAddPath.Text();
   if (path.empty()) return FileWork.SetFocus();  // a name is left from before, but nothing is chosen
   if (RefusedByPlace(path)) return;
-  const list::LaunchGroup group = GroupOf(path);
+  const list::LaunchGroup group = GroupOf(parts_.Services, state_.WhatToAdd, path);
   const AddBox box{TextAddPath, TextAddName, FrameAddedInfo};
   const AddResult result =
       AddUnlessListed(box, parts_.List.Of(group), BannerOf(group), parts_.Messages, parts_.Services.Language);
@@ -278,15 +264,6 @@ bool frmBrowse::RefusedByPlace(std::wstring_view path) {
   return true;
 }
 
-list::LaunchGroup frmBrowse::GroupOf(std::wstring_view path) const {
-  if (state_.WhatToAdd == AddKind::Folder) return list::LaunchGroup::Fold;
-  return IsProgram(path) ? list::LaunchGroup::Prog : list::LaunchGroup::File;
-}
-
-bool frmBrowse::IsProgram(std::wstring_view path) const {
-  return parts_.Services.Language.Lower(parts_.Services.FileSystem.ExtensionName(path)) == L"exe";
-}
-
 // --- leaving
 
 void frmBrowse::CommandAddCancel_Click() { Call(Hooks.ClosePanel); }
@@ -296,7 +273,7 @@ void frmBrowse::CommandSelectOK_Click() {
   const std::int16_t panel = parts_.CommandState.OpenPanelIndex;
   const std::wstring path = state_.BrowseFolder + FileWork.Text();
   Call(Hooks.ClosePanel);  // which also takes the selection away
-  const bool run = panel == ListPanel || IsProgram(path);
+  const bool run = panel == bar::menu::List || IsProgram(parts_.Services, path);
   parts_.Messages.ShowList(run ? parts_.Starters.RunProgramCommand(path) : parts_.Starters.OpenWithShell(path));
 }
 
@@ -335,52 +312,6 @@ void frmBrowse::CommandFindPath_MouseUp(form::MouseButton button) {
 void frmBrowse::StopFinder() {
   TimerFindPath.SetEnabled(false);
   finder_.Cancel();
-}
-
-// --- drag and drop
-
-void frmBrowse::FillWith(const std::vector<std::wstring>& paths) {
-  parts_.Messages.Trap(L"BrowseDropped", [&] {
-    if (paths.empty() || Ui().ModalForm() != nullptr) return;
-    if (!Adding()) Call(Hooks.OpenPanel, static_cast<int>(AddPanel));
-    if (!Adding()) return;
-    if (std::any_of(paths.begin(), paths.end(), [this](const auto& path) { return GoToDropped(path); })) {
-      Activate();
-    } else if (!parts_.Services.FileSystem.DriveReady(paths.front())) {
-      parts_.Messages.ShowList(L"MessageDriveNotReady");
-    }
-  });
-}
-
-bool frmBrowse::GoToDropped(std::wstring_view path) {
-  const auto choose = [this](AddKind kind) { OptionBrowse[static_cast<std::size_t>(kind)].SetValue(true); };
-  if (parts_.Services.FileSystem.FolderExists(path)) {
-    choose(AddKind::Folder);
-    if (!DirWork.SetPath(path)) return false;
-    FrameAddedInfo.SetVisible(false);
-    TextAddPath.SetText(DirWork.Path());
-    TextAddName.SetFocus();
-    return true;
-  }
-  const std::size_t folderEnd = path.find_last_of(L'\\') + 1;
-  if (folderEnd == 0 || !parts_.Services.FileSystem.FileExists(path)) return false;
-  choose(IsProgram(path) ? AddKind::Program : AddKind::File);
-  if (!DirWork.SetPath(path.substr(0, folderEnd))) return false;
-  ChooseFile(path.substr(folderEnd));
-  return true;
-}
-
-void frmBrowse::ChooseFile(std::wstring_view name) {
-  const service::Language& language = parts_.Services.Language;
-  const std::wstring wanted = language.Lower(name);
-  const auto& files = FileWork.Entries();
-  const auto found =
-      std::find_if(files.begin(), files.end(), [&](const auto& file) { return language.Lower(file) == wanted; });
-  FileWork.SetListIndex(-1);
-  if (found != files.end())
-    FileWork.SetListIndex(static_cast<int>(found - files.begin()));
-  else
-    PickFile(name);  // a hidden file is in no list
 }
 
 }  // namespace vantor::add

@@ -150,8 +150,6 @@ class frmBrowse : public form::Form, public bar::Panel {
   void NoteFolder();
   void PickFile(std::wstring_view name);
   [[nodiscard]] bool RefusedByPlace(std::wstring_view path);
-  [[nodiscard]] list::LaunchGroup GroupOf(std::wstring_view path) const;
-  [[nodiscard]] bool IsProgram(std::wstring_view path) const;
   void StopFinder();
   /// False when there is nothing of this path to go to.
   [[nodiscard]] bool GoToDropped(std::wstring_view path);

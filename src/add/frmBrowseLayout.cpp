@@ -2,11 +2,15 @@
 #include <cstddef>
 
 #include "add/frmBrowse.h"
+#include "list/PictureButton.h"
 
 namespace vantor::add {
 namespace {
 
 using form::Twips;
+using list::ButtonHeight;
+using list::DressButton;
+using list::PlaceButton;
 
 constexpr Twips BoxWidth = 5040;
 constexpr Twips Margin = 120;
@@ -17,7 +21,6 @@ constexpr Twips FirstTop = 270;
 constexpr Twips LabelHeight = 195;
 constexpr Twips LineHeight = 315;  // of a text box, a drive list
 constexpr Twips ButtonWidth = 960;
-constexpr Twips ButtonHeight = 390;
 constexpr Twips FindButtonWidth = 1620;
 constexpr Twips ColumnWidth = (InnerWidth - Margin) / 2;
 constexpr Twips LeastListsHeight = 2100;
@@ -30,23 +33,9 @@ constexpr Twips SelectLeft = 2880;
 constexpr Twips SelectTop = 4200;
 constexpr Twips CancelLeft = 3960;
 
-void DressButton(form::CommandButton& button, form::Label& label, std::wstring_view caption) {
-  label.SetCaption(caption);
-  button.SetFaceLabel(label);
-  button.SetPicture(form::Picture::ButtonNormal);
-  button.SetDownPicture(form::Picture::ButtonPressed);
-  button.SetDisabledPicture(form::Picture::ButtonDisabled);
-}
-
-void PlaceButton(form::CommandButton& button, form::Label& label, const form::Rect& place) {
-  button.SetBounds(place);
-  label.SetBounds(place);
-}
-
 }  // namespace
 
 void frmBrowse::Dress() {
-  SetCaption(L"Add To List");
   constexpr std::wstring_view KindCaptions[] = {L"Prog.", L"File", L"Folder"};
   FrameWhatToAdd.SetCaption(L"What To Add :");
   for (std::size_t i = 0; i < OptionBrowse.size(); ++i) OptionBrowse[i].SetCaption(KindCaptions[i]);
@@ -91,7 +80,8 @@ void frmBrowse::Dress() {
 
 void frmBrowse::LayOut() {
   const bool opening = Opening();
-  FrameBrowseBack.SetCaption(opening ? L"Open :" : L"Add To List :");
+  SetCaption(opening ? L"Open" : L"Add To List");
+  FrameBrowseBack.SetCaption(Caption() + L" :");
   for (form::Frame* frame : {&FrameWhatToAdd, &FrameFindPath, &FrameAddPath, &FrameAddToList}) {
     frame->SetVisible(!opening);
   }
@@ -121,6 +111,7 @@ void frmBrowse::LayOut() {
 
   FrameBrowseBack.SetBounds({0, 0, BoxWidth, FrameAddCancel.Bottom() + Margin});
   PictureNo.SetBounds({Margin, FrameAddCancel.Top(), Gap / 4, Gap / 4});
+  SetBounds({Bounds().Left, Bounds().Top, FrameBrowseBack.Width(), FrameBrowseBack.Height()});
 }
 
 void frmBrowse::LayOutLists(Twips top, Twips bottom) {

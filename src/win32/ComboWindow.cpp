@@ -83,6 +83,7 @@ void ComboWindow::OnCommand(WORD notification) {
       list_.InputSelect(static_cast<int>(Default(CB_GETCURSEL)));
       break;
     case CBN_CLOSEUP:
+      typed_.clear();  // what is typed next begins anew
       Redraw();
       break;
     default:

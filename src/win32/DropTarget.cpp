@@ -60,6 +60,11 @@ std::vector<std::wstring> PathsOf(IDataObject& data) {
   return paths;
 }
 
+bool HasExtension(const std::wstring& path, const wchar_t* extension) {
+  const std::size_t dot = path.rfind(L'.');
+  return dot != std::wstring::npos && _wcsicmp(path.c_str() + dot, extension) == 0;
+}
+
 std::wstring AddressOf(IDataObject& data) {
   const Medium medium(data, AddressFormat());
   if (medium.Memory() == nullptr) return {};
@@ -144,10 +149,18 @@ form::DroppedItems ItemsOf(IDataObject& data) {
   return items;
 }
 
+std::wstring WebAddressIn(const std::wstring& path) {
+  if (!HasExtension(path, L".url")) return {};
+  constexpr DWORD LongestAddress = 2084;  // what Windows' own Internet functions take, with the null
+  std::wstring address(LongestAddress, L'\0');
+  address.resize(GetPrivateProfileStringW(L"InternetShortcut", L"URL", L"", address.data(), LongestAddress,
+                                          CallPath(path).c_str()));
+  const bool leadsToTheWeb = address.starts_with(L"http://") || address.starts_with(L"https://");
+  return leadsToTheWeb ? address : std::wstring();
+}
+
 std::wstring ShortcutTarget(const std::wstring& path) {
-  constexpr std::wstring_view Extension = L".lnk";
-  if (path.size() < Extension.size() || _wcsicmp(path.c_str() + path.size() - Extension.size(), Extension.data()) != 0)
-    return path;
+  if (!HasExtension(path, L".lnk")) return path;
   ComPointer<IShellLinkW> link;
   ComPointer<IPersistFile> file;
   wchar_t target[MAX_PATH] = L"";

@@ -18,6 +18,9 @@ namespace vantor::win32 {
 /// dialog and searches for nothing.
 [[nodiscard]] std::wstring ShortcutTarget(const std::wstring& path);
 
+/// The web address that a web link dropped as a file holds; "" when the path is no such file, or leads elsewhere.
+[[nodiscard]] std::wstring WebAddressIn(const std::wstring& path);
+
 /// Lets things be dropped on a window, for as long as this object lives.
 class DropRegistration {
  public:

@@ -163,6 +163,8 @@ void FormWindow::AcceptDrops() {
 
 void FormWindow::TakeDrop() {
   form::DroppedItems items = std::exchange(dropped_, {});
+  if (items.Paths.size() == 1) items.Address = WebAddressIn(items.Paths.front());
+  if (!items.Address.empty()) items.Paths.clear();
   for (std::wstring& path : items.Paths) path = ShortcutTarget(path);
   SetForegroundWindow(Hwnd());
   form_.InputDrop(items);

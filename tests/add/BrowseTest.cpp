@@ -40,70 +40,26 @@ TEST_CASE("The extension decides the group, not the kind that is chosen") {
   }
 }
 
-TEST_CASE("What can't be used is grey, and the focus goes to the name as soon as there is a path") {
+TEST_CASE("A name left over from another choice adds nothing while there is no path") {
   Desk desk;
   frmBrowse& box = desk.Browse;
   desk.Settings.Folder = L"C:\\Tools";
   desk.Panel(0);
-  CHECK(box.FileWork.Entries() == Items{L"Edit.EXE"});
-  CHECK(box.TextAddName.BackColor() == form::Color::Silver);
-  CHECK(box.CommandFindPath.Enabled());
-
   desk.ChooseKind(AddKind::File);
-  CHECK(box.FileWork.Entries() == Items{L"Edit.EXE", L"notes.txt"});
-  CHECK_FALSE(box.CommandFindPath.Enabled());
   desk.Pick(L"notes.txt");
-  desk.Ui.Type(L"n");
-  CHECK(box.CommandAddOK.Enabled());
-  desk.Pick(L"Edit.EXE");  // has no default name
-  CHECK(box.TextAddName.Text().empty());
-  CHECK_FALSE(box.CommandAddOK.Enabled());
-
-  desk.ChooseKind(AddKind::Folder);
-  CHECK_FALSE(box.FileWork.Enabled());
-  CHECK(box.FileWork.BackColor() == form::Color::Silver);
-  CHECK(box.TextAddPath.Text() == L"C:\\Tools");
-  CHECK(box.TextAddName.HasFocus());
-  CHECK(box.TextAddName.BackColor() == form::Color::WindowBackground);
-  REQUIRE(box.DirWork.SetPath(L"C:\\"));
-  CHECK(box.TextAddPath.Text() == L"C:\\");
-  CHECK(box.State().BrowseFolder == L"C:\\");
-
-  // A name left over from another choice adds nothing while there is no path.
   desk.Ui.Type(L"left");
   desk.ChooseKind(AddKind::Program);
   CHECK_FALSE(box.TextAddName.Enabled());
   desk.Ui.Click(box.CommandAddOK);
-  CHECK(desk.Items(LaunchGroup::File).empty());
+  CHECK(desk.Added == 0);
   CHECK(box.TextAddName.Text() == L"left");
-}
-
-TEST_CASE("A listed path is refused to the letter, a listed name in any letter case") {
-  Desk desk;
-  frmBrowse& box = desk.Browse;
-  desk.Settings.Folder = L"C:\\Tools";
-  desk.Choose.List.Of(LaunchGroup::Prog).AddItem(L"\x416uk", L"C:\\Tools\\Edit.EXE");
-  desk.Choose.List.Of(LaunchGroup::File).AddItem(L"Editor", L"C:\\tools\\NOTES.txt");
-  desk.Panel(0);
-  std::wstring told;
-
-  desk.Pick(L"Edit.EXE");
-  desk.Ui.Type(L"Other");
-  desk.Expect(told);
-  desk.Ui.Type(L"\r");
-  CHECK(told == L"Selected item has already been included in the List. There is no need to add it again.");
-  CHECK(box.FileWork.ListIndex() == -1);
-  CHECK(box.TextAddName.Text() == L"Other");
-
   desk.ChooseKind(AddKind::File);
-  desk.Pick(L"notes.txt");
-  desk.Ui.Type(L"eDITOR");
-  desk.Expect(told);
-  desk.Ui.Type(L"\r");
-  CHECK(told.starts_with(L"The name you typed is listed name for another item in it's group.\r\n\r\nTwo different"));
+  desk.Pick(L"notes.txt");  // has no default name
   CHECK(box.TextAddName.Text().empty());
-  desk.Ui.Type(L"\x436UK\r");  // a name of another group
-  CHECK(desk.Items(LaunchGroup::File) == Items{L"Editor=C:\\tools\\NOTES.txt", L"\x436UK=C:\\Tools\\notes.txt"});
+  desk.ChooseKind(AddKind::Folder);
+  REQUIRE(box.DirWork.SetPath(L"C:\\"));
+  CHECK(box.TextAddPath.Text() == L"C:\\");
+  CHECK(box.State().BrowseFolder == L"C:\\");
 }
 
 TEST_CASE("Where an item may come from") {

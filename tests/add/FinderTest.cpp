@@ -68,6 +68,12 @@ TEST_CASE("The finder puts the program's path into the box, and its drive type c
   desk.Browse.TextAddName.SetFocus();
   desk.Ui.Type(L"\r");  // now the folder's own drive type counts
   CHECK(desk.Added == 1);
+
+  desk.DragTo(WindowId{7});
+  desk.Release();
+  desk.Pick(L"tool.exe");  // what the finder found is given up
+  desk.Ui.Type(L"Work\r");
+  CHECK(desk.Added == 2);
 }
 
 TEST_CASE("Where no path is to be had the box stays as it was") {

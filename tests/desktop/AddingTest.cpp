@@ -1,12 +1,14 @@
-// desktop: --drive e:=floppy
-// Adding by browsing and by pointing at a window, and what may be added to a list on a removable drive.
+// desktop: --drive d:=hd --drive e:=floppy --drive n:=network --drive q:=cdrom --drive r:=ramdisk --drive
+// s:=cdrom:empty Adding by browsing and by pointing at a window, while the program runs from a fixed disk.
 
 #include <doctest/doctest.h>
 
-#include <algorithm>
+#include <filesystem>
+#include <fstream>
 
+#include "desktop/AddBox.h"
 #include "desktop/Input.h"
-#include "desktop/Program.h"
+#include "desktop/Recorder.h"
 #include "desktop/Text.h"
 #include "desktop/Wait.h"
 #include "desktop/Window.h"
@@ -15,206 +17,247 @@
 namespace vantor::desktop {
 namespace {
 
-/// The box by which items are added, of a program that runs.
-class AddBox {
- public:
-  explicit AddBox(const Program& program) : program_(program) {}
+const std::string PathListed = "Selected item has already been included in the List. There is no need to add it again.";
+const std::string NameListed =
+    "The name you typed is listed name for another item in it's group.\r\n\r\nTwo different items in the same group "
+    "(Groups : Program, File, Folder and Web Site) can't be listed with same name. Type a different name please.";
+const std::string NotFixed =
+    "You can add Program, File and Folder to Launch List only if those are in a fixed Hard Disk. This one, that you "
+    "are trying to add, doesn't seems to be on a fixed Hard Disk.";
+const std::string NotReady = "The Drive you are trying to select is not ready.";
 
-  void Open() {
-    input::Press(VK_F2);
-    Await("the add box", [this] { return Find() != nullptr && window::HasInput(Find()); });
+/// A program that runs, with its add box open at a folder.
+struct Adding {
+  explicit Adding(const Folder& folder) : Running(Start(folder)) {
+    Running.AwaitBar();
+    Box.Open();
   }
-  [[nodiscard]] HWND Find() const {
-    DWORD process = 0;
-    GetWindowThreadProcessId(program_.Bar(), &process);
-    const auto windows = window::OfProcess(process);
-    const auto found =
-        std::find_if(windows.begin(), windows.end(), [](HWND one) { return window::Text(one) == "Add To List"; });
-    return found == windows.end() ? nullptr : *found;
+  static const Folder& Start(const Folder& folder) {
+    folder.WriteSettings({});
+    return folder;
   }
-  [[nodiscard]] HWND Button(const std::string& text) const { return window::Control(Find(), "Button", text); }
-  void Click(const std::string& button) const { input::Click(window::Middle(Button(button))); }
-
-  /// The path, and the name that is typed.
-  [[nodiscard]] HWND Edit(std::size_t index) const {
-    const auto edits = OfClass("Edit");
-    return index < edits.size() ? edits[index] : nullptr;
-  }
-  [[nodiscard]] std::string Path() const { return window::Text(Edit(0)); }
-  void AwaitNameFocus() const {
-    Await("the focus on the name", [this] {
-      GUITHREADINFO thread = {};
-      thread.cbSize = sizeof thread;
-      return GetGUIThreadInfo(GetWindowThreadProcessId(Find(), nullptr), &thread) != FALSE &&
-             thread.hwndFocus == Edit(1);
-    });
-  }
-  /// Clicks on an entry of the list of files.
-  void Pick(const std::string& file) const {
-    const auto lists = OfClass("ListBox");
-    REQUIRE(lists.size() == 2);
-    LRESULT index = LB_ERR;
-    Await("the file in the list", [&] {
-      index = SendMessageW(lists[1], LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
-                           reinterpret_cast<LPARAM>(Wide(file).c_str()));
-      return index != LB_ERR;
-    });
-    RECT item = {};
-    SendMessageW(lists[1], LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item));
-    POINT middle{(item.left + item.right) / 2, (item.top + item.bottom) / 2};
-    ClientToScreen(lists[1], &middle);
-    input::Click(middle);
-  }
-  /// Types a name for what is chosen, and adds it by Enter.
-  void Add(const std::string& name) const {
-    AwaitNameFocus();
-    input::Type(name);
-    CHECK_BECOMES(window::Text(Edit(1)), name);
-    input::Press(VK_RETURN);
+  void Leave() {
+    Box.Click("Cancel");
+    Running.Exit();
   }
 
- private:
-  /// From left to right, and from top to bottom.
-  [[nodiscard]] std::vector<HWND> OfClass(const std::string& name) const {
-    auto controls = window::Controls(Find());
-    std::erase_if(controls, [&](HWND control) { return window::ClassName(control) != name; });
-    std::sort(controls.begin(), controls.end(), [](HWND a, HWND b) {
-      const RECT left = window::Bounds(a);
-      const RECT right = window::Bounds(b);
-      return left.left != right.left ? left.left < right.left : left.top < right.top;
-    });
-    return controls;
-  }
-
-  const Program& program_;
+  Program Running;
+  AddBox Box{Running};
 };
 
 }  // namespace
 
-TEST_CASE("what is added by browsing is completed at once, and listed once") {
+TEST_CASE("what is added by browsing goes to the group of its extension, and is completed at once") {
   const Folder folder;
   folder.Write("Tools\\tool.EXE", "");
-  folder.Write("Tools\\my notes.txt", "");
+  folder.Write("Tools\\\xd0\x96, it's a note.txt", "");
   const std::string tools = folder.Path("Tools");
-  folder.WriteSettings({.Folder = tools});
-  Program program(folder);
-  program.AwaitBar();
-  AddBox box(program);
-  box.Open();
+  Adding adding(folder);
+  const AddBox& box = adding.Box;
+  box.Click("File");
+  box.Enter("Tools");
   const struct {
     std::string Kind, File, Target, Name, Banner, Code;
   } rows[] = {{"File", "tool.EXE", tools + "\\tool.EXE", "Tool, mine", "Program", "p-"},
-              {"File", "my notes.txt", tools + "\\my notes.txt", "Notes", "File", "f-"},
+              {"File", "\xd0\x96, it's a note.txt", tools + "\\\xd0\x96, it's a note.txt", "Notes", "File", "f-"},
               {"Folder", "", tools, "Tools", "Folder", "d-"}};
   for (const auto& row : rows) {
     box.Click(row.Kind);
     if (!row.File.empty()) box.Pick(row.File);
     CHECK_BECOMES(box.Path(), row.Target);
     box.Add(row.Name);
-    Await("the banner", [&] { return box.Button(row.Banner + " Added To List : Click To Hide") != nullptr; });
-    CHECK_BECOMES(program.Line(), "");
-    program.TypeLine(row.Code + row.Name.substr(0, 1));
-    CHECK_BECOMES(program.Line(), row.Code + row.Name);
+    box.AwaitBanner(row.Banner);
+    CHECK_BECOMES(adding.Running.Line(), "");
+    adding.Running.TypeLine(row.Code + row.Name.substr(0, 1));
+    CHECK_BECOMES(adding.Running.Line(), row.Code + row.Name);
   }
-  box.Click("File");
-  box.Pick("my notes.txt");
-  box.Add("Again");
-  program.AwaitMessage();
-  CHECK(program.MessageText().find("Selected item has already been included in the List.") != std::string::npos);
-  program.AnswerMessage();
-  CHECK_BECOMES(window::Text(box.Edit(1)), "Again");
-  box.Click("Cancel");
-  program.AwaitBar();
-  program.Exit();
+  adding.Leave();
   CHECK(folder.Read("Vantor\\ListProg.Orbel") == ListBytes({{"Tool, mine", tools + "\\tool.EXE"}}));
-  CHECK(folder.Read("Vantor\\ListFile.Orbel") == ListBytes({{"Notes", tools + "\\my notes.txt"}}));
   CHECK(folder.Read("Vantor\\ListFold.Orbel") == ListBytes({{"Tools", tools}}));
+  // The system's code page lacks the letter.
+  CHECK(folder.Read("Vantor\\ListFile.Orbel") ==
+        "\xef\xbb\xbf" + ListBytes({{"Notes", tools + "\\\xd0\x96, it's a note.txt"}}));
   CHECK(folder.Read("Vantor\\Set.Orbel") ==
         folder.Saved({.FileUpper = 0, .FoldUpper = 0, .ProgUpper = 0, .Folder = tools}));
 }
 
-TEST_CASE("the finder takes the program behind a window, unless Escape breaks it off") {
+TEST_CASE("what can't be used is grey, and the focus goes to the name as soon as there is a path") {
   const Folder folder;
-  folder.WriteSettings({});
-  Program program(folder);
-  program.AwaitBar();
-  AddBox box(program);
+  folder.Write("notes.txt", "");
+  Adding adding(folder);
+  const AddBox& box = adding.Box;
+  constexpr COLORREF Grey = RGB(192, 192, 192);
+  const COLORREF plain = GetSysColor(COLOR_WINDOW);
+  const struct {
+    std::string Kind, File;
+    bool FindsPrograms, ListsFiles, TakesName;
+  } rows[] = {{"Prog.", "", true, true, false},   {"Prog.", "Vantor.exe", true, true, true},
+              {"File", "", false, true, false},   {"File", "notes.txt", false, true, true},
+              {"Folder", "", false, false, true}, {"Prog.", "", true, true, false}};
+  for (const auto& row : rows) {
+    CAPTURE(row.Kind + row.File);
+    if (row.File.empty()) box.Click(row.Kind);
+    if (!row.File.empty()) box.Pick(row.File);
+    CHECK_BECOMES(IsWindowEnabled(box.Button("Find Program Path")) != FALSE, row.FindsPrograms);
+    CHECK_BECOMES(IsWindowEnabled(box.FileList()) != FALSE, row.ListsFiles);
+    CHECK_BECOMES(window::Ground(box.FileList()), row.ListsFiles ? plain : Grey);
+    CHECK_BECOMES(IsWindowEnabled(box.NameBox()) != FALSE, row.TakesName);
+    CHECK_BECOMES(window::Ground(box.NameBox()), row.TakesName ? plain : Grey);
+    if (!row.TakesName) continue;
+    box.AwaitNameFocus();
+    input::Type("n");
+    CHECK_BECOMES(IsWindowEnabled(box.Button("Add")) != FALSE, true);
+    input::Press(VK_BACK);
+    CHECK_BECOMES(IsWindowEnabled(box.Button("Add")) != FALSE, false);
+  }
+}
+
+TEST_CASE("a path is listed once, and a name once in any letter case") {
+  const Folder folder;
+  for (const char* file : {"a.txt", "b.txt"}) folder.Write(file, "");
+  Adding adding(folder);
+  const AddBox& box = adding.Box;
+  box.Click("File");
+  box.Pick("a.txt");
+  box.Add("Notes");
+  box.AwaitBanner("File");
+
+  box.Pick("a.txt");
+  box.Add("Again");
+  adding.Running.ExpectMessage(PathListed);
+  CHECK(SendMessageW(box.FileList(), LB_GETCURSEL, 0, 0) == LB_ERR);
+  CHECK(box.Name() == "Again");
+
+  box.Pick("b.txt");
+  box.Add("nOTES");
+  adding.Running.ExpectMessage(NameListed);
+  CHECK(box.Path() == folder.Path("b.txt"));
+  CHECK(box.Name().empty());
+  box.Add("Others");  // the focus is there
+  box.AwaitBanner("File");
+
+  box.Click("Folder");
+  CHECK_BECOMES(box.Path(), folder.Path());
+  box.Add("Notes");  // in another group
+  box.AwaitBanner("Folder");
+  adding.Leave();
+  CHECK(folder.Read("Vantor\\ListFile.Orbel") ==
+        ListBytes({{"Notes", folder.Path("a.txt")}, {"Others", folder.Path("b.txt")}}));
+}
+
+TEST_CASE("only what lies on a fixed disk is added, and a drive that is not ready is told") {
+  SKIP_UNLESS(UnderWine(), "a test desktop with all kinds of drives");
+  const Folder folder;
+  Adding adding(folder);
+  const AddBox& box = adding.Box;
+  const struct {
+    char Letter;
+    UINT Type;
+    bool Accepted;
+  } rows[] = {{'D', DRIVE_FIXED, true},
+              {'E', DRIVE_REMOVABLE, false},
+              {'N', DRIVE_REMOTE, false},
+              {'Q', DRIVE_CDROM, false},
+              {'R', DRIVE_RAMDISK, false}};
+  for (const auto& row : rows) {
+    const std::string root = std::string(1, row.Letter) + ":\\";
+    CAPTURE(root);
+    CHECK(GetDriveTypeA(root.c_str()) == row.Type);
+    std::ofstream(root + "tool.exe").close();
+    box.ChooseDrive(row.Letter);
+    box.Pick("tool.exe");
+    CHECK_BECOMES(box.Path(), root + "tool.exe");
+    box.Add("Tool");
+    if (row.Accepted) {
+      box.AwaitBanner("Program");
+      continue;
+    }
+    adding.Running.ExpectMessage(NotFixed);
+    CHECK(box.Path() == root + "tool.exe");
+    CHECK(box.Name() == "Tool");
+  }
+  box.ChooseDrive('S');
+  adding.Running.ExpectMessage(NotReady);
+  CHECK_BECOMES(box.Drive(), "r:");
+  CHECK(IsWindowVisible(box.Find()));
+
+  // The medium is pulled out while the box shows it.
+  box.ChooseDrive('E');
+  CHECK_BECOMES(box.Drive(), "e:");
+  std::filesystem::create_directory("E:\\Folder");
+  box.Click("Cancel");
+  adding.Running.AwaitBar();
   box.Open();
+  std::filesystem::rename("Z:\\prefix\\drives\\e", "Z:\\prefix\\drives\\pulled");
+  box.Enter("Folder");
+  adding.Running.ExpectMessage(NotReady);
+  CHECK_BECOMES(box.Drive(), "e:");
+  std::filesystem::rename("Z:\\prefix\\drives\\pulled", "Z:\\prefix\\drives\\e");
+}
+
+TEST_CASE("the finder takes the program behind a window, its own too, unless Escape breaks it off") {
+  const Folder folder;
+  Adding adding(folder);
+  const AddBox& box = adding.Box;
   // A window of this test's own is the other program.
   const HWND target = CreateWindowExW(WS_EX_TOPMOST | WS_EX_NOACTIVATE, L"BUTTON", L"", WS_POPUP, 700, 100, 200, 200,
                                       nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
   ShowWindow(target, SW_SHOWNOACTIVATE);
   const auto marked = [] { return FindWindowW(L"VantorMark", nullptr) != nullptr; };
   const POINT button = window::Middle(box.Button("Find Program Path"));
-  for (const bool escape : {true, false}) {
-    input::Hold(button);
-    input::Move({790, 190});
-    input::Move({800, 200});
-    Await("the mark", marked);
-    if (escape) input::Press(VK_ESCAPE);
-    if (escape) Await("the mark to go", [&] { return !marked(); });
-    input::LetGo({800, 200});
-    if (escape) CHECK(box.Path().empty());
-  }
   wchar_t own[MAX_PATH] = L"";
   GetModuleFileNameW(nullptr, own, MAX_PATH);
-  CHECK_BECOMES(box.Path(), Narrow(own));
-  CHECK_FALSE(marked());
-  box.AwaitNameFocus();
+  const struct {
+    HWND Window;
+    bool Escape;
+    std::string Path;
+  } rows[] = {
+      {target, true, ""}, {target, false, Narrow(own)}, {adding.Running.Bar(), false, folder.Path("Vantor.exe")}};
+  for (const auto& row : rows) {
+    const POINT to = window::Middle(row.Window);
+    input::Hold(button);
+    input::Move({to.x - 10, to.y - 5});
+    input::Move(to);
+    Await("the mark", marked);
+    if (row.Escape) {
+      input::Press(VK_ESCAPE);
+      Await("the mark to go", [&] { return !marked(); });
+    }
+    input::LetGo(to);
+    CHECK_BECOMES(box.Path(), row.Path);
+    CHECK_FALSE(marked());
+    if (!row.Escape) box.AwaitNameFocus();
+  }
   DestroyWindow(target);
 }
 
-TEST_CASE("on a removable drive, what lies elsewhere is added once the computer is remembered") {
-  SKIP_UNLESS(UnderWine() && GetDriveTypeW(L"E:\\") == DRIVE_REMOVABLE, "a test desktop with a removable drive");
-  const Folder folder("E:\\");
-  folder.Write("Tools\\tool.exe", "");
-  folder.Write("Vantor\\MediaSet.Orbel", "\"Vantor Media 1\"\r\n\"Ready\"\r\n\"Anna\"\r\n");
-  folder.Write("Vantor\\Set.Orbel", Settings().Bytes());
+TEST_CASE("the open box opens a file by its button, a double click or Enter, and closes") {
+  const Folder folder;
+  Recorder recorder(folder);
+  folder.Write("my notes.vantortest", "");
+  folder.WriteSettings({});
   Program program(folder);
   program.AwaitBar();
-  AddBox box(program);
-  box.Open();
-  box.Click("Folder");
-  CHECK_BECOMES(box.Path(), folder.Path());
-  box.Add("Own");
-  Await("the banner", [&] { return box.Button("Folder Added") != nullptr; });
-
-  input::Click(window::Middle(window::Control(box.Find(), "ComboBox")));
-  input::Type("c");
-  input::Press(VK_RETURN);
-  CHECK_BECOMES(box.Path(), "C:\\");
-  input::Click(window::Middle(box.Edit(1)));
-  box.Add("Disk");
-  program.AwaitMessage();
-  CHECK(program.MessageText().find("The selected machine need to be identified first.") != std::string::npos);
-  program.AnswerMessage();
-
-  input::Press(VK_F6);
-  Await("the preferences", [&] { return box.Find() == nullptr; });
-  DWORD process = 0;
-  GetWindowThreadProcessId(program.Bar(), &process);
-  const auto remember = [&] {
-    for (HWND panel : window::OfProcess(process)) {
-      if (HWND button = window::Control(panel, "Button", "Remember My Computer")) return button;
+  const AddBox box(program);
+  const std::string opened = '"' + folder.Path("recorder.exe") + '"';
+  // Another file each time: two clicks at one place soon make a double click.
+  for (const std::string how : {"Open", "Enter", "double click"}) {
+    for (const auto& [file, started] :
+         {std::pair{"recorder.exe", opened},
+          {"my notes.vantortest", opened + " document \"" + folder.Path("my notes.vantortest") + '"'}}) {
+      box.Open(VK_F3);
+      if (how == "double click") {
+        box.DoublePick(file);
+      } else {
+        box.Pick(file);
+        if (how == "Open") box.Click("Open");
+        if (how == "Enter") input::Press(VK_RETURN);
+      }
+      CHECK(recorder.Next() == started);
+      program.AwaitBar();
     }
-    return HWND{};
-  };
-  Await("the button, enabled", [&] { return remember() != nullptr && IsWindowEnabled(remember()); });
-  input::Click(window::Middle(remember()));
-  Await("the button, disabled", [&] { return !IsWindowEnabled(remember()); });
-  input::Press(VK_F2);
-  Await("the add box", [&] { return box.Find() != nullptr && window::HasInput(box.Find()); });
-  CHECK_BECOMES(window::Text(box.Edit(1)), "Disk");
-  input::Click(window::Middle(box.Edit(1)));
-  box.AwaitNameFocus();
-  input::Press(VK_RETURN);
-  Await("the banner", [&] { return box.Button("Folder Added") != nullptr; });
-  program.AwaitBar();
+  }
   program.Exit();
-  CHECK(folder.Read("Vantor\\ListFold.Orbel") == ListBytes({{"Own", '#' + folder.Path().substr(1)}}));
-  CHECK(folder.Read("Vantor\\MachineFold.Orbel") == ListBytes({{"Disk", "C:\\"}}));
-  CHECK(folder.Read("Vantor\\Machine.Orbel").starts_with("3\r\n\""));
-  CHECK(folder.Read("Vantor\\Set.Orbel") == Settings{.FoldUpper = 0, .MachineFoldUpper = 0}.Bytes());
 }
 
 }  // namespace vantor::desktop

@@ -76,6 +76,15 @@ std::string Folder::Read(const std::string& name) const {
 
 void Folder::MakeFolder(const std::string& name) const { fs::create_directories(Wide(Path(name))); }
 
+void Folder::MoveTo(const std::string& root) {
+  const std::string there = root + path_.substr(path_.rfind('\\') + 1);
+  fs::copy(Wide(path_), Wide(there), fs::copy_options::recursive);
+  // A system process that the program called may still stand in the folder, which then stays, empty.
+  std::error_code ignored;
+  fs::remove_all(Wide(path_), ignored);
+  path_ = there;
+}
+
 void Folder::CopyProgram(const std::string& program, const std::string& name) const {
   const fs::path path = Wide(Path(name));
   fs::create_directories(path.parent_path());

@@ -43,6 +43,8 @@ class Folder {
   /// The bytes of a file; "(none)" when there is none.
   [[nodiscard]] std::string Read(const std::string& name) const;
   void MakeFolder(const std::string& name) const;
+  /// Takes the whole folder to the root of another drive, as its medium put in there would.
+  void MoveTo(const std::string& root);
   /// Copies a program that was built beside this one.
   void CopyProgram(const std::string& program, const std::string& name) const;
 

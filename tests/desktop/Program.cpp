@@ -102,6 +102,12 @@ std::string Program::MessageText() const {
   return texts;
 }
 
+void Program::ExpectMessage(const std::string& text) {
+  AwaitMessage();
+  CHECK(('\n' + MessageText()).find('\n' + text + '\n') != std::string::npos);
+  AnswerMessage();
+}
+
 void Program::AnswerMessage(const std::string& word) {
   HWND message = AwaitMessage();
   HWND button = window::Control(message, "BUTTON", word);

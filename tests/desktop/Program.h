@@ -40,6 +40,8 @@ class Program {
   [[nodiscard]] HWND Button(const std::string& name) const;
   /// The open message's texts, one after another; "" when there is no message.
   [[nodiscard]] std::string MessageText() const;
+  /// Waits for a message that says just this, checks it, and closes it.
+  void ExpectMessage(const std::string& text);
   /// Clicks on a word of the open message ("OK", "No") and waits until it is gone.
   void AnswerMessage(const std::string& word = "OK");
 

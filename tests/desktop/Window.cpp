@@ -30,14 +30,16 @@ std::string ClassName(HWND window) {
   return Narrow(std::wstring(name, static_cast<std::size_t>(GetClassNameW(window, name, 64))));
 }
 
+DWORD ProcessOf(HWND window) {
+  DWORD process = 0;
+  GetWindowThreadProcessId(window, &process);
+  return process;
+}
+
 std::vector<HWND> OfProcess(DWORD process) {
   std::vector<HWND> windows;
   EnumWindows(Collect, reinterpret_cast<LPARAM>(&windows));
-  std::erase_if(windows, [process](HWND window) {
-    DWORD owner = 0;
-    GetWindowThreadProcessId(window, &owner);
-    return owner != process;
-  });
+  std::erase_if(windows, [process](HWND window) { return ProcessOf(window) != process; });
   return windows;
 }
 
@@ -71,11 +73,23 @@ POINT Middle(HWND window) {
   return {(bounds.left + bounds.right) / 2, (bounds.top + bounds.bottom) / 2};
 }
 
-bool HasInput(HWND window) {
+HWND FocusOf(HWND window) {
   GUITHREADINFO thread = {};
   thread.cbSize = sizeof thread;
-  return GetForegroundWindow() == window && GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &thread) &&
-         thread.hwndFocus && (thread.hwndFocus == window || IsChild(window, thread.hwndFocus));
+  return GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &thread) ? thread.hwndFocus : nullptr;
+}
+
+COLORREF Ground(HWND control) {
+  constexpr LONG Inside = 4;  // pixels, past the edge
+  const HDC screen = GetDC(nullptr);
+  const COLORREF color = GetPixel(screen, Bounds(control).left + Inside, Middle(control).y);
+  ReleaseDC(nullptr, screen);
+  return color;
+}
+
+bool HasInput(HWND window) {
+  const HWND focus = FocusOf(window);
+  return GetForegroundWindow() == window && focus && (focus == window || IsChild(window, focus));
 }
 
 bool IsTopMost(HWND window) { return (GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; }

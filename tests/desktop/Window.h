@@ -11,6 +11,7 @@ namespace vantor::desktop::window {
 /// The title of a window or the content of a control, in UTF-8.
 std::string Text(HWND window);
 std::string ClassName(HWND window);
+DWORD ProcessOf(HWND window);
 /// The top-level windows of a process that are shown, minimised ones too.
 std::vector<HWND> OfProcess(DWORD process);
 /// The controls of a window that are shown, in its own order.
@@ -23,6 +24,10 @@ bool IsFrame(HWND control);
 
 RECT Bounds(HWND window);
 POINT Middle(HWND window);
+/// The control of the window's program that has the focus; null when none has.
+HWND FocusOf(HWND window);
+/// The colour that is on the screen just inside the middle of a control's left edge, where it holds no text.
+COLORREF Ground(HWND control);
 /// Whether the window has the input: it is in the foreground and it, or a control of it, has the focus.
 bool HasInput(HWND window);
 bool IsTopMost(HWND window);

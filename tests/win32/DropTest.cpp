@@ -76,3 +76,13 @@ TEST_CASE("a shortcut stands for its target as long as that is there") {
   const std::wstring broken = folder.Make(L"broken.lnk", "no shortcut");
   CHECK(ShortcutTarget(broken) == broken);
 }
+
+TEST_CASE("a web link that is a file stands for its address") {
+  const TestFolder folder;
+  const auto address = [&](const wchar_t* name, const char* url) {
+    return WebAddressIn(folder.Make(name, std::string("[InternetShortcut]\r\nURL=") + url + "\r\n"));
+  };
+  CHECK(address(L"site.URL", "https://example.org/?q=a,b") == L"https://example.org/?q=a,b");
+  CHECK(address(L"game.url", "steam://run/1").empty());
+  CHECK(address(L"site.txt", "https://example.org/").empty());
+}
