@@ -1,5 +1,5 @@
-// desktop: --drive d:=hd --drive e:=floppy --drive n:=network --drive q:=cdrom --drive r:=ramdisk --drive
-// s:=cdrom:empty Adding by browsing and by pointing at a window, while the program runs from a fixed disk.
+// desktop: --drive d:=hd --drive e:=floppy --drive n:=network --drive q:=cdrom --drive r:=ramdisk
+// Adding by browsing and by pointing at a window, while the program runs from a fixed disk.
 
 #include <doctest/doctest.h>
 
@@ -44,6 +44,12 @@ struct Adding {
   Program Running;
   AddBox Box{Running};
 };
+
+/// Takes the medium out of a drive of the test desktop.
+void PullOut(char letter) {
+  const std::string medium = std::string("Z:\\prefix\\drives\\") + static_cast<char>(letter | ' ');
+  std::filesystem::rename(medium, medium + ".out");
+}
 
 }  // namespace
 
@@ -122,6 +128,7 @@ TEST_CASE("a path is listed once, and a name once in any letter case") {
   box.Add("Notes");
   box.AwaitBanner("File");
 
+  box.Pick("b.txt");  // two clicks at one place soon make a double click
   box.Pick("a.txt");
   box.Add("Again");
   adding.Running.ExpectMessage(PathListed);
@@ -176,23 +183,19 @@ TEST_CASE("only what lies on a fixed disk is added, and a drive that is not read
     CHECK(box.Path() == root + "tool.exe");
     CHECK(box.Name() == "Tool");
   }
-  box.ChooseDrive('S');
+  PullOut('Q');
+  box.ChooseDrive('Q');
   adding.Running.ExpectMessage(NotReady);
   CHECK_BECOMES(box.Drive(), "r:");
   CHECK(IsWindowVisible(box.Find()));
 
-  // The medium is pulled out while the box shows it.
+  std::filesystem::create_directory("E:\\Folder");
   box.ChooseDrive('E');
   CHECK_BECOMES(box.Drive(), "e:");
-  std::filesystem::create_directory("E:\\Folder");
-  box.Click("Cancel");
-  adding.Running.AwaitBar();
-  box.Open();
-  std::filesystem::rename("Z:\\prefix\\drives\\e", "Z:\\prefix\\drives\\pulled");
+  PullOut('E');
   box.Enter("Folder");
   adding.Running.ExpectMessage(NotReady);
   CHECK_BECOMES(box.Drive(), "e:");
-  std::filesystem::rename("Z:\\prefix\\drives\\pulled", "Z:\\prefix\\drives\\e");
 }
 
 TEST_CASE("the finder takes the program behind a window, its own too, unless Escape breaks it off") {

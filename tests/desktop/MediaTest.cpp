@@ -79,10 +79,10 @@ HWND RememberButton(const Program& program) {
   return nullptr;
 }
 
-void CheckCompletion(Program& program, const std::string& typed, const std::string& line) {
+void CheckCompletion(Program& program, const std::string& code, const std::string& typed, const std::string& name) {
   program.AwaitBar();
-  program.TypeLine(typed);
-  CHECK_BECOMES(program.Line(), line);
+  program.TypeLine(code + typed);
+  CHECK_BECOMES(program.Line(), code + name);
 }
 
 const struct {
@@ -175,8 +175,8 @@ TEST_CASE("a list on a stick goes with it, and what lies on a computer waits for
     GiveDiskSerial(serial);
     Program program(stick);
     for (const auto& [option, name, code] : Kinds) {
-      CheckCompletion(program, code + "o", code + "Own " + name);
-      CheckCompletion(program, code + "di", home ? code + "Disk " + name : code + "di");
+      CheckCompletion(program, code, "o", "Own " + name);
+      CheckCompletion(program, code, "di", home ? "Disk " + name : "di");
     }
     if (!home) {
       const AddBox box(program);
