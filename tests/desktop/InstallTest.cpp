@@ -3,6 +3,7 @@
 #include <doctest/doctest.h>
 #include <shlobj.h>
 
+#include "desktop/Input.h"
 #include "desktop/Program.h"
 #include "desktop/Text.h"
 #include "desktop/Wait.h"
@@ -172,6 +173,9 @@ TEST_CASE("install, upgrade over a running copy, uninstall and come back, in a f
   {
     Program running(it.Program);
     running.AwaitBar();
+    running.TypeLine("p=nosuchprogram");
+    input::Press(VK_RETURN);
+    running.AwaitMessage();
     it.Uninstall("");
     CHECK(running.AwaitEnd() == 0);
   }
@@ -199,12 +203,12 @@ TEST_CASE("an installation that can't be done says so and leaves all as it was")
   CHECK(it.Install(it.Work.Path("full")) == NotDone);
   CHECK(Entry(L"DisplayName") == "(none)");
 
-  it.Work.Write(it.Name + "\\Vantor.exe", "held");
-  const HANDLE held =
-      CreateFileW(Wide(it.Program).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+  // A copy that waits for its first answer does not end when it is asked to.
+  it.Work.CopyProgram("Vantor.exe", it.Name + "\\Vantor.exe");
+  Program first(it.Program);
+  first.AwaitMessage();
   CHECK(it.Install(it.Work.Path(it.Name)) == NotDone);
-  CloseHandle(held);
-  CHECK(it.Work.Read(it.Name + "\\Vantor.exe") == "held");
+  CHECK(first.Running());
   CHECK_FALSE(Exists(it.Program + ".new"));
   CHECK(Entry(L"DisplayName") == "(none)");
 }
