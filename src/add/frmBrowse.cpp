@@ -38,29 +38,26 @@ frmBrowse::frmBrowse(form::UserInterface& ui, const BrowseParts& parts)
 }
 
 void frmBrowse::ConnectEvents() {
-  // Each handler stands in an error trap of its own name.
-  const auto on = [this](auto& event, std::wstring_view name, auto handler) {
-    event = [this, name, handler](auto&&... args) { parts_.Messages.Trap(name, [&] { (this->*handler)(args...); }); };
-  };
+  message::Messages& messages = parts_.Messages;
   for (int index = 0; form::OptionButton & option : OptionBrowse) {
     option.Click = [this, kind = static_cast<AddKind>(index++)] {
       parts_.Messages.Trap(L"OptionBrowse_Click", [&] { OptionBrowse_Click(kind); });
     };
   }
-  on(DriveWork.Change, L"DriveWork_Change", &frmBrowse::DriveWork_Change);
-  on(DirWork.Change, L"DirWork_Change", &frmBrowse::DirWork_Change);
-  on(DirWork.Unreachable, L"DirWork_Unreachable", &frmBrowse::DirWork_Unreachable);
-  on(FileWork.Click, L"FileWork_Click", &frmBrowse::FileWork_Click);
-  on(FileWork.DblClick, L"FileWork_DblClick", &frmBrowse::FileWork_DblClick);
-  on(TextAddPath.Change, L"TextAddPath_Change", &frmBrowse::TextAddPath_Change);
-  on(TextAddName.Change, L"TextAddName_Change", &frmBrowse::TextAddName_Change);
-  on(TextAddName.KeyPress, L"TextAddName_KeyPress", &frmBrowse::TextAddName_KeyPress);
-  on(CommandAddOK.Click, L"CommandAddOK_Click", &frmBrowse::CommandAddOK_Click);
-  on(CommandAddCancel.Click, L"CommandAddCancel_Click", &frmBrowse::CommandAddCancel_Click);
-  on(CommandSelectOK.Click, L"CommandSelectOK_Click", &frmBrowse::CommandSelectOK_Click);
-  on(CommandFindPath.MouseDown, L"FindExecutableDown", &frmBrowse::CommandFindPath_MouseDown);
-  on(CommandFindPath.MouseUp, L"FindExecutableUp", &frmBrowse::CommandFindPath_MouseUp);
-  on(TimerFindPath.Tick, L"FindExecutableTick", &frmBrowse::TimerFindPath_Timer);
+  messages.Connect(DriveWork.Change, L"DriveWork_Change", this, &frmBrowse::DriveWork_Change);
+  messages.Connect(DirWork.Change, L"DirWork_Change", this, &frmBrowse::DirWork_Change);
+  messages.Connect(DirWork.Unreachable, L"DirWork_Unreachable", this, &frmBrowse::DirWork_Unreachable);
+  messages.Connect(FileWork.Click, L"FileWork_Click", this, &frmBrowse::FileWork_Click);
+  messages.Connect(FileWork.DblClick, L"FileWork_DblClick", this, &frmBrowse::FileWork_DblClick);
+  messages.Connect(TextAddPath.Change, L"TextAddPath_Change", this, &frmBrowse::TextAddPath_Change);
+  messages.Connect(TextAddName.Change, L"TextAddName_Change", this, &frmBrowse::TextAddName_Change);
+  messages.Connect(TextAddName.KeyPress, L"TextAddName_KeyPress", this, &frmBrowse::TextAddName_KeyPress);
+  messages.Connect(CommandAddOK.Click, L"CommandAddOK_Click", this, &frmBrowse::CommandAddOK_Click);
+  messages.Connect(CommandAddCancel.Click, L"CommandAddCancel_Click", this, &frmBrowse::CommandAddCancel_Click);
+  messages.Connect(CommandSelectOK.Click, L"CommandSelectOK_Click", this, &frmBrowse::CommandSelectOK_Click);
+  messages.Connect(CommandFindPath.MouseDown, L"FindExecutableDown", this, &frmBrowse::CommandFindPath_MouseDown);
+  messages.Connect(CommandFindPath.MouseUp, L"FindExecutableUp", this, &frmBrowse::CommandFindPath_MouseUp);
+  messages.Connect(TimerFindPath.Tick, L"FindExecutableTick", this, &frmBrowse::TimerFindPath_Timer);
   FrameAddedInfo.Click = [this] { FrameAddedInfo.SetVisible(false); };
 }
 

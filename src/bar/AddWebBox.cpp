@@ -38,23 +38,17 @@ AddWebBox::AddWebBox(form::Form& bar, const list::LaunchList& list, const servic
   LabelWebName.SetTransparent(false);
   TextWebName.SetAccessibleName(L"Launch Name");
   CommandAddWeb.SetCaption(L"Add");
-  CommandAddWeb.SetPicture(form::Picture::ButtonNormal);
-  CommandAddWeb.SetDownPicture(form::Picture::ButtonPressed);
-  CommandAddWeb.SetDisabledPicture(form::Picture::ButtonDisabled);
+  CommandAddWeb.SetPictures(form::Picture::ButtonNormal, form::Picture::ButtonPressed, form::Picture::ButtonDisabled);
   FrameAddedInfo.SetCaption(AddedCaption);
   FrameAddedInfo.SetBackColor(form::Color::LineBlue);
   FrameAddedInfo.SetVisible(false);
   PictureNo.SetTabStop(false);
   EnableByText();
 
-  // Each handler stands in an error trap of its own name.
-  const auto on = [this](auto& event, std::wstring_view name, auto handler) {
-    event = [this, name, handler](auto&&... args) { messages_.Trap(name, [&] { (this->*handler)(args...); }); };
-  };
-  on(TextWebUrl.Change, L"TextWebUrl_Change", &AddWebBox::TextWebUrl_Change);
-  on(TextWebName.Change, L"TextWebName_Change", &AddWebBox::TextWebName_Change);
-  on(TextWebName.KeyPress, L"TextWebName_KeyPress", &AddWebBox::TextWebName_KeyPress);
-  on(CommandAddWeb.Click, L"CommandAddWeb_Click", &AddWebBox::CommandAddWeb_Click);
+  messages_.Connect(TextWebUrl.Change, L"TextWebUrl_Change", this, &AddWebBox::TextWebUrl_Change);
+  messages_.Connect(TextWebName.Change, L"TextWebName_Change", this, &AddWebBox::TextWebName_Change);
+  messages_.Connect(TextWebName.KeyPress, L"TextWebName_KeyPress", this, &AddWebBox::TextWebName_KeyPress);
+  messages_.Connect(CommandAddWeb.Click, L"CommandAddWeb_Click", this, &AddWebBox::CommandAddWeb_Click);
   FrameAddedInfo.Click = [this] { FrameAddedInfo.SetVisible(false); };
 }
 

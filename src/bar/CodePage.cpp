@@ -11,12 +11,6 @@ namespace {
 
 using form::Twips;
 
-constexpr Twips Margin = 120;
-constexpr Twips CaptionHeight = 300;
-constexpr Twips ColumnGap = 360;
-constexpr Twips UnderHead = 45;
-constexpr Twips SectionGap = 180;
-
 constexpr std::wstring_view Letters = L"p\r\nf\r\nd\r\ne\r\nw\r\nt\r\nc";
 constexpr std::wstring_view Items =
     L"Program\r\nFile\r\nDirectory/Folder\r\nEmail Address\r\nWeb Address (URL)\r\nTelephone Number\r\n"
@@ -72,25 +66,22 @@ void CodePage::Prepare() {
 
 form::Size CodePage::LayOut() {
   const Twips chartWidth = std::max(first_.Width(), second_.Width());
-  Twips bottom = first_.PlaceAt(Margin, CaptionHeight, chartWidth);
-  bottom = second_.PlaceAt(Margin, bottom + SectionGap, chartWidth);
+  Twips bottom = first_.PlaceAt(PageMargin, PageTop, chartWidth);
+  bottom = second_.PlaceAt(PageMargin, bottom + SectionGap, chartWidth);
   const Twips boxTop = bottom + SectionGap;
-  const Twips boxInside = substitute_.PlaceAt(Margin, CaptionHeight, chartWidth - 2 * Margin);
-  FrameSubstitute.SetBounds({Margin, boxTop, chartWidth, boxInside + Margin});
+  const Twips boxInside = substitute_.PlaceAt(PageMargin, PageTop, chartWidth - 2 * PageMargin);
+  FrameSubstitute.SetBounds({PageMargin, boxTop, chartWidth, boxInside + PageMargin});
   bottom = FrameSubstitute.Bottom();
 
-  const Twips left = Margin + chartWidth + ColumnGap;
-  const Twips listsTop = Place(predefined_, left, CaptionHeight, WidthOf(predefined_)) + UnderHead;
-  const auto place = [](const Words& words, Twips at, Twips top, Twips width) {
-    return Place(words.List, at, Place(words.Head, at, top, width) + UnderHead, width);
-  };
+  const Twips left = PageMargin + chartWidth + ColumnGap;
+  const Twips listsTop = Place(predefined_, left, PageTop, WidthOf(predefined_)) + UnderHead;
   // The longest list stands beside the other two.
   const Twips width = std::max(folders_.Width(), mails_.Width());
-  const Twips mailsTop = place(folders_, left, listsTop, width) + SectionGap;
-  bottom = std::max(bottom, place(mails_, left, mailsTop, width));
+  const Twips mailsTop = folders_.PlaceAt(left, listsTop, width) + SectionGap;
+  bottom = std::max(bottom, mails_.PlaceAt(left, mailsTop, width));
   const Twips last = left + width + ColumnGap;
-  bottom = std::max(bottom, place(controlPanel_, last, listsTop, controlPanel_.Width()));
-  return {last + controlPanel_.Width() + Margin, bottom + Margin};
+  bottom = std::max(bottom, controlPanel_.PlaceAt(last, listsTop, controlPanel_.Width()));
+  return {last + controlPanel_.Width() + PageMargin, bottom + PageMargin};
 }
 
 }  // namespace vantor::bar

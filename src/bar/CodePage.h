@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <functional>
 #include <string_view>
 
@@ -28,23 +27,15 @@ class CodePage : public list::ChoosePage {
   void Prepare() override;
 
  private:
-  /// A list of code words under its head.
-  struct Words {
-    form::Label& Head;
-    form::Label& List;
-
-    [[nodiscard]] form::Twips Width() const { return std::max(WidthOf(Head), WidthOf(List)); }
-  };
-
   PageText text_;
   TextTable first_;
   TextTable second_;
   form::Label& substituteWhen_;
   TextTable substitute_;
   form::Label& predefined_;
-  Words folders_;
-  Words controlPanel_;
-  Words mails_;
+  TextSection folders_;
+  TextSection controlPanel_;
+  TextSection mails_;
 };
 
 }  // namespace vantor::bar

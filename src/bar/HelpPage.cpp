@@ -8,11 +8,6 @@ namespace {
 
 using form::Twips;
 
-constexpr Twips Margin = 120;
-constexpr Twips CaptionHeight = 300;
-constexpr Twips ColumnGap = 360;
-constexpr Twips UnderHead = 45;
-constexpr Twips SectionGap = 180;
 constexpr Twips LineHeight = 315;
 constexpr Twips ProseWidth = 4200;
 
@@ -67,21 +62,17 @@ void HelpPage::Prepare() { TextHelpFolder.SetText(environment_.DataFolder); }
 
 form::Size HelpPage::LayOut() {
   const Twips tablesWidth = std::max(typing_.Width(), buttons_.Width());
-  Twips left = Margin;
-  Twips bottom = typing_.PlaceAt(left, CaptionHeight, tablesWidth) + UnderHead;
+  Twips left = PageMargin;
+  Twips bottom = typing_.PlaceAt(left, PageTop, tablesWidth) + UnderHead;
   bottom = Place(completion_, left, bottom, tablesWidth);
   bottom = buttons_.PlaceAt(left, bottom + SectionGap, tablesWidth);
 
   left += tablesWidth + ColumnGap;
-  const auto place = [left](const Paragraph& paragraph, Twips top) {
-    const Twips under = Place(paragraph.Head, left, top, ProseWidth) + UnderHead;
-    return Place(paragraph.Text, left, under, ProseWidth);
-  };
-  Twips y = place(adding_, CaptionHeight);
-  y = place(data_, y + SectionGap);
+  Twips y = adding_.PlaceAt(left, PageTop, ProseWidth);
+  y = data_.PlaceAt(left, y + SectionGap, ProseWidth);
   TextHelpFolder.SetBounds({left, y + UnderHead, ProseWidth, LineHeight});
-  y = place(stick_, TextHelpFolder.Bottom() + SectionGap);
-  return {left + ProseWidth + Margin, std::max(bottom, y) + Margin};
+  y = stick_.PlaceAt(left, TextHelpFolder.Bottom() + SectionGap, ProseWidth);
+  return {left + ProseWidth + PageMargin, std::max(bottom, y) + PageMargin};
 }
 
 }  // namespace vantor::bar

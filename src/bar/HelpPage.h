@@ -25,19 +25,14 @@ class HelpPage : public list::ChoosePage {
   void Prepare() override;
 
  private:
-  struct Paragraph {
-    form::Label& Head;
-    form::Label& Text;
-  };
-
   const start::Environment& environment_;
   PageText text_;
   TextTable typing_;
   form::Label& completion_;
   TextTable buttons_;
-  Paragraph adding_;
-  Paragraph data_;
-  Paragraph stick_;
+  TextSection adding_;
+  TextSection data_;
+  TextSection stick_;
 };
 
 }  // namespace vantor::bar

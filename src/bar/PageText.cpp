@@ -11,7 +11,6 @@ namespace {
 using form::Twips;
 
 constexpr Twips BetweenColumns = 180;
-constexpr Twips UnderHead = 45;
 // More than any line needs, so that none is broken.
 constexpr Twips AnyWidth = 30000;
 

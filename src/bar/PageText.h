@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <deque>
 #include <string_view>
 
@@ -22,6 +23,25 @@ class PageText {
 [[nodiscard]] form::Twips WidthOf(const form::Label& label);
 /// Places a label, as high as its text needs at this width. Returns its lower edge.
 form::Twips Place(form::Label& label, form::Twips left, form::Twips top, form::Twips width);
+
+// What the pages of text keep to.
+inline constexpr form::Twips PageMargin = 120;
+inline constexpr form::Twips PageTop = 300;  // from a frame's top to what is in it
+inline constexpr form::Twips UnderHead = 45;
+inline constexpr form::Twips ColumnGap = 360;
+inline constexpr form::Twips SectionGap = 180;
+
+/// A head and what stands under it.
+struct TextSection {
+  form::Label& Head;
+  form::Label& Text;
+
+  [[nodiscard]] form::Twips Width() const { return std::max(WidthOf(Head), WidthOf(Text)); }
+  /// Returns the lower edge.
+  form::Twips PlaceAt(form::Twips left, form::Twips top, form::Twips width) const {
+    return Place(Text, left, Place(Head, left, top, width) + UnderHead, width);
+  }
+};
 
 /// Two labels whose lines belong together, line by line, under a head.
 struct TextTable {

@@ -82,23 +82,20 @@ void frmMain::NameControls() {
 }
 
 void frmMain::HandleEvents() {
-  // Each handler stands in an error trap of its own name.
-  const auto on = [this](auto& event, std::wstring_view name, auto handler) {
-    event = [this, name, handler](auto&&... args) { parts_.Messages.Trap(name, [&] { (this->*handler)(args...); }); };
-  };
-  on(CommandWeb.Click, L"CommandWeb_Click", &frmMain::CommandWeb_Click);
+  message::Messages& messages = parts_.Messages;
+  messages.Connect(CommandWeb.Click, L"CommandWeb_Click", this, &frmMain::CommandWeb_Click);
   for (std::size_t i = 0; i < menu::Count; ++i) {
     CommandMenu[i].Click = [this, i] {
       parts_.Messages.Trap(L"CommandMenu_Click", [this, i] { CommandMenu_Click(i); });
     };
   }
-  on(CommandMin.Click, L"CommandMin_Click", &frmMain::CommandMin_Click);
-  on(CommandExit.Click, L"CommandExit_Click", &frmMain::CommandExit_Click);
-  on(TextMain.KeyPress, L"TextMain_KeyPress", &frmMain::TextMain_KeyPress);
-  on(TextMain.Change, L"TextMain_Change", &frmMain::TextMain_Change);
-  on(TextMain.DblClick, L"TextMain_DblClick", &frmMain::EmptyTextMain);
-  on(TimerOnTop.Tick, L"TimerOnTop_Timer", &frmMain::TimerOnTop_Timer);
-  on(TimerWatchOnTop.Tick, L"TimerWatchOnTop_Timer", &frmMain::TimerWatchOnTop_Timer);
+  messages.Connect(CommandMin.Click, L"CommandMin_Click", this, &frmMain::CommandMin_Click);
+  messages.Connect(CommandExit.Click, L"CommandExit_Click", this, &frmMain::CommandExit_Click);
+  messages.Connect(TextMain.KeyPress, L"TextMain_KeyPress", this, &frmMain::TextMain_KeyPress);
+  messages.Connect(TextMain.Change, L"TextMain_Change", this, &frmMain::TextMain_Change);
+  messages.Connect(TextMain.DblClick, L"TextMain_DblClick", this, &frmMain::EmptyTextMain);
+  messages.Connect(TimerOnTop.Tick, L"TimerOnTop_Timer", this, &frmMain::TimerOnTop_Timer);
+  messages.Connect(TimerWatchOnTop.Tick, L"TimerWatchOnTop_Timer", this, &frmMain::TimerWatchOnTop_Timer);
   Web.Added = [this] { ClearTextMain(); };
   parts_.Starters.Started = [this] { EmptyTextMain(); };
   commandLine_.Hooks.Minimize = [this] { CommandMin.DoClick(); };
@@ -137,9 +134,7 @@ void frmMain::LayOut() {
   TextMain.SetBackColor(form::Color::LineBlue);
   ImageLauncher.SetPicture(form::Picture::Launcher);
   const auto dress = [](form::CommandButton& button, form::Picture picture) {
-    button.SetPicture(picture);
-    button.SetDownPicture(BButton[1]);
-    button.SetDisabledPicture(BButton[2]);
+    button.SetPictures(picture, BButton[1], BButton[2]);
   };
   for (form::CommandButton& button : CommandMenu) dress(button, BButton[0]);
   dress(CommandWeb, BButton[6]);

@@ -16,15 +16,11 @@ void CommandButton::SetPicture(form::Picture picture) {
   NotifyWindow(Property::Picture);
 }
 
-void CommandButton::SetDownPicture(form::Picture picture) {
-  if (downPicture_ == picture) return;
-  downPicture_ = picture;
-  NotifyWindow(Property::Picture);
-}
-
-void CommandButton::SetDisabledPicture(form::Picture picture) {
-  if (disabledPicture_ == picture) return;
-  disabledPicture_ = picture;
+void CommandButton::SetPictures(form::Picture normal, form::Picture down, form::Picture disabled) {
+  if (picture_ == normal && downPicture_ == down && disabledPicture_ == disabled) return;
+  picture_ = normal;
+  downPicture_ = down;
+  disabledPicture_ = disabled;
   NotifyWindow(Property::Picture);
 }
 
@@ -44,34 +40,29 @@ void CommandButton::InputMouseUp(MouseButton button) {
   if (AcceptsInput()) MouseUp(button);
 }
 
-void CheckBox::SetCaption(std::wstring_view caption) {
+void ChoiceButton::SetCaption(std::wstring_view caption) {
   if (caption_ == caption) return;
   caption_ = caption;
   NotifyWindow(Property::Caption);
+}
+
+bool ChoiceButton::ChangeValue(bool value) {
+  if (value_ == value) return false;
+  value_ = value;
+  NotifyWindow(Property::Value);
+  return true;
 }
 
 void CheckBox::SetValue(bool value) {
-  if (value_ == value) return;
-  value_ = value;
-  NotifyWindow(Property::Value);
-  Click();
+  if (ChangeValue(value)) Click();
 }
 
 void CheckBox::InputClick() {
-  if (AcceptsInput()) SetValue(!value_);
-}
-
-void OptionButton::SetCaption(std::wstring_view caption) {
-  if (caption_ == caption) return;
-  caption_ = caption;
-  NotifyWindow(Property::Caption);
+  if (AcceptsInput()) SetValue(!Value());
 }
 
 void OptionButton::SetValue(bool value) {
-  if (value_ == value) return;
-  value_ = value;
-  NotifyWindow(Property::Value);
-  if (!value) return;
+  if (!ChangeValue(value) || !value) return;
   for (Control* other : OwnerForm().Controls()) {
     if (other == this || other->Kind() != ControlKind::OptionButton || other->Container() != Container()) continue;
     static_cast<OptionButton*>(other)->SetValue(false);

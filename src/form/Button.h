@@ -25,8 +25,7 @@ class CommandButton : public Control {
   [[nodiscard]] form::Picture DownPicture() const { return downPicture_; }
   [[nodiscard]] form::Picture DisabledPicture() const { return disabledPicture_; }
   void SetPicture(form::Picture picture);
-  void SetDownPicture(form::Picture picture);
-  void SetDisabledPicture(form::Picture picture);
+  void SetPictures(form::Picture normal, form::Picture down, form::Picture disabled);
 
   /// A label that is drawn over the button's face instead of beside it, also over a disabled face. The label
   /// then has no window of its own, and its caption is the button's accessible name.
@@ -53,44 +52,47 @@ class CommandButton : public Control {
   const Label* faceLabel_ = nullptr;
 };
 
-/// A box that is ticked or not. Setting the value raises Click, as a click of the user's does.
-class CheckBox : public Control {
+/// What is ticked or not: check boxes and option buttons.
+class ChoiceButton : public Control {
  public:
-  template <class Parent>
-  CheckBox(Parent& parent, std::wstring_view name) : Control(parent, name, ControlKind::CheckBox) {}
-
   [[nodiscard]] const std::wstring& Caption() const { return caption_; }
   void SetCaption(std::wstring_view caption);
   [[nodiscard]] bool Value() const { return value_; }
-  void SetValue(bool value);
+  virtual void SetValue(bool value) = 0;
 
   Event<> Click;
 
-  void InputClick();
+  virtual void InputClick() = 0;
+
+ protected:
+  using Control::Control;
+
+  /// Whether the value was another one.
+  bool ChangeValue(bool value);
 
  private:
   std::wstring caption_;
   bool value_ = false;
 };
 
-/// One of the option buttons of its container. Choosing it clears the others, raising Click on itself only.
-class OptionButton : public Control {
+/// A box that is ticked or not. Setting the value raises Click, as a click of the user's does.
+class CheckBox : public ChoiceButton {
  public:
   template <class Parent>
-  OptionButton(Parent& parent, std::wstring_view name) : Control(parent, name, ControlKind::OptionButton) {}
+  CheckBox(Parent& parent, std::wstring_view name) : ChoiceButton(parent, name, ControlKind::CheckBox) {}
 
-  [[nodiscard]] const std::wstring& Caption() const { return caption_; }
-  void SetCaption(std::wstring_view caption);
-  [[nodiscard]] bool Value() const { return value_; }
-  void SetValue(bool value);
+  void SetValue(bool value) override;
+  void InputClick() override;
+};
 
-  Event<> Click;
+/// One of the option buttons of its container. Choosing it clears the others, raising Click on itself only.
+class OptionButton : public ChoiceButton {
+ public:
+  template <class Parent>
+  OptionButton(Parent& parent, std::wstring_view name) : ChoiceButton(parent, name, ControlKind::OptionButton) {}
 
-  void InputClick();
-
- private:
-  std::wstring caption_;
-  bool value_ = false;
+  void SetValue(bool value) override;
+  void InputClick() override;
 };
 
 }  // namespace vantor::form

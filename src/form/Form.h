@@ -39,7 +39,8 @@ struct DroppedItems {
 };
 
 enum class WindowState { Normal, Minimized };
-enum class BorderStyle { None, Dialog };
+/// Line: a thin edge inside the bounds.
+enum class BorderStyle { None, Line, Dialog };
 
 /// A top-level window with controls. It exists without being loaded; loading runs its Load handler once, and
 /// showing it loads it first. Unloading asks nobody, runs the Unload handler and takes the window away; the

@@ -19,7 +19,7 @@ constexpr Twips Margin = 120;
 constexpr Twips Gap = 60;
 constexpr Twips CaptionHeight = 270;  // from the frame's top to what is in it
 constexpr Twips LineHeight = 330;
-constexpr Twips LabelTop = 60;  // brings a label's text to the height of the text in the box beside it
+constexpr Twips LabelTop = 75;  // brings a label's text to the height of the text in the box beside it
 constexpr Twips LabelHeight = 210;
 
 std::wstring ControlName(std::wstring_view kind, std::wstring_view code, std::wstring_view what) {
@@ -74,11 +74,8 @@ void GroupFrame::Dress(const GroupTexts& texts) {
 }
 
 void GroupFrame::ConnectEvents() {
-  // Each handler stands in an error trap of its own name.
-  const auto on = [this](form::Control& control, auto& event, std::wstring_view what, auto handler) {
-    event = [this, name = control.Name() + std::wstring(what), handler](auto&&... args) {
-      messages_.Trap(name, [&] { (this->*handler)(args...); });
-    };
+  const auto on = [this](const form::Control& control, auto& event, std::wstring_view what, auto handler) {
+    messages_.Connect(event, control.Name() + std::wstring(what), this, handler);
   };
   on(Name, Name.Click, L"_Click", &GroupFrame::Name_Click);
   on(Path, Path.Click, L"_Click", &GroupFrame::Path_Click);
@@ -119,7 +116,7 @@ Twips GroupFrame::LayOut(Twips left, Twips top, Twips width) {
 
   FrameRename.SetBounds({Gap, y, width - 2 * Gap, ButtonHeight});
   const Twips inside = Margin - Gap;
-  LabelNewName.SetBounds({inside, LabelTop + (ButtonHeight - LineHeight) / 2, labelWidth, LabelHeight});
+  LabelNewName.SetBounds({inside, (ButtonHeight - LabelHeight) / 2, labelWidth, LabelHeight});
   const Twips buttons = ButtonWidth(LabelRenOK) + Gap + ButtonWidth(LabelRenCancel);
   const Twips textLeft = boxLeft - Gap;
   x = FrameRename.Width() - inside - buttons;
@@ -187,6 +184,10 @@ void GroupFrame::RenOK_Click() {
     return;
   }
   Name.SetList(Name.ListIndex(), newName);
+  RenCancel_Click();
+}
+
+void GroupFrame::RenCancel_Click() {
   ShowRename(false);
   Rename.SetFocus();
 }

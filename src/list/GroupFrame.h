@@ -66,7 +66,7 @@ class GroupFrame {
   void TextRename_Change();
   void TextRename_KeyPress(wchar_t& character);
   void RenOK_Click();
-  void RenCancel_Click() { ShowRename(false); }
+  void RenCancel_Click();
 
   void ShowRename(bool visible);
   void EnableByCount();

@@ -10,7 +10,7 @@ namespace {
 
 using form::Twips;
 
-constexpr Twips Margin = 120;
+constexpr Twips Gap = 120;
 constexpr Twips GroupWidth = 5580;  // two beside each other fit a screen of 800 pixels
 
 }  // namespace
@@ -43,11 +43,10 @@ bool ListPage::Empty() const {
 }
 
 form::Size ListPage::LayOut() {
-  const Twips second = Margin + GroupWidth + Margin;
-  const Twips upper = std::max(Prog.LayOut(Margin, Margin, GroupWidth), File.LayOut(second, Margin, GroupWidth));
-  const Twips lowerTop = Margin + upper + Margin;
-  const Twips lower = std::max(Fold.LayOut(Margin, lowerTop, GroupWidth), Web.LayOut(second, lowerTop, GroupWidth));
-  return {second + GroupWidth + Margin, lowerTop + lower + Margin};
+  constexpr Twips Second = GroupWidth + Gap;
+  const Twips lowerTop = std::max(Prog.LayOut(0, 0, GroupWidth), File.LayOut(Second, 0, GroupWidth)) + Gap;
+  const Twips lower = std::max(Fold.LayOut(0, lowerTop, GroupWidth), Web.LayOut(Second, lowerTop, GroupWidth));
+  return {Second + GroupWidth, lowerTop + lower};
 }
 
 void ListPage::Prepare() {

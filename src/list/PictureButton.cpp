@@ -10,9 +10,7 @@ namespace vantor::list {
 void DressButton(form::CommandButton& button, form::Label& label, std::wstring_view caption) {
   label.SetCaption(caption);
   button.SetFaceLabel(label);
-  button.SetPicture(form::Picture::ButtonNormal);
-  button.SetDownPicture(form::Picture::ButtonPressed);
-  button.SetDisabledPicture(form::Picture::ButtonDisabled);
+  button.SetPictures(form::Picture::ButtonNormal, form::Picture::ButtonPressed, form::Picture::ButtonDisabled);
 }
 
 void PlaceButton(form::CommandButton& button, form::Label& label, const form::Rect& place) {

@@ -7,7 +7,6 @@ namespace vantor::list {
 namespace {
 
 constexpr form::Twips Margin = 120;
-constexpr form::Twips EdgeMargin = 60;  // around a page whose frame has an edge
 
 }  // namespace
 
@@ -15,11 +14,10 @@ frmChoose::frmChoose(form::UserInterface& ui, ListFiles& files, const service::L
                      message::Messages& messages)
     : Form(ui, L"frmChoose"), Page(*this, language, messages), files_(files), messages_(messages) {
   Page.FrameList.SetVisible(false);
+  SetBorderStyle(form::BorderStyle::Line);
   FrameCancel.SetBorder(false);
   DressButton(CommandListCancel, LabelListCancel, L"Cancel");
-  CommandListCancel.Click = [this] {
-    messages_.Trap(L"CommandListCancel_Click", [this] { CommandListCancel_Click(); });
-  };
+  messages_.Connect(CommandListCancel.Click, L"CommandListCancel_Click", this, &frmChoose::CommandListCancel_Click);
   for (const LaunchGroup group : LaunchGroups) {
     Page.Of(group).Start = [this, group](std::wstring_view target) { Start(group, target); };
   }
@@ -36,9 +34,8 @@ void frmChoose::ShowPage(ChoosePage& page) {
   SetCaption(page.Title());
   page.Prepare();
   const form::Size content = page.LayOut();
-  const form::Twips edge = page.Frame().Border() ? EdgeMargin : 0;
-  page.Frame().SetBounds({edge, edge, content.Width, content.Height});
-  const form::Size size{content.Width + 2 * edge, content.Height + 2 * edge};
+  page.Frame().SetBounds({Margin, Margin, content.Width, content.Height});
+  const form::Size size{content.Width + 2 * Margin, content.Height + 2 * Margin};
   page.Frame().SetVisible(true);
 
   const bool closes = !page.CloseCaption().empty();

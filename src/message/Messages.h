@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "form/UserInterface.h"
 #include "message/Catalogue.h"
@@ -56,6 +57,13 @@ class Messages {
   /// The error trap of a routine: runs `body`; an exception sets the bug key of the routine's name ("Bug-Vantor-"
   /// and the name) and asks whether to report it. Throws only if that question can't be shown.
   void Trap(std::wstring_view routine, const std::function<void()>& body);
+  /// Makes a member of `owner` the handler of an event, in an error trap of the routine's name.
+  template <class Event, class Name, class Owner, class Handler>
+  void Connect(Event& event, Name routine, Owner* owner, Handler handler) {
+    event = [this, routine = std::move(routine), owner, handler](auto&&... args) {
+      Trap(routine, [&] { (owner->*handler)(args...); });
+    };
+  }
   /// What the trap does about an error. While one such question is open, further errors are passed over.
   void ReportBug(std::wstring_view routine);
 

@@ -40,9 +40,7 @@ constexpr ButtonSet ButtonSets[] = {
 void DressButton(form::CommandButton& button, const form::Label& label) {
   button.SetEnabled(false);
   button.SetFaceLabel(label);
-  button.SetPicture(form::Picture::ButtonNormal);
-  button.SetDownPicture(form::Picture::ButtonPressed);
-  button.SetDisabledPicture(form::Picture::ButtonDisabled);
+  button.SetPictures(form::Picture::ButtonNormal, form::Picture::ButtonPressed, form::Picture::ButtonDisabled);
 }
 
 }  // namespace

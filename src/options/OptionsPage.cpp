@@ -47,19 +47,19 @@ void OptionsPage::Dress() {
 }
 
 void OptionsPage::ConnectEvents() {
-  // Each handler stands in an error trap of its own name.
-  const auto on = [this](form::CommandButton& button, std::wstring_view name, void (OptionsPage::*handler)()) {
-    button.Click = [this, name, handler] { parts_.Messages.Trap(name, [&] { (this->*handler)(); }); };
-  };
+  message::Messages& messages = parts_.Messages;
   for (std::size_t i = 0; i < Count; ++i) {
     CheckOptionMain[i].Click = [this, i] {
       parts_.Messages.Trap(L"CheckOptionMain_Click", [&] { CheckOptionMain_Click(i); });
     };
   }
-  on(CommandOptionOK, L"CommandOptionOK_Click", &OptionsPage::CommandOptionOK_Click);
-  on(CommandOptionCancel, L"CommandOptionCancel_Click", &OptionsPage::CommandOptionCancel_Click);
-  on(CommandOptionShortcut, L"CommandOptionShortcut_Click", &OptionsPage::CommandOptionShortcut_Click);
-  on(CommandOptionRemember, L"CommandOptionRemember_Click", &OptionsPage::CommandOptionRemember_Click);
+  messages.Connect(CommandOptionOK.Click, L"CommandOptionOK_Click", this, &OptionsPage::CommandOptionOK_Click);
+  messages.Connect(CommandOptionCancel.Click, L"CommandOptionCancel_Click", this,
+                   &OptionsPage::CommandOptionCancel_Click);
+  messages.Connect(CommandOptionShortcut.Click, L"CommandOptionShortcut_Click", this,
+                   &OptionsPage::CommandOptionShortcut_Click);
+  messages.Connect(CommandOptionRemember.Click, L"CommandOptionRemember_Click", this,
+                   &OptionsPage::CommandOptionRemember_Click);
 }
 
 form::Size OptionsPage::LayOut() {

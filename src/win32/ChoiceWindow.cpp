@@ -6,8 +6,8 @@
 
 namespace vantor::win32 {
 
-ChoiceWindow::ChoiceWindow(FormWindow& owner, form::Control& control, DWORD style)
-    : ControlWindow(owner, control, {L"BUTTON", WS_TABSTOP | style}) {}
+ChoiceWindow::ChoiceWindow(FormWindow& owner, form::ChoiceButton& button, DWORD style)
+    : ControlWindow(owner, button, {L"BUTTON", WS_TABSTOP | style}), button_(button) {}
 
 void ChoiceWindow::Refresh() {
   ControlWindow::Refresh();
@@ -17,18 +17,18 @@ void ChoiceWindow::Refresh() {
 
 void ChoiceWindow::Show(form::Property property) {
   if (property == form::Property::Caption) {
-    std::wstring text = Caption();
+    std::wstring text = button_.Caption();
     // An ampersand would underline the letter behind it.
     for (std::size_t at = text.find(L'&'); at != std::wstring::npos; at = text.find(L'&', at + 2))
       text.insert(at, 1, L'&');
     ShowWindowText(text);
   } else if (property == form::Property::Value) {
-    SendMessageW(Hwnd(), BM_SETCHECK, Value() ? BST_CHECKED : BST_UNCHECKED, 0);
+    SendMessageW(Hwnd(), BM_SETCHECK, button_.Value() ? BST_CHECKED : BST_UNCHECKED, 0);
   }
 }
 
 void ChoiceWindow::OnCommand(WORD notification) {
-  if (notification == BN_CLICKED && !focusing_) Click();
+  if (notification == BN_CLICKED && !focusing_) button_.InputClick();
 }
 
 HBRUSH ChoiceWindow::OnColor(HDC dc) {

@@ -266,7 +266,7 @@ LRESULT ComboWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     default:
       break;
   }
-  return ControlWindow::OnMessage(message, wParam, lParam);
+  return OnMessageWithEdge(message, wParam, lParam, std::max(static_cast<int>(Scale()), 1));
 }
 
 }  // namespace vantor::win32

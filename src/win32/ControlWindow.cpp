@@ -227,6 +227,30 @@ COLORREF ControlWindow::Ground() const {
   return Look().Background(owner_.Form().BackColor());
 }
 
+COLORREF ControlWindow::EdgeColor() const {
+  const Palette& colors = Look().Colors();
+  if (!control_.Enabled()) return colors.Disabled.Edge;
+  return GetFocus() == handle_ ? colors.Focus : colors.Line;
+}
+
+LRESULT ControlWindow::OnMessageWithEdge(UINT message, WPARAM wParam, LPARAM lParam, int thickness) {
+  const LRESULT result = ControlWindow::OnMessage(message, wParam, lParam);
+  const bool drawn = message == WM_PAINT || message == WM_NCPAINT || message == WM_ENABLE || message == WM_SETFOCUS ||
+                     message == WM_KILLFOCUS;
+  if (!drawn || Retired()) return result;
+  RECT edge;
+  GetWindowRect(handle_, &edge);
+  OffsetRect(&edge, -edge.left, -edge.top);
+  const HDC dc = GetWindowDC(handle_);
+  const HBRUSH brush = Look().Brush(EdgeColor());
+  for (; thickness > 0; --thickness) {
+    FrameRect(dc, &edge, brush);
+    InflateRect(&edge, -1, -1);
+  }
+  ReleaseDC(handle_, dc);
+  return result;
+}
+
 void ControlWindow::DrawBackdrop(Canvas& canvas) const {
   const form::Control* const container = control_.Container();
   COLORREF ground = Look().Background(owner_.Form().BackColor());

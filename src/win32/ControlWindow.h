@@ -76,6 +76,10 @@ class ControlWindow : public form::ControlWindow {
   void PaintWindow();
   /// The colour of the ground that the control stands on, or has.
   [[nodiscard]] COLORREF Ground() const;
+  /// The colour of the window's edge, which tells whether it has the focus.
+  [[nodiscard]] COLORREF EdgeColor() const;
+  /// Passes a message on, and draws an edge over the system's own wherever that may have been drawn again.
+  LRESULT OnMessageWithEdge(UINT message, WPARAM wParam, LPARAM lParam, int thickness);
   /// Draws what stands behind the control: its container's ground and the pictures under it.
   void DrawBackdrop(Canvas& canvas) const;
 

@@ -197,10 +197,7 @@ void EditWindow::PaintEdge() {
   const HDC dc = GetWindowDC(Hwnd());
   ExcludeClipRect(dc, inside.left, inside.top, inside.right, inside.bottom);
   Theme& look = Look();
-  const Palette& colors = look.Colors();
-  const bool focused = GetFocus() == Hwnd();
-  const COLORREF edge = !box_.Enabled() ? colors.Disabled.Edge : focused ? colors.Focus : colors.Line;
-  FillRect(dc, &whole, look.Brush(edge));
+  FillRect(dc, &whole, look.Brush(EdgeColor()));
   const int thickness = std::max(static_cast<int>(Scale()), 1);
   InflateRect(&whole, -thickness, -thickness);
   FillRect(dc, &whole, look.Brush(Ground()));

@@ -12,6 +12,8 @@ namespace vantor::win32 {
 namespace {
 
 constexpr wchar_t FormClass[] = L"VantorForm";
+/// A form's edge, in twips.
+constexpr form::Twips LineThickness = 15;
 /// The program's icon in its resources.
 constexpr WORD IconId = 1;
 
@@ -189,6 +191,7 @@ void FormWindow::ShowVisible() {
     if (const FormWindow* successor = desktop_.SuccessorOf(*this)) SetActiveWindow(successor->Hwnd());
   }
   ShowWindow(Hwnd(), SW_HIDE);
+  SetOwnerWindow(nullptr);  // Wine does not let a window into the topmost band that owns a hidden one
   desktop_.WakeUp();
 }
 
@@ -377,7 +380,13 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       RECT area;
       GetClientRect(Hwnd(), &area);
       Theme& look = desktop_.Look();
-      FillRect(reinterpret_cast<HDC>(wParam), &area, look.Brush(look.Background(form_.BackColor())));
+      const auto dc = reinterpret_cast<HDC>(wParam);
+      if (form_.BorderStyle() == form::BorderStyle::Line) {
+        FillRect(dc, &area, look.Brush(look.Colors().Line));
+        const int thickness = Screens::ToPixels(LineThickness, dpi_);
+        InflateRect(&area, -thickness, -thickness);
+      }
+      FillRect(dc, &area, look.Brush(look.Background(form_.BackColor())));
       return 1;
     }
     case WM_LBUTTONDOWN:

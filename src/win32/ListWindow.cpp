@@ -67,7 +67,7 @@ LRESULT ListWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     return 0;
   }
   if (message == WM_CHAR && wParam == VK_RETURN) return 0;  // no entry begins with it
-  return ControlWindow::OnMessage(message, wParam, lParam);
+  return OnMessageWithEdge(message, wParam, lParam, 1);     // as thick as the border that the window has
 }
 
 void ListWindow::OnDraw(const DRAWITEMSTRUCT& item) {

@@ -67,15 +67,8 @@ void AddBox::Add(const std::string& name) const {
   input::Press(VK_RETURN);
 }
 
-/// Controls are counted from left to right, and from top to bottom.
 HWND AddBox::OfClass(const std::string& name, std::size_t index) const {
-  auto controls = window::Controls(Find());
-  std::erase_if(controls, [&](HWND control) { return window::ClassName(control) != name; });
-  std::sort(controls.begin(), controls.end(), [](HWND a, HWND b) {
-    const RECT left = window::Bounds(a);
-    const RECT right = window::Bounds(b);
-    return left.left != right.left ? left.left < right.left : left.top < right.top;
-  });
+  const auto controls = window::OfClass(Find(), name);
   return index < controls.size() ? controls[index] : nullptr;
 }
 

@@ -66,7 +66,10 @@ HWND Program::AwaitMessage() {
   return Message();
 }
 
-HWND Program::TextMain() const { return window::Control(Bar(), "EDIT"); }
+HWND Program::TextMain() const {
+  const auto edits = window::OfClass(Bar(), "Edit");
+  return edits.empty() ? nullptr : edits.front();  // those of the unfolded box stand to its right
+}
 
 std::string Program::Line() const { return window::Text(TextMain()); }
 

@@ -1,5 +1,8 @@
 #include "desktop/Window.h"
 
+#include <algorithm>
+#include <tuple>
+
 #include "desktop/Text.h"
 
 namespace vantor::desktop::window {
@@ -58,6 +61,17 @@ HWND Control(HWND window, const std::string& className, const std::string& textB
   return nullptr;
 }
 
+std::vector<HWND> OfClass(HWND window, const std::string& className) {
+  auto controls = Controls(window);
+  std::erase_if(controls, [&](HWND control) { return ClassName(control) != className; });
+  std::sort(controls.begin(), controls.end(), [](HWND a, HWND b) {
+    const RECT left = Bounds(a);
+    const RECT right = Bounds(b);
+    return std::tie(left.left, left.top) < std::tie(right.left, right.top);
+  });
+  return controls;
+}
+
 bool IsFrame(HWND control) {
   return ClassName(control) == "Button" && (GetWindowLongW(control, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
 }
@@ -87,10 +101,13 @@ COLORREF Ground(HWND control) {
   return color;
 }
 
-bool HasInput(HWND window) {
+HWND Focus(HWND window) {
+  if (!window || GetForegroundWindow() != window) return nullptr;
   const HWND focus = FocusOf(window);
-  return GetForegroundWindow() == window && focus && (focus == window || IsChild(window, focus));
+  return focus == window || IsChild(window, focus) ? focus : nullptr;
 }
+
+bool HasInput(HWND window) { return Focus(window) != nullptr; }
 
 bool IsTopMost(HWND window) { return (GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; }
 

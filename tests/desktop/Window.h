@@ -19,6 +19,9 @@ std::vector<HWND> Controls(HWND window);
 /// The first control shown of a class whose text begins so; null when there is none.
 HWND Control(HWND window, const std::string& className, const std::string& textBegin = {});
 
+/// The controls of a class that are shown, from left to right and from top to bottom.
+std::vector<HWND> OfClass(HWND window, const std::string& className);
+
 /// Whether a control only surrounds others.
 bool IsFrame(HWND control);
 
@@ -28,6 +31,8 @@ POINT Middle(HWND window);
 HWND FocusOf(HWND window);
 /// The colour that is on the screen just inside the middle of a control's left edge, where it holds no text.
 COLORREF Ground(HWND control);
+/// The control, or the window itself, that has the input; null when another window is in the foreground.
+HWND Focus(HWND window);
 /// Whether the window has the input: it is in the foreground and it, or a control of it, has the focus.
 bool HasInput(HWND window);
 bool IsTopMost(HWND window);
