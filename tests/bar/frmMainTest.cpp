@@ -154,30 +154,6 @@ TEST_CASE("minimising closes the panel and leaves the top; restoring takes the f
   CHECK(!bar.Main.TopMost());
 }
 
-TEST_CASE("one panel at a time is open, and one that refuses leaves none") {
-  StartedProgram bar;
-  bar.Desktop.Press(Key::F2);
-  CHECK(bar.Program.frmBrowse.Visible());
-  bar.Desktop.Press(Key::F7);
-  CHECK(bar.State.OpenPanelIndex == 5);
-  CHECK(!bar.Program.frmBrowse.Visible());
-  CHECK(bar.Choose.Visible());
-  bar.Desktop.Press(Key::F5);  // hidden
-  CHECK(bar.State.OpenPanelIndex == 5);
-  bar.ExpectMessage();
-  bar.Desktop.Press(Key::F4);
-  CHECK(bar.Told.back().starts_with(L"Launch List is empty."));
-  CHECK(bar.State.OpenPanelIndex == -1);
-  CHECK(!bar.Choose.Visible());
-  CHECK(bar.Main.CommandMenu[2].Caption() == L"L");
-  CHECK(bar.Main.CommandMenu[5].Caption() == L"?");
-  CHECK(bar.Main.TimerOnTop.Enabled());
-  bar.Desktop.Press(Key::F7);
-  bar.Type(L"x\x1b");
-  CHECK(!bar.Choose.Visible());
-  CHECK(bar.Main.TextMain.Text().empty());
-}
-
 TEST_CASE("leaving saves the list, the settings and the bar's place, and ends the program") {
   StartedProgram bar;
   bar.Desktop.DragBy(bar.Main, 600, 300);

@@ -77,19 +77,6 @@ TEST_CASE("A first start makes the settings file, asks for the name, shows the b
   CHECK(computer.Services.System.Calls == std::vector<std::wstring>{L"title Vantor Orbel"});
 }
 
-TEST_CASE("A later start is silent, and brings back settings and lists") {
-  Computer computer;
-  computer.UsedBefore("4\r\n-1\r\n-1\r\n-1\r\n0\r\n300\r\n450\r\n\"C:\\x\"\r\n-1\r\n-1\r\n-1\r\n");
-  computer.Services.Disk.AddFile(L"C:\\Vantor\\Vantor\\ListWeb.Orbel", "\"Site\",\"http://a\"\r\n");
-  REQUIRE(computer.Start());
-  CHECK(computer.Started.MessageState.UserName == L"Ada");
-  CHECK(computer.Started.frmMain.Bounds().Left == 300);
-  CHECK(computer.Started.frmMain.Bounds().Top == 450);
-  CHECK(computer.Started.frmChoose.ComboListWebPath.Entries() == std::vector<std::wstring>{L"http://a"});
-  CHECK_FALSE(computer.Started.frmMain.TimerOnTop.Enabled());
-  CHECK(computer.Services.Disk.Written.empty());
-}
-
 TEST_CASE("A settings file that can't be read is no first start and is not replaced") {
   Computer computer;
   computer.UsedBefore("7\r\n-1");
@@ -152,50 +139,6 @@ TEST_CASE("A second copy hands over to the first, or goes on when that has no wi
     std::vector<std::wstring> calls{L"title Vantor Orbel", L"title BypassThisInstance", L"activate Vantor Orbel"};
     if (!hasWindow) calls.emplace_back(L"title Vantor Orbel");
     CHECK(computer.Services.System.Calls == calls);
-  }
-}
-
-TEST_CASE("A first run on a medium makes its data; removable is what is not known to be fixed") {
-  for (const int driveType : {1, 5, 9}) {
-    Computer computer;
-    computer.RunFrom(L'E', driveType);
-    computer.Expect(L"Ada\r");
-    computer.Expect();
-    REQUIRE(computer.Start());
-    CHECK(computer.Started.Environment.RunMode);
-    CHECK(computer.Started.Environment.MachineUnknown);
-    CHECK_FALSE(computer.Started.Environment.MachineRemembered);
-    CHECK(computer.Bytes(L"E:\\Tools\\Vantor\\MediaSet.Orbel") == ReadyMedia);
-    CHECK(computer.Bytes(L"E:\\Tools\\Vantor\\Set.Orbel") == FirstSettings);
-    CHECK(computer.Services.Disk.In(L"E:\\Tools\\Vantor").size() == 2);
-  }
-}
-
-TEST_CASE("A medium is used, or refused, by the state it was left in") {
-  const struct {
-    std::string MediaSet;
-    std::wstring_view Text;  // of the refusal
-  } cases[] = {
-      {ReadyMedia, L""},
-      {"\"Vantor Media 1\"\r\n\"Setup\"\r\n\"\"\r\n", L"To run this Program from a Removable Media there"},
-      {"\"Vantor Media 1\"\r\n", L"To run the Program from this Media"},
-      {"\"Vantor Media 2\"\r\n\"Ready\"\r\n\"Ada\"\r\n", L"To run the Program from this Media"},
-      {"\"Vantor Media 1\"\r\n\"Done\"\r\n\"Ada\"\r\n", L"To run the Program from this Media"},
-  };
-  for (const auto& c : cases) {
-    Computer computer;
-    computer.RunFrom(L'f', 1);
-    computer.Services.Disk.AddDrive(L'F', 1);
-    computer.Services.Disk.AddFile(L"F:\\Tools\\Vantor\\MediaSet.Orbel", c.MediaSet);
-    computer.Services.Disk.AddFile(L"F:\\Tools\\Vantor\\Set.Orbel", FirstSettings);
-    if (!c.Text.empty()) computer.Expect();
-    CHECK(computer.Start() == c.Text.empty());
-    if (c.Text.empty())
-      CHECK(computer.Started.MessageState.UserName == L"Ada");
-    else
-      CHECK(computer.Told.at(0).starts_with(c.Text));
-    CHECK(computer.Started.Environment.MediaDriveLetter == L"F");
-    CHECK(computer.Services.Disk.Written.empty());
   }
 }
 
