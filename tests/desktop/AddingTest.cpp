@@ -47,7 +47,7 @@ struct Adding {
 
 /// Takes the medium out of a drive of the test desktop.
 void PullOut(char letter) {
-  const std::string medium = std::string("Z:\\prefix\\drives\\") + static_cast<char>(letter | ' ');
+  const std::string medium = std::string(R"(Z:\prefix\drives\)") + static_cast<char>(letter | ' ');
   std::filesystem::rename(medium, medium + ".out");
 }
 

@@ -65,9 +65,9 @@ void GiveDiskSerial(const std::string& serial) {
 
 /// Checks the bytes of data files, each named without its ending.
 void CheckDataFiles(const Folder& folder, const std::vector<std::pair<std::string, std::string>>& files) {
-  for (const auto& [name, bytes] : files) {
-    CAPTURE(name);
-    CHECK(folder.Read("Vantor\\" + name + ".Orbel") == bytes);
+  for (const auto& file : files) {
+    CAPTURE(file.first);
+    CHECK(folder.Read("Vantor\\" + file.first + ".Orbel") == file.second);
   }
 }
 
