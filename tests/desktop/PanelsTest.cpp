@@ -135,13 +135,13 @@ TEST_CASE("each panel opens below the bar, shows it on its button, and closes ea
 
 TEST_CASE("near the screen's edges a panel opens where it fits, and never under the bar") {
   const RECT screen{0, 0, 800, 600};
-  for (const auto& [left, top] : {std::pair(4200, 0), std::pair(0, 8400), std::pair(5000, 4000)}) {
-    const ListedFolder folder({.Left = left, .Top = top});
+  for (const auto& corner : {std::pair(4200, 0), std::pair(0, 8400), std::pair(5000, 4000)}) {
+    const ListedFolder folder({.Left = corner.first, .Top = corner.second});
     Program program(folder);
     const HWND bar = program.AwaitBar();
     for (const PanelRow& row : Rows) {
       CAPTURE(row.Title);
-      CAPTURE(top);
+      CAPTURE(corner.second);
       const Panel panel(program, row.Key, row.Title);
       panel.Open();
       const RECT place = window::Bounds(panel.Find());
