@@ -1,5 +1,6 @@
 #include "win32/ListWindow.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 
@@ -12,6 +13,13 @@ namespace {
 
 /// How far a folder stands in from the one that holds it, in pixels at 96 dots per inch.
 constexpr int Indentation = 10;
+
+/// A folder's indentation in pixels. In a deep folder the steps are smaller, so that half of the width is left.
+int IndentOf(const form::FolderList& folders, int index, LONG width, double scale) {
+  const int deepest = folders.LevelOf(folders.ListCount() - 1);
+  const double step = std::min(Indentation * scale, width / 2.0 / std::max(deepest, 1));
+  return static_cast<int>(std::lround(folders.LevelOf(index) * step));
+}
 
 }  // namespace
 
@@ -48,9 +56,12 @@ void ListWindow::Fill() {
 }
 
 void ListWindow::ShowIndex() {
-  if (SendMessageW(Hwnd(), LB_GETCURSEL, 0, 0) != list_.ListIndex()) {
-    SendMessageW(Hwnd(), LB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()), 0);
-  }
+  if (SendMessageW(Hwnd(), LB_GETCURSEL, 0, 0) == list_.ListIndex()) return;
+  SendMessageW(Hwnd(), LB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()), 0);
+  if (list_.Kind() != form::ControlKind::FolderList) return;
+  // Below a folder stands what is in it, which should be seen as well.
+  const auto shown = static_cast<int>(ClientSize().cy / SendMessageW(Hwnd(), LB_GETITEMHEIGHT, 0, 0));
+  SendMessageW(Hwnd(), LB_SETTOPINDEX, static_cast<WPARAM>(std::max(list_.ListIndex() - shown / 3, 0)), 0);
 }
 
 void ListWindow::OnCommand(WORD notification) {
@@ -75,8 +86,8 @@ void ListWindow::OnDraw(const DRAWITEMSTRUCT& item) {
   if (index < 0 || index >= list_.ListCount()) return;
   int indent = 0;
   if (list_.Kind() == form::ControlKind::FolderList) {
-    const int level = static_cast<const form::FolderList&>(list_).LevelOf(index);
-    indent = static_cast<int>(std::lround(level * Indentation * Scale()));
+    indent =
+        IndentOf(static_cast<const form::FolderList&>(list_), index, item.rcItem.right - item.rcItem.left, Scale());
   }
   const Line line{list_.List(index), indent, list_.Enabled(), list_.ForeColor()};
   DrawLine(item, line, Ground(), Font(), Look(), Scale());
