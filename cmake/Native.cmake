@@ -6,6 +6,13 @@ add_library(vantor_doctest INTERFACE)
 target_include_directories(vantor_doctest SYSTEM INTERFACE "${VANTOR_DOCTEST_INCLUDE}")
 target_include_directories(vantor_doctest INTERFACE "${PROJECT_SOURCE_DIR}/tests")
 
+if(VANTOR_FUZZ)
+  add_executable(vantor_fuzz ${VANTOR_FUZZER} ${VANTOR_FUZZ_SOURCES})
+  target_link_libraries(vantor_fuzz PRIVATE vantor_core vantor_doctest)
+  target_link_options(vantor_fuzz PRIVATE -fsanitize=fuzzer)
+  return()
+endif()
+
 add_executable(vantor_tests ${VANTOR_TEST_MAIN} ${VANTOR_UNIT_TEST_SOURCES} ${VANTOR_FAKE_SOURCES})
 target_link_libraries(vantor_tests PRIVATE vantor_core vantor_doctest)
 
@@ -15,6 +22,18 @@ else()
   set(prefix "native/")
 endif()
 vantor_add_tests(native VANTOR_UNIT_TEST_SOURCES PREFIX ${prefix} TIMEOUT 120 COMMAND vantor_tests)
+
+# A fixed piece of what the fuzzer does.
+if(VANTOR_SANITIZE)
+  add_executable(fixed_fuzz ${VANTOR_FIXED_FUZZ} ${VANTOR_FUZZ_SOURCES})
+  target_link_libraries(fixed_fuzz PRIVATE vantor_core vantor_doctest)
+  foreach(run IN ITEMS settings:1500 list:1000 media:200 line:300 walk:200)
+    string(REPLACE ":" ";" run "${run}")
+    list(POP_FRONT run target runs)
+    add_test(NAME fuzz/${target} COMMAND fixed_fuzz ${target} ${PROJECT_SOURCE_DIR}/tests/fuzz/seeds/${target} ${runs})
+    set_tests_properties(fuzz/${target} PROPERTIES LABELS native TIMEOUT 300)
+  endforeach()
+endif()
 
 if(VANTOR_BENCH_SOURCES)
   add_executable(vantor_bench ${VANTOR_BENCH_SOURCES})

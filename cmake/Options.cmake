@@ -1,6 +1,7 @@
 # Flags that hold for every target, and the helpers that make targets.
 
 option(VANTOR_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(VANTOR_FUZZ "Build only the fuzzer, which needs Clang" OFF)
 
 add_library(vantor_flags INTERFACE)
 target_include_directories(vantor_flags INTERFACE "${PROJECT_SOURCE_DIR}/src" "${PROJECT_BINARY_DIR}/generated")
@@ -26,6 +27,9 @@ if(VANTOR_SANITIZE)
     vantor_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -g1)
   target_link_options(vantor_flags INTERFACE -fsanitize=address,undefined)
   target_compile_definitions(vantor_flags INTERFACE _GLIBCXX_ASSERTIONS)
+endif()
+if(VANTOR_FUZZ)
+  target_compile_options(vantor_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 # An empty folder makes an empty target, so that a subsystem can be begun by adding its first file.

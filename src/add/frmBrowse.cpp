@@ -166,10 +166,10 @@ void frmBrowse::DriveWork_Change() {
 }
 
 void frmBrowse::DirWork_Change() {
+  NoteFolder();  // first: the lists below may fail to be read
   // Until the box is first opened nobody sees the files.
   if (listsWanted_) FileWork.SetPath(DirWork.Path());
   DriveWork.SetDrive(DirWork.Path());
-  NoteFolder();
   if (Opening()) CommandSelectOK.SetEnabled(false);
   if (!Adding()) return;
   FrameAddedInfo.SetVisible(false);

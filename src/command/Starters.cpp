@@ -4,17 +4,27 @@
 #include <string>
 
 namespace vantor::command {
+namespace {
+
+/// Line breaks and other control characters stand in no path and no address. Where the clipboard or a file that
+/// somebody else wrote brings them, the system is not to see them.
+bool IsPlain(std::wstring_view text) {
+  return std::none_of(text.begin(), text.end(),
+                      [](wchar_t c) { return c < L' ' || (c >= 0x7F && c <= 0x9F) || c == 0x2028 || c == 0x2029; });
+}
+
+}  // namespace
 
 message::MessageKey Starters::RunProgramCommand(std::wstring_view commandLine) const {
-  return Outcome(programs_.StartCommandLine(commandLine), L"MessageProgramRunError");
+  return Outcome(IsPlain(commandLine) && programs_.StartCommandLine(commandLine), L"MessageProgramRunError");
 }
 
 message::MessageKey Starters::RunExplorerCommand(std::wstring_view commandLine) const {
-  return Outcome(programs_.StartCommandLine(commandLine), L"MessageProgramExplorerError");
+  return Outcome(IsPlain(commandLine) && programs_.StartCommandLine(commandLine), L"MessageProgramExplorerError");
 }
 
 message::MessageKey Starters::OpenWithShell(std::wstring_view target) const {
-  return Outcome(shell_.Run(target), L"MessageProgramStartError");
+  return Outcome(IsPlain(target) && shell_.Run(target), L"MessageProgramStartError");
 }
 
 message::MessageKey Starters::Outcome(bool started, std::wstring_view failure) const {
@@ -36,7 +46,7 @@ message::MessageKey Starters::SendMailTo(std::wstring_view address, std::wstring
   if (!std::equal(Scheme.begin(), Scheme.end(), start.begin(), start.end(), sameLetter)) link.insert(0, Scheme);
   if (!subject.empty()) link.append(L"?subject=").append(subject);
   if (!body.empty()) link.append(subject.empty() ? L"?body=" : L"&body=").append(body);
-  return programs_.ShellOpen(link) > GreatestShellError ? L"" : L"MessageProgramStartError";
+  return IsPlain(link) && programs_.ShellOpen(link) > GreatestShellError ? L"" : L"MessageProgramStartError";
 }
 
 }  // namespace vantor::command

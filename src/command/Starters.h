@@ -10,7 +10,7 @@
 namespace vantor::command {
 
 /// The routines that start what a target names. Each returns "" when it was started, else the key of the message
-/// that says what failed.
+/// that says what failed. A target with a control character in it is not started.
 class Starters {
  public:
   Starters(service::Programs& programs, service::ScriptShell& shell) : programs_(programs), shell_(shell) {}

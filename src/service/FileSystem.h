@@ -18,6 +18,9 @@ class FileSystem {
  public:
   virtual ~FileSystem() = default;
 
+  /// Whether the object is there. The program does not start without it; where it goes missing later, the plain
+  /// Windows calls answer.
+  [[nodiscard]] virtual bool Available() { return true; }
   /// The type of the drive of `root` ("C:", "C:\", "\\server\share\"): 0 unknown, 1 removable, 2 fixed,
   /// 3 network, 4 CD, 5 RAM disk. Nothing when there is no such drive or it can't be examined.
   [[nodiscard]] virtual std::optional<int> DriveType(std::wstring_view root) = 0;

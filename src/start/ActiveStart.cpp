@@ -55,6 +55,11 @@ void ActiveStart::FindPlaces() {
 
 void ActiveStart::ChooseRunMode() {
   Environment& environment = program_.Environment;
+  const service::ManyFileCalls many(program_.Services.FileSystem);
+  if (!program_.Services.FileSystem.Available()) {
+    Stop(L"MessageNeedSriptRuntime");
+    return;
+  }
   environment.DriveTypeText = GetDriveTypeText(program_.Services.FileSystem, environment.DriveRoot);
   const std::wstring& type = environment.DriveTypeText;
   if (type == L"Unknown" || type == L"Remote") Stop(L"MessageMediaUnknown");

@@ -45,6 +45,15 @@ std::wstring VolumeLabel(const std::wstring& root) {
 
 }  // namespace
 
+bool FileSystem::Available() {
+  try {
+    static_cast<void>(Make());
+    return true;
+  } catch (const ComError&) {
+    return false;
+  }
+}
+
 std::optional<int> FileSystem::DriveType(std::wstring_view root) {
   try {
     const auto drive = GetDrive(root);

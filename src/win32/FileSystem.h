@@ -16,6 +16,7 @@ class FileSystem final : public service::FileSystem {
  public:
   explicit FileSystem(Apartment& apartment) : apartment_(apartment) {}
 
+  [[nodiscard]] bool Available() override;
   [[nodiscard]] std::optional<int> DriveType(std::wstring_view root) override;
   [[nodiscard]] bool FileExists(std::wstring_view path) override;
   [[nodiscard]] bool FolderExists(std::wstring_view path) override;

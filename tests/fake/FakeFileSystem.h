@@ -12,6 +12,9 @@ class FakeFileSystem : public service::FileSystem {
   int ExistenceChecks = 0;
   int OpenObjects = 0;  // BeginMany without its EndMany
 
+  bool Present = true;
+
+  bool Available() override { return Present; }
   std::optional<int> DriveType(std::wstring_view root) override {
     if (root.starts_with(L"\\\\")) return 3;
     const auto* drive = disk_.DriveOf(root);

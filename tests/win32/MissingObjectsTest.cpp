@@ -47,6 +47,7 @@ TEST_CASE("without the scripting file system Windows is asked") {
   Apartment com;
   FileSystem files(com);
   const vantor::service::ManyFileCalls many(files);
+  CHECK_FALSE(files.Available());
   CHECK(files.DriveType(L"C:\\") == 2);
   CHECK_FALSE(files.DriveType(L"Q:"));
   CHECK(files.DriveReady(L"C:"));

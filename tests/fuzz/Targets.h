@@ -1,0 +1,71 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdio>
+#include <cstdlib>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace vantor::fuzz {
+
+using Bytes = std::span<const unsigned char>;
+
+/// What the fuzzers run: each takes any bytes, and aborts when the program does what it must never do.
+struct Target {
+  std::string_view Name;
+  void (*Run)(Bytes bytes);
+};
+
+void FuzzSettings(Bytes bytes);
+void FuzzList(Bytes bytes);
+void FuzzMedia(Bytes bytes);
+void FuzzLine(Bytes bytes);
+void FuzzWalk(Bytes bytes);
+
+inline constexpr Target Targets[] = {
+    {"settings", FuzzSettings}, {"list", FuzzList}, {"media", FuzzMedia}, {"line", FuzzLine}, {"walk", FuzzWalk}};
+
+inline const Target& TargetOf(std::string_view name) {
+  for (const Target& target : Targets) {
+    if (target.Name == name) return target;
+  }
+  std::fprintf(stderr, "targets: settings, list, media, line, walk\n");
+  std::exit(2);
+}
+
+/// A finding.
+inline void Require(bool condition, const char* what) {
+  if (condition) return;
+  std::fprintf(stderr, "not so: %s\n", what);
+  std::abort();
+}
+
+/// The bytes as decisions, one after another; zeros when there are no more.
+class Choices {
+ public:
+  explicit Choices(Bytes bytes) : bytes_(bytes) {}
+
+  [[nodiscard]] bool Left() const { return !bytes_.empty(); }
+  unsigned Byte() {
+    if (bytes_.empty()) return 0;
+    const unsigned byte = bytes_.front();
+    bytes_ = bytes_.subspan(1);
+    return byte;
+  }
+  /// 0 to count - 1.
+  std::size_t Below(std::size_t count) {
+    const std::size_t number = count > 256 ? Byte() * 256 + Byte() : Byte();
+    return count > 0 ? number % count : 0;
+  }
+  std::string Rest() {
+    std::string rest(bytes_.begin(), bytes_.end());
+    bytes_ = {};
+    return rest;
+  }
+
+ private:
+  Bytes bytes_;
+};
+
+}  // namespace vantor::fuzz
