@@ -27,7 +27,7 @@ vantor_add_tests(native VANTOR_UNIT_TEST_SOURCES PREFIX ${prefix} TIMEOUT 120 CO
 if(VANTOR_SANITIZE)
   add_executable(fixed_fuzz ${VANTOR_FIXED_FUZZ} ${VANTOR_FUZZ_SOURCES})
   target_link_libraries(fixed_fuzz PRIVATE vantor_core vantor_doctest)
-  foreach(run IN ITEMS settings:1500 list:1000 media:200 line:300 walk:200)
+  foreach(run IN ITEMS settings:500 list:500 media:200 line:300 walk:200)
     string(REPLACE ":" ";" run "${run}")
     list(POP_FRONT run target runs)
     add_test(NAME fuzz/${target} COMMAND fixed_fuzz ${target} ${PROJECT_SOURCE_DIR}/tests/fuzz/seeds/${target} ${runs})

@@ -148,7 +148,8 @@ TEST_CASE("a save broken off at any byte leaves the old list or the new one, who
     const std::size_t least = fault == Fault::Full ? used.Files.Size() : 0;
     const std::size_t most = fault == Fault::Full ? least + 2 * needed : needed;
     const std::size_t step = fault == Fault::Killed ? 1 : 7;
-    for (std::size_t bytes = least; bytes <= most; bytes += step, ++cases) {
+    for (std::size_t back = 0; back <= most - least; back += step, ++cases) {
+      const std::size_t bytes = most - back;
       CAPTURE(static_cast<int>(fault));
       CAPTURE(bytes);
       Medium medium(used);
