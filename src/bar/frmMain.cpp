@@ -64,6 +64,7 @@ void frmMain::NameControls() {
   }
   CommandMin.SetToolTip(L"Minimize---F9");
   CommandExit.SetToolTip(L"Exit---F10");
+  ImageLauncher.SetAccessibleName(start::ProductName);
   TextMain.SetAccessibleName(L"Command Line");
 
   int tabIndex = 0;
@@ -184,6 +185,13 @@ void frmMain::Form_MouseMove(form::MouseButton held) {
 
 void frmMain::Form_Moved() {
   parts_.Messages.Trap(L"Form_Moved", [this] { KeepOnScreen(); });
+}
+
+void frmMain::Form_ScreensChanged() {
+  parts_.Messages.Trap(L"Form_ScreensChanged", [this] {
+    KeepOnScreen();
+    MoveInto(Ui().ScreenAt(Bounds()).WorkArea);  // a taskbar may have come to where the bar was
+  });
 }
 
 void frmMain::ShowWidth() {

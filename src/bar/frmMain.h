@@ -89,6 +89,7 @@ class frmMain : public form::Form {
   void Form_KeyUp(form::Key key) override;
   void Form_MouseMove(form::MouseButton held) override;
   void Form_Moved() override;
+  void Form_ScreensChanged() override;
 
  private:
   void NameControls();

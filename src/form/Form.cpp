@@ -99,6 +99,13 @@ void Form::SetTopMost(bool topMost) {
   if (window_ != nullptr) window_->SetTopMost(topMost);
 }
 
+void Form::MoveInto(const Rect& area) {
+  Rect place = bounds_;
+  place.Left = std::max(std::min(place.Left, area.Right() - place.Width), area.Left);
+  place.Top = std::max(std::min(place.Top, area.Bottom() - place.Height), area.Top);
+  SetBounds(place);
+}
+
 void Form::Drag() {
   if (window_ == nullptr) return;
   dragging_ = true;
@@ -142,6 +149,12 @@ void Form::InputMoved(const Rect& bounds) {
   bounds_ = bounds;
   if (!dragging_) Form_Moved();
 }
+
+void Form::InputScreensChanged() {
+  if (visible_) Form_ScreensChanged();
+}
+
+void Form::Form_ScreensChanged() { MoveInto(ui_.ScreenAt(bounds_).WorkArea); }
 
 void Form::InputClose() {
   if (loaded_) Form_Close();

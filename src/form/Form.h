@@ -85,6 +85,8 @@ class Form {
   /// Whether the window is to stand above all windows that are not topmost. Setting it again asserts it anew.
   [[nodiscard]] bool TopMost() const { return topMost_; }
   void SetTopMost(bool topMost);
+  /// Moves the form as little as brings it into an area; to the area's start where it is larger.
+  void MoveInto(const Rect& area);
   /// Lets the user move the form with the mouse button that is held; Bounds are the new ones on return.
   void Drag();
   void Activate();
@@ -106,6 +108,7 @@ class Form {
   void InputKeyUp(Key key);
   void InputMouseMove(MouseButton held);
   void InputMoved(const Rect& bounds);
+  void InputScreensChanged();
   void InputWindowState(form::WindowState state) { windowState_ = state; }
   /// The user closes the window, or Windows ends.
   void InputClose();
@@ -123,6 +126,8 @@ class Form {
   /// which let the mouse through to the form unless a Click handler wants it.
   /// The window was moved from outside, by the window manager say, which may tell of a drag's end late.
   virtual void Form_Moved() {}
+  /// The screens or the room on them changed: a visible form comes into the room that is left.
+  virtual void Form_ScreensChanged();
   virtual void Form_MouseMove(MouseButton /*held*/) {}
   /// What closing the window does: an unload unless the form does otherwise.
   virtual void Form_Close() { Unload(); }

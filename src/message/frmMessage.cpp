@@ -53,6 +53,7 @@ frmMessage::frmMessage(form::UserInterface& ui) : Form(ui, L"frmMessage") {
   PictureMessage.SetPicture(form::Picture::MessageBackground);
   PictureMessage.SetBackColor(form::Color::LineBlue);
   PictureMessage.SetTabStop(false);
+  PictureMessage.SetAccessibleName(L"Vantor");
   CheckDoNotShow.SetCaption(L"Do not show this message again.");
   CheckDoNotShow.SetForeColor(form::Color::WindowText);
   CheckDoNotShow.SetVisible(false);

@@ -61,6 +61,7 @@ void ButtonWindow::Show(form::Property property) {
              (GetWindowLongPtrW(Hwnd(), GWL_STYLE) & BS_TYPEMASK) != static_cast<LONG_PTR>(style)) {
     SendMessageW(Hwnd(), BM_SETSTYLE, style, FALSE);
   }
+  if (property == form::Property::Picture) Announce(EVENT_OBJECT_STATECHANGE);
   Redraw();
 }
 

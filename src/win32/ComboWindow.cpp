@@ -30,7 +30,14 @@ bool BeginsWith(const std::wstring& text, const std::wstring& beginning) {
 ComboWindow::ComboWindow(FormWindow& owner, form::ListControl& list)
     : ControlWindow(owner, list,
                     {L"COMBOBOX", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_HASSTRINGS | CBS_OWNERDRAWFIXED}),
-      list_(list) {}
+      list_(list) {
+  COMBOBOXINFO info{};
+  info.cbSize = sizeof info;
+  if (GetComboBoxInfo(Hwnd(), &info) == FALSE || info.hwndList == nullptr) return;
+  SetWindowLongPtrW(info.hwndList, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  listProcedure_ = reinterpret_cast<WNDPROC>(
+      SetWindowLongPtrW(info.hwndList, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ListProcedure)));
+}
 
 void ComboWindow::Place() {
   // The height that the system is given is that of the dropped list; the window's own follows from its line's.
@@ -41,11 +48,16 @@ void ComboWindow::Place() {
   Default(CB_SETITEMHEIGHT, 0, line);
   SetWindowPos(Hwnd(), nullptr, Screens::ToPixels(bounds.Left, dpi), Screens::ToPixels(bounds.Top, dpi),
                Screens::ToPixels(bounds.Width, dpi), wanted + ShownLines * line + 2, SWP_NOZORDER | SWP_NOACTIVATE);
-  RECT shown;
-  GetWindowRect(Hwnd(), &shown);
-  const int height = static_cast<int>(Default(CB_GETITEMHEIGHT, static_cast<WPARAM>(-1)));
-  const int needed = height + wanted - (shown.bottom - shown.top);
-  if (needed > 0 && needed != height) Default(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), needed);
+  // What is set as the line's height may come out as a little more: then once again, by that much less.
+  int height = static_cast<int>(Default(CB_GETITEMHEIGHT, static_cast<WPARAM>(-1)));
+  for (int i = 0; i < 2; ++i) {
+    RECT shown;
+    GetWindowRect(Hwnd(), &shown);
+    const int missing = wanted - (shown.bottom - shown.top);
+    if (missing == 0 || height + missing <= 0) break;
+    height += missing;
+    Default(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), height);
+  }
 }
 
 void ComboWindow::Show(form::Property property) {
@@ -54,6 +66,7 @@ void ComboWindow::Show(form::Property property) {
     Default(CB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()));
   }
   Redraw();
+  Announce(EVENT_OBJECT_VALUECHANGE);
 }
 
 std::wstring ComboWindow::TipText() const {
@@ -188,6 +201,17 @@ bool ComboWindow::Answer(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& re
     default:
       return false;
   }
+}
+
+LRESULT CALLBACK ComboWindow::ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam) {
+  const auto& window = *reinterpret_cast<const ComboWindow*>(GetWindowLongPtrW(list, GWLP_USERDATA));
+  LRESULT result = 0;
+  const bool asksText = message == LB_GETTEXT || message == LB_GETTEXTLEN;
+  if (asksText && !window.Retired() &&
+      window.Answer(message == LB_GETTEXT ? CB_GETLBTEXT : CB_GETLBTEXTLEN, wParam, lParam, result)) {
+    return result;
+  }
+  return CallWindowProcW(window.listProcedure_, list, message, wParam, lParam);
 }
 
 void ComboWindow::Choose(int index) {

@@ -26,6 +26,8 @@ class ComboWindow final : public ControlWindow {
   /// The entry that a question about the window's list is about; null for none.
   [[nodiscard]] const std::wstring* Asked(WPARAM index) const;
   bool Answer(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) const;
+  /// Sees the messages of the window's list before it does.
+  static LRESULT CALLBACK ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam);
   bool OnKey(WPARAM key);
   bool OnCharacter(wchar_t character);
   void Choose(int index);
@@ -33,6 +35,7 @@ class ComboWindow final : public ControlWindow {
   void FitWidth();
 
   form::ListControl& list_;
+  WNDPROC listProcedure_ = nullptr;
   int shownCount_ = 0;  // entries of the window's list
   std::wstring typed_;  // the beginning of the entry that is looked for by keys
   DWORD typedAt_ = 0;

@@ -1,7 +1,7 @@
 #include "win32/ControlWindow.h"
 
 #include "form/Static.h"
-#include "win32/AccessibleNames.h"
+#include "win32/Accessible.h"
 #include "win32/ButtonWindow.h"
 #include "win32/ChoiceWindow.h"
 #include "win32/ComboWindow.h"
@@ -20,18 +20,6 @@ namespace {
 HWND ParentOf(const FormWindow& owner, const form::Control& control) {
   const ControlWindow* const container = ControlWindow::Of(control.Container());
   return container != nullptr ? container->Hwnd() : owner.Hwnd();
-}
-
-/// The picture that an image shows; None for other controls.
-form::Picture PictureOf(const form::Control& control) {
-  switch (control.Kind()) {
-    case form::ControlKind::Image:
-      return static_cast<const form::Image&>(control).Picture();
-    case form::ControlKind::PictureBox:
-      return static_cast<const form::PictureBox&>(control).Picture();
-    default:
-      return form::Picture::None;
-  }
 }
 
 }  // namespace
@@ -95,6 +83,17 @@ ControlWindow* ControlWindow::From(HWND handle) {
   return form != nullptr ? form->Find(handle) : nullptr;
 }
 
+form::Picture ControlWindow::ShownPicture() const {
+  switch (control_.Kind()) {
+    case form::ControlKind::Image:
+      return static_cast<const form::Image&>(control_).Picture();
+    case form::ControlKind::PictureBox:
+      return static_cast<const form::PictureBox&>(control_).Picture();
+    default:
+      return form::Picture::None;
+  }
+}
+
 LRESULT CALLBACK ControlWindow::Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
   auto& window = *reinterpret_cast<ControlWindow*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
   if (message == WM_NCDESTROY) {
@@ -121,8 +120,7 @@ LRESULT ControlWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       if (!Retired()) owner_.Form().InputFocus(&control_);
       return result;
     case WM_GETOBJECT:
-      // Somebody asks what the window is: early enough to say.
-      NameForReaders(handle_, control_.AccessibleName());
+      if (const auto answer = AnswerReader(handle_, owner_.Desktop().Com(), wParam, lParam)) return *answer;
       break;
     default:
       break;
@@ -205,6 +203,8 @@ void ControlWindow::ShowWindowText(const std::wstring& text) {
   SetWindowTextW(handle_, text.c_str());
 }
 
+void ControlWindow::Announce(DWORD event) const { NotifyWinEvent(event, handle_, OBJID_CLIENT, CHILDID_SELF); }
+
 void ControlWindow::Redraw() const { InvalidateRect(handle_, nullptr, TRUE); }
 
 void ControlWindow::PaintWindow() {
@@ -261,9 +261,10 @@ void ControlWindow::DrawBackdrop(Canvas& canvas) const {
   for (const form::Control* other : owner_.Form().Controls()) {
     if (other == &control_) break;  // those after it stand before it
     const bool below = other == container || (other->Container() == container && other->Visible());
-    const form::Picture picture = PictureOf(*other);
     const ControlWindow* const window = Of(other);
-    if (!below || picture == form::Picture::None || window == nullptr) continue;
+    if (!below || window == nullptr) continue;
+    const form::Picture picture = window->ShownPicture();
+    if (picture == form::Picture::None) continue;
     RECT there;
     GetWindowRect(window->Hwnd(), &there);
     DrawPicture(canvas, picture,

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "form/Control.h"
+#include "form/Picture.h"
 #include "win32/Canvas.h"
 #include "win32/FormWindow.h"
 #include "win32/Theme.h"
@@ -30,11 +31,17 @@ class ControlWindow : public form::ControlWindow {
   [[nodiscard]] HWND Hwnd() const { return handle_; }
   [[nodiscard]] FormWindow& Owner() const { return owner_; }
   [[nodiscard]] form::Control& Control() const { return control_; }
+  /// The picture that an image or a picture box shows; None for other controls.
+  [[nodiscard]] form::Picture ShownPicture() const;
 
   /// Shows all of the control's state; for a new window, and after the resolution or the user's settings changed.
   virtual void Refresh();
   /// What the tool tip says; "" for none.
   [[nodiscard]] virtual std::wstring TipText() const { return control_.ToolTip(); }
+  /// What a screen reader calls the window; "" for a part of the layout.
+  [[nodiscard]] virtual std::wstring SpokenName() const {
+    return shownText_.empty() ? control_.AccessibleName() : shownText_;
+  }
   /// Whether the window uses keys like Escape and Enter for itself at the moment. The function keys are the form's.
   [[nodiscard]] virtual bool KeepsKeys() const { return false; }
 
@@ -71,6 +78,8 @@ class ControlWindow : public form::ControlWindow {
   [[nodiscard]] SIZE ClientSize() const;
   [[nodiscard]] HFONT Font(bool bold = false) const;
   void ShowWindowText(const std::wstring& text);
+  /// Tells screen readers that something about the window has changed that the system doesn't see.
+  void Announce(DWORD event) const;
   void Redraw() const;
   /// Paints all of the window by Paint.
   void PaintWindow();

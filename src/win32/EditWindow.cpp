@@ -59,6 +59,7 @@ void EditWindow::ShowSelection() {
   SendMessageW(Hwnd(), EM_SETSEL, static_cast<WPARAM>(box_.SelStart()), box_.SelStart() + box_.SelLength());
   SendMessageW(Hwnd(), EM_SCROLLCARET, 0, 0);
   showing_ = false;
+  Announce(EVENT_OBJECT_TEXTSELECTIONCHANGED);  // a completion, say
 }
 
 void EditWindow::OnCommand(WORD notification) {

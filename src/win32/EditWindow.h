@@ -12,6 +12,8 @@ class EditWindow final : public ControlWindow {
 
   void Refresh() override;
   [[nodiscard]] bool KeepsKeys() const override { return box_.Composing(); }
+  /// Not its text.
+  [[nodiscard]] std::wstring SpokenName() const override { return box_.AccessibleName(); }
   void OnCommand(WORD notification) override;
 
  protected:

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "win32/Accessible.h"
 #include "win32/ButtonWindow.h"
 #include "win32/Screens.h"
 #include "win32/WindowsDesktop.h"
@@ -176,6 +177,7 @@ void FormWindow::ShowVisible() {
   if (form_.Visible()) {
     SetOwnerWindow(desktop_.OwnerFor(*this));
     Place();
+    if (const int dpi = Screens::DpiOf(Hwnd()); dpi != dpi_) TakeDpi(dpi);  // a hidden window may not be told
     SetWindowPos(Hwnd(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
     if (form_.WindowState() == form::WindowState::Minimized) {
       ShowWindow(Hwnd(), SW_MINIMIZE);
@@ -229,6 +231,9 @@ void FormWindow::Activate() {
 
 RECT FormWindow::PlaceInPixels() const {
   RECT place = Screens::PixelsOf(form_.Bounds());
+  // While it is between two screens, its size is still that of its controls.
+  place.right = place.left + Screens::ToPixels(form_.Bounds().Width, dpi_);
+  place.bottom = place.top + Screens::ToPixels(form_.Bounds().Height, dpi_);
   const Styles styles = StylesOf(form_);
   if ((styles.Style & WS_CAPTION) == WS_CAPTION) {
     const POINT corner{place.left, place.top};
@@ -247,7 +252,21 @@ void FormWindow::Place() {
   placing_ = true;
   SetWindowPos(Hwnd(), nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                SWP_NOZORDER | SWP_NOACTIVATE);
+  FitInside();
   placing_ = false;
+}
+
+/// Not every Windows scales a title bar with the screen: what counts is that the controls have their room.
+void FormWindow::FitInside() const {
+  RECT inside;
+  RECT whole;
+  GetClientRect(Hwnd(), &inside);
+  GetWindowRect(Hwnd(), &whole);
+  const LONG width = Screens::ToPixels(form_.Bounds().Width, dpi_);
+  const LONG height = Screens::ToPixels(form_.Bounds().Height, dpi_);
+  if (inside.right == width && inside.bottom == height) return;
+  SetWindowPos(Hwnd(), nullptr, 0, 0, whole.right - whole.left + width - inside.right,
+               whole.bottom - whole.top + height - inside.bottom, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void FormWindow::ReportPlace() {
@@ -272,9 +291,25 @@ void FormWindow::OnDpiChanged(int dpi, const RECT& suggested) {
   placing_ = true;
   SetWindowPos(Hwnd(), nullptr, suggested.left, suggested.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   placing_ = false;
+  TakeDpi(dpi);
+}
+
+void FormWindow::TakeDpi(int dpi) {
+  dpi_ = dpi;
   ReportPlace();
   Place();
+  tips_.Forget();
   Refresh();
+}
+
+void FormWindow::ScreensChanged() {
+  if (const int dpi = Screens::DpiOf(Hwnd()); dpi != dpi_) {
+    TakeDpi(dpi);
+  } else {
+    ReportPlace();  // the same pixels may lie elsewhere on the desktop now
+    Refresh();
+  }
+  form_.InputScreensChanged();
 }
 
 void FormWindow::OnSize(WPARAM kind) {
@@ -415,11 +450,14 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       ReportPlace();
       break;  // WM_SIZE comes of it
     case WM_DPICHANGED:
-      OnDpiChanged(HIWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
+      OnDpiChanged(Screens::WithTextScale(HIWORD(wParam)), *reinterpret_cast<const RECT*>(lParam));
       return 0;
     case WM_SYSCOMMAND:
       // F10 and Alt would begin a menu that the form doesn't have; Alt and Space open the system's.
       if ((wParam & 0xFFF0) == SC_KEYMENU && lParam != VK_SPACE) return 0;
+      break;
+    case WM_GETOBJECT:
+      if (const auto answer = AnswerReader(Hwnd(), desktop_.Com(), wParam, lParam)) return *answer;
       break;
     case WM_NOTIFY:
       if (tips_.OnNotify(*reinterpret_cast<NMHDR*>(lParam))) return 0;

@@ -70,6 +70,8 @@ class FormWindow final : public form::FormWindow {
   void ShowEnabled();
   /// Fonts, colours and places are shown anew.
   void Refresh();
+  /// The screens, their resolutions or the room on them are others now.
+  void ScreensChanged();
 
  private:
   static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
@@ -93,13 +95,16 @@ class FormWindow final : public form::FormWindow {
   void OnSize(WPARAM kind);
   void GiveFocus() const;
   void OnDpiChanged(int dpi, const RECT& suggested);
+  /// Lays all out for the resolution.
+  void TakeDpi(int dpi);
 
   void AcceptDrops();
   void TakeDrop();
   void ShowVisible();
-  /// The form's bounds in pixels, with the edges of a dialog around them.
+  /// The form's bounds in pixels of its resolution, with the edges of a dialog around them.
   [[nodiscard]] RECT PlaceInPixels() const;
   void Place();
+  void FitInside() const;
   void ReportPlace();
 
   win32::Desktop& desktop_;

@@ -1,6 +1,9 @@
 #include "win32/Screens.h"
 
 #include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <optional>
 #include <vector>
 
 #include "win32/SystemLibrary.h"
@@ -17,6 +20,59 @@ Function Find(const wchar_t* library, const char* name) {
                            : nullptr;
 }
 
+int PlainSystemDpi() {
+  static const int dpi = [] {
+    const HDC screen = GetDC(nullptr);
+    const int found = GetDeviceCaps(screen, LOGPIXELSX);
+    ReleaseDC(nullptr, screen);
+    return found > 0 ? found : 96;
+  }();
+  return dpi;
+}
+
+/// The user's font for messages and dialogs at 96 dots per inch, and what its size makes of everything else.
+struct TextSize {
+  LOGFONTW Font{};
+  double Scale = 1;
+};
+
+LOGFONTW PlainMessageFont() {
+  NONCLIENTMETRICSW metrics{};
+  metrics.cbSize = sizeof metrics;
+  // The call that knows resolutions came with Windows 10.
+  using ParametersForDpi = BOOL(WINAPI*)(UINT, UINT, void*, UINT, UINT);
+  static const auto forDpi = Find<ParametersForDpi>(L"user32.dll", "SystemParametersInfoForDpi");
+  if (forDpi == nullptr || forDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, 96) == FALSE) {
+    SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+    metrics.lfMessageFont.lfHeight = MulDiv(metrics.lfMessageFont.lfHeight, 96, PlainSystemDpi());
+  }
+  return metrics.lfMessageFont;
+}
+
+std::optional<TextSize>& RememberedTextSize() {
+  static std::optional<TextSize> size;
+  return size;
+}
+
+const TextSize& UserTextSize() {
+  std::optional<TextSize>& known = RememberedTextSize();
+  if (known) return *known;
+  constexpr double UsualHeight = 12;  // pixels: 9 points
+  constexpr double SmallestScreen[] = {800, 600};
+  TextSize size;
+  size.Font = PlainMessageFont();
+  const double wanted = std::abs(size.Font.lfHeight) / UsualHeight;
+  const double room =
+      std::min(GetSystemMetrics(SM_CXSCREEN) / SmallestScreen[0], GetSystemMetrics(SM_CYSCREEN) / SmallestScreen[1]) *
+      96 / PlainSystemDpi();
+  if (wanted > 1) {
+    size.Scale = std::clamp(room, 1.0, wanted);
+    size.Font.lfHeight = std::lround(size.Font.lfHeight / wanted);  // the scale makes up for it
+  }
+  known = size;
+  return *known;
+}
+
 int DpiOfMonitor(HMONITOR monitor) {
   // Shcore.dll came with Windows 8.1.
   using GetDpi = HRESULT(WINAPI*)(HMONITOR, int, UINT*, UINT*);
@@ -26,7 +82,8 @@ int DpiOfMonitor(HMONITOR monitor) {
   }();
   UINT x = 0;
   UINT y = 0;
-  if (getDpi != nullptr && getDpi(monitor, 0, &x, &y) == S_OK && x != 0) return static_cast<int>(x);
+  if (getDpi != nullptr && getDpi(monitor, 0, &x, &y) == S_OK && x != 0)
+    return Screens::WithTextScale(static_cast<int>(x));
   return Screens::SystemDpi();
 }
 
@@ -111,15 +168,11 @@ void Screens::DeclareAwareness() {
   if (setContext == nullptr || setContext(perMonitorV2) == FALSE) SetProcessDPIAware();
 }
 
-int Screens::SystemDpi() {
-  static const int dpi = [] {
-    const HDC screen = GetDC(nullptr);
-    const int found = GetDeviceCaps(screen, LOGPIXELSX);
-    ReleaseDC(nullptr, screen);
-    return found > 0 ? found : 96;
-  }();
-  return dpi;
-}
+void Screens::Forget() { RememberedTextSize().reset(); }
+
+int Screens::WithTextScale(int dpi) { return static_cast<int>(std::lround(dpi * UserTextSize().Scale)); }
+
+int Screens::SystemDpi() { return WithTextScale(PlainSystemDpi()); }
 
 int Screens::DpiOf(HWND window) { return DpiOfMonitor(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST)); }
 
@@ -150,7 +203,8 @@ void Screens::AddEdges(RECT& inside, DWORD style, DWORD extendedStyle, int dpi) 
   // The call that knows resolutions came with Windows 10.
   using AdjustForDpi = BOOL(WINAPI*)(RECT*, DWORD, BOOL, DWORD, UINT);
   static const auto forDpi = Find<AdjustForDpi>(L"user32.dll", "AdjustWindowRectExForDpi");
-  if (forDpi == nullptr || forDpi(&inside, style, FALSE, extendedStyle, static_cast<UINT>(dpi)) == FALSE) {
+  const long plainDpi = std::lround(dpi / UserTextSize().Scale);
+  if (forDpi == nullptr || forDpi(&inside, style, FALSE, extendedStyle, static_cast<UINT>(plainDpi)) == FALSE) {
     AdjustWindowRectEx(&inside, style, FALSE, extendedStyle);
   }
 }
@@ -163,18 +217,9 @@ form::Screen Screens::Primary() {
 }
 
 LOGFONTW Screens::MessageFont(int dpi) {
-  NONCLIENTMETRICSW metrics{};
-  metrics.cbSize = sizeof metrics;
-  // The call that knows resolutions came with Windows 10.
-  using ParametersForDpi = BOOL(WINAPI*)(UINT, UINT, void*, UINT, UINT);
-  static const auto forDpi = Find<ParametersForDpi>(L"user32.dll", "SystemParametersInfoForDpi");
-  if (forDpi != nullptr &&
-      forDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, static_cast<UINT>(dpi)) != FALSE) {
-    return metrics.lfMessageFont;
-  }
-  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
-  metrics.lfMessageFont.lfHeight = MulDiv(metrics.lfMessageFont.lfHeight, dpi, SystemDpi());
-  return metrics.lfMessageFont;
+  LOGFONTW font = UserTextSize().Font;
+  font.lfHeight = MulDiv(font.lfHeight, dpi, 96);
+  return font;
 }
 
 }  // namespace vantor::win32

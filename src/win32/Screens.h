@@ -11,11 +11,19 @@ namespace vantor::win32 {
 /// Every screen has a resolution of its own, and the system's is the one of the main screen when the user signed
 /// in. Places on the desktop are told in twips such that lengths within a screen are true on it: a screen's edge
 /// that is nearer to the main screen lies where the system's resolution puts it, and the rest is counted from there.
+///
+/// Where the user has asked for larger texts, all resolutions here are raised by as much, so that whatever holds a text
+/// grows with it; but only as far as the smallest screen that the program runs on still fits the main screen.
 class Screens {
  public:
   /// Tells Windows that the program scales itself on every screen. Does nothing when the manifest has said so.
   static void DeclareAwareness();
 
+  /// The user's settings or the screens have changed: what is remembered of them is asked for anew.
+  static void Forget();
+
+  /// The resolution that Windows tells of, raised for larger texts.
+  [[nodiscard]] static int WithTextScale(int dpi);
   [[nodiscard]] static int SystemDpi();
   /// Dots per inch of the screen that holds most of the window, or of the rectangle in pixels.
   [[nodiscard]] static int DpiOf(HWND window);

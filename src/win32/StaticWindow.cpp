@@ -38,15 +38,8 @@ void StaticWindow::Paint(Canvas& canvas) {
                   Look().Ink(label.ForeColor(), label.Enabled()), DT_WORDBREAK);
       break;
     }
-    case form::ControlKind::Image:
-      DrawPicture(canvas, static_cast<const form::Image&>(Control()).Picture(), canvas.Whole(), Look().Colors(),
-                  Scale());
-      break;
-    case form::ControlKind::PictureBox:
-      DrawPicture(canvas, static_cast<const form::PictureBox&>(Control()).Picture(), canvas.Whole(), Look().Colors(),
-                  Scale());
-      break;
     default:
+      DrawPicture(canvas, ShownPicture(), canvas.Whole(), Look().Colors(), Scale());
       break;
   }
 }

@@ -159,7 +159,12 @@ void Desktop::SessionEnds() {
 
 void Desktop::SettingsChanged() {
   theme_.Forget();
-  for (FormWindow* window : windows_) window->Refresh();
+  Screens::Forget();
+  // By index, because what this causes may unload forms.
+  for (std::size_t i = 0; i < windows_.size(); ++i) {
+    const FormWindow::Handling handling(*windows_[i]);
+    Guard([&] { windows_[i]->ScreensChanged(); });
+  }
 }
 
 std::unique_ptr<form::FormWindow> Desktop::MakeWindow(form::Form& form) {

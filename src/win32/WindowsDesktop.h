@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "form/UserInterface.h"
+#include "win32/Com.h"
 #include "win32/FormWindow.h"
 #include "win32/Handle.h"
 #include "win32/Theme.h"
@@ -43,6 +44,8 @@ class Desktop final : public form::UserInterface {
   // For the windows.
 
   [[nodiscard]] Theme& Look() const { return theme_; }
+  /// Entered by those who need it.
+  [[nodiscard]] Apartment& Com() { return com_; }
   /// Runs a window's work and hands what it throws to OnError.
   template <class Work>
   void Guard(const Work& work) const {
@@ -85,6 +88,7 @@ class Desktop final : public form::UserInterface {
   void Sweep();
 
   mutable Theme theme_;
+  Apartment com_;
   WindowHandle application_;
   std::vector<FormWindow*> windows_;
   std::vector<std::unique_ptr<FormWindow>> discarded_;

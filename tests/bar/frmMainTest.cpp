@@ -86,6 +86,28 @@ TEST_CASE("the bar stands as it was left, and a place that no screen shows is br
   }
 }
 
+TEST_CASE("the bar and an open panel come along when the screen or the room on it shrinks") {
+  StartedProgram program("2", "6000\r\n9000");
+  form::Screen& screen = program.Desktop.Desktop;
+  screen.Bounds = {0, 0, 12000, 9000};
+  screen.WorkArea = {0, 600, 12000, 8400};
+  program.Desktop.Press(form::Key::F6);
+  program.Main.InputScreensChanged();
+  program.Choose.InputScreensChanged();
+  CHECK(program.Main.Bounds().Right() <= 12000 - 480);
+  CHECK(program.Main.Bounds().Bottom() <= 9000 - 600);
+  CHECK(program.Choose.Bounds().Bottom() <= 9000);
+  // A taskbar along the top, and a screen that is narrower than the bar.
+  screen.Bounds = screen.WorkArea = {0, 600, 6000, 8400};
+  screen.Bounds.Top = 0;
+  form::Rect top = program.Main.Bounds();
+  top.Top = 0;
+  program.Main.SetBounds(top);
+  program.Main.InputScreensChanged();
+  CHECK(program.Main.Bounds().Left == 0);
+  CHECK(program.Main.Bounds().Top == 600);
+}
+
 TEST_CASE("the bar climbs on top each second, except while a message or a panel is open or the user does not want it") {
   StartedProgram bar;
   bar.Desktop.Advance(1000);

@@ -1,0 +1,279 @@
+// What a screen reader hears, read as one reads it; and the keyboard's way through every panel.
+
+#include <doctest/doctest.h>
+#include <windows.h>
+
+#include <oleacc.h>
+
+#include <algorithm>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "desktop/Input.h"
+#include "desktop/Program.h"
+#include "desktop/Text.h"
+#include "desktop/Wait.h"
+#include "desktop/Window.h"
+
+namespace vantor::desktop {
+namespace {
+
+const std::pair<LONG, const char*> RoleNames[] = {
+    {ROLE_SYSTEM_ALERT, "alert"},       {ROLE_SYSTEM_CHECKBUTTON, "check"}, {ROLE_SYSTEM_CLIENT, "client"},
+    {ROLE_SYSTEM_COMBOBOX, "combo"},    {ROLE_SYSTEM_DIALOG, "dialog"},     {ROLE_SYSTEM_GRAPHIC, "graphic"},
+    {ROLE_SYSTEM_GROUPING, "group"},    {ROLE_SYSTEM_LIST, "list"},         {ROLE_SYSTEM_PANE, "pane"},
+    {ROLE_SYSTEM_PUSHBUTTON, "button"}, {ROLE_SYSTEM_RADIOBUTTON, "radio"}, {ROLE_SYSTEM_STATICTEXT, "text"},
+    {ROLE_SYSTEM_TEXT, "edit"},
+};
+const std::pair<LONG, const char*> StateNames[] = {
+    {STATE_SYSTEM_UNAVAILABLE, "unavailable"}, {STATE_SYSTEM_FOCUSED, "focused"},
+    {STATE_SYSTEM_PRESSED, "pressed"},         {STATE_SYSTEM_CHECKED, "checked"},
+    {STATE_SYSTEM_READONLY, "readonly"},       {STATE_SYSTEM_EXPANDED, "expanded"},
+    {STATE_SYSTEM_COLLAPSED, "collapsed"},     {STATE_SYSTEM_INVISIBLE, "invisible"},
+};
+
+/// A window as another program's reader meets it.
+class Heard {
+ public:
+  explicit Heard(HWND window) : window_(window) {
+    CoInitialize(nullptr);
+    void* object = nullptr;
+    if (FAILED(AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible, &object))) {
+      throw std::runtime_error("a window is not accessible");
+    }
+    object_ = static_cast<IAccessible*>(object);
+  }
+  ~Heard() { object_->Release(); }
+  Heard(const Heard&) = delete;
+  Heard& operator=(const Heard&) = delete;
+
+  [[nodiscard]] std::string Name() const { return Text(&IAccessible::get_accName); }
+  [[nodiscard]] std::string Value() const { return Text(&IAccessible::get_accValue); }
+  [[nodiscard]] std::string Key() const { return Text(&IAccessible::get_accKeyboardShortcut); }
+  [[nodiscard]] LONG Role() const { return Number(&IAccessible::get_accRole); }
+  [[nodiscard]] LONG State() const { return Number(&IAccessible::get_accState); }
+  void Act() const { CHECK(object_->accDoDefaultAction(Self()) == S_OK); }
+
+  /// All in one line: role "name" <key> {value} states.
+  [[nodiscard]] std::string Line() const {
+    std::ostringstream line;
+    const LONG role = Role();
+    const auto* const named =
+        std::find_if(std::begin(RoleNames), std::end(RoleNames), [role](const auto& row) { return row.first == role; });
+    line << (named != std::end(RoleNames) ? named->second : "?");
+    if (!Name().empty()) line << " \"" << Name() << '"';
+    if (!Key().empty()) line << " <" << Key() << '>';
+    if (role == ROLE_SYSTEM_TEXT || role == ROLE_SYSTEM_COMBOBOX) line << " {" << Value() << '}';
+    const LONG state = State();
+    for (const auto& [bit, name] : StateNames) {
+      const bool taken = bit == STATE_SYSTEM_READONLY && role == ROLE_SYSTEM_STATICTEXT;
+      if ((state & bit) != 0 && !taken) line << ' ' << name;
+    }
+    return line.str();
+  }
+
+ private:
+  static VARIANT Self() {
+    VARIANT self{};
+    self.vt = VT_I4;
+    self.lVal = CHILDID_SELF;
+    return self;
+  }
+  std::string Text(HRESULT (STDMETHODCALLTYPE IAccessible::*question)(VARIANT, BSTR*)) const {
+    BSTR text = nullptr;
+    (object_->*question)(Self(), &text);
+    std::string told = text != nullptr ? Narrow(text) : std::string();
+    SysFreeString(text);
+    return told;
+  }
+  LONG Number(HRESULT (STDMETHODCALLTYPE IAccessible::*question)(VARIANT, VARIANT*)) const {
+    VARIANT number{};
+    (object_->*question)(Self(), &number);
+    return number.vt == VT_I4 ? number.lVal : -1;
+  }
+
+  HWND window_;
+  IAccessible* object_ = nullptr;
+};
+
+/// The lines of a window and all its visible controls.
+std::multiset<std::string> Hear(HWND window) {
+  std::multiset<std::string> lines{Heard(window).Line()};
+  for (HWND control : window::Controls(window)) lines.insert(Heard(control).Line());
+  return lines;
+}
+
+HWND Focus(HWND window) {
+  GUITHREADINFO thread = {};
+  thread.cbSize = sizeof thread;
+  GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &thread);
+  return thread.hwndFocus;
+}
+
+/// The form that has the input, other than the bar.
+HWND Panel(const Program& program) {
+  HWND front = GetForegroundWindow();
+  return front != program.Bar() && window::HasInput(front) ? front : nullptr;
+}
+
+/// Everything that a control shows on the screen.
+std::vector<DWORD> Picture(HWND window) {
+  const RECT place = window::Bounds(window);
+  const int width = place.right - place.left;
+  const int height = place.bottom - place.top;
+  HDC screen = GetDC(nullptr);
+  HDC memory = CreateCompatibleDC(screen);
+  HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
+  HGDIOBJ old = SelectObject(memory, bitmap);
+  BitBlt(memory, 0, 0, width, height, screen, place.left, place.top, SRCCOPY);
+  SelectObject(memory, old);
+  BITMAPINFO info{};
+  info.bmiHeader = {sizeof info.bmiHeader, width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+  std::vector<DWORD> pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+  GetDIBits(memory, bitmap, 0, static_cast<UINT>(height), pixels.data(), &info, DIB_RGB_COLORS);
+  DeleteObject(bitmap);
+  DeleteDC(memory);
+  ReleaseDC(nullptr, screen);
+  return pixels;
+}
+
+/// Walks once round a form by Tab: all that can be used must be on the way, and must look otherwise with the focus.
+void CheckTabs(HWND form) {
+  std::set<HWND> awaited;
+  for (HWND control : window::Controls(form)) {
+    const LONG state = Heard(control).State();
+    if ((state & STATE_SYSTEM_FOCUSABLE) != 0 && (state & (STATE_SYSTEM_UNAVAILABLE | STATE_SYSTEM_INVISIBLE)) == 0) {
+      awaited.insert(control);
+    }
+  }
+  HWND const first = Focus(form);
+  std::set<HWND> visited;
+  HWND control = first;
+  do {
+    CAPTURE(Heard(control).Line());
+    visited.insert(control);
+    const std::vector<DWORD> focused = Picture(control);
+    input::Press(VK_TAB);
+    if (awaited.size() == 1) break;
+    Await("Tab to go on", [&] { return Focus(form) != control; });
+    CHECK(Eventually([&] { return Picture(control) != focused; }, 3000));
+    control = Focus(form);
+  } while (control != first && visited.size() <= awaited.size());
+  CHECK(visited == awaited);
+}
+
+DWORD selectionsTold = 0;
+HWND selectionBox = nullptr;
+
+void CALLBACK SelectionTold(HWINEVENTHOOK, DWORD, HWND window, LONG, LONG, DWORD, DWORD) {
+  if (window == selectionBox) ++selectionsTold;
+}
+
+class ListedFolder : public Folder {
+ public:
+  ListedFolder() {
+    Write("a.exe", "");
+    WriteSettings({.OptionMask = 2, .ProgUpper = 0, .Left = 600, .Top = 600});
+    Write("Vantor\\ListProg.Orbel", ListBytes({{"notepad", Path("a.exe")}}));
+  }
+};
+
+}  // namespace
+
+TEST_CASE("every control has a role and a name for a screen reader, and the state that it is in") {
+  const ListedFolder folder;
+  Program program(folder);
+  HWND bar = program.AwaitBar();
+  const struct {
+    WORD Key;  // opens the form; 0 for the bar itself
+    std::vector<std::string> Lines;
+  } rows[] = {
+      {0,
+       {"client \"Vantor\"", "edit \"Command Line\" {Vantor} focused", "graphic \"Vantor\"", "button \"Exit\" <F10>",
+        "button \"Minimize\" <F9>", "button \"Show | Hide Preferences\" <F6>",
+        "button \"Show | Hide Add URL\" <F1> collapsed"}},
+      {VK_F2,
+       {"client \"Add To List\"", "radio \"Prog.\" focused checked", "radio \"Folder\"",
+        "combo \"Drive\" {c:} collapsed", "list \"Folder\"", "list \"File\"", "edit \"Path\" {} readonly",
+        "edit \"Type a Launch Name\" {} unavailable", "button \"Add\" unavailable"}},
+      {VK_F3, {"client \"Open\"", "combo \"Drive\" {c:} focused collapsed", "button \"Open\" unavailable"}},
+      {VK_F4,
+       {"client \"List\"", "group \"Program List :\"", "combo \"Program Name\" {notepad} focused collapsed",
+        "combo \"Program Launch Path\" {" + folder.Path("a.exe") + "} collapsed", "combo \"Web URL Name\" {} collapsed",
+        "button \"Rename\" unavailable"}},
+      {VK_F6,
+       {"client \"Options\"", "check \"Start With Windows\" focused", "check \"Always On Top\" checked",
+        "button \"OK\" unavailable"}},
+      {VK_F7, {"client \"Help\"", "edit \"Data folder\" {" + folder.Path("Vantor") + "} readonly"}},
+      {VK_F8, {"client \"Code\"", "button \"Hide\" focused", "text \"Control Panel Commands :\""}},
+  };
+  for (const auto& row : rows) {
+    CAPTURE(row.Key);
+    HWND form = bar;
+    if (row.Key != 0) {
+      input::Press(row.Key);
+      Await("a panel", [&] { return Panel(program) != nullptr; });
+      form = Panel(program);
+    }
+    const std::multiset<std::string> lines = Hear(form);
+    for (const std::string& line : lines) {
+      CAPTURE(line);
+      const bool named = line.find('"') != std::string::npos;
+      CHECK((named || line == "pane" || line.ends_with("invisible")));
+      CHECK(line[0] != '?');
+    }
+    for (const std::string& line : row.Lines) {
+      CAPTURE(line);
+      CHECK(lines.contains(line));
+    }
+    CheckTabs(form);
+    if (row.Key == 0) continue;
+    input::Press(VK_ESCAPE);
+    program.AwaitBar();
+  }
+}
+
+TEST_CASE("a completion is told as the text box's selection") {
+  const ListedFolder folder;
+  Program program(folder);
+  program.AwaitBar();
+  selectionBox = program.TextMain();
+  HWINEVENTHOOK hook = SetWinEventHook(EVENT_OBJECT_TEXTSELECTIONCHANGED, EVENT_OBJECT_TEXTSELECTIONCHANGED, nullptr,
+                                       SelectionTold, 0, 0, WINEVENT_OUTOFCONTEXT);
+  program.TypeLine("p-no");
+  CHECK_BECOMES(program.LineWithSelection(), "p-no[tepad]");
+  selectionsTold = 0;
+  input::Type("t");
+  CHECK_BECOMES(program.LineWithSelection(), "p-not[epad]");
+  CHECK(Eventually([] { return selectionsTold > 0; }));
+  CHECK(Heard(program.TextMain()).Value() == "p-notepad");
+  UnhookWinEvent(hook);
+}
+
+TEST_CASE("a reader opens a panel by acting on its button, and hears that it is open; a message is a dialog") {
+  const ListedFolder folder;
+  Program program(folder);
+  program.AwaitBar();
+  const Heard button(program.Button("Show | Hide Preferences"));
+  button.Act();
+  Await("the panel", [&] { return Panel(program) != nullptr; });
+  CHECK_BECOMES(button.Line(), "button \"Show | Hide Preferences\" <F6> pressed");
+  button.Act();
+  program.AwaitBar();
+  CHECK_BECOMES(button.Line(), "button \"Show | Hide Preferences\" <F6>");
+
+  program.TypeLine("p=no such program");
+  input::Press(VK_RETURN);
+  HWND message = program.AwaitMessage();
+  const std::multiset<std::string> lines = Hear(message);
+  for (const char* line : {"dialog \"Message For - Anna\"", "button \"OK\" focused", "button \"Cancel\" unavailable",
+                           "text \"There was some error. Could not run the program.\""}) {
+    CAPTURE(line);
+    CHECK(lines.contains(line));
+  }
+  program.AnswerMessage();
+}
+
+}  // namespace vantor::desktop

@@ -1,0 +1,111 @@
+#include <doctest/doctest.h>
+#include <windows.h>
+
+#include "form/Button.h"
+#include "form/Form.h"
+#include "form/ListControl.h"
+#include "form/Static.h"
+#include "form/TextBox.h"
+#include "win32/ControlWindow.h"
+#include "win32/Screens.h"
+#include "win32/WindowsDesktop.h"
+
+using namespace vantor;
+using win32::Screens;
+
+namespace {
+
+class SampleForm : public form::Form {
+ public:
+  SampleForm(form::UserInterface& ui, form::BorderStyle border) : Form(ui, L"SampleForm") {
+    SetBorderStyle(border);
+    SetBounds({1500, 1200, 4500, 1500});
+    Frame.SetBounds({150, 150, 4200, 1200});
+    Button.SetBounds({300, 75, 1215, 390});
+    Text.SetBounds({300, 600, 1500, 315});
+    List.SetBounds({2100, 600, 1500, 315});
+  }
+
+  form::Frame Frame{*this, L"Frame"};
+  form::CommandButton Button{Frame, L"Button"};
+  form::TextBox Text{Frame, L"Text"};
+  form::ComboBox List{Frame, L"List"};
+};
+
+HWND WindowOf(const form::Form& form) { return static_cast<const win32::FormWindow*>(form.Window())->Hwnd(); }
+HWND WindowOf(const form::Control& control) { return win32::ControlWindow::Of(&control)->Hwnd(); }
+
+/// Whether everything of the form has the size and place that its twips have at a resolution.
+void CheckPixels(const SampleForm& sample, int dpi) {
+  CAPTURE(dpi);
+  const auto pixels = [dpi](form::Twips twips) { return MulDiv(twips, dpi, 1440); };
+  RECT inside;
+  GetClientRect(WindowOf(sample), &inside);
+  CHECK(inside.right == pixels(sample.Bounds().Width));
+  CHECK(inside.bottom == pixels(sample.Bounds().Height));
+  LOGFONTW font{};
+  for (const form::Control* control : sample.Controls()) {
+    CAPTURE(dpi);
+    const HWND window = WindowOf(*control);
+    RECT place;
+    GetWindowRect(window, &place);
+    MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&place), 2);
+    CHECK(place.left == pixels(control->Left()));
+    CHECK(place.top == pixels(control->Top()));
+    CHECK(place.right - place.left == pixels(control->Width()));
+    CHECK(place.bottom - place.top == pixels(control->Height()));
+    GetObjectW(reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)), sizeof font, &font);
+    CHECK(font.lfHeight == Screens::MessageFont(dpi).lfHeight);
+  }
+}
+
+/// Windows tells a form that it has come to a screen of another resolution.
+void Tell(const SampleForm& sample, int dpi) {
+  RECT place;
+  GetWindowRect(WindowOf(sample), &place);
+  SendMessageW(WindowOf(sample), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&place));
+}
+
+}  // namespace
+
+TEST_CASE("a form that comes to a screen of another scale is laid out for it, with a title bar and without") {
+  win32::Desktop desktop;
+  for (const form::BorderStyle border : {form::BorderStyle::None, form::BorderStyle::Dialog}) {
+    SampleForm sample(desktop, border);
+    sample.Show();
+    const form::Rect bounds = sample.Bounds();
+    for (const int dpi : {96, 192, 120, 144, 96}) {
+      Tell(sample, dpi);
+      CheckPixels(sample, dpi);
+    }
+    CHECK(sample.Bounds() == bounds);
+    sample.Unload();
+  }
+}
+
+TEST_CASE("larger texts enlarge what holds them, as far as the screen allows, and the font with it") {
+  win32::Desktop desktop;
+  SampleForm sample(desktop, form::BorderStyle::None);
+  sample.Show();
+  NONCLIENTMETRICSW usual{};
+  usual.cbSize = sizeof usual;
+  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof usual, &usual, 0);
+  const auto ask = [&](LONG height) {
+    NONCLIENTMETRICSW asked = usual;
+    asked.lfMessageFont.lfHeight = height;
+    SystemParametersInfoW(SPI_SETNONCLIENTMETRICS, sizeof asked, &asked, 0);
+    desktop.SettingsChanged();
+  };
+  ask(-18);
+  CheckPixels(sample, 144);
+  CHECK(Screens::MessageFont(144).lfHeight == -18);
+  const form::Rect screen = desktop.PrimaryScreen().Bounds;
+  CHECK(screen.Width == MulDiv(GetSystemMetrics(SM_CXSCREEN), 1440, 144));
+  ask(-200);
+  const form::Rect smallest = desktop.PrimaryScreen().Bounds;
+  CHECK(smallest.Width >= 11900);
+  CHECK(smallest.Height >= 8900);
+  ask(usual.lfMessageFont.lfHeight);
+  CheckPixels(sample, 96);
+  sample.Unload();
+}
