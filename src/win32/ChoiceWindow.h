@@ -9,7 +9,7 @@ namespace vantor::win32 {
 class ChoiceWindow : public ControlWindow {
  public:
   void Refresh() override;
-  [[nodiscard]] std::wstring SpokenName() const override { return Caption(); }
+  [[nodiscard]] std::wstring SpokenName() const override { return button_.Caption(); }
   void OnCommand(WORD notification) override;
   HBRUSH OnColor(HDC dc) override;
 

@@ -8,6 +8,7 @@
 #include "desktop/Program.h"
 #include "desktop/Wait.h"
 #include "desktop/Window.h"
+#include "desktop/Wine.h"
 
 namespace vantor::desktop {
 namespace {
@@ -94,6 +95,29 @@ TEST_CASE("a saved place that no screen shows is brought back") {
   const RECT bounds = window::Bounds(program.AwaitBar());
   CHECK(bounds.right < GetSystemMetrics(SM_CXSCREEN));
   CHECK(bounds.top == 0);
+}
+
+TEST_CASE("the bar comes along when the screen gets smaller") {
+  DEVMODEW mode = {};
+  mode.dmSize = sizeof mode;
+  mode.dmFields = DM_PELSWIDTH | DM_PELSHEIGHT;
+  mode.dmPelsWidth = 1024;
+  mode.dmPelsHeight = 768;
+  SKIP_UNLESS(GetSystemMetrics(SM_CXSCREEN) > 1024, "a large screen");
+  SKIP_UNLESS(ChangeDisplaySettingsW(&mode, CDS_TEST) == DISP_CHANGE_SUCCESSFUL, "a display with two modes");
+  const Folder folder;
+  const int twips = TwipsPerPixel();
+  folder.WriteSettings({.Left = 740 * twips, .Top = 950 * twips});
+  Program program(folder);
+  HWND bar = program.AwaitBar();
+  CHECK(Near(bar, {740, 950}));
+  REQUIRE(ChangeDisplaySettingsW(&mode, 0) == DISP_CHANGE_SUCCESSFUL);
+  CHECK(Eventually([&] {
+    const RECT place = window::Bounds(bar);
+    return place.right <= 1024 - 480 / twips && place.bottom <= 768 - 600 / twips;
+  }));
+  ChangeDisplaySettingsW(nullptr, 0);
+  CHECK_BECOMES(GetSystemMetrics(SM_CXSCREEN) > 1024, true);
 }
 
 TEST_CASE("a minimised bar saves the place that it would be restored to") {

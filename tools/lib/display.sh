@@ -27,6 +27,9 @@ start_display() {
   read -r -t 30 number <&"$display_pipe" || die "no X server: is Xvfb installed?"
   export DISPLAY=":$number"
   unset XAUTHORITY
+  # A second, smaller mode, for the tests that change the resolution.
+  xrandr --newmode 1024x768 65 1024 1048 1184 1344 768 771 777 806 >/dev/null 2>&1 &&
+    xrandr --addmode screen 1024x768 >/dev/null 2>&1 || true
   setpriv --pdeathsig TERM openbox --sm-disable --config-file "$repo/tools/lib/openbox.xml" >/dev/null 2>&1 &
   window_manager_pid=$!
   wait_until 30 "the window manager" window_manager_runs
