@@ -95,7 +95,8 @@ void FrameWindow::Paint(Canvas& canvas) {
                   ground);
   if (frame_.Caption().empty()) return;
   // The caption interrupts the line, which it stands on: above the line is what is behind the frame.
-  const double right = std::min<double>(left + text.cx + 2 * gap, canvas.Width() - left);
+  // What is drawn may be a little wider than what was measured.
+  const double right = std::min<double>(left + text.cx * 1.05 + 2 * gap, canvas.Width() - left);
   canvas.Shade({double(left), top, right - left, line}, ground, ground);
   canvas.Text(frame_.Caption(), {left + gap, 0, static_cast<LONG>(right), text.cy}, font,
               look.Ink(frame_.ForeColor(), frame_.Enabled()), DT_SINGLELINE | DT_END_ELLIPSIS);

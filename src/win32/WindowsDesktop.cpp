@@ -48,8 +48,8 @@ form::Size Desktop::MeasureText(std::wstring_view text, bool bold, form::Twips w
   RECT area{0, 0, std::max(Screens::ToPixels(width, dpi), 1), 0};
   DrawTextW(dc.Get(), text.data(), static_cast<int>(text.size()), &area, DT_CALCRECT | DT_NOPREFIX | DT_WORDBREAK);
   SelectObject(dc.Get(), oldFont);
-  // A pixel more, for screens where the font comes out a little wider.
-  return {Screens::ToTwips(area.right + 1, dpi), Screens::ToTwips(area.bottom + 1, dpi)};
+  // A little more, for screens of another scale, where the font comes out wider.
+  return {Screens::ToTwips(area.right + area.right / 20 + 1, dpi), Screens::ToTwips(area.bottom + 1, dpi)};
 }
 
 void Desktop::RunModal(form::Form& form) {
