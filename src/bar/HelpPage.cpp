@@ -1,6 +1,7 @@
 #include "bar/HelpPage.h"
 
 #include <algorithm>
+#include <string>
 
 namespace vantor::bar {
 
@@ -18,11 +19,18 @@ constexpr std::wstring_view TypedMeanings =
     L"runs a program\r\nopens a file\r\nopens a folder\r\nopens a special folder\r\nopens a Control Panel page\r\n"
     L"opens a web site\r\nopens www.example.com\r\nwrites a mail\r\ndials a telephone number\r\n"
     L"and a name: opens it from your list";
-constexpr std::wstring_view ButtonLines =
-    L"F1\r\n+   F2\r\n>   F3\r\nL   F4\r\nP   F6\r\n?   F7\r\nC   F8\r\nF9, Esc\r\nF10\r\nF12";
+constexpr std::wstring_view TypedCompanion = L"\r\nr-";
+constexpr std::wstring_view TypedCompanionMeaning = L"\r\nand a name: runs a program of \"!\"";
+// The buttons before and after that of the maker's other programs.
+constexpr std::wstring_view ButtonLines = L"F1\r\n+   F2\r\n>   F3\r\nL   F4\r\n";
 constexpr std::wstring_view ButtonMeanings =
     L"unfolds the box that adds web sites\r\nadds programs, files and folders to your list\r\nopens any file\r\n"
-    L"opens, renames and removes what is in your list\r\npreferences\r\nthis help\r\nall codes and their words\r\n"
+    L"opens, renames and removes what is in your list\r\n";
+constexpr std::wstring_view CompanionButton = L"!   F5\r\n";
+constexpr std::wstring_view CompanionButtonMeaning = L"runs Orbel's other programs\r\n";
+constexpr std::wstring_view LaterButtonLines = L"P   F6\r\n?   F7\r\nC   F8\r\nF9, Esc\r\nF10\r\nF12";
+constexpr std::wstring_view LaterButtonMeanings =
+    L"preferences\r\nthis help\r\nall codes and their words\r\n"
     L"minimizes the bar; Esc closes an open panel first\r\nsaves and exits\r\nempties the line";
 
 }  // namespace
@@ -31,11 +39,10 @@ HelpPage::HelpPage(form::Form& form, const start::Environment& environment)
     : FrameHelp(form, L"FrameHelp"),
       environment_(environment),
       typing_{text_.Add(FrameHelp, L"Type a code and what it is about, then press Enter", true),
-              text_.Add(FrameHelp, TypedLines), text_.Add(FrameHelp, TypedMeanings)},
+              text_.Add(FrameHelp, {}), text_.Add(FrameHelp, {})},
       completion_(text_.Add(
           FrameHelp, L"Names and words complete while you type. Enter takes the completion, Backspace drops it.")),
-      buttons_{text_.Add(FrameHelp, L"Buttons and keys", true), text_.Add(FrameHelp, ButtonLines),
-               text_.Add(FrameHelp, ButtonMeanings)},
+      buttons_{text_.Add(FrameHelp, L"Buttons and keys", true), text_.Add(FrameHelp, {}), text_.Add(FrameHelp, {})},
       adding_{text_.Add(FrameHelp, L"Adding to your list", true),
               text_.Add(FrameHelp,
                         L"Press + (F2), say whether it is a program, a file or a folder, and pick it; or press \"Find "
@@ -58,7 +65,16 @@ HelpPage::HelpPage(form::Form& form, const start::Environment& environment)
   TextHelpFolder.SetAccessibleName(L"Data folder");
 }
 
-void HelpPage::Prepare() { TextHelpFolder.SetText(environment_.DataFolder); }
+void HelpPage::Prepare() {
+  const bool companions = !environment_.Companions.empty();
+  const auto ifThere = [companions](std::wstring_view text) { return companions ? text : std::wstring_view(); };
+  typing_.Left.SetCaption(std::wstring(TypedLines).append(ifThere(TypedCompanion)));
+  typing_.Right.SetCaption(std::wstring(TypedMeanings).append(ifThere(TypedCompanionMeaning)));
+  buttons_.Left.SetCaption(std::wstring(ButtonLines).append(ifThere(CompanionButton)).append(LaterButtonLines));
+  buttons_.Right.SetCaption(
+      std::wstring(ButtonMeanings).append(ifThere(CompanionButtonMeaning)).append(LaterButtonMeanings));
+  TextHelpFolder.SetText(environment_.DataFolder);
+}
 
 form::Size HelpPage::LayOut() {
   const Twips tablesWidth = std::max(typing_.Width(), buttons_.Width());

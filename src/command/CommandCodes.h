@@ -14,6 +14,7 @@ enum class Argument {
   ControlPanelPage,  // a word of ControlPanelNames
   MakerAddress,      // one of MailAddresses; only a completed one is acted on
   ItemName,          // a name of the code's group; only a completed one is acted on
+  CompanionName,     // a name of the maker's other programs; only a completed one is acted on
 };
 
 enum class Starter { Program, Explorer, Shell, ControlPanel, MakerMail, Telephone };
@@ -30,7 +31,7 @@ struct CommandCode {
 
 inline constexpr std::size_t CodeLength = 2;
 
-inline constexpr std::array<CommandCode, 21> CommandCodes{{
+inline constexpr std::array<CommandCode, 22> CommandCodes{{
     {L"p=", Argument::Typed, Starter::Program},
     {L"f=", Argument::Typed, Starter::Shell},
     {L"d=", Argument::Typed, Starter::Explorer},
@@ -52,6 +53,7 @@ inline constexpr std::array<CommandCode, 21> CommandCodes{{
     {L"f-", Argument::ItemName, Starter::Shell, {}, {}, list::LaunchGroup::File},
     {L"d-", Argument::ItemName, Starter::Explorer, {}, {}, list::LaunchGroup::Fold},
     {L"w-", Argument::ItemName, Starter::Shell, {}, {}, list::LaunchGroup::Web},
+    {L"r-", Argument::CompanionName, Starter::Program},
 }};
 
 /// The entry of a code in lower case; null when there is no such code.

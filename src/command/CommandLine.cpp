@@ -74,6 +74,8 @@ void CommandLine::Enter() {
   const std::wstring_view argument = std::wstring_view(text).substr(CodeLength);
   if (code->Argument == Argument::ItemName) {
     StartItem(*code, argument);
+  } else if (code->Argument == Argument::CompanionName) {
+    StartCompanion(*code);
   } else if (code->Starter == Starter::Telephone) {
     Dial(argument);
   } else {
@@ -99,6 +101,12 @@ void CommandLine::StartItem(const CommandCode& code, std::wstring_view name) {
   // The list may have changed since the name was completed.
   if (index == NoIndex || index >= boxes.Name.ListCount() || boxes.Name.List(index) != name) return;
   messages_.ShowList(Start(code.Starter, boxes.Path.List(index)));
+}
+
+void CommandLine::StartCompanion(const CommandCode& code) {
+  const int index = state_.MatchedItemIndex;
+  if (index == NoIndex) return;
+  messages_.ShowList(Start(code.Starter, environment_.Companions.at(static_cast<std::size_t>(index)).Path));
 }
 
 void CommandLine::Dial(std::wstring_view number) {
@@ -149,6 +157,11 @@ void CommandLine::Complete(const CommandCode& code, std::wstring_view prefix, st
       return;
     case Argument::ItemName:
       state_.MatchedItemIndex = text::ToInt16(CompleteFrom(list_.Of(code.Group).Name.Entries(), itself, prefix, typed));
+      return;
+    case Argument::CompanionName:
+      state_.MatchedItemIndex = text::ToInt16(CompleteFrom(
+          environment_.Companions, [](const start::Companion& entry) -> std::wstring_view { return entry.Name; },
+          prefix, typed));
       return;
     case Argument::Typed:
       return;

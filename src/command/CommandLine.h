@@ -39,6 +39,7 @@ class CommandLine {
   void SendMakerMail(std::size_t index);
   void StartTyped(const CommandCode& code, std::wstring_view argument);
   void StartItem(const CommandCode& code, std::wstring_view name);
+  void StartCompanion(const CommandCode& code);
   void Dial(std::wstring_view number);
   [[nodiscard]] message::MessageKey Start(command::Starter starter, const std::wstring& target) const;
 

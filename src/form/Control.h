@@ -17,6 +17,7 @@ enum class ControlKind {
   CheckBox,
   OptionButton,
   ComboBox,
+  ListBox,
   Label,
   Frame,
   Image,

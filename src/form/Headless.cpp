@@ -100,6 +100,7 @@ void Headless::TypeCharacter(wchar_t character) {
     case ControlKind::CheckBox:
       if (character == L' ') static_cast<CheckBox*>(control)->InputClick();
       return;
+    case ControlKind::ListBox:
     case ControlKind::FolderList:
     case ControlKind::FileList:
       if (character == CharEnter) static_cast<ListControl*>(control)->InputDblClick();

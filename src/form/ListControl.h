@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "form/Control.h"
@@ -62,6 +63,19 @@ class ComboBox : public ListControl {
   /// Throws std::out_of_range.
   void RemoveItem(int index);
   void Clear() { ReplaceEntries({}); }
+};
+
+/// A list that shows its entries at once. The program gives them; a double click or Enter chooses one.
+class ListBox : public ListControl {
+ public:
+  template <class Parent>
+  ListBox(Parent& parent, std::wstring_view name) : ListControl(parent, name, ControlKind::ListBox) {
+    SetBackColor(Color::WindowBackground);
+    SetForeColor(Color::WindowText);
+  }
+
+  /// Puts other entries in the place of all, with none selected. Raises nothing.
+  void SetEntries(std::vector<std::wstring> entries) { ReplaceEntries(std::move(entries)); }
 };
 
 }  // namespace vantor::form

@@ -2,6 +2,7 @@
 
 #include "add/MachineIdentity.h"
 #include "command/CodeTables.h"
+#include "start/Companions.h"
 #include "start/DataFolder.h"
 #include "start/Places.h"
 #include "start/Program.h"
@@ -12,7 +13,7 @@ void ActiveStart::Run() {
   using Step = void (ActiveStart::*)();
   for (const Step step : {&ActiveStart::CheckScreen, &ActiveStart::FindPreviousInstance, &ActiveStart::FindPlaces,
                           &ActiveStart::ChooseRunMode, &ActiveStart::PrepareData, &ActiveStart::AskForName,
-                          &ActiveStart::LoadState, &ActiveStart::ShowForms}) {
+                          &ActiveStart::LoadState, &ActiveStart::LookForCompanions, &ActiveStart::ShowForms}) {
     (this->*step)();
     if (program_.Ui.Ended()) return;
   }
@@ -94,6 +95,13 @@ void ActiveStart::LoadState() {
   program_.ListFiles.LoadSettings();  // what can't be read stays as it is at a first start
   command::InitCodeTables(program_.CommandState);
   program_.Options = options::DecodeOptionMask(program_.Settings.OptionMask);
+}
+
+void ActiveStart::LookForCompanions() {
+  Environment& environment = program_.Environment;
+  program_.Messages.Trap(L"FindCompanions",
+                         [&] { environment.Companions = FindCompanions(program_.Services, environment); });
+  if (!environment.Companions.empty()) program_.frmMain.SetPanel(bar::menu::Companions, &program_.CompanionPanel);
 }
 
 void ActiveStart::ShowForms() {

@@ -24,6 +24,7 @@ class ActiveStart {
   void AskForName();
 
   void LoadState();
+  void LookForCompanions();
   void ShowForms();
 
   void Stop(std::wstring_view key);

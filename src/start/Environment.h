@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vantor::start {
 
@@ -25,6 +26,12 @@ struct DataFilePaths {
   std::wstring MachineProg;
 };
 
+/// Another program of the maker.
+struct Companion {
+  std::wstring Name;
+  std::wstring Path;
+};
+
 /// What the start sequence finds out once, for all others to read.
 struct Environment {
   std::wstring WindowsFolder;  // with its trailing backslash; "" when it can't be found
@@ -43,6 +50,8 @@ struct Environment {
 
   bool MachineUnknown = false;     // removable media: no computer has been remembered yet
   bool MachineRemembered = false;  // removable media: this computer is the remembered one
+
+  std::vector<Companion> Companions;  // no two of one name; the help program is the last
 
   bool Starting = false;
   bool FirstStart = false;

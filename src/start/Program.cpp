@@ -72,6 +72,10 @@ void Program::ConnectChoose() {
   hooks.OpenWithShell = [this](std::wstring_view target) { Messages.ShowList(Starters.OpenWithShell(target)); };
   hooks.HotKey = [this](form::Key key) { frmMain.HotKey(key); };
   hooks.Place = [this](form::Size size) { return PlaceByBar(size); };
+  CompanionPage.Start = [this](std::wstring_view target) {
+    frmMain.ClosePanel();
+    Messages.ShowList(Starters.RunProgramCommand(target));
+  };
   OptionsPage.Hooks.ClosePanel = [this] { frmMain.ClosePanel(); };
   OptionsPage.Hooks.RememberMyComputer = [this] { return add::RememberMyComputer(Services, Messages, Environment); };
 }

@@ -3,6 +3,7 @@
 #include "add/frmBrowse.h"
 #include "bar/ChoosePanel.h"
 #include "bar/CodePage.h"
+#include "bar/CompanionPage.h"
 #include "bar/HelpPage.h"
 #include "bar/frmMain.h"
 #include "command/CommandState.h"
@@ -48,9 +49,11 @@ class Program {
   start::frmMove frmMove{Ui, Services, Environment};
   list::frmChoose frmChoose{Ui, ListFiles, Services.Language, Messages};
   options::OptionsPage OptionsPage{frmChoose, {Services.ScriptShell, Environment, Messages, Settings, Options}};
+  bar::CompanionPage CompanionPage{frmChoose, Environment, Messages};
   bar::HelpPage HelpPage{frmChoose, Environment};
   bar::CodePage CodePage{frmChoose};
   bar::ListPanel ListPanel{frmChoose};
+  bar::ChoosePanel CompanionPanel{frmChoose, CompanionPage};  // the bar's when there are any
   bar::ChoosePanel OptionsPanel{frmChoose, OptionsPage};
   bar::ChoosePanel HelpPanel{frmChoose, HelpPage};
   bar::ChoosePanel CodePanel{frmChoose, CodePage};

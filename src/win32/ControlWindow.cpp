@@ -40,6 +40,7 @@ std::unique_ptr<ControlWindow> ControlWindow::Make(FormWindow& owner, form::Cont
         const CommonControls version6;
         return std::make_unique<ComboWindow>(owner, static_cast<form::ListControl&>(control));
       }
+      case form::ControlKind::ListBox:
       case form::ControlKind::FolderList:
       case form::ControlKind::FileList: {
         const CommonControls version6;

@@ -5,7 +5,7 @@
 
 namespace vantor::win32 {
 
-/// A folder list or a file list.
+/// A list box, a folder list or a file list.
 class ListWindow final : public ControlWindow {
  public:
   ListWindow(FormWindow& owner, form::ListControl& list);

@@ -9,7 +9,8 @@ using form::Key;
 using test::StartedProgram;
 
 TEST_CASE("the help and code pages fit the smallest screen, with their texts whole and apart") {
-  StartedProgram program;
+  // With the lines that tell of other programs.
+  StartedProgram program("2", "0\r\n0", {L"C:\\Vantor\\VantorHelp.exe"});
   start::Program& started = program.Program;
   program.Desktop.Desktop.Bounds = {0, 0, 12000, 9000};
   program.Desktop.Desktop.WorkArea = {0, 0, 12000, 8550};

@@ -20,7 +20,9 @@ struct StartedProgram {
   command::CommandState& State = Program.CommandState;
   std::vector<std::wstring> Told;  // the texts of the messages
 
-  explicit StartedProgram(std::string_view optionMask = "2", std::string_view place = "0\r\n0") {
+  explicit StartedProgram(std::string_view optionMask = "2", std::string_view place = "0\r\n0",
+                          const std::vector<std::wstring_view>& files = {}) {
+    for (const std::wstring_view file : files) Services.Disk.AddFile(file);
     const std::string noRecords = "\r\n-1\r\n-1\r\n-1\r\n-1\r\n";
     Services.Disk.AddFile(L"C:\\Vantor\\Vantor\\Set.Orbel",
                           std::string(optionMask) + noRecords + std::string(place) + "\r\n\"\"\r\n-1\r\n-1\r\n-1\r\n");

@@ -242,6 +242,28 @@ TEST_CASE("a list keeps its selection on its entry, and tells of a new one once"
   CHECK_THROWS_AS(combo.SetListIndex(2), std::out_of_range);
 }
 
+TEST_CASE("a list box is filled at once, walked by the arrows, and Enter chooses") {
+  Stage stage;
+  ListBox list(stage.Form, L"List");
+  list.SetBounds({150, 3600, 3000, 900});
+  std::wstring told;
+  list.Click = [&] { told += list.Text(); };
+  list.DblClick = [&] { told += L'!'; };
+  list.SetEntries({L"a", L"b", L"c"});
+  CHECK(list.ListIndex() == -1);
+  list.SetListIndex(0);
+  list.SetFocus();
+  stage.Someone->Press(Key::Down);
+  stage.Someone->Press(Key::Down);
+  stage.Someone->Press(Key::Up);
+  stage.Someone->Press(Key::Enter);
+  CHECK(told == L"abcb!");
+  list.SetEntries({L"d"});
+  CHECK(list.ListIndex() == -1);
+  stage.Someone->Press(Key::Down);
+  CHECK(list.Text() == L"d");
+}
+
 TEST_CASE("two lists that follow each other end after one round") {
   Stage stage;
   ComboBox other(stage.Form, L"Other");

@@ -1,0 +1,67 @@
+#include "bar/CompanionPage.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "form/Form.h"
+#include "form/UserInterface.h"
+#include "list/PictureButton.h"
+#include "product/Product.h"
+
+namespace vantor::bar {
+
+namespace {
+
+using form::Twips;
+
+constexpr Twips Margin = 120;
+constexpr Twips CaptionHeight = 300;
+constexpr Twips LeastWidth = 3000;
+constexpr Twips GreatestWidth = 7200;
+constexpr Twips BesideName = 480;  // the list's edges, and a scroll bar
+constexpr Twips ListHeight = 1920;
+
+}  // namespace
+
+CompanionPage::CompanionPage(form::Form& form, const start::Environment& environment, message::Messages& messages)
+    : FrameRun(form, L"FrameRun"),
+      environment_(environment),
+      title_(std::wstring(product::Publisher).append(L"'s Programs")) {
+  FrameRun.SetCaption(title_);
+  FrameRun.SetVisible(false);
+  ListRunName.SetAccessibleName(title_);
+  list::DressButton(CommandRunOpen, LabelRunOpen, L"Open");
+  ListRunName.DblClick = [this, &messages] {
+    messages.Trap(L"ListRunName_DblClick", [this] { CommandRunOpen_Click(); });
+  };
+  CommandRunOpen.Click = [this, &messages] {
+    messages.Trap(L"CommandRunOpen_Click", [this] { CommandRunOpen_Click(); });
+  };
+}
+
+void CompanionPage::Prepare() {
+  if (ListRunName.ListIndex() != -1) return;  // they were found at the start, and the choice stays
+  std::vector<std::wstring> names;
+  for (const start::Companion& companion : environment_.Companions) names.push_back(companion.Name);
+  ListRunName.SetEntries(std::move(names));
+  if (ListRunName.ListCount() > 0) ListRunName.SetListIndex(0);
+}
+
+form::Size CompanionPage::LayOut() {
+  Twips nameWidth = 0;
+  for (const std::wstring& name : ListRunName.Entries()) {
+    nameWidth = std::max(nameWidth, FrameRun.OwnerForm().Ui().MeasureText(name, false, GreatestWidth).Width);
+  }
+  const Twips width = std::clamp(nameWidth + BesideName, LeastWidth, GreatestWidth);
+  ListRunName.SetBounds({Margin, CaptionHeight, width, ListHeight});
+  list::PlaceButton(CommandRunOpen, LabelRunOpen,
+                    {Margin, ListRunName.Bottom() + Margin, list::ButtonWidth(LabelRunOpen), list::ButtonHeight});
+  return {width + 2 * Margin, CommandRunOpen.Bottom() + Margin};
+}
+
+void CompanionPage::CommandRunOpen_Click() {
+  if (ListRunName.ListIndex() == -1 || !Start) return;
+  Start(environment_.Companions.at(static_cast<std::size_t>(ListRunName.ListIndex())).Path);
+}
+
+}  // namespace vantor::bar

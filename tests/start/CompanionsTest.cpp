@@ -1,0 +1,105 @@
+#include "start/Companions.h"
+
+#include <doctest/doctest.h>
+
+#include "bar/StartedProgram.h"
+
+namespace vantor::start {
+namespace {
+
+using form::Key;
+using Texts = std::vector<std::wstring>;
+
+TEST_CASE("the maker's programs are found beside this one and in the drive's root, each once, the help last") {
+  struct Row {
+    std::wstring Program;
+    Texts Files;
+    Texts Expected;  // the paths; each one's name is that of its file
+  };
+  const Row rows[] = {
+      {L"C:\\Vantor", {}, {}},
+      {L"C:\\Vantor", {L"C:\\Orbel\\Draw\\Other.exe", L"C:\\Orbel\\Draw.exe", L"C:\\Orbels\\Draw\\Draw.exe"}, {}},
+      {L"C:\\Vantor",
+       {L"C:\\Vantor\\VantorHelp.exe", L"C:\\ORBEL\\Write\\write.EXE", L"C:\\Orbel\\Draw it\\Draw it.exe"},
+       {L"C:\\Orbel\\Draw it\\Draw it.exe", L"C:\\Orbel\\Write\\Write.exe", L"C:\\Vantor\\VantorHelp.exe"}},
+      // The same folder by both ways, and this program in it.
+      {L"C:\\oRBEL\\Vantor",
+       {L"C:\\oRBEL\\Vantor\\Vantor.exe", L"C:\\oRBEL\\Draw\\Draw.exe"},
+       {L"C:\\Orbel\\Draw\\Draw.exe"}},
+      {L"C:\\Apps\\orbel\\Vantor",
+       {L"C:\\Apps\\Orbel\\Draw\\Draw.exe", L"C:\\Apps\\Orbel\\Zip\\Zip.exe", L"C:\\Orbel\\DRAW\\Draw.exe"},
+       {L"C:\\Orbel\\DRAW\\DRAW.exe", L"C:\\Apps\\orbel\\Zip\\Zip.exe"}},
+      {L"C:\\Apps\\MyOrbel\\Vantor", {L"C:\\Apps\\MyOrbel\\Draw\\Draw.exe"}, {}},
+      {L"C:\\", {L"C:\\VantorHelp.exe", L"C:\\Draw\\Draw.exe"}, {L"C:\\VantorHelp.exe"}},
+  };
+  for (const Row& row : rows) {
+    CAPTURE(row.Program);
+    fake::FakeServices services;
+    services.System.Program = row.Program;
+    for (const std::wstring& file : row.Files) services.Disk.AddFile(file);
+    form::Headless desktop;
+    Program program(desktop, services.All());
+    program.frmMove.Load();
+    Texts paths;
+    for (const Companion& companion : FindCompanions(services.All(), program.Environment)) {
+      paths.push_back(companion.Path);
+      CHECK(companion.Path.ends_with(L'\\' + companion.Name + L".exe"));
+    }
+    CHECK(paths == row.Expected);
+    CHECK(services.FileSystem.OpenObjects == 0);
+  }
+  fake::FakeServices services;
+  Environment environment;
+  environment.ProgramFolder = L"C:\\Vantor\\";
+  environment.DriveRoot = L"C:\\";
+  CHECK(FindCompanions(services.All(), environment).empty());
+  CHECK(services.FileSystem.ExistenceChecks == 1);
+}
+
+TEST_CASE("found programs are opened from the panel and by r-, and one that vanished is told") {
+  test::StartedProgram bar("2", "0\r\n0", {L"C:\\Orbel\\Draw\\Draw.exe", L"C:\\Vantor\\VantorHelp.exe"});
+  bar::CompanionPage& page = bar.Program.CompanionPage;
+  CHECK(bar.Main.CommandMenu[3].Visible());
+  const auto open = [&] {
+    bar.Desktop.Press(Key::F5);
+    REQUIRE(page.FrameRun.Visible());
+    CHECK(page.ListRunName.HasFocus());
+  };
+  open();
+  CHECK(bar.Choose.Caption() == L"Orbel's Programs");
+  CHECK(bar.Choose.LabelListCancel.Caption() == L"Cancel");
+  CHECK(page.ListRunName.Entries() == Texts{L"Draw", L"VantorHelp"});
+  bar.Desktop.Press(Key::Enter);
+  CHECK(!bar.Choose.Visible());
+  open();
+  bar.Desktop.Press(Key::Down);
+  bar.Desktop.Click(page.CommandRunOpen);
+  open();  // the choice stays
+  bar.Desktop.Press(Key::F5);
+  CHECK(!bar.Choose.Visible());
+  bar.Type(L"R-dr\r");
+  CHECK(bar.Main.TextMain.Text().empty());
+  bar.Type(L"r-x\r");
+  bar.Type(L"r-d\b\r");
+  CHECK(bar.TakeStarts() ==
+        Texts{L"run C:\\Orbel\\Draw\\Draw.exe", L"run C:\\Vantor\\VantorHelp.exe", L"run C:\\Orbel\\Draw\\Draw.exe"});
+
+  bar.Services.Programs.StartSucceeds = false;
+  bar.ExpectMessage();
+  open();
+  bar.Desktop.Press(Key::Enter);
+  bar.ExpectMessage();
+  bar.Type(L"r-v\r");
+  CHECK(bar.Main.TextMain.Text() == L"r-VantorHelp");
+  CHECK(bar.Told == Texts(2, L"There was some error. Could not run the program."));
+
+  test::StartedProgram alone;
+  alone.Desktop.Press(Key::F5);
+  CHECK(alone.State.OpenPanelIndex == command::NoIndex);
+  alone.Type(L"r-v\r");
+  CHECK(alone.Main.TextMain.Text() == L"r-v");
+  CHECK(alone.TakeStarts().empty());
+}
+
+}  // namespace
+}  // namespace vantor::start
