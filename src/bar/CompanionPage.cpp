@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "bar/PageText.h"
 #include "form/Form.h"
 #include "form/UserInterface.h"
 #include "list/PictureButton.h"
@@ -14,8 +15,6 @@ namespace {
 
 using form::Twips;
 
-constexpr Twips Margin = 120;
-constexpr Twips CaptionHeight = 300;
 constexpr Twips LeastWidth = 3000;
 constexpr Twips GreatestWidth = 7200;
 constexpr Twips BesideName = 480;  // the list's edges, and a scroll bar
@@ -31,12 +30,8 @@ CompanionPage::CompanionPage(form::Form& form, const start::Environment& environ
   FrameRun.SetVisible(false);
   ListRunName.SetAccessibleName(title_);
   list::DressButton(CommandRunOpen, LabelRunOpen, L"Open");
-  ListRunName.DblClick = [this, &messages] {
-    messages.Trap(L"ListRunName_DblClick", [this] { CommandRunOpen_Click(); });
-  };
-  CommandRunOpen.Click = [this, &messages] {
-    messages.Trap(L"CommandRunOpen_Click", [this] { CommandRunOpen_Click(); });
-  };
+  messages.Connect(ListRunName.DblClick, L"ListRunName_DblClick", this, &CompanionPage::CommandRunOpen_Click);
+  messages.Connect(CommandRunOpen.Click, L"CommandRunOpen_Click", this, &CompanionPage::CommandRunOpen_Click);
 }
 
 void CompanionPage::Prepare() {
@@ -53,10 +48,11 @@ form::Size CompanionPage::LayOut() {
     nameWidth = std::max(nameWidth, FrameRun.OwnerForm().Ui().MeasureText(name, false, GreatestWidth).Width);
   }
   const Twips width = std::clamp(nameWidth + BesideName, LeastWidth, GreatestWidth);
-  ListRunName.SetBounds({Margin, CaptionHeight, width, ListHeight});
-  list::PlaceButton(CommandRunOpen, LabelRunOpen,
-                    {Margin, ListRunName.Bottom() + Margin, list::ButtonWidth(LabelRunOpen), list::ButtonHeight});
-  return {width + 2 * Margin, CommandRunOpen.Bottom() + Margin};
+  ListRunName.SetBounds({PageMargin, PageTop, width, ListHeight});
+  list::PlaceButton(
+      CommandRunOpen, LabelRunOpen,
+      {PageMargin, ListRunName.Bottom() + PageMargin, list::ButtonWidth(LabelRunOpen), list::ButtonHeight});
+  return {width + 2 * PageMargin, CommandRunOpen.Bottom() + PageMargin};
 }
 
 void CompanionPage::CommandRunOpen_Click() {
