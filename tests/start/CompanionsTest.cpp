@@ -2,12 +2,13 @@
 
 #include <doctest/doctest.h>
 
-#include "bar/StartedProgram.h"
+#include "fake/FakeServices.h"
+#include "form/Headless.h"
+#include "start/Program.h"
 
 namespace vantor::start {
 namespace {
 
-using form::Key;
 using Texts = std::vector<std::wstring>;
 
 TEST_CASE("the maker's programs are found beside this one and in the drive's root, each once, the help last") {
@@ -54,51 +55,6 @@ TEST_CASE("the maker's programs are found beside this one and in the drive's roo
   environment.DriveRoot = L"C:\\";
   CHECK(FindCompanions(services.All(), environment).empty());
   CHECK(services.FileSystem.ExistenceChecks == 1);
-}
-
-TEST_CASE("found programs are opened from the panel and by r-, and one that vanished is told") {
-  test::StartedProgram bar("2", "0\r\n0", {L"C:\\Orbel\\Draw\\Draw.exe", L"C:\\Vantor\\VantorHelp.exe"});
-  bar::CompanionPage& page = bar.Program.CompanionPage;
-  CHECK(bar.Main.CommandMenu[3].Visible());
-  const auto open = [&] {
-    bar.Desktop.Press(Key::F5);
-    REQUIRE(page.FrameRun.Visible());
-    CHECK(page.ListRunName.HasFocus());
-  };
-  open();
-  CHECK(bar.Choose.Caption() == L"Orbel's Programs");
-  CHECK(bar.Choose.LabelListCancel.Caption() == L"Cancel");
-  CHECK(page.ListRunName.Entries() == Texts{L"Draw", L"VantorHelp"});
-  bar.Desktop.Press(Key::Enter);
-  CHECK(!bar.Choose.Visible());
-  open();
-  bar.Desktop.Press(Key::Down);
-  bar.Desktop.Click(page.CommandRunOpen);
-  open();  // the choice stays
-  bar.Desktop.Press(Key::F5);
-  CHECK(!bar.Choose.Visible());
-  bar.Type(L"R-dr\r");
-  CHECK(bar.Main.TextMain.Text().empty());
-  bar.Type(L"r-x\r");
-  bar.Type(L"r-d\b\r");
-  CHECK(bar.TakeStarts() ==
-        Texts{L"run C:\\Orbel\\Draw\\Draw.exe", L"run C:\\Vantor\\VantorHelp.exe", L"run C:\\Orbel\\Draw\\Draw.exe"});
-
-  bar.Services.Programs.StartSucceeds = false;
-  bar.ExpectMessage();
-  open();
-  bar.Desktop.Press(Key::Enter);
-  bar.ExpectMessage();
-  bar.Type(L"r-v\r");
-  CHECK(bar.Main.TextMain.Text() == L"r-VantorHelp");
-  CHECK(bar.Told == Texts(2, L"There was some error. Could not run the program."));
-
-  test::StartedProgram alone;
-  alone.Desktop.Press(Key::F5);
-  CHECK(alone.State.OpenPanelIndex == command::NoIndex);
-  alone.Type(L"r-v\r");
-  CHECK(alone.Main.TextMain.Text() == L"r-v");
-  CHECK(alone.TakeStarts().empty());
 }
 
 }  // namespace
