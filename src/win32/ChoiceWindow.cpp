@@ -7,7 +7,7 @@
 namespace vantor::win32 {
 
 ChoiceWindow::ChoiceWindow(FormWindow& owner, form::ChoiceButton& button, DWORD style)
-    : ControlWindow(owner, button, {L"BUTTON", WS_TABSTOP | style}), button_(button) {}
+    : ControlWindow(owner, button, {L"BUTTON", WS_TABSTOP | style, {}, true}), button_(button) {}
 
 void ChoiceWindow::Refresh() {
   ControlWindow::Refresh();

@@ -28,8 +28,9 @@ bool BeginsWith(const std::wstring& text, const std::wstring& beginning) {
 }  // namespace
 
 ComboWindow::ComboWindow(FormWindow& owner, form::ListControl& list)
-    : ControlWindow(owner, list,
-                    {L"COMBOBOX", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_HASSTRINGS | CBS_OWNERDRAWFIXED}),
+    : ControlWindow(
+          owner, list,
+          {L"COMBOBOX", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_HASSTRINGS | CBS_OWNERDRAWFIXED, {}, true}),
       list_(list) {
   COMBOBOXINFO info{};
   info.cbSize = sizeof info;

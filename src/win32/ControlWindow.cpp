@@ -1,5 +1,7 @@
 #include "win32/ControlWindow.h"
 
+#include <optional>
+
 #include "form/Static.h"
 #include "win32/Accessible.h"
 #include "win32/ButtonWindow.h"
@@ -36,16 +38,12 @@ std::unique_ptr<ControlWindow> ControlWindow::Make(FormWindow& owner, form::Cont
       case form::ControlKind::OptionButton:
         return std::make_unique<OptionWindow>(owner, static_cast<form::OptionButton&>(control));
       case form::ControlKind::ComboBox:
-      case form::ControlKind::DriveList: {
-        const CommonControls version6;
+      case form::ControlKind::DriveList:
         return std::make_unique<ComboWindow>(owner, static_cast<form::ListControl&>(control));
-      }
       case form::ControlKind::ListBox:
       case form::ControlKind::FolderList:
-      case form::ControlKind::FileList: {
-        const CommonControls version6;
+      case form::ControlKind::FileList:
         return std::make_unique<ListWindow>(owner, static_cast<form::ListControl&>(control));
-      }
       case form::ControlKind::Frame:
         return std::make_unique<FrameWindow>(owner, static_cast<form::Frame&>(control));
       default:
@@ -61,6 +59,8 @@ std::unique_ptr<ControlWindow> ControlWindow::Make(FormWindow& owner, form::Cont
 ControlWindow::ControlWindow(FormWindow& owner, form::Control& control, const Kind& kind)
     : owner_(owner), control_(control), placed_(PlaceInPixels()), shownText_(kind.Text) {
   const DWORD state = WS_VISIBLE | (control_.Enabled() ? 0 : WS_DISABLED);
+  std::optional<CommonControls> version6;
+  if (kind.Themed) version6.emplace();
   handle_ = CreateWindowExW(0, kind.ClassName, kind.Text.c_str(), WS_CHILD | WS_CLIPSIBLINGS | state | kind.Style,
                             placed_.left, placed_.top, placed_.right, placed_.bottom, ParentOf(owner, control), nullptr,
                             GetModuleHandleW(nullptr), nullptr);

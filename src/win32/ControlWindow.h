@@ -57,6 +57,7 @@ class ControlWindow : public form::ControlWindow {
     const wchar_t* ClassName = nullptr;
     DWORD Style = 0;
     std::wstring Text = {};
+    bool Themed = false;  // whether the system draws it, or a part of it, in the user's theme
   };
   ControlWindow(FormWindow& owner, form::Control& control, const Kind& kind);
 

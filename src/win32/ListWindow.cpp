@@ -25,8 +25,11 @@ int IndentOf(const form::FolderList& folders, int index, LONG width, double scal
 
 ListWindow::ListWindow(FormWindow& owner, form::ListControl& list)
     : ControlWindow(owner, list,
-                    {L"LISTBOX", WS_TABSTOP | WS_VSCROLL | WS_BORDER | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT |
-                                     LBS_HASSTRINGS | LBS_OWNERDRAWFIXED}),
+                    {L"LISTBOX",
+                     WS_TABSTOP | WS_VSCROLL | WS_BORDER | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_HASSTRINGS |
+                         LBS_OWNERDRAWFIXED,
+                     {},
+                     true}),
       list_(list) {}
 
 void ListWindow::Refresh() {
