@@ -19,7 +19,7 @@ namespace {
 class TestForm : public Form {
  public:
   explicit TestForm(UserInterface& ui) : Form(ui, L"TestForm") {
-    SetBounds({1500, 1500, 6000, 4500});
+    SetBounds({1500, 1500, 6000, 5100});
     int top = 150;
     for (Control* control : Controls()) {
       if (control->Container() != nullptr) continue;
@@ -38,6 +38,7 @@ class TestForm : public Form {
   OptionButton Second{*this, L"Second"};
   Frame Box{*this, L"Box"};
   CommandButton InFrame{Box, L"InFrame"};
+  ListBox List{*this, L"List"};
 };
 
 struct Stage {
@@ -244,8 +245,7 @@ TEST_CASE("a list keeps its selection on its entry, and tells of a new one once"
 
 TEST_CASE("a list box is filled at once, walked by the arrows, and Enter chooses") {
   Stage stage;
-  ListBox list(stage.Form, L"List");
-  list.SetBounds({150, 3600, 3000, 900});
+  ListBox& list = stage.Form.List;
   std::wstring told;
   list.Click = [&] { told += list.Text(); };
   list.DblClick = [&] { told += L'!'; };
