@@ -104,7 +104,10 @@ TEST_CASE("companions are listed, completed and started; one that vanished is to
       program.AnswerMessage();
       program.AwaitBar();
     };
-    for (const std::string& path : paths) REQUIRE(DeleteFileW(Wide(path).c_str()));
+    // What was started has to end before its file can go.
+    for (const std::string& path : paths) {
+      Await("the end of " + path, [&] { return DeleteFileW(Wide(path).c_str()) != FALSE; });
+    }
     program.TypeLine("r-draw");
     input::Press(VK_RETURN);
     checkGone();
