@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <vector>
 
 #include "desktop/Program.h"
@@ -171,11 +172,16 @@ struct Soak {
     Await("the message", [&] { return Running.Message() != nullptr; });
     DismissMessages();
   }
+  /// The bar itself is the program that is looked for.
   void Find(int /*number*/) const {
-    const HWND finder = FinderButton();
-    SendMessageW(finder, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(4, 4));
-    SendMessageW(finder, WM_LBUTTONUP, 0, MAKELPARAM(4, 4));
-    DismissMessages();
+    const POINT bar = window::Middle(Bar);
+    SetCursorPos(bar.x, bar.y);
+    const auto marked = [] { return FindWindowW(L"VantorMark", nullptr) != nullptr; };
+    PostMessageW(FinderButton(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(4, 4));
+    Await("the mark", marked);
+    PostMessageW(FinderButton(), WM_LBUTTONUP, 0, MAKELPARAM(4, 4));
+    Await("the mark to go", [&] { return !marked(); });
+    if (Running.Message() != nullptr) throw std::runtime_error("the finder found nothing");
   }
   [[nodiscard]] HWND FinderButton() const {
     for (HWND window : window::OfProcess(ProcessId())) {
@@ -218,12 +224,14 @@ TEST_CASE("long use: what is held levels off") {
                   << before.User << " to " << after.User << ", handles " << before.Handles << " to " << after.Handles
                   << ", windows " << before.Windows << " to " << after.Windows << ", private "
                   << before.PrivateKilobytes << " to " << after.PrivateKilobytes << " KB");
+    // Wine's management service keeps 3 handles and some 34 KB each time it is asked and left, of a bare program too.
+    const int asked = finder && UnderWine() ? count : 0;
     // Some come and go with what Windows does meanwhile.
     CHECK(after.Gdi <= before.Gdi + 10);
     CHECK(after.User <= before.User + 10);
-    CHECK(after.Handles <= before.Handles + 10);
+    CHECK(after.Handles <= before.Handles + 10 + static_cast<DWORD>(3 * asked));
     CHECK(after.Windows <= before.Windows + 4);
-    CHECK(after.PrivateKilobytes <= before.PrivateKilobytes + 2048);
+    CHECK(after.PrivateKilobytes <= before.PrivateKilobytes + 2048 + 50 * asked);
   }
 }
 
