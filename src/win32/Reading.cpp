@@ -75,6 +75,7 @@ void ReadKind(const ControlWindow& window, Reading& reading) {
     case ControlKind::DriveList:
       return ReadCombo(static_cast<const form::ListControl&>(control),
                        SendMessageW(window.Hwnd(), CB_GETDROPPEDSTATE, 0, 0) != 0, reading);
+    case ControlKind::ListBox:
     case ControlKind::FolderList:
     case ControlKind::FileList:
       reading.Role = ROLE_SYSTEM_LIST;

@@ -175,6 +175,7 @@ class ListedFolder : public Folder {
  public:
   ListedFolder() {
     Write("a.exe", "");
+    Write("VantorHelp.exe", "");
     WriteSettings({.OptionMask = 2, .ProgUpper = 0, .Left = 600, .Top = 600});
     Write("Vantor\\ListProg.Orbel", ListBytes({{"notepad", Path("a.exe")}}));
   }
@@ -203,6 +204,7 @@ TEST_CASE("every control has a role and a name for a screen reader, and the stat
        {"client \"List\"", "group \"Program List :\"", "combo \"Program Name\" {notepad} focused collapsed",
         "combo \"Program Launch Path\" {" + folder.Path("a.exe") + "} collapsed", "combo \"Web URL Name\" {} collapsed",
         "button \"Rename\" unavailable"}},
+      {VK_F5, {"client \"Orbel's Programs\"", "list \"Orbel's Programs\" focused", "button \"Open\""}},
       {VK_F6,
        {"client \"Options\"", "check \"Start With Windows\" focused", "check \"Always On Top\" checked",
         "button \"OK\" unavailable"}},
