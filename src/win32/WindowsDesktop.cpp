@@ -161,9 +161,11 @@ void Desktop::SettingsChanged() {
   theme_.Forget();
   Screens::Forget();
   // By index, because what this causes may unload forms.
-  for (std::size_t i = 0; i < windows_.size(); ++i) {
-    const FormWindow::Handling handling(*windows_[i]);
-    Guard([&] { windows_[i]->ScreensChanged(); });
+  std::size_t next = 0;
+  while (next < windows_.size()) {
+    FormWindow& window = *windows_[next++];
+    const FormWindow::Handling handling(window);
+    Guard([&] { window.ScreensChanged(); });
   }
 }
 

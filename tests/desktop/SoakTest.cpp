@@ -41,8 +41,9 @@ DWORD HandlesOf(DWORD process) {
   constexpr int AllHandles = 16;
   const auto query = reinterpret_cast<Query>(
       reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "NtQuerySystemInformation")));
-  std::vector<ULONG> list(1 << 20);
-  if (query(AllHandles, list.data(), static_cast<ULONG>(list.size() * sizeof(ULONG)), nullptr) != 0) return 0;
+  constexpr ULONG Room = 1 << 20;
+  std::vector<ULONG> list(Room);
+  if (query(AllHandles, list.data(), Room * sizeof(ULONG), nullptr) != 0) return 0;
   const auto* const first = reinterpret_cast<const Entry*>(list.data() + 1);
   return static_cast<DWORD>(
       std::count_if(first, first + list[0], [process](const Entry& entry) { return entry.Owner == process; }));
@@ -102,7 +103,7 @@ struct Soak {
   Program Running;
   HWND Bar;
 
-  Soak() : Place(), Running((Prepare(Place), Place)), Bar(Running.AwaitBar()) {}
+  Soak() : Running((Prepare(Place), Place)), Bar(Running.AwaitBar()) {}
 
   static void Prepare(const Folder& folder) {
     folder.WriteSettings({.WebUpper = 1});
@@ -161,7 +162,7 @@ struct Soak {
   }
   void Panel(int number) const {
     constexpr WPARAM keys[] = {VK_F2, VK_F3, VK_F4, VK_F6, VK_F7, VK_F8};
-    const WPARAM key = keys[number % static_cast<int>(std::size(keys))];
+    const WPARAM key = keys[static_cast<std::size_t>(number) % std::size(keys)];
     for (const std::size_t windows : {2, 1}) {
       Key(Running.TextMain(), key);
       Await("the panel", [&] { return window::OfProcess(ProcessId()).size() == windows; });
