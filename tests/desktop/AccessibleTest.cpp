@@ -37,7 +37,7 @@ const std::pair<LONG, const char*> StateNames[] = {
 /// A window as another program's reader meets it.
 class Heard {
  public:
-  explicit Heard(HWND window) : window_(window) {
+  explicit Heard(HWND window) {
     CoInitialize(nullptr);
     void* object = nullptr;
     if (FAILED(AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible, &object))) {
@@ -94,7 +94,6 @@ class Heard {
     return number.vt == VT_I4 ? number.lVal : -1;
   }
 
-  HWND window_;
   IAccessible* object_ = nullptr;
 };
 

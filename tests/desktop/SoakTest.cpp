@@ -163,7 +163,7 @@ struct Soak {
   void Panel(int number) const {
     constexpr WPARAM keys[] = {VK_F2, VK_F3, VK_F4, VK_F6, VK_F7, VK_F8};
     const WPARAM key = keys[static_cast<std::size_t>(number) % std::size(keys)];
-    for (const std::size_t windows : {2, 1}) {
+    for (const std::size_t windows : {2U, 1U}) {
       Key(Running.TextMain(), key);
       Await("the panel", [&] { return window::OfProcess(ProcessId()).size() == windows; });
     }
