@@ -13,50 +13,9 @@
 #include <cstdlib>
 #include <vector>
 
+#include "RunningBar.h"
+
 namespace {
-
-constexpr COLORREF LineBlue = RGB(180, 200, 255);
-constexpr double PatienceMs = 30000;
-
-double NowMs() {
-  LARGE_INTEGER counter;
-  LARGE_INTEGER frequency;
-  QueryPerformanceCounter(&counter);
-  QueryPerformanceFrequency(&frequency);
-  return 1000.0 * static_cast<double>(counter.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
-
-struct Search {
-  DWORD Process;
-  HWND Edit;
-};
-
-BOOL CALLBACK FindEdit(HWND window, LPARAM parameter) {
-  auto& search = *reinterpret_cast<Search*>(parameter);
-  wchar_t className[32] = L"";
-  GetClassNameW(window, className, 32);
-  if (lstrcmpiW(className, L"EDIT") != 0 || !IsWindowVisible(window)) return TRUE;
-  search.Edit = window;
-  return FALSE;
-}
-
-BOOL CALLBACK FindBar(HWND window, LPARAM parameter) {
-  auto& search = *reinterpret_cast<Search*>(parameter);
-  DWORD process = 0;
-  GetWindowThreadProcessId(window, &process);
-  if (process != search.Process || !IsWindowVisible(window)) return TRUE;
-  EnumChildWindows(window, FindEdit, parameter);
-  return search.Edit == nullptr;
-}
-
-/// Whether the right end of the process's text box is light blue on the screen.
-bool HasPainted(DWORD process, HDC screen) {
-  Search search{process, nullptr};
-  EnumWindows(FindBar, reinterpret_cast<LPARAM>(&search));
-  RECT place;
-  if (search.Edit == nullptr || !GetWindowRect(search.Edit, &place)) return false;
-  return GetPixel(screen, place.right - 6, (place.top + place.bottom) / 2) == LineBlue;
-}
 
 /// Milliseconds to the first paint; below 0 when there was none.
 double TimeStart(const wchar_t* program) {

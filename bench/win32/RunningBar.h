@@ -1,0 +1,54 @@
+#pragma once
+
+// What the programs that time the bar from outside share.
+
+#include <windows.h>
+
+constexpr COLORREF LineBlue = RGB(180, 200, 255);
+constexpr double PatienceMs = 30000;
+
+inline double NowMs() {
+  LARGE_INTEGER counter;
+  LARGE_INTEGER frequency;
+  QueryPerformanceCounter(&counter);
+  QueryPerformanceFrequency(&frequency);
+  return 1000.0 * static_cast<double>(counter.QuadPart) / static_cast<double>(frequency.QuadPart);
+}
+
+struct Search {
+  DWORD Process;
+  HWND Edit;
+};
+
+inline BOOL CALLBACK FindEdit(HWND window, LPARAM parameter) {
+  auto& search = *reinterpret_cast<Search*>(parameter);
+  wchar_t className[32] = L"";
+  GetClassNameW(window, className, 32);
+  if (lstrcmpiW(className, L"EDIT") != 0 || !IsWindowVisible(window)) return TRUE;
+  search.Edit = window;
+  return FALSE;
+}
+
+inline BOOL CALLBACK FindBar(HWND window, LPARAM parameter) {
+  auto& search = *reinterpret_cast<Search*>(parameter);
+  DWORD process = 0;
+  GetWindowThreadProcessId(window, &process);
+  if (process != search.Process || !IsWindowVisible(window)) return TRUE;
+  EnumChildWindows(window, FindEdit, parameter);
+  return search.Edit == nullptr;
+}
+
+/// The visible text box of a process that has one; null before.
+inline HWND EditOf(DWORD process) {
+  Search search{process, nullptr};
+  EnumWindows(FindBar, reinterpret_cast<LPARAM>(&search));
+  return search.Edit;
+}
+
+/// Whether the right end of the process's text box is light blue on the screen.
+inline bool HasPainted(DWORD process, HDC screen) {
+  HWND const edit = EditOf(process);
+  RECT place;
+  if (edit == nullptr || !GetWindowRect(edit, &place)) return false;
+  return GetPixel(screen, place.right - 6, (place.top + place.bottom) / 2) == LineBlue;
+}
