@@ -8,38 +8,6 @@ namespace {
 using list::LaunchGroup;
 using Items = std::vector<std::wstring>;
 
-TEST_CASE("The extension decides the group, not the kind that is chosen") {
-  const struct {
-    AddKind Kind;
-    std::wstring File;  // "" for the folder itself
-    LaunchGroup Group;
-    std::wstring Target, Banner;
-  } cases[] = {
-      {AddKind::Program, L"Edit.EXE", LaunchGroup::Prog, L"C:\\Tools\\Edit.EXE",
-       L"Program Added To List : Click To Hide"},
-      {AddKind::File, L"Edit.EXE", LaunchGroup::Prog, L"C:\\Tools\\Edit.EXE", L"Program Added To List : Click To Hide"},
-      {AddKind::File, L"notes.txt", LaunchGroup::File, L"C:\\Tools\\notes.txt", L"File Added To List : Click To Hide"},
-      {AddKind::Folder, L"", LaunchGroup::Fold, L"C:\\Tools", L"Folder Added To List : Click To Hide"},
-  };
-  for (const auto& c : cases) {
-    Desk desk;
-    frmBrowse& box = desk.Browse;
-    desk.Panel(0);
-    desk.ChooseKind(c.Kind);
-    REQUIRE(box.DirWork.SetPath(L"c:\\Tools\\"));
-    if (!c.File.empty()) desk.Pick(c.File);
-    desk.Ui.Type(L"\rMy, \"one\"\r");
-    CHECK(desk.Items(c.Group) == Items{L"My, \"one\"=" + c.Target});
-    CHECK(box.FrameAddedInfo.Caption() == c.Banner);
-    CHECK(box.FrameAddedInfo.Visible());
-    CHECK(box.TextAddName.Text().empty());
-    CHECK_FALSE(box.TextAddName.Enabled());
-    CHECK(desk.Added == 1);
-    desk.Ui.Click(box.FrameAddedInfo);
-    CHECK_FALSE(box.FrameAddedInfo.Visible());
-  }
-}
-
 TEST_CASE("A name left over from another choice adds nothing while there is no path") {
   Desk desk;
   frmBrowse& box = desk.Browse;
@@ -140,37 +108,6 @@ TEST_CASE("The last folder on a fixed disk is kept for the next run, and a drive
   desk.Ui.DoubleClick(box.DirWork);
   CHECK(told == L"The Drive you are trying to select is not ready.");
   CHECK(box.DirWork.Path() == L"E:\\");
-}
-
-TEST_CASE("The open box closes and then starts the file, and leaves the add box alone") {
-  Desk desk;
-  frmBrowse& box = desk.Browse;
-  desk.Settings.Folder = L"C:\\Tools";
-  desk.Panel(0);
-  desk.Pick(L"Edit.EXE");
-  desk.Panel(1);
-  CHECK(box.FrameBrowseBack.Caption() == L"Open :");
-  CHECK(box.FileWork.Entries() == Items{L"Edit.EXE", L"notes.txt"});
-  CHECK_FALSE(box.CommandSelectOK.Enabled());
-  desk.Pick(L"Edit.EXE");
-  desk.Ui.Click(box.CommandSelectOK);
-  CHECK(desk.Services.Programs.CommandLines == Items{L"C:\\Tools\\Edit.EXE"});
-  CHECK_FALSE(box.Visible());
-
-  desk.Panel(1);
-  desk.Services.ScriptShell.RunSucceeds = false;
-  desk.Pick(L"notes.txt");
-  std::wstring told;
-  desk.Expect(told);
-  desk.Ui.DoubleClick(box.FileWork);
-  CHECK(desk.Services.ScriptShell.Runs == Items{L"C:\\Tools\\notes.txt"});
-  CHECK(told == L"There was some error. Could not start the required program.");
-
-  desk.Panel(1);
-  REQUIRE(box.DirWork.SetPath(L"E:\\Work"));
-  desk.Panel(0);  // what was chosen on the other drive would be judged as one of this
-  CHECK(box.TextAddPath.Text().empty());
-  CHECK(box.FileWork.Entries() == Items{L"tool.exe"});
 }
 
 TEST_CASE("What is dropped on the program fills the add box as if browsed to") {

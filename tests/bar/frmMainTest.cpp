@@ -151,43 +151,6 @@ TEST_CASE("an idle line shows the product's name again, ready to be typed over")
   CHECK(bar.Main.TextMain.SelLength() == 6);
 }
 
-TEST_CASE("minimising closes the panel and leaves the top; restoring takes the focus back to the line") {
-  StartedProgram bar;
-  bar.Desktop.Advance(1000);
-  bar.Desktop.Press(Key::F8);
-  CHECK(bar.Choose.Visible());
-  CHECK(bar.Main.CommandMenu[6].Caption() == L"||");
-  bar.Desktop.Press(Key::F9);
-  CHECK(!bar.Choose.Visible());
-  CHECK(bar.Main.CommandMenu[6].Caption() == L"C");
-  CHECK(bar.Main.WindowState() == form::WindowState::Minimized);
-  bar.Desktop.Advance(10000);
-  CHECK(!bar.Main.TopMost());
-  bar.Main.CommandWeb.SetFocus();
-  bar.Main.InputWindowState(form::WindowState::Normal);
-  bar.Desktop.Advance(2000);
-  CHECK(bar.Main.TextMain.HasFocus());
-  CHECK(bar.Main.TopMost());
-  // A panel that opens sooner than the restore is noticed stays in front.
-  bar.Desktop.Press(Key::F9);
-  bar.Main.InputWindowState(form::WindowState::Normal);
-  bar.Desktop.Press(Key::F8);
-  bar.Desktop.Advance(10000);
-  CHECK(!bar.Main.TopMost());
-}
-
-TEST_CASE("leaving saves the list, the settings and the bar's place, and ends the program") {
-  StartedProgram bar;
-  bar.Desktop.DragBy(bar.Main, 600, 300);
-  bar.Add(LaunchGroup::Web, L"x", L"http://x");
-  bar.Desktop.Press(Key::F9);
-  bar.Main.InputClose();
-  CHECK(bar.Desktop.Ended());
-  CHECK(bar.Services.Disk.Bytes(bar.Program.Environment.Files.Set) ==
-        "2\r\n-1\r\n-1\r\n-1\r\n0\r\n600\r\n300\r\n\"C:\\Vantor\"\r\n-1\r\n-1\r\n-1\r\n");
-  CHECK(bar.Services.Disk.Bytes(bar.Program.Environment.Files.ListWeb) == "\"x\",\"http://x\"\r\n");
-}
-
 TEST_CASE("leaving before the list was read keeps the list") {
   StartedProgram files;
   files.Services.Disk.AddFile(L"C:\\Vantor\\Vantor\\ListWeb.Orbel", "\"x\",\"http://x\"\r\n");

@@ -1,7 +1,6 @@
 #include <doctest/doctest.h>
 
 #include "bar/StartedProgram.h"
-#include "command/CodeTables.h"
 
 using namespace vantor;
 using list::LaunchGroup;
@@ -56,21 +55,6 @@ TEST_CASE("every code starts its target and empties the line") {
   }
 }
 
-TEST_CASE("a Control Panel word starts its page and stays in the line") {
-  StartedProgram bar;
-  for (const auto& entry : command::ControlPanelNames) {
-    CAPTURE(std::wstring(entry.Word));
-    const std::wstring line = L"c." + bar.Services.Language.Upper(entry.Word);
-    bar.Main.TextMain.SetText(L"");
-    bar.State.BackspaceFlag = true;  // no completion, so that the word stays as typed
-    bar.Main.TextMain.SetText(line);
-    bar.Desktop.Type(L"\r");
-    const Starts expected = entry.Word == L"Fonts" ? Starts{} : Starts{L"run " + std::wstring(entry.CommandLine)};
-    CHECK(bar.TakeStarts() == expected);
-    CHECK(bar.Main.TextMain.Text() == line);
-  }
-}
-
 TEST_CASE("a failed start is told and keeps the line, except for mails to the maker and calls") {
   struct Row {
     const wchar_t* Typed;
@@ -114,20 +98,6 @@ TEST_CASE("a mail link is put together from what is given") {
   CHECK(starters.SendMailTo(L"a@b", L"s t", L"x") == L"");
   CHECK(fakes.Programs.ShellOpened ==
         Starts{L"MailTo:a@b", L"mailto:mail?body=x & y", L"mailto:a@b?subject=s t&body=x"});
-}
-
-TEST_CASE("Escape minimises, and Backspace undoes a completion") {
-  StartedProgram bar;
-  FillList(bar);
-  bar.Type(L"p-not\b");
-  CHECK(bar.Main.TextMain.Text() == L"p-not");
-  bar.Desktop.Type(L"\r");
-  CHECK(bar.TakeStarts() == Starts{});
-  bar.Desktop.Type(L"e");
-  CHECK(bar.Main.TextMain.Text() == L"p-notepad");
-  bar.Desktop.Type(L"\x1b");
-  CHECK(bar.Main.WindowState() == form::WindowState::Minimized);
-  CHECK(bar.Main.TextMain.Text() == L"p-notepad");
 }
 
 TEST_CASE("an item that was renamed or removed since it was completed is not started") {

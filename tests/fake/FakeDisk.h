@@ -34,17 +34,6 @@ class FakeDisk {
     return drives_[letter] = {type, std::wstring(label)};
   }
   DriveState& Drive(wchar_t letter) { return drives_.at(letter); }
-  /// The drive and all on it get another letter, as when a medium is put into another computer.
-  void MoveDrive(wchar_t from, wchar_t to) {
-    drives_[to] = drives_.at(from);
-    drives_.erase(from);
-    std::map<std::wstring, Entry> moved;
-    for (auto& [key, entry] : entries_) {
-      if (entry.Path[0] == from) entry.Path[0] = to;
-      moved[Key(entry.Path)] = entry;
-    }
-    entries_ = std::move(moved);
-  }
   void RemoveDrive(wchar_t letter) { drives_.erase(letter); }
 
   /// Makes a file with all the folders on its way.

@@ -11,22 +11,14 @@ namespace {
 
 /// One run of the program as far as its files go. The disk is the test's, so that a later run finds the files.
 struct Run {
-  explicit Run(fake::FakeServices& fakes, wchar_t drive = L'C') : Fakes(fakes) {
-    Environment.MediaDriveLetter = drive;
+  explicit Run(fake::FakeServices& fakes) : Fakes(fakes) {
+    Environment.MediaDriveLetter = L'C';
     Environment.DataFolder = Environment.MediaDriveLetter + L":\\Vantor\\Vantor";
     const std::wstring folder = Environment.DataFolder + L"\\";
     Environment.Files = {folder + L"Set.Orbel",      L"",
                          folder + L"ListFile.Orbel", folder + L"ListFold.Orbel",
                          folder + L"ListProg.Orbel", folder + L"ListWeb.Orbel"};
     Fakes.Disk.AddFolder(folder);
-  }
-  void OnMedia(bool remembered) {
-    const std::wstring folder = Environment.MediaDriveLetter + L":\\Vantor\\Vantor\\";
-    Environment.RunMode = true;
-    Environment.MachineRemembered = remembered;
-    Environment.Files.MachineFile = folder + L"MachineFile.Orbel";
-    Environment.Files.MachineFold = folder + L"MachineFold.Orbel";
-    Environment.Files.MachineProg = folder + L"MachineProg.Orbel";
   }
   void Load() {
     Files.Restore();
@@ -120,44 +112,6 @@ TEST_CASE("double quotes are written so that the item and those after it are rea
   Run run(fakes);
   run.Load();
   CHECK(run.Items(LaunchGroup::Web) == Items{L"the 'best'>http://x/?q=%22a%22", L"next>http://y"});
-}
-
-TEST_CASE("items of the medium follow its drive letter, and those of the remembered computer stay with it") {
-  fake::FakeServices fakes;
-  fakes.Disk.AddDrive(L'E', 1);
-  fakes.Disk.AddFile(L"E:\\Tools\\edit.exe");
-  fakes.Disk.AddFile(L"C:\\calc.exe");
-  {
-    Run run(fakes, L'E');
-    run.OnMedia(true);
-    run.Settings.Folder = L"C:\\Docs";
-    run.Add(LaunchGroup::Prog, L"Calc", L"C:\\calc.exe");
-    run.Add(LaunchGroup::Prog, L"Edit", L"E:\\Tools\\edit.exe");
-    run.Add(LaunchGroup::Prog, L"small letter", L"e:\\Tools\\edit.exe");
-    run.Add(LaunchGroup::Web, L"Site", L"E:ven web addresses");
-    run.Save();
-  }
-  CHECK(fakes.Disk.Bytes(L"E:\\Vantor\\Vantor\\Set.Orbel") ==
-        "2\r\n-1\r\n-1\r\n0\r\n0\r\n150\r\n300\r\n\"\"\r\n-1\r\n-1\r\n1\r\n");
-  CHECK(fakes.Disk.Bytes(L"E:\\Vantor\\Vantor\\ListProg.Orbel") == "\"Edit\",\"#:\\Tools\\edit.exe\"\r\n");
-  const std::string machineList = fakes.Disk.Bytes(L"E:\\Vantor\\Vantor\\MachineProg.Orbel");
-  CHECK(machineList == "\"Calc\",\"C:\\calc.exe\"\r\n\"small letter\",\"e:\\Tools\\edit.exe\"\r\n");
-
-  fakes.Disk.MoveDrive(L'E', L'F');
-  {
-    Run elsewhere(fakes, L'F');
-    elsewhere.OnMedia(false);
-    elsewhere.Load();
-    CHECK(elsewhere.Items(LaunchGroup::Prog) == Items{L"Edit>F:\\Tools\\edit.exe"});
-    CHECK(elsewhere.Items(LaunchGroup::Web) == Items{L"Site>E:ven web addresses"});
-    elsewhere.Save();
-  }
-  CHECK(fakes.Disk.Bytes(L"F:\\Vantor\\Vantor\\ListProg.Orbel") == "\"Edit\",\"#:\\Tools\\edit.exe\"\r\n");
-  CHECK(fakes.Disk.Bytes(L"F:\\Vantor\\Vantor\\MachineProg.Orbel") == machineList);
-  Run back(fakes, L'F');
-  back.OnMedia(true);
-  back.Load();
-  CHECK(back.Items(LaunchGroup::Prog) == Items{L"Edit>F:\\Tools\\edit.exe", L"Calc>C:\\calc.exe"});
 }
 
 TEST_CASE("a damaged settings file gives what could be read of it") {

@@ -51,32 +51,6 @@ struct Computer {
   [[nodiscard]] const std::string& Bytes(std::wstring_view path) { return Services.Disk.Bytes(path); }
 };
 
-TEST_CASE("A first start makes the settings file, asks for the name, shows the bar and explains it") {
-  Computer computer;
-  computer.Ui.WhenModal([&](form::Form& form) {
-    // There is a folder to keep the name in, whatever happens from here on.
-    CHECK(computer.Bytes(L"C:\\Vantor\\Vantor\\Set.Orbel") == FirstSettings);
-    CHECK_FALSE(computer.Started.frmMain.Loaded());
-    CHECK((computer.Started.Environment.Starting && computer.Started.Environment.FirstStart));
-    const form::Rect screen = computer.Ui.Desktop.WorkArea;
-    CHECK(form.Bounds().Left + form.Bounds().Right() == doctest::Approx(screen.Width).epsilon(0.001));
-    computer.Ui.Type(L"Ada\r");
-  });
-  computer.Ui.WhenModal([&](form::Form& form) {
-    CHECK(computer.Started.frmMain.Visible());
-    CHECK_FALSE(computer.Started.frmMain.TimerOnTop.Enabled());
-    CHECK(form.Caption() == L"Message For - Ada");
-    computer.Ui.Press(form::Key::Enter);
-  });
-  REQUIRE(computer.Start());
-  CHECK(computer.Bytes(L"C:\\Vantor\\Vantor\\User.Orbel") == "\"Ada\"\r\n");
-  CHECK(computer.Started.frmMain.TimerOnTop.Enabled());
-  CHECK(computer.Started.Options.AlwaysOnTop == 1);
-  CHECK_FALSE((computer.Started.Environment.Starting || computer.Started.Environment.FirstStart));
-  CHECK(computer.Started.Environment.MediaDriveLetter == L"C");
-  CHECK(computer.Services.System.Calls == std::vector<std::wstring>{L"title Vantor Orbel"});
-}
-
 TEST_CASE("A settings file that can't be read is no first start and is not replaced") {
   Computer computer;
   computer.UsedBefore("7\r\n-1");
