@@ -5,7 +5,6 @@
 namespace vantor::add {
 namespace {
 
-using list::LaunchGroup;
 using Items = std::vector<std::wstring>;
 
 TEST_CASE("A name left over from another choice adds nothing while there is no path") {

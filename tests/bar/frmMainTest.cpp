@@ -6,7 +6,6 @@
 
 using namespace vantor;
 using form::Key;
-using list::LaunchGroup;
 using test::StartedProgram;
 
 namespace {
