@@ -2,11 +2,11 @@
 
 #include <oleacc.h>
 
-#include <atomic>
 #include <new>
 #include <string>
 #include <utility>
 
+#include "win32/ComObject.h"
 #include "win32/Reading.h"
 #include "win32/SystemLibrary.h"
 
@@ -35,33 +35,16 @@ struct Library {
   MakeAnswer Answer = nullptr;
 };
 
-// The system's interfaces have no virtual destructor; objects go by Release.
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
-
 /// A window as readers see it: the system's own view of a window of its class, except for what is read here. It may
 /// outlive the window.
-class Accessible final : public IAccessible {
+class Accessible final : public ComObject<IAccessible, IID_IDispatch, IID_IAccessible> {
  public:
   Accessible(HWND window, ComPointer<IAccessible> standard) : window_(window), standard_(std::move(standard)) {}
-  virtual ~Accessible() = default;
-  Accessible(const Accessible&) = delete;
-  Accessible& operator=(const Accessible&) = delete;
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
     // The windows inside, and whose window it is, are the system's to tell.
     if (id == IID_IEnumVARIANT || id == IID_IOleWindow) return standard_->QueryInterface(id, object);
-    const bool known = id == IID_IUnknown || id == IID_IDispatch || id == IID_IAccessible;
-    *object = known ? static_cast<IAccessible*>(this) : nullptr;
-    if (!known) return E_NOINTERFACE;
-    AddRef();
-    return S_OK;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-  ULONG STDMETHODCALLTYPE Release() override {
-    const ULONG left = --references_;
-    if (left == 0) delete this;
-    return left;
+    return ComObject::QueryInterface(id, object);
   }
 
   // What is read here, of the window itself. Of its parts, the entries of a list say, the system tells.
@@ -180,10 +163,7 @@ class Accessible final : public IAccessible {
 
   HWND window_;
   ComPointer<IAccessible> standard_;
-  std::atomic<ULONG> references_ = 1;
 };
-
-#pragma GCC diagnostic pop
 
 // Written out, because the tool chain's libraries don't hold it.
 // {608D3DF8-8128-4AA7-A428-F55E49267291}

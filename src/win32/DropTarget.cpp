@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "win32/Com.h"
+#include "win32/ComObject.h"
 #include "win32/LongPath.h"
 #include "win32/ShellFunction.h"
 
@@ -77,32 +78,10 @@ std::wstring AddressOf(IDataObject& data) {
   return address;
 }
 
-// Objects of COM go by their count of references, never by their interface's destructor.
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
-
-class DropTarget final : public IDropTarget {
+class DropTarget final : public ComObject<IDropTarget, IID_IDropTarget> {
  public:
   DropTarget(std::function<bool()> accepts, std::function<void(form::DroppedItems)> take)
       : accepts_(std::move(accepts)), take_(std::move(take)) {}
-  virtual ~DropTarget() = default;
-  DropTarget(const DropTarget&) = delete;
-  DropTarget& operator=(const DropTarget&) = delete;
-
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-    if (object == nullptr) return E_POINTER;
-    const bool known = id == IID_IUnknown || id == IID_IDropTarget;
-    *object = known ? static_cast<IDropTarget*>(this) : nullptr;
-    if (!known) return E_NOINTERFACE;
-    AddRef();
-    return S_OK;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-  ULONG STDMETHODCALLTYPE Release() override {
-    const ULONG left = --references_;
-    if (left == 0) delete this;
-    return left;
-  }
 
   HRESULT STDMETHODCALLTYPE DragEnter(IDataObject* data, DWORD, POINTL, DWORD* effect) override {
     welcome_ = data != nullptr && (Offers(*data, CF_HDROP) || Offers(*data, AddressFormat()));
@@ -136,10 +115,7 @@ class DropTarget final : public IDropTarget {
   std::function<bool()> accepts_;
   std::function<void(form::DroppedItems)> take_;
   bool welcome_ = false;  // what is being dragged is of a kind that is taken
-  ULONG references_ = 1;
 };
-
-#pragma GCC diagnostic pop
 
 }  // namespace
 

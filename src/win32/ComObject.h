@@ -1,0 +1,46 @@
+#pragma once
+
+#include <windows.h>
+
+#include <unknwn.h>
+
+#include <atomic>
+
+namespace vantor::win32 {
+
+// The system's interfaces have no virtual destructor; objects go by Release.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+
+/// The base of an object of our own that others hold by its interface: it ends with the last reference, and begins with
+/// one. Asked for, it is IUnknown and what Ids name, each of which is Interface or a base of it.
+template <class Interface, const IID&... Ids>
+class ComObject : public Interface {
+ public:
+  ComObject() = default;
+  virtual ~ComObject() = default;
+  ComObject(const ComObject&) = delete;
+  ComObject& operator=(const ComObject&) = delete;
+
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
+    if (object == nullptr) return E_POINTER;
+    const bool known = id == IID_IUnknown || (... || (id == Ids));
+    *object = known ? static_cast<Interface*>(this) : nullptr;
+    if (!known) return E_NOINTERFACE;
+    AddRef();
+    return S_OK;
+  }
+  ULONG STDMETHODCALLTYPE AddRef() final { return ++references_; }
+  ULONG STDMETHODCALLTYPE Release() final {
+    const ULONG left = --references_;
+    if (left == 0) delete this;
+    return left;
+  }
+
+ private:
+  std::atomic<ULONG> references_ = 1;
+};
+
+#pragma GCC diagnostic pop
+
+}  // namespace vantor::win32
