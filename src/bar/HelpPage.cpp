@@ -1,7 +1,9 @@
 #include "bar/HelpPage.h"
 
 #include <algorithm>
+#include <span>
 #include <string>
+#include <string_view>
 
 namespace vantor::bar {
 
@@ -12,26 +14,46 @@ using form::Twips;
 constexpr Twips LineHeight = 315;
 constexpr Twips ProseWidth = 4200;
 
-constexpr std::wstring_view TypedLines =
-    L"p=notepad\r\nf=C:\\letter.doc\r\nd=C:\\Music\r\nd.Desktop\r\nc.Mouse\r\nw;example.org\r\nc/example\r\n"
-    L"e=ann@example.org\r\nt=5550100\r\np-  f-  d-  w-";
-constexpr std::wstring_view TypedMeanings =
-    L"runs a program\r\nopens a file\r\nopens a folder\r\nopens a special folder\r\nopens a Control Panel page\r\n"
-    L"opens a web site\r\nopens www.example.com\r\nwrites a mail\r\ndials a telephone number\r\n"
-    L"and a name: opens it from your list";
-constexpr std::wstring_view TypedCompanion = L"\r\nr-";
-constexpr std::wstring_view TypedCompanionMeaning = L"\r\nand a name: runs a program of \"!\"";
-// The buttons before and after that of the maker's other programs.
-constexpr std::wstring_view ButtonLines = L"F1\r\n+   F2\r\n>   F3\r\nL   F4\r\n";
-constexpr std::wstring_view ButtonMeanings =
-    L"unfolds the box that adds web sites\r\nadds programs, files and folders to your list\r\nopens any file\r\n"
-    L"opens, renames and removes what is in your list\r\n";
-constexpr std::wstring_view CompanionButton = L"!   F5\r\n";
-constexpr std::wstring_view CompanionButtonMeaning = L"runs Orbel's other programs\r\n";
-constexpr std::wstring_view LaterButtonLines = L"P   F6\r\n?   F7\r\nC   F8\r\nF9, Esc\r\nF10\r\nF12";
-constexpr std::wstring_view LaterButtonMeanings =
-    L"preferences\r\nthis help\r\nall codes and their words\r\n"
-    L"minimizes the bar; Esc closes an open panel first\r\nsaves and exits\r\nempties the line";
+/// What is typed or pressed, and what it does.
+struct Row {
+  std::wstring_view Keys;
+  std::wstring_view Meaning;
+  bool ForCompanions = false;  // stands only where the maker's other programs are
+};
+
+constexpr Row Typed[] = {{L"p=notepad", L"runs a program"},
+                         {L"f=C:\\letter.doc", L"opens a file"},
+                         {L"d=C:\\Music", L"opens a folder"},
+                         {L"d.Desktop", L"opens a special folder"},
+                         {L"c.Mouse", L"opens a Control Panel page"},
+                         {L"w;example.org", L"opens a web site"},
+                         {L"c/example", L"opens www.example.com"},
+                         {L"e=ann@example.org", L"writes a mail"},
+                         {L"t=5550100", L"dials a telephone number"},
+                         {L"p-  f-  d-  w-", L"and a name: opens it from your list"},
+                         {L"r-", L"and a name: runs a program of \"!\"", true}};
+constexpr Row Pressed[] = {{L"F1", L"unfolds the box that adds web sites"},
+                           {L"+   F2", L"adds programs, files and folders to your list"},
+                           {L">   F3", L"opens any file"},
+                           {L"L   F4", L"opens, renames and removes what is in your list"},
+                           {L"!   F5", L"runs Orbel's other programs", true},
+                           {L"P   F6", L"preferences"},
+                           {L"?   F7", L"this help"},
+                           {L"C   F8", L"all codes and their words"},
+                           {L"F9, Esc", L"minimizes the bar; Esc closes an open panel first"},
+                           {L"F10", L"saves and exits"},
+                           {L"F12", L"empties the line"}};
+
+/// One side of the rows, one line for each.
+std::wstring Lines(std::span<const Row> rows, std::wstring_view Row::*side, bool companions) {
+  std::wstring lines;
+  for (const Row& row : rows) {
+    if (row.ForCompanions && !companions) continue;
+    if (!lines.empty()) lines += L"\r\n";
+    lines += row.*side;
+  }
+  return lines;
+}
 
 }  // namespace
 
@@ -67,12 +89,10 @@ HelpPage::HelpPage(form::Form& form, const start::Environment& environment)
 
 void HelpPage::Prepare() {
   const bool companions = !environment_.Companions.empty();
-  const auto ifThere = [companions](std::wstring_view text) { return companions ? text : std::wstring_view(); };
-  typing_.Left.SetCaption(std::wstring(TypedLines).append(ifThere(TypedCompanion)));
-  typing_.Right.SetCaption(std::wstring(TypedMeanings).append(ifThere(TypedCompanionMeaning)));
-  buttons_.Left.SetCaption(std::wstring(ButtonLines).append(ifThere(CompanionButton)).append(LaterButtonLines));
-  buttons_.Right.SetCaption(
-      std::wstring(ButtonMeanings).append(ifThere(CompanionButtonMeaning)).append(LaterButtonMeanings));
+  typing_.Left.SetCaption(Lines(Typed, &Row::Keys, companions));
+  typing_.Right.SetCaption(Lines(Typed, &Row::Meaning, companions));
+  buttons_.Left.SetCaption(Lines(Pressed, &Row::Keys, companions));
+  buttons_.Right.SetCaption(Lines(Pressed, &Row::Meaning, companions));
   TextHelpFolder.SetText(environment_.DataFolder);
 }
 
