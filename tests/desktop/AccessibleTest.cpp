@@ -7,32 +7,25 @@
 
 #include <algorithm>
 #include <set>
-#include <sstream>
 #include <string>
 #include <vector>
 
-#include "desktop/Input.h"
 #include "desktop/Program.h"
-#include "desktop/Text.h"
-#include "desktop/Wait.h"
-#include "desktop/Window.h"
 
 namespace vantor::desktop {
 namespace {
 
-const std::pair<LONG, const char*> RoleNames[] = {
+using Names = std::vector<std::pair<LONG, const char*>>;
+const Names Roles = {
     {ROLE_SYSTEM_ALERT, "alert"},       {ROLE_SYSTEM_CHECKBUTTON, "check"}, {ROLE_SYSTEM_CLIENT, "client"},
     {ROLE_SYSTEM_COMBOBOX, "combo"},    {ROLE_SYSTEM_DIALOG, "dialog"},     {ROLE_SYSTEM_GRAPHIC, "graphic"},
     {ROLE_SYSTEM_GROUPING, "group"},    {ROLE_SYSTEM_LIST, "list"},         {ROLE_SYSTEM_PANE, "pane"},
     {ROLE_SYSTEM_PUSHBUTTON, "button"}, {ROLE_SYSTEM_RADIOBUTTON, "radio"}, {ROLE_SYSTEM_STATICTEXT, "text"},
-    {ROLE_SYSTEM_TEXT, "edit"},
-};
-const std::pair<LONG, const char*> StateNames[] = {
-    {STATE_SYSTEM_UNAVAILABLE, "unavailable"}, {STATE_SYSTEM_FOCUSED, "focused"},
-    {STATE_SYSTEM_PRESSED, "pressed"},         {STATE_SYSTEM_CHECKED, "checked"},
-    {STATE_SYSTEM_READONLY, "readonly"},       {STATE_SYSTEM_EXPANDED, "expanded"},
-    {STATE_SYSTEM_COLLAPSED, "collapsed"},     {STATE_SYSTEM_INVISIBLE, "invisible"},
-};
+    {ROLE_SYSTEM_TEXT, "edit"}};
+const Names States = {{STATE_SYSTEM_UNAVAILABLE, " unavailable"}, {STATE_SYSTEM_FOCUSED, " focused"},
+                      {STATE_SYSTEM_PRESSED, " pressed"},         {STATE_SYSTEM_CHECKED, " checked"},
+                      {STATE_SYSTEM_READONLY, " readonly"},       {STATE_SYSTEM_EXPANDED, " expanded"},
+                      {STATE_SYSTEM_COLLAPSED, " collapsed"},     {STATE_SYSTEM_INVISIBLE, " invisible"}};
 
 /// A window as another program's reader meets it.
 class Heard {
@@ -49,29 +42,26 @@ class Heard {
   Heard(const Heard&) = delete;
   Heard& operator=(const Heard&) = delete;
 
-  [[nodiscard]] std::string Name() const { return Text(&IAccessible::get_accName); }
-  [[nodiscard]] std::string Value() const { return Text(&IAccessible::get_accValue); }
-  [[nodiscard]] std::string Key() const { return Text(&IAccessible::get_accKeyboardShortcut); }
-  [[nodiscard]] LONG Role() const { return Number(&IAccessible::get_accRole); }
   [[nodiscard]] LONG State() const { return Number(&IAccessible::get_accState); }
   void Act() const { CHECK(object_->accDoDefaultAction(Self()) == S_OK); }
 
   /// All in one line: role "name" <key> {value} states.
   [[nodiscard]] std::string Line() const {
-    std::ostringstream line;
-    const LONG role = Role();
-    const auto* const named =
-        std::find_if(std::begin(RoleNames), std::end(RoleNames), [role](const auto& row) { return row.first == role; });
-    line << (named != std::end(RoleNames) ? named->second : "?");
-    if (!Name().empty()) line << " \"" << Name() << '"';
-    if (!Key().empty()) line << " <" << Key() << '>';
-    if (role == ROLE_SYSTEM_TEXT || role == ROLE_SYSTEM_COMBOBOX) line << " {" << Value() << '}';
+    const LONG role = Number(&IAccessible::get_accRole);
+    const auto known = std::ranges::find(Roles, role, &Names::value_type::first);
+    std::string line = known != Roles.end() ? known->second : "?";
+    const auto add = [&line](const std::string& begin, const std::string& text, const char* end) {
+      if (!text.empty()) line.append(begin).append(text).append(end);
+    };
+    add(" \"", Text(&IAccessible::get_accName), "\"");
+    add(" <", Text(&IAccessible::get_accKeyboardShortcut), ">");
+    if (role == ROLE_SYSTEM_TEXT || role == ROLE_SYSTEM_COMBOBOX) line += " {" + Text(&IAccessible::get_accValue) + '}';
     const LONG state = State();
-    for (const auto& [bit, name] : StateNames) {
+    for (const auto& [bit, word] : States) {
       const bool taken = bit == STATE_SYSTEM_READONLY && role == ROLE_SYSTEM_STATICTEXT;
-      if ((state & bit) != 0 && !taken) line << ' ' << name;
+      if ((state & bit) != 0 && !taken) line += word;
     }
-    return line.str();
+    return line;
   }
 
  private:
@@ -97,24 +87,14 @@ class Heard {
   IAccessible* object_ = nullptr;
 };
 
-/// The lines of a window and all its visible controls.
-std::multiset<std::string> Hear(HWND window) {
-  std::multiset<std::string> lines{Heard(window).Line()};
-  for (HWND control : window::Controls(window)) lines.insert(Heard(control).Line());
-  return lines;
-}
-
-HWND Focus(HWND window) {
-  GUITHREADINFO thread = {};
-  thread.cbSize = sizeof thread;
-  GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &thread);
-  return thread.hwndFocus;
-}
-
-/// The form that has the input, other than the bar.
-HWND Panel(const Program& program) {
-  HWND front = GetForegroundWindow();
-  return front != program.Bar() && window::HasInput(front) ? front : nullptr;
+/// The form that opens beside the bar, once it has the input.
+HWND AwaitForm(const Program& program) {
+  HWND form = nullptr;
+  Await("a form", [&] {
+    form = GetForegroundWindow();
+    return form != program.Bar() && window::Focus(form) != nullptr;
+  });
+  return form;
 }
 
 /// Everything that a control shows on the screen.
@@ -147,7 +127,7 @@ void CheckTabs(HWND form) {
       awaited.insert(control);
     }
   }
-  HWND const first = Focus(form);
+  HWND const first = window::FocusOf(form);
   std::set<HWND> visited;
   HWND control = first;
   do {
@@ -156,35 +136,22 @@ void CheckTabs(HWND form) {
     const std::vector<DWORD> focused = Picture(control);
     input::Press(VK_TAB);
     if (awaited.size() == 1) break;
-    Await("Tab to go on", [&] { return Focus(form) != control; });
+    Await("Tab to go on", [&] { return window::FocusOf(form) != control; });
     CHECK(Eventually([&] { return Picture(control) != focused; }, 3000));
-    control = Focus(form);
+    control = window::FocusOf(form);
   } while (control != first && visited.size() <= awaited.size());
   CHECK(visited == awaited);
 }
 
-DWORD selectionsTold = 0;
-HWND selectionBox = nullptr;
-
-void CALLBACK SelectionTold(HWINEVENTHOOK, DWORD, HWND window, LONG, LONG, DWORD, DWORD) {
-  if (window == selectionBox) ++selectionsTold;
-}
-
-class ListedFolder : public Folder {
- public:
-  ListedFolder() {
-    Write("a.exe", "");
-    Write("VantorHelp.exe", "");
-    WriteSettings({.OptionMask = 2, .ProgUpper = 0, .Left = 600, .Top = 600});
-    Write("Vantor\\ListProg.Orbel", ListBytes({{"notepad", Path("a.exe")}}));
-  }
-};
-
 }  // namespace
 
-TEST_CASE("every control has a role and a name for a screen reader, and the state that it is in") {
-  const ListedFolder folder;
-  Program program(folder);
+TEST_CASE("every control has a role and a name for a screen reader, its state, and its place in the keyboard's way") {
+  const Folder folder;
+  folder.Write("a.exe");
+  folder.Write("VantorHelp.exe");
+  folder.WriteSettings({.OptionMask = 2, .ProgUpper = 0, .Left = 600, .Top = 600});
+  folder.WriteData("ListProg", ListBytes({{"notepad", folder.Path("a.exe")}}));
+  const Program program(folder);
   HWND bar = program.AwaitBar();
   const struct {
     WORD Key;  // opens the form; 0 for the bar itself
@@ -209,16 +176,17 @@ TEST_CASE("every control has a role and a name for a screen reader, and the stat
         "button \"OK\" unavailable"}},
       {VK_F7, {"client \"Help\"", "edit \"Data folder\" {" + folder.Path("Vantor") + "} readonly"}},
       {VK_F8, {"client \"Code\"", "button \"Hide\" focused", "text \"Control Panel Commands :\""}},
+      {VK_RETURN,
+       {"dialog \"Message For - Anna\"", "button \"OK\" focused", "button \"Cancel\" unavailable",
+        "text \"There was some error. Could not run the program.\""}},
   };
   for (const auto& row : rows) {
     CAPTURE(row.Key);
-    HWND form = bar;
-    if (row.Key != 0) {
-      input::Press(row.Key);
-      Await("a panel", [&] { return Panel(program) != nullptr; });
-      form = Panel(program);
-    }
-    const std::multiset<std::string> lines = Hear(form);
+    if (row.Key == VK_RETURN) program.TypeLine("p=no such program");
+    if (row.Key != 0) input::Press(row.Key);
+    HWND form = row.Key == 0 ? bar : AwaitForm(program);
+    std::multiset<std::string> lines{Heard(form).Line()};
+    for (HWND control : window::Controls(form)) lines.insert(Heard(control).Line());
     for (const std::string& line : lines) {
       CAPTURE(line);
       const bool named = line.find('"') != std::string::npos;
@@ -234,47 +202,14 @@ TEST_CASE("every control has a role and a name for a screen reader, and the stat
     input::Press(VK_ESCAPE);
     program.AwaitBar();
   }
-}
-
-TEST_CASE("a completion is told as the text box's selection") {
-  const ListedFolder folder;
-  Program program(folder);
-  program.AwaitBar();
-  selectionBox = program.TextMain();
-  HWINEVENTHOOK hook = SetWinEventHook(EVENT_OBJECT_TEXTSELECTIONCHANGED, EVENT_OBJECT_TEXTSELECTIONCHANGED, nullptr,
-                                       SelectionTold, 0, 0, WINEVENT_OUTOFCONTEXT);
-  program.TypeLine("p-no");
-  CHECK_BECOMES(program.LineWithSelection(), "p-no[tepad]");
-  selectionsTold = 0;
-  input::Type("t");
-  CHECK_BECOMES(program.LineWithSelection(), "p-not[epad]");
-  CHECK(Eventually([] { return selectionsTold > 0; }));
-  CHECK(Heard(program.TextMain()).Value() == "p-notepad");
-  UnhookWinEvent(hook);
-}
-
-TEST_CASE("a reader opens a panel by acting on its button, and hears that it is open; a message is a dialog") {
-  const ListedFolder folder;
-  Program program(folder);
-  program.AwaitBar();
+  // A reader opens a panel by acting on its button, and hears that it is open.
   const Heard button(program.Button("Show | Hide Preferences"));
   button.Act();
-  Await("the panel", [&] { return Panel(program) != nullptr; });
+  AwaitForm(program);
   CHECK_BECOMES(button.Line(), "button \"Show | Hide Preferences\" <F6> pressed");
   button.Act();
   program.AwaitBar();
   CHECK_BECOMES(button.Line(), "button \"Show | Hide Preferences\" <F6>");
-
-  program.TypeLine("p=no such program");
-  input::Press(VK_RETURN);
-  HWND message = program.AwaitMessage();
-  const std::multiset<std::string> lines = Hear(message);
-  for (const char* line : {"dialog \"Message For - Anna\"", "button \"OK\" focused", "button \"Cancel\" unavailable",
-                           "text \"There was some error. Could not run the program.\""}) {
-    CAPTURE(line);
-    CHECK(lines.contains(line));
-  }
-  program.AnswerMessage();
 }
 
 }  // namespace vantor::desktop

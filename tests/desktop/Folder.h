@@ -1,8 +1,15 @@
 #pragma once
 
+#include <windows.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include "desktop/Basics.h"
 
 namespace vantor::desktop {
 
@@ -20,40 +27,102 @@ struct Settings {
   int MachineFoldUpper = -1;
   int MachineProgUpper = -1;
 
-  [[nodiscard]] std::string Bytes() const;
+  [[nodiscard]] std::string Bytes() const {
+    std::string bytes;
+    const auto add = [&bytes](const std::string& value) { bytes += value + "\r\n"; };
+    for (const int value : {OptionMask, FileUpper, FoldUpper, ProgUpper, WebUpper, Left, Top})
+      add(std::to_string(value));
+    add('"' + Folder + '"');
+    for (const int value : {MachineFileUpper, MachineFoldUpper, MachineProgUpper}) add(std::to_string(value));
+    return bytes;
+  }
 };
 
 /// The bytes of a list file.
 using Items = std::vector<std::pair<std::string, std::string>>;
-std::string ListBytes(const Items& items);
+inline std::string ListBytes(const Items& items) {
+  std::string bytes;
+  for (const auto& [name, target] : items) {
+    bytes.append("\"").append(name).append("\",\"").append(target).append("\"\r\n");
+  }
+  return bytes;
+}
 
 /// A folder of a test's own, with the program in it; gone when the test ends.
 class Folder {
  public:
   /// In the temporary folder, or in the root of the drive that is named ("E:\\").
-  explicit Folder(const std::string& root = {});
-  ~Folder();
+  explicit Folder(const std::string& root = {}) {
+    wchar_t temporary[MAX_PATH];
+    const std::wstring given(temporary, GetTempPathW(MAX_PATH, temporary));
+    // In its long form, as the program and the shell report paths.
+    const std::wstring parent(temporary, GetLongPathNameW(given.c_str(), temporary, MAX_PATH));
+    static int count = 0;
+    path_ = (root.empty() ? Narrow(parent) : root) + "vantor" + std::to_string(GetCurrentProcessId()) + "-" +
+            std::to_string(++count);
+    CopyProgram("Vantor.exe", "Vantor.exe");
+  }
+  ~Folder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(Wide(path_), ignored);
+  }
   Folder(const Folder&) = delete;
   Folder& operator=(const Folder&) = delete;
 
-  /// Full path of a name in the folder, in UTF-8; without one, that of the folder.
-  [[nodiscard]] std::string Path(const std::string& name = {}) const;
+  /// Full path of a name in the folder; without one, that of the folder.
+  [[nodiscard]] std::string Path(const std::string& name = {}) const {
+    return name.empty() ? path_ : path_ + "\\" + name;
+  }
   /// Replaces a file, making the folders that it needs.
-  void Write(const std::string& name, const std::string& bytes) const;
+  void Write(const std::string& name, const std::string& bytes = {}) const {
+    std::ofstream(Place(name), std::ios::binary) << bytes;
+  }
   /// The bytes of a file; "(none)" when there is none.
-  [[nodiscard]] std::string Read(const std::string& name) const;
-  void MakeFolder(const std::string& name) const;
-  /// Takes the whole folder to the root of another drive, as its medium put in there would.
-  void MoveTo(const std::string& root);
+  [[nodiscard]] std::string Read(const std::string& name) const {
+    std::ifstream file(std::filesystem::path(Wide(Path(name))), std::ios::binary);
+    if (!file) return "(none)";
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
   /// Copies a program that was built beside this one.
-  void CopyProgram(const std::string& program, const std::string& name) const;
+  void CopyProgram(const std::string& program, const std::string& name) const {
+    wchar_t own[MAX_PATH];
+    const std::wstring self(own, GetModuleFileNameW(nullptr, own, MAX_PATH));
+    std::filesystem::copy_file(self.substr(0, self.rfind(L'\\') + 1) + Wide(program), Place(name),
+                               std::filesystem::copy_options::overwrite_existing);
+  }
+  /// Takes the whole folder to the root of another drive, as its medium put in there would.
+  void MoveTo(const std::string& root) {
+    const std::string there = root + path_.substr(path_.rfind('\\') + 1);
+    std::filesystem::copy(Wide(path_), Wide(there), std::filesystem::copy_options::recursive);
+    // A system process that the program called may still stand in the folder, which then stays, empty.
+    std::error_code ignored;
+    std::filesystem::remove_all(Wide(path_), ignored);
+    path_ = there;
+  }
 
+  /// A data file, by its name without the ending.
+  void WriteData(const std::string& name, const std::string& bytes) const {
+    Write("Vantor\\" + name + ".Orbel", bytes);
+  }
+  [[nodiscard]] std::string Data(const std::string& name) const { return Read("Vantor\\" + name + ".Orbel"); }
   /// What the program finds when it is not its first start: settings and a user's name.
-  void WriteSettings(const Settings& settings, const std::string& user = "Anna") const;
+  void WriteSettings(const Settings& settings) const {
+    WriteData("Set", settings.Bytes());
+    WriteData("User", "\"Anna\"\r\n");
+  }
   /// The bytes that settings are saved as: where none was chosen, the folder shown last is the program's own.
-  [[nodiscard]] std::string Saved(Settings settings) const;
+  [[nodiscard]] std::string Saved(Settings settings) const {
+    if (settings.Folder.empty()) settings.Folder = Path();
+    return settings.Bytes();
+  }
 
  private:
+  [[nodiscard]] std::filesystem::path Place(const std::string& name) const {
+    std::filesystem::path path = Wide(Path(name));
+    std::filesystem::create_directories(path.parent_path());
+    return path;
+  }
+
   std::string path_;
 };
 

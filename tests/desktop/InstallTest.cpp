@@ -1,93 +1,24 @@
 // The installer and the uninstaller, quietly, with and without a running copy. What a person had entered stays.
 
 #include <doctest/doctest.h>
-#include <shlobj.h>
 
-#include "desktop/Input.h"
 #include "desktop/Program.h"
-#include "desktop/Text.h"
-#include "desktop/Wait.h"
-#include "desktop/Wine.h"
+#include "desktop/System.h"
 #include "product/Product.rc.h"
 
 namespace vantor::desktop {
 namespace {
 
 constexpr wchar_t UninstallKey[] = LR"(Software\Microsoft\Windows\CurrentVersion\Uninstall\Vantor)";
-constexpr wchar_t RunKey[] = LR"(Software\Microsoft\Windows\CurrentVersion\Run)";
 
-/// Runs a program to its end. Returns its exit code.
-DWORD Run(const std::string& commandLine) {
-  std::wstring line = Wide(commandLine);
-  STARTUPINFOW startup = {};
-  startup.cb = sizeof startup;
-  PROCESS_INFORMATION process = {};
-  if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process))
-    throw std::runtime_error("does not start: " + commandLine);
-  const bool ended = WaitForSingleObject(process.hProcess, 60000) == WAIT_OBJECT_0;
-  DWORD code = 0;
-  GetExitCodeProcess(process.hProcess, &code);
-  CloseHandle(process.hThread);
-  CloseHandle(process.hProcess);
-  if (!ended) throw std::runtime_error("does not end: " + commandLine);
-  return code;
-}
-
-bool Exists(const std::string& path) { return GetFileAttributesW(Wide(path).c_str()) != INVALID_FILE_ATTRIBUTES; }
-
-std::string SystemFolder(int id) {
-  wchar_t path[MAX_PATH] = L"";
-  SHGetFolderPathW(nullptr, id, nullptr, SHGFP_TYPE_CURRENT, path);
-  return Narrow(path);
-}
-
-std::string Value(HKEY root, const wchar_t* key, const wchar_t* name) {
-  wchar_t text[1024] = L"";
-  DWORD bytes = sizeof text;
-  return RegGetValueW(root, key, name, RRF_RT_REG_SZ, nullptr, text, &bytes) == ERROR_SUCCESS ? Narrow(text) : "(none)";
-}
-std::string Entry(const wchar_t* name) { return Value(HKEY_CURRENT_USER, UninstallKey, name); }
-
-/// A shortcut's file: what it leads to, or making it lead somewhere.
-class Shortcut {
- public:
-  explicit Shortcut(const std::string& path) : path_(Wide(path)) {
-    CoInitialize(nullptr);
-    CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW, reinterpret_cast<void**>(&link_));
-    link_->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&file_));
-  }
-  ~Shortcut() {
-    file_->Release();
-    link_->Release();
-    CoUninitialize();
-  }
-  Shortcut(const Shortcut&) = delete;
-  Shortcut& operator=(const Shortcut&) = delete;
-
-  std::string Target() {
-    wchar_t target[MAX_PATH] = L"";
-    if (file_->Load(path_.c_str(), STGM_READ) == S_OK) link_->GetPath(target, MAX_PATH, nullptr, 0);
-    return Narrow(target);
-  }
-  void LeadTo(const std::string& target) {
-    link_->SetPath(Wide(target).c_str());
-    CHECK(file_->Save(path_.c_str(), TRUE) == S_OK);
-  }
-
- private:
-  std::wstring path_;
-  IShellLinkW* link_ = nullptr;
-  IPersistFile* file_ = nullptr;
-};
+std::string Entry(const wchar_t* name) { return RegistryText(HKEY_CURRENT_USER, UninstallKey, name); }
 
 /// The installer as it was built, and a place for it whose name is in no code page as a whole.
 struct Installation {
   Installation() { Work.CopyProgram("package\\Vantor-" PRODUCT_PACKAGE_VERSION "-setup.exe", "setup.exe"); }
 
   Folder Work;
-  std::string Name =
-      "Gr\xC3\xB6\xC3\x9F"
-      "e \xE6\x97\xA5\xE6\x9C\xAC";
+  std::string Name = "Gr\u00F6\u00DFe \u65E5\u672C";
   std::string Program = Work.Path(Name + "\\Vantor.exe");
   std::string StartMenu = SystemFolder(CSIDL_PROGRAMS) + "\\Vantor.lnk";
 
@@ -115,11 +46,7 @@ struct Installation {
   }
 };
 
-DWORD RunningProcess() {
-  DWORD process = 0;
-  GetWindowThreadProcessId(FindWindowW(L"ThunderRT6Main", L"Vantor Orbel"), &process);
-  return process;
-}
+DWORD RunningProcess() { return window::ProcessOf(FindWindowW(L"ThunderRT6Main", L"Vantor Orbel")); }
 
 }  // namespace
 
@@ -172,9 +99,7 @@ TEST_CASE("install, upgrade over a running copy, uninstall and come back, in a f
   it.WriteData();
   {
     Program running(it.Program);
-    running.AwaitBar();
-    running.TypeLine("p=nosuchprogram");
-    input::Press(VK_RETURN);
+    running.Enter("p=nosuchprogram");
     running.AwaitMessage();
     it.Uninstall("");
     CHECK(running.AwaitEnd() == 0);
@@ -199,7 +124,7 @@ TEST_CASE("an installation that can't be done says so and leaves all as it was")
   SKIP_UNLESS(UnderWine(), "a Windows installation of the test's own");
   const Installation it;
   constexpr DWORD NotDone = 2;
-  it.Work.MakeFolder("full\\Vantor.exe.new");
+  it.Work.Write("full\\Vantor.exe.new\\in the way");
   CHECK(it.Install(it.Work.Path("full")) == NotDone);
   CHECK(Entry(L"DisplayName") == "(none)");
 
@@ -220,17 +145,17 @@ TEST_CASE("nothing asked for, the folder is one that its user may write to; what
   const std::wstring program = Wide(folder + "\\Vantor.exe");
   REQUIRE(it.Install() == 0);
   CHECK(Exists(folder + "\\Vantor.exe"));
-  CHECK(Shortcut(it.StartMenu).Target() == folder + "\\Vantor.exe");
+  CHECK(Shortcut(it.StartMenu).Text().starts_with(folder + "\\Vantor.exe\n"));
 
   const std::string desktop = SystemFolder(CSIDL_DESKTOPDIRECTORY) + "\\Vantor.lnk";
   Shortcut(desktop).LeadTo(folder + "\\Vantor.exe");
-  RegSetKeyValueW(HKEY_LOCAL_MACHINE, RunKey, L"OrbelsLauncher", REG_SZ, program.c_str(),
+  RegSetKeyValueW(HKEY_LOCAL_MACHINE, RunKey, RunValue, REG_SZ, program.c_str(),
                   static_cast<DWORD>(program.size() + 1) * sizeof(wchar_t));
   Run('"' + folder + "\\Uninstall.exe\" /S");
   CHECK_BECOMES(Exists(folder), false);
   CHECK_FALSE(Exists(desktop));
   CHECK_FALSE(Exists(it.StartMenu));
-  CHECK(Value(HKEY_LOCAL_MACHINE, RunKey, L"OrbelsLauncher") == "(none)");
+  CHECK(RegistryText(HKEY_LOCAL_MACHINE, RunKey, RunValue) == "(none)");
 }
 
 }  // namespace vantor::desktop

@@ -9,11 +9,8 @@
 
 #include <algorithm>
 
-#include "desktop/Input.h"
 #include "desktop/Program.h"
 #include "desktop/Recorder.h"
-#include "desktop/Wait.h"
-#include "desktop/Window.h"
 
 namespace vantor::desktop {
 namespace {
@@ -29,11 +26,6 @@ const struct {
     {65001, "\u0416\u00E9\u0905", "\xD0\x96\xC3\xA9\xE0\xA4\x85", "\u0436\u00C9", "\u0416\u00E9[\u0905]"},
 };
 
-bool Shows(HWND window, const std::string& text) {
-  const std::vector<HWND> controls = window::Controls(window);
-  return std::ranges::any_of(controls, [&](HWND control) { return window::Text(control) == text; });
-}
-
 }  // namespace
 
 TEST_CASE("letters of any language are read, typed, completed, shown, started and stored") {
@@ -48,17 +40,17 @@ TEST_CASE("letters of any language are read, typed, completed, shown, started an
   const Folder folder;
   Recorder recorder(folder);
   for (const std::string& name : {cafe, mixed}) folder.CopyProgram("recorder.exe", name + ".exe");
-  folder.Write(mixed + ".vantortest", "");
+  folder.Write(mixed + ".vantortest");
   folder.WriteSettings({.FileUpper = 0, .ProgUpper = 1, .WebUpper = 0});
   const std::string mark = "\xEF\xBB\xBF";
   const std::string programs = ListBytes({{cafe, folder.Path(cafe + ".exe")}, {mixed, folder.Path(mixed + ".exe")}});
   const std::string files = ListBytes({{mixed, folder.Path(mixed + ".vantortest")}});
   const std::string webs = ListBytes({{row->Bytes, "http://" + row->Bytes}});
-  folder.Write("Vantor\\ListProg.Orbel", mark + programs);
-  folder.Write("Vantor\\ListFile.Orbel", mark + files);
-  folder.Write("Vantor\\ListWeb.Orbel", webs);
+  folder.WriteData("ListProg", mark + programs);
+  folder.WriteData("ListFile", mark + files);
+  folder.WriteData("ListWeb", webs);
 
-  Program program(folder);
+  const Program program(folder);
   program.AwaitBar();
   const std::string path = folder.Path(mixed);
   const struct {
@@ -75,20 +67,21 @@ TEST_CASE("letters of any language are read, typed, completed, shown, started an
     CHECK_BECOMES(program.LineWithSelection(), line.Completed);
     input::Press(VK_RETURN);
     CHECK(recorder.Next() == line.Started);
-    CHECK_BECOMES(program.Line().empty(), true);
+    CHECK_BECOMES(program.Line(), "");
   }
   program.TypeLine("w-" + row->Typed);
   CHECK_BECOMES(program.LineWithSelection(), "w-" + row->Completed);
-  input::Press(VK_F4);
-  CHECK_BECOMES(Shows(GetForegroundWindow(), mixed), true);
-  input::Press(VK_ESCAPE);
+  const Panel panel(program, VK_F4, "List");
+  panel.Open();
+  CHECK(window::Text(window::OfClass(panel.Button("File List :"), "ComboBox").at(0)) == mixed);
+  panel.Close();
   program.Exit();
 
   // With the mark where the code page lacks a letter.
   const std::string marked = row->CodePage == CP_UTF8 ? "" : mark;
-  CHECK(folder.Read("Vantor\\ListProg.Orbel") == marked + programs);
-  CHECK(folder.Read("Vantor\\ListFile.Orbel") == marked + files);
-  CHECK(folder.Read("Vantor\\ListWeb.Orbel") == webs);
+  CHECK(folder.Data("ListProg") == marked + programs);
+  CHECK(folder.Data("ListFile") == marked + files);
+  CHECK(folder.Data("ListWeb") == webs);
 }
 
 }  // namespace vantor::desktop

@@ -10,10 +10,7 @@
 #include <fstream>
 
 #include "desktop/AddBox.h"
-#include "desktop/Input.h"
-#include "desktop/Wait.h"
-#include "desktop/Window.h"
-#include "desktop/Wine.h"
+#include "desktop/Recorder.h"
 
 namespace vantor::desktop {
 namespace {
@@ -63,28 +60,6 @@ void GiveDiskSerial(const std::string& serial) {
   REQUIRE(now == std::stoul(serial, nullptr, 16));
 }
 
-/// Checks the bytes of data files, each named without its ending.
-void CheckDataFiles(const Folder& folder, const std::vector<std::pair<std::string, std::string>>& files) {
-  for (const auto& file : files) {
-    CAPTURE(file.first);
-    CHECK(folder.Read("Vantor\\" + file.first + ".Orbel") == file.second);
-  }
-}
-
-/// The button by which this computer is remembered, in the open preferences; null when it is not shown.
-HWND RememberButton(const Program& program) {
-  for (HWND panel : window::OfProcess(window::ProcessOf(program.Bar()))) {
-    if (HWND button = window::Control(panel, "Button", "Remember My Computer")) return button;
-  }
-  return nullptr;
-}
-
-void CheckCompletion(Program& program, const std::string& code, const std::string& typed, const std::string& name) {
-  program.AwaitBar();
-  program.TypeLine(code + typed);
-  CHECK_BECOMES(program.Line(), code + name);
-}
-
 const struct {
   std::string Option, Name, Code;
 } Kinds[] = {{"Prog.", "Program", "p-"}, {"File", "File", "f-"}, {"Folder", "Folder", "d-"}};
@@ -103,40 +78,39 @@ void AddAllKinds(const AddBox& box, const std::string& program, const std::strin
 
 TEST_CASE("a list on a stick goes with it, and what lies on a computer waits for that computer") {
   SKIP_UNLESS(UnderWine(), "a test desktop with two removable drives and a disk C: to change");
-  constexpr char Home[] = "1A2B3C4D";
-  constexpr char Elsewhere[] = "0BADCAFE";
-  GiveDiskSerial(Home);
+  const std::string home = "1A2B3C4D";
+  GiveDiskSerial(home);
   const Folder disk("C:\\");
-  const std::string diskName = disk.Path().substr(3);
-  for (const char* name : {"tool.exe", "notes.txt"}) disk.Write(name, "");
+  for (const char* name : {"tool.exe", "notes.txt"}) disk.Write(name);
   Folder stick("E:\\");
-  for (const char* name : {"own.exe", "own.txt"}) stick.Write(name, "");
+  stick.CopyProgram("recorder.exe", "own.exe");
+  stick.Write("own.txt");
   std::ofstream("N:\\tool.exe").close();
   const std::string mediaSet = "\"Vantor Media 1\"\r\n\"Ready\"\r\n\"Anna\"\r\n";
-  stick.Write("Vantor\\MediaSet.Orbel", mediaSet);
-  stick.Write("Vantor\\Set.Orbel", Settings{.WebUpper = 0}.Bytes());
-  stick.Write("Vantor\\ListWeb.Orbel", ListBytes({{"Site", "http://example.org/"}}));
-
-  {
-    Program program(stick);
-    program.AwaitBar();
-    const AddBox box(program);
-    box.Open();
-    AddAllKinds(box, "own.exe", "own.txt", "Own ");  // what is on the stick needs no computer
-    // No computer is remembered.
-    box.Click("Prog.");
+  stick.WriteData("MediaSet", mediaSet);
+  stick.WriteData("Set", Settings{.WebUpper = 0}.Bytes());
+  stick.WriteData("ListWeb", ListBytes({{"Site", "http://example.org/"}}));
+  const auto pickOnDisk = [&](const AddBox& box) {
     box.ChooseDrive('C');
-    box.Enter(diskName);
+    box.Enter(disk.Path().substr(3));
     box.Pick("tool.exe");
     box.Add("Tool");
+  };
+  {
+    const Program program(stick);
+    program.AwaitBar();
+    const AddBox box(program);
+    const Panel preferences(program, VK_F6, "Options");
+    box.Open();
+    AddAllKinds(box, "own.exe", "own.txt", "Own ");  // what is on the stick needs no computer
+    box.Click("Prog.");
+    pickOnDisk(box);
     program.ExpectMessage(NoMachineYet);
     CHECK(box.Path() == disk.Path("tool.exe"));
     CHECK(box.Name() == "Tool");
-    input::Press(VK_F6);
-    Await("the button, enabled", [&] { return IsWindowEnabled(RememberButton(program)); });
-    input::Click(window::Middle(RememberButton(program)));
-    Await("the button, disabled", [&] { return !IsWindowEnabled(RememberButton(program)); });
-    // This one is.
+    preferences.Open();
+    preferences.Click("Remember My Computer");
+    CHECK_BECOMES(window::IsEnabled(preferences.Button("Remember My Computer")), false);
     box.Open();
     AddAllKinds(box, "tool.exe", "notes.txt", "Disk ");
     box.Click("Prog.");
@@ -148,51 +122,62 @@ TEST_CASE("a list on a stick goes with it, and what lies on a computer waits for
     program.Exit();
   }
   const std::string inside = "#" + stick.Path().substr(1);
-  const std::string machine = stick.Read("Vantor\\Machine.Orbel");
+  const std::string machine = stick.Data("Machine");
   CHECK(machine.starts_with("3\r\n\"1A2B3C4D\"\r\n"));
-  Settings settings;
-  for (int* upper : {&settings.FileUpper, &settings.FoldUpper, &settings.ProgUpper, &settings.WebUpper,
-                     &settings.MachineFileUpper, &settings.MachineFoldUpper, &settings.MachineProgUpper}) {
-    *upper = 0;
-  }
-  const std::vector<std::pair<std::string, std::string>> saved{
-      {"Set", settings.Bytes()},
-      {"MediaSet", mediaSet},
-      {"ListFile", ListBytes({{"Own File", inside + "\\own.txt"}})},
-      {"ListFold", ListBytes({{"Own Folder", inside}})},
-      {"ListProg", ListBytes({{"Own Program", inside + "\\own.exe"}})},
-      {"ListWeb", ListBytes({{"Site", "http://example.org/"}})},
-      {"Machine", machine},
-      {"MachineFile", ListBytes({{"Disk File", disk.Path("notes.txt")}})},
-      {"MachineFold", ListBytes({{"Disk Folder", disk.Path()}})},
-      {"MachineProg", ListBytes({{"Disk Program", disk.Path("tool.exe")}})}};
-  CheckDataFiles(stick, saved);
+  const Settings settings{.FileUpper = 0,
+                          .FoldUpper = 0,
+                          .ProgUpper = 0,
+                          .WebUpper = 0,
+                          .MachineFileUpper = 0,
+                          .MachineFoldUpper = 0,
+                          .MachineProgUpper = 0};
+  const auto checkSaved = [&] {
+    const std::pair<std::string, std::string> files[] = {
+        {"Set", settings.Bytes()},
+        {"MediaSet", mediaSet},
+        {"ListFile", ListBytes({{"Own File", inside + "\\own.txt"}})},
+        {"ListFold", ListBytes({{"Own Folder", inside}})},
+        {"ListProg", ListBytes({{"Own Program", inside + "\\own.exe"}})},
+        {"ListWeb", ListBytes({{"Site", "http://example.org/"}})},
+        {"Machine", machine},
+        {"MachineFile", ListBytes({{"Disk File", disk.Path("notes.txt")}})},
+        {"MachineFold", ListBytes({{"Disk Folder", disk.Path()}})},
+        {"MachineProg", ListBytes({{"Disk Program", disk.Path("tool.exe")}})}};
+    for (const auto& [name, bytes] : files) {
+      CAPTURE(name);
+      CHECK(stick.Data(name) == bytes);
+    }
+  };
+  checkSaved();
 
   stick.MoveTo("F:\\");
-  for (const char* serial : {Home, Elsewhere, Home}) {
+  Recorder recorder(stick);
+  for (const std::string& serial : {home, std::string("0BADCAFE"), home}) {
     CAPTURE(serial);
-    const bool home = serial == std::string(Home);
     GiveDiskSerial(serial);
-    Program program(stick);
+    const Program program(stick);
+    program.AwaitBar();
     for (const auto& [option, name, code] : Kinds) {
-      CheckCompletion(program, code, "o", "Own " + name);
-      CheckCompletion(program, code, "di", home ? "Disk " + name : "di");
+      program.TypeLine(code + "di");
+      CHECK_BECOMES(program.Line(), code + (serial == home ? "Disk " + name : "di"));
+      program.TypeLine(code + "o");
+      CHECK_BECOMES(program.Line(), code + "Own " + name);
     }
-    if (!home) {
+    program.Enter("p-o");
+    CHECK(recorder.Next() == '"' + stick.Path("own.exe") + '"');
+    if (serial != home) {
       const AddBox box(program);
+      program.AwaitBar();
       box.Open();
-      box.ChooseDrive('C');
-      box.Enter(diskName);
-      box.Pick("tool.exe");
-      box.Add("Tool");
+      pickOnDisk(box);
       program.ExpectMessage(OtherMachine);
-      input::Press(VK_F6);
-      Await("the button", [&] { return RememberButton(program) != nullptr; });
-      CHECK_FALSE(IsWindowEnabled(RememberButton(program)));
-      input::Press(VK_F6);
+      const Panel preferences(program, VK_F6, "Options");
+      preferences.Open();
+      CHECK_FALSE(IsWindowEnabled(preferences.Button("Remember My Computer")));
+      preferences.Close();
     }
     program.Exit();
-    CheckDataFiles(stick, saved);
+    checkSaved();
   }
 }
 

@@ -2,41 +2,125 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <string>
+#include <tuple>
 #include <vector>
 
-/// Windows of other programs, looked at from outside.
+#include "desktop/Basics.h"
+
+/// Windows of other programs, looked at from outside. Only what is shown is found.
 namespace vantor::desktop::window {
 
-/// The title of a window or the content of a control, in UTF-8.
-std::string Text(HWND window);
-std::string ClassName(HWND window);
-DWORD ProcessOf(HWND window);
-/// The top-level windows of a process that are shown, minimised ones too.
-std::vector<HWND> OfProcess(DWORD process);
-/// The controls of a window that are shown, in its own order.
-std::vector<HWND> Controls(HWND window);
-/// The first control shown of a class whose text begins so; null when there is none.
-HWND Control(HWND window, const std::string& className, const std::string& textBegin = {});
+/// The title of a window or the content of a control; "" from a program that does not answer.
+inline std::string Text(HWND window) {
+  constexpr UINT Patience = 2000;  // milliseconds
+  DWORD_PTR length = 0;
+  SendMessageTimeoutW(window, WM_GETTEXTLENGTH, 0, 0, SMTO_ABORTIFHUNG, Patience, &length);
+  std::wstring text(length + 1, L'\0');
+  length = 0;
+  SendMessageTimeoutW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()), SMTO_ABORTIFHUNG,
+                      Patience, &length);
+  text.resize(length);
+  return Narrow(text);
+}
 
-/// The controls of a class that are shown, from left to right and from top to bottom.
-std::vector<HWND> OfClass(HWND window, const std::string& className);
+inline std::string ClassName(HWND window) {
+  wchar_t name[64];
+  return Narrow(std::wstring(name, static_cast<std::size_t>(GetClassNameW(window, name, 64))));
+}
 
-/// Whether a control only surrounds others.
-bool IsFrame(HWND control);
+inline DWORD ProcessOf(HWND window) {
+  DWORD process = 0;
+  GetWindowThreadProcessId(window, &process);
+  return process;
+}
 
-RECT Bounds(HWND window);
-POINT Middle(HWND window);
-/// The control of the window's program that has the focus; null when none has.
-HWND FocusOf(HWND window);
-/// The colour that is on the screen just inside the middle of a control's left edge, where it holds no text.
-COLORREF Ground(HWND control);
+inline BOOL CALLBACK Collect(HWND window, LPARAM list) {
+  if (IsWindowVisible(window)) reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+  return TRUE;
+}
+
+/// The top-level windows of a process, minimised ones too.
+inline std::vector<HWND> OfProcess(DWORD process) {
+  std::vector<HWND> windows;
+  EnumWindows(Collect, reinterpret_cast<LPARAM>(&windows));
+  std::erase_if(windows, [process](HWND window) { return ProcessOf(window) != process; });
+  return windows;
+}
+
+/// The controls of a window, in its own order.
+inline std::vector<HWND> Controls(HWND window) {
+  std::vector<HWND> controls;
+  EnumChildWindows(window, Collect, reinterpret_cast<LPARAM>(&controls));
+  return controls;
+}
+
+inline RECT Bounds(HWND window) {
+  RECT bounds = {};
+  GetWindowRect(window, &bounds);
+  return bounds;
+}
+
+inline POINT Middle(HWND window) {
+  const RECT bounds = Bounds(window);
+  return {(bounds.left + bounds.right) / 2, (bounds.top + bounds.bottom) / 2};
+}
+
+/// The controls of a class, from left to right and from top to bottom.
+inline std::vector<HWND> OfClass(HWND window, const std::string& className) {
+  auto controls = Controls(window);
+  std::erase_if(controls, [&](HWND control) { return _stricmp(ClassName(control).c_str(), className.c_str()) != 0; });
+  std::sort(controls.begin(), controls.end(), [](HWND a, HWND b) {
+    const RECT left = Bounds(a);
+    const RECT right = Bounds(b);
+    return std::tie(left.left, left.top) < std::tie(right.left, right.top);
+  });
+  return controls;
+}
+
+/// The button, option, check box or frame with a text; null when there is none.
+inline HWND Button(HWND window, const std::string& text) {
+  const auto buttons = OfClass(window, "Button");
+  const auto found = std::find_if(buttons.begin(), buttons.end(), [&](HWND one) { return Text(one) == text; });
+  return found == buttons.end() ? nullptr : *found;
+}
+
+/// The window that has the focus in this one's program; null when none has.
+inline HWND FocusOf(HWND window) {
+  GUITHREADINFO thread = {};
+  thread.cbSize = sizeof thread;
+  return GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &thread) ? thread.hwndFocus : nullptr;
+}
+
 /// The control, or the window itself, that has the input; null when another window is in the foreground.
-HWND Focus(HWND window);
-/// Whether the window has the input: it is in the foreground and it, or a control of it, has the focus.
-bool HasInput(HWND window);
-bool IsTopMost(HWND window);
+inline HWND Focus(HWND window) {
+  if (!window || GetForegroundWindow() != window) return nullptr;
+  HWND const focus = FocusOf(window);
+  return focus == window || IsChild(window, focus) ? focus : nullptr;
+}
+
+/// The colour that is on the screen.
+inline COLORREF ColorAt(LONG x, LONG y) {
+  HDC const screen = GetDC(nullptr);
+  const COLORREF color = GetPixel(screen, x, y);
+  ReleaseDC(nullptr, screen);
+  return color;
+}
+
+/// The colour just inside the middle of a control's left edge, where it holds no text.
+inline COLORREF Ground(HWND control) { return ColorAt(Bounds(control).left + 4, Middle(control).y); }
+
+inline bool IsEnabled(HWND window) { return IsWindowEnabled(window) != FALSE; }
+inline bool IsMinimised(HWND window) { return IsIconic(window) != FALSE; }
+inline bool IsTopMost(HWND window) { return (GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; }
+
 /// Whether the first window stands somewhere above the second.
-bool IsAbove(HWND upper, HWND lower);
+inline bool IsAbove(HWND upper, HWND lower) {
+  for (HWND window = upper; window; window = GetWindow(window, GW_HWNDNEXT)) {
+    if (window == lower) return true;
+  }
+  return false;
+}
 
 }  // namespace vantor::desktop::window

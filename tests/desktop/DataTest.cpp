@@ -1,0 +1,225 @@
+// desktop: --drive e:=floppy
+// What lies in the data files afterwards: damaged ones, a save that is broken off, the end of the session, other
+// copies.
+
+#include <doctest/doctest.h>
+
+#include "desktop/Program.h"
+
+namespace vantor::desktop {
+namespace {
+
+/// A list whose lines end otherwise than the program writes them, so that every save has to write the file anew, and
+/// what is loaded from the old and the new is the same.
+struct LongList {
+  explicit LongList(int count) : Count(count) {
+    Items items;
+    for (int i = 0; i < count; ++i) items.emplace_back("Site " + std::to_string(i), "http://www.example.org/");
+    Old = New = ListBytes(items);
+    std::erase(Old, '\r');
+  }
+  void PutInto(const Folder& folder) const {
+    folder.WriteSettings({.WebUpper = Count - 1});
+    folder.WriteData("ListWeb", Old);
+  }
+  /// Whether all items are saved. On a medium no folder is kept.
+  void CheckSaved(const Folder& folder, bool onMedium = false) const {
+    CHECK((folder.Data("ListWeb") == New));
+    const Settings settings{.WebUpper = Count - 1};
+    CHECK(folder.Data("Set") == (onMedium ? settings.Bytes() : folder.Saved(settings)));
+    CHECK_FALSE(Exists(folder.Path("Vantor\\Saving.Orbel")));
+  }
+
+  int Count;
+  std::string Old, New;
+};
+
+void Close(const Program& program) {
+  PostMessageW(program.AwaitBar(), WM_CLOSE, 0, 0);
+  CHECK(program.AwaitEnd() == 0);
+}
+
+void StartAndClose(const Folder& folder) {
+  const Program program(folder);
+  program.AwaitBar();
+  CHECK(program.Message() == nullptr);
+  Close(program);
+}
+
+}  // namespace
+
+TEST_CASE("settings and lists are written whole at the exit, and what can be read of damaged ones is kept") {
+  const std::string lists = ListBytes({{"One", "http://one"}, {"Two", "http://two"}});
+  const Settings usual{.OptionMask = 3, .WebUpper = 1, .Left = 300, .Top = 450};
+  const struct {
+    std::string Settings, Web;
+    desktop::Settings SettingsAfter;
+    std::string WebAfter;
+  } rows[] = {
+      {usual.Bytes(), "\"One\" , \"http://one\"\nTwo,http://two", usual, lists},
+      // Cut in the second record; fewer than counted; a count out of range; not a settings file at all.
+      {Settings{.WebUpper = 1}.Bytes(),
+       lists.substr(0, lists.size() - 4),
+       {.WebUpper = 0},
+       ListBytes({{"One", "http://one"}})},
+      {Settings{.WebUpper = 9}.Bytes(), lists, {.WebUpper = 1}, lists},
+      {"2\r\n-1\r\n-1\r\n-1\r\n1\r\n99999999\r\n0\r\n", lists, {.WebUpper = 1}, lists},
+      {std::string("\0\xFF\"", 3), lists, {}, lists},
+  };
+  for (const auto& row : rows) {
+    CAPTURE(row.Settings);
+    const Folder folder;
+    folder.WriteSettings({});
+    folder.WriteData("Set", row.Settings);
+    folder.WriteData("ListWeb", row.Web);
+    StartAndClose(folder);
+    CHECK(folder.Data("Set") == folder.Saved(row.SettingsAfter));
+    CHECK(folder.Data("ListWeb") == row.WebAfter);
+    CHECK(folder.Data("User") == "\"Anna\"\r\n");
+  }
+}
+
+TEST_CASE("items whose targets are gone, or that are not counted, go; a folder stays") {
+  const Folder folder;
+  folder.Write("a, b.txt");
+  const std::pair<std::string, std::string> gone{"gone", folder.Path("gone")};
+  const std::pair<std::string, std::string> there{"a, b", folder.Path("a, b.txt")};
+  folder.WriteSettings({.FileUpper = 1, .FoldUpper = 0, .ProgUpper = 0, .Folder = folder.Path("Vantor")});
+  folder.WriteData("ListFile", ListBytes({gone, there}));
+  folder.WriteData("ListFold", ListBytes({gone}));
+  folder.WriteData("ListProg", ListBytes({there, {"uncounted", "x"}}));
+  StartAndClose(folder);
+  CHECK(folder.Data("Set") == Settings{.FileUpper = 0, .ProgUpper = 0, .Folder = folder.Path("Vantor")}.Bytes());
+  CHECK(folder.Data("ListFile") == ListBytes({there}));
+  CHECK(folder.Data("ListFold") == ListBytes({gone}));
+  CHECK(folder.Data("ListProg") == ListBytes({there}));
+}
+
+TEST_CASE("the program killed in the midst of a save has lost nothing at its next start") {
+  const LongList list(32767);
+  const Folder folder;
+  const std::string saving = folder.Path("Vantor\\Saving.Orbel");
+  const std::string backup = folder.Path("Vantor\\Backup\\ListWeb.Orbel");
+  int brokenOff = 0;
+  // The moment is Windows' choice: most hit the save, all must do no harm.
+  for (int attempt = 0; attempt < 12 && brokenOff < 3; ++attempt) {
+    list.PutInto(folder);
+    {
+      const Program program(folder);
+      PostMessageW(program.AwaitBar(), WM_CLOSE, 0, 0);
+      const std::string& sign = attempt % 2 == 0 ? saving : backup;
+      CHECK(Eventually([&] { return Exists(sign) || !program.Running(); }));
+    }
+    brokenOff += Exists(saving) ? 1 : 0;
+    StartAndClose(folder);
+    list.CheckSaved(folder);
+    DeleteFileW(Wide(backup).c_str());
+  }
+  CHECK(brokenOff > 0);
+}
+
+TEST_CASE("on a full disk the old list or the new one stays, whole") {
+  const std::string disk = "Z:\\small\\";
+  SKIP_UNLESS(Exists(disk), "a small disk");
+  const LongList list(2000);
+  const Folder folder(disk);
+  // No room at all, some for what is kept, enough for that but not for the new list, enough for everything.
+  for (const std::size_t room : {0U, 40'000U, 90'000U, 200'000U}) {
+    CAPTURE(room);
+    list.PutInto(folder);
+    ULARGE_INTEGER free = {};
+    REQUIRE(GetDiskFreeSpaceExA(disk.c_str(), &free, nullptr, nullptr));
+    REQUIRE(free.QuadPart > room);
+    folder.Write("filler", std::string(static_cast<std::size_t>(free.QuadPart) - room, 'x'));
+    for (int time = 0; time < 2; ++time) StartAndClose(folder);
+    DeleteFileW(Wide(folder.Path("filler")).c_str());
+    StartAndClose(folder);
+    list.CheckSaved(folder);
+  }
+}
+
+TEST_CASE("a list file that may not be written, and a medium that is pulled out") {
+  const LongList list(3);
+  const Folder folder;
+  list.PutInto(folder);
+  const std::wstring path = Wide(folder.Path("Vantor\\ListWeb.Orbel"));
+  SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY);
+  StartAndClose(folder);
+  SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+  CHECK(folder.Data("ListWeb") == list.Old);
+  StartAndClose(folder);
+  list.CheckSaved(folder);
+
+  SKIP_UNLESS(UnderWine() && GetDriveTypeA("E:\\") == DRIVE_REMOVABLE, "a test desktop with a removable drive");
+  const Folder medium("E:\\");
+  list.PutInto(medium);
+  medium.WriteData("MediaSet", "\"Vantor Media 1\"\r\n\"Ready\"\r\n\"Anna\"\r\n");
+  {
+    const Program program(medium);
+    program.AwaitBar();
+    REQUIRE(MoveFileA("Z:\\prefix\\drives\\e", "Z:\\prefix\\drives\\gone"));
+    Close(program);
+    REQUIRE(MoveFileA("Z:\\prefix\\drives\\gone", "Z:\\prefix\\drives\\e"));
+  }
+  CHECK(medium.Data("ListWeb") == list.Old);
+  StartAndClose(medium);
+  list.CheckSaved(medium, true);
+}
+
+TEST_CASE("Windows ends while a panel or a message is open: all is saved, and in time") {
+  const LongList list(32767);
+  for (const bool message : {false, true}) {
+    CAPTURE(message);
+    const Folder folder;
+    list.PutInto(folder);
+    const Program program(folder);
+    HWND bar = program.AwaitBar();
+    if (message) {
+      program.Enter("p=nosuchprogram");
+      program.AwaitMessage();
+    } else {
+      Panel(program, VK_F4, "List").Open();
+    }
+    const ULONGLONG begin = GetTickCount64();
+    if (message && UnderWine()) {
+      CHECK(Run("wineboot --end-session") == 0);
+    } else {
+      // What Windows sends, without ending the session of whoever runs this.
+      CHECK(SendMessageW(bar, WM_QUERYENDSESSION, 0, 0) != 0);
+      SendMessageW(bar, WM_ENDSESSION, TRUE, 0);
+    }
+    // From here on Windows may end the process at any moment.
+    const ULONGLONG milliseconds = GetTickCount64() - begin;
+    list.CheckSaved(folder);
+    (void)program.AwaitEnd();
+    MESSAGE("saving 32,767 items at the session's end: " << milliseconds << " ms");
+    CHECK(milliseconds < 5000);  // what Windows grants before it ends a program by force
+  }
+}
+
+TEST_CASE("a second copy hands over to the first, minimised or covered; of two at one moment one stays") {
+  const Folder folder;
+  folder.WriteSettings({.WebUpper = 0, .Left = 600, .Top = 600});
+  folder.WriteData("ListWeb", ListBytes({{"One", "http://one"}}));
+  const Program one(folder);
+  const Program two(folder);
+  CHECK(Eventually([&] { return one.Running() != two.Running(); }));
+  const Program& first = one.Running() ? one : two;
+  HWND bar = first.AwaitBar();
+  first.TypeLine("kept");
+  for (const bool minimised : {true, false}) {
+    CAPTURE(minimised);
+    if (minimised) input::Press(VK_F9);
+    CHECK_BECOMES(window::IsMinimised(bar), minimised);
+    const Program second(folder);
+    CHECK(second.AwaitEnd() == 0);
+    CHECK_BECOMES(window::IsMinimised(bar), false);
+    CHECK(first.AwaitBar() == bar);
+    CHECK(first.Line() == "kept");
+  }
+  first.Exit();
+  CHECK(folder.Data("ListWeb") == ListBytes({{"One", "http://one"}}));
+  StartAndClose(folder);  // the way is free again
+}
+
+}  // namespace vantor::desktop
