@@ -117,6 +117,7 @@ endif()
 if(VANTOR_RECORDER_SOURCES)
   add_executable(recorder WIN32 ${VANTOR_RECORDER_SOURCES})
   target_link_libraries(recorder PRIVATE vantor_flags ${VANTOR_WINDOWS_LIBRARIES})
+  target_include_directories(recorder PRIVATE "${PROJECT_SOURCE_DIR}/tests")
   target_link_options(recorder PRIVATE -municode -s)
 endif()
 
@@ -137,11 +138,12 @@ if(VANTOR_DESKTOP_SOURCES)
     RUNNER ${on_desktop} COMMAND $<TARGET_FILE:desktop_tests>)
 endif()
 
-# The floor program, built as Vantor.exe is, and what times both.
+# The floor program, built as Vantor.exe is, and what measures both. Soak uses the program as the desktop tests do.
 foreach(source IN LISTS VANTOR_WIN32_BENCH_SOURCES)
   get_filename_component(name "${source}" NAME_WE)
   add_executable(${name} ${source})
   target_link_libraries(${name} PRIVATE vantor_flags ${VANTOR_WINDOWS_LIBRARIES})
+  target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
   target_compile_options(${name} PRIVATE ${VANTOR_WHOLE_COMPILE})
   target_link_options(${name} PRIVATE -municode -s ${VANTOR_WHOLE_LINK})
 endforeach()
