@@ -11,6 +11,19 @@ constexpr int GrowBy = 20;
 // affair. The paths do not depend on it.
 constexpr std::uint32_t SnapshotFlags = 0;
 
+/// A snapshot that is closed whatever happens while it is read.
+struct Snapshot {
+  explicit Snapshot(service::Processes& system) : Processes(system), Id(system.CreateSnapshot(SnapshotFlags, 0)) {}
+  ~Snapshot() {
+    if (Id != service::SnapshotId::None) Processes.CloseSnapshot(Id);
+  }
+  Snapshot(const Snapshot&) = delete;
+  Snapshot& operator=(const Snapshot&) = delete;
+
+  service::Processes& Processes;
+  service::SnapshotId Id;
+};
+
 }  // namespace
 
 std::wstring clsActiveProcess::szExeFile(int index) const {
@@ -22,17 +35,16 @@ std::wstring clsActiveProcess::szExeFile(int index) const {
 
 int clsActiveProcess::GetActiveProcess() {
   count_ = 0;
-  const service::SnapshotId snapshot = processes_.CreateSnapshot(SnapshotFlags, 0);
-  if (snapshot == service::SnapshotId::None) return 0;
+  const Snapshot snapshot(processes_);
+  if (snapshot.Id == service::SnapshotId::None) return 0;
   service::ProcessEntry entry;
   entry.dwSize = service::ProcessEntrySize;
   records_.assign(GrowBy + 1, {});  // record 0 is never filled
-  for (bool filled = processes_.First(snapshot, entry); filled; filled = processes_.Next(snapshot, entry)) {
+  for (bool filled = processes_.First(snapshot.Id, entry); filled; filled = processes_.Next(snapshot.Id, entry)) {
     ++count_;
     if (count_ % GrowBy == 0) records_.resize(static_cast<std::size_t>(count_) + GrowBy + 1);
     records_[static_cast<std::size_t>(count_)] = entry;
   }
-  processes_.CloseSnapshot(snapshot);
   return count_;
 }
 
