@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "bar/frmMain.h"
-#include "fake/FakeServices.h"
+#include "fake/Computer.h"
 #include "form/Headless.h"
 
 using namespace vantor;
@@ -139,9 +139,8 @@ struct Bench {
   RealDataFiles DataFiles;
   RealFileSystem FileSystem;
   AsciiLanguage Language;
-  fake::FakeServices Fakes;  // for what is not measured
-  service::Services Services{DataFiles,         FileSystem,   Language,        Fakes.Management,  Fakes.Programs,
-                             Fakes.ScriptShell, Fakes.System, Fakes.Processes, Fakes.WindowPicker};
+  fake::Computer Rest;  // what is not measured
+  service::Services Services{DataFiles, FileSystem, Language, Rest, Rest, Rest, Rest, Rest, Rest};
   form::Headless Desktop;
   start::Environment Environment;
   std::wstring Folder;
@@ -150,7 +149,7 @@ struct Bench {
   message::MessageState MessageState;
   message::Messages Messages{Desktop, MessageState};
   command::CommandState State;
-  command::Starters Starters{Fakes.Programs, Fakes.ScriptShell};
+  command::Starters Starters{Rest, Rest};
   list::ListFiles ListFiles{Services, Environment, Settings};
   list::frmChoose Choose{Desktop, ListFiles, Language, Messages};
   bar::frmMain Main{Desktop, {Services, Environment, Messages, Settings, Options, Choose, ListFiles, State, Starters}};

@@ -1,139 +1,240 @@
 #include "add/frmBrowse.h"
 
-#include "Desk.h"
+#include <doctest/doctest.h>
+
+#include "add/clsActiveProcess.h"
+#include "fake/TestProgram.h"
 
 namespace vantor::add {
 namespace {
 
-using Items = std::vector<std::wstring>;
+using service::WindowId;
+using test::Texts;
 
-TEST_CASE("A name left over from another choice adds nothing while there is no path") {
-  Desk desk;
-  frmBrowse& box = desk.Browse;
-  desk.Settings.Folder = L"C:\\Tools";
-  desk.Panel(0);
-  desk.ChooseKind(AddKind::File);
-  desk.Pick(L"notes.txt");
-  desk.Ui.Type(L"left");
-  desk.ChooseKind(AddKind::Program);
+constexpr std::wstring_view NotFixed = L"You can add Program, File and Folder to Launch List only if those are in a";
+constexpr std::wstring_view NotReady = L"The Drive you are trying to select is not ready.";
+
+/// The add box of a program that runs, open at a folder with a program and a file.
+struct AddBox : test::StartedProgram {
+  AddBox() {
+    Desktop.Press(form::Key::F2);
+    REQUIRE(Box.DirWork.SetPath(L"C:\\Work"));
+  }
+  void ChooseKind(AddKind kind) { Desktop.Click(Box.OptionBrowse[static_cast<std::size_t>(kind)]); }
+  void Pick(std::wstring_view file) {
+    const auto& files = Box.FileWork.Entries();
+    const auto found = std::find(files.begin(), files.end(), file);
+    REQUIRE(found != files.end());
+    Box.FileWork.InputSelect(static_cast<int>(found - files.begin()));
+  }
+  void DragTo(WindowId window) {
+    Box.CommandFindPath.InputMouseDown(form::MouseButton::Left);
+    Computer.UnderCursor = window;
+    Desktop.Advance(100);
+  }
+  void Release() { Box.CommandFindPath.InputMouseUp(form::MouseButton::Left); }
+  [[nodiscard]] std::size_t Added() const { return test::ItemsOf(Choose.List).size(); }
+
+  frmBrowse& Box = Program.frmBrowse;
+};
+
+TEST_CASE("a name left over from another choice adds nothing while there is no path") {
+  AddBox adding;
+  frmBrowse& box = adding.Box;
+  adding.ChooseKind(AddKind::File);
+  adding.Pick(L"notes.txt");
+  adding.Desktop.Type(L"left");
+  adding.ChooseKind(AddKind::Program);
   CHECK_FALSE(box.TextAddName.Enabled());
-  desk.Ui.Click(box.CommandAddOK);
-  CHECK(desk.Added == 0);
+  adding.Desktop.Click(box.CommandAddOK);
+  CHECK(adding.Added() == 0);
   CHECK(box.TextAddName.Text() == L"left");
-  desk.ChooseKind(AddKind::File);
-  desk.Pick(L"notes.txt");  // has no default name
+  adding.ChooseKind(AddKind::File);
+  adding.Pick(L"notes.txt");  // has no default name
   CHECK(box.TextAddName.Text().empty());
-  desk.ChooseKind(AddKind::Folder);
+  adding.ChooseKind(AddKind::Folder);
   REQUIRE(box.DirWork.SetPath(L"C:\\"));
   CHECK(box.TextAddPath.Text() == L"C:\\");
   CHECK(box.State().BrowseFolder == L"C:\\");
 }
 
-TEST_CASE("Where an item may come from") {
-  // How each refusal begins, and the length of the whole.
-  struct Text {
-    std::wstring_view Begin;
-    std::size_t Length;
-  };
-  constexpr Text None{L"", 0};
-  constexpr Text Fixed{L"You can add Program, File and Folder to Launch List only if those are in a fixed", 171};
-  constexpr Text Unknown{L"While Vantor runs from a Removable Media - it can add", 174 + 49 + 248 + 120 + 3 * 4};
-  constexpr Text FixedHere{L"From this machine you can add", 193};
-  constexpr Text Other{L"While Vantor runs from a Removable Media - Program File and Folder if", 155 + 97 + 4};
+TEST_CASE("where an item may come from") {
+  constexpr std::wstring_view NoMachineYet = L"While Vantor runs from a Removable Media - it can add";
+  constexpr std::wstring_view NotFixedHere = L"From this machine you can add";
+  constexpr std::wstring_view OtherMachine = L"While Vantor runs from a Removable Media - Program File and Folder if";
   const struct {
-    bool Media = false;
-    bool Unknown = false;
-    bool Remembered = false;
-    wchar_t Drive = 0;
-    Text Refusal;  // None when it may be added
-    bool EnablesRemember = false;
+    bool Media, Unknown, Remembered;
+    wchar_t Drive;
+    std::wstring_view Refusal;  // "" when it may be added
   } cases[] = {
-      {false, false, false, L'D', None},        {false, false, false, L'E', Fixed},
-      {false, false, false, L'N', Fixed},       {true, true, false, L'E', None},
-      {true, true, false, L'D', Unknown, true}, {true, false, true, L'D', None},
-      {true, false, true, L'N', FixedHere},     {true, false, true, L'E', None},
-      {true, false, false, L'D', Other},        {true, false, false, L'E', None},
+      {false, false, false, L'D', L""},         {false, false, false, L'E', NotFixed},
+      {false, false, false, L'N', NotFixed},    {true, true, false, L'E', L""},
+      {true, true, false, L'D', NoMachineYet},  {true, false, true, L'D', L""},
+      {true, false, true, L'N', NotFixedHere},  {true, false, true, L'E', L""},
+      {true, false, false, L'D', OtherMachine}, {true, false, false, L'E', L""},
   };
   for (const auto& c : cases) {
     CAPTURE(&c - cases);
-    Desk desk;
-    desk.Environment.RunMode = c.Media;
-    desk.Environment.MachineUnknown = c.Unknown;
-    desk.Environment.MachineRemembered = c.Remembered;
-    if (c.Media) desk.Environment.MediaDriveLetter = L"E";
-    bool enabled = false;
-    desk.Messages.Hooks.EnableRemember = [&] { enabled = true; };
-    desk.Panel(0);
-    desk.Browse.DriveWork.SetDrive(std::wstring(1, c.Drive));
-    CHECK(desk.Browse.State().SelectedDriveLetter == std::wstring(1, c.Drive));
-    REQUIRE(desk.Browse.DirWork.SetPath(std::wstring(1, c.Drive) + L":\\Work"));
-    desk.Pick(L"tool.exe");
-    std::wstring told;
-    const bool refused = c.Refusal.Length != 0;
-    if (refused) desk.Expect(told);
-    desk.Ui.Type(L"Tool\r");
-    CHECK(told.starts_with(c.Refusal.Begin));
-    CHECK(told.size() == c.Refusal.Length);
-    CHECK(enabled == c.EnablesRemember);
-    CHECK((desk.Added == 1) != refused);
-    if (refused) CHECK(desk.Browse.TextAddName.Text() == L"Tool");
+    AddBox adding;
+    start::Environment& environment = adding.Program.Environment;
+    environment.RunMode = c.Media;
+    environment.MachineUnknown = c.Unknown;
+    environment.MachineRemembered = c.Remembered;
+    if (c.Media) environment.MediaDriveLetter = L"E";
+    adding.Box.DriveWork.SetDrive(std::wstring(1, c.Drive));
+    REQUIRE(adding.Box.DirWork.SetPath(std::wstring(1, c.Drive) + L":\\Work"));
+    adding.Pick(L"Tool.EXE");
+    const bool refused = !c.Refusal.empty();
+    if (refused) adding.Expect([](auto& dialog) { dialog.CommandOK.DoClick(); });
+    adding.Desktop.Type(L"Tool\r");
+    CHECK((adding.Added() == 1) != refused);
+    if (!refused) continue;
+    CHECK(adding.Told.at(0).starts_with(c.Refusal));
+    CHECK(adding.Box.TextAddName.Text() == L"Tool");
+    CHECK(adding.Program.OptionsPage.CommandOptionRemember.Enabled() == (c.Refusal == NoMachineYet));
   }
 }
 
-TEST_CASE("The last folder on a fixed disk is kept for the next run, and a drive that is not ready is told") {
-  Desk desk;
-  frmBrowse& box = desk.Browse;
-  desk.Settings.Folder = L"C:\\Gone";
-  box.Load();
-  CHECK(box.DirWork.Path() == L"C:\\Vantor");
-  desk.Panel(0);
+TEST_CASE("the last folder on a fixed disk is kept for the next run, and a drive that is not ready is told") {
+  AddBox adding;
+  frmBrowse& box = adding.Box;
+  const std::wstring& folder = adding.Program.Settings.Folder;
   REQUIRE(box.DirWork.SetPath(L"D:\\Work"));
   CHECK(box.DriveWork.Drive() == L"d:");
-  CHECK(desk.Settings.Folder == L"D:\\Work");
-
-  std::wstring told;
-  desk.Expect(told);
+  CHECK(folder == L"D:\\Work");
+  adding.Expect();
   box.DriveWork.SetDrive(L"r:");
-  CHECK(told == L"The Drive you are trying to select is not ready.");
-  CHECK(box.DriveWork.Drive() == L"d:");
   CHECK(box.DirWork.Path() == L"D:\\Work");
-
+  CHECK(box.DriveWork.Drive() == L"d:");
   box.DriveWork.SetDrive(L"e:");
   CHECK(box.DirWork.Path() == L"E:\\");
-  CHECK(desk.Settings.Folder.empty());
-  desk.Services.Disk.Drive(L'E').Ready = false;
-  desk.Expect(told);
+  CHECK(folder.empty());
+  adding.Computer.Disk.Drive(L'E').Ready = false;
+  adding.Expect();
   box.DirWork.InputSelect(1);
-  desk.Ui.DoubleClick(box.DirWork);
-  CHECK(told == L"The Drive you are trying to select is not ready.");
+  adding.Desktop.DoubleClick(box.DirWork);
+  CHECK(adding.Told == Texts{std::wstring(NotReady), std::wstring(NotReady)});
   CHECK(box.DirWork.Path() == L"E:\\");
+
+  // One that is gone at the next start gives way to the program's own.
+  test::TestProgram next;
+  next.Program.Settings.Folder = L"C:\\Gone";
+  next.Program.Environment.ProgramFolder = L"C:\\Vantor\\";
+  next.Program.frmBrowse.Load();
+  CHECK(next.Program.frmBrowse.DirWork.Path() == L"C:\\Vantor");
 }
 
-TEST_CASE("What is dropped on the program fills the add box as if browsed to") {
-  const std::wstring longFolder = L"D:\\" + std::wstring(200, L'\x436') + L"\\" + std::wstring(200, L'x');
+TEST_CASE("what is dropped on the program fills the add box as if browsed to") {
+  const std::wstring longFile =
+      L"D:\\" + std::wstring(200, L'\x436') + L"\\" + std::wstring(200, L'x') + L"\\a 'b'.txt";
   const struct {
-    std::vector<std::wstring> Paths;
+    Texts Paths;
     AddKind Kind;
     std::wstring Path;
   } cases[] = {
-      {{L"e:\\work\\TOOL.exe"}, AddKind::Program, L"E:\\work\\tool.exe"},
-      {{L"Z:\\no", L"C:\\Tools\\notes.txt"}, AddKind::File, L"C:\\Tools\\notes.txt"},
-      {{L"C:\\Tools\\Deep\\"}, AddKind::Folder, L"C:\\Tools\\Deep"},
-      {{longFolder + L"\\a, b 'c'.txt"}, AddKind::File, longFolder + L"\\a, b 'c'.txt"},
+      {{L"e:\\work\\TOOL.exe"}, AddKind::Program, L"E:\\work\\Tool.EXE"},
+      {{L"Z:\\no", L"C:\\Work\\notes.txt"}, AddKind::File, L"C:\\Work\\notes.txt"},
+      {{L"D:\\Work\\"}, AddKind::Folder, L"D:\\Work"},
+      {{longFile}, AddKind::File, longFile},
       {{L"D:\\hidden.txt"}, AddKind::File, L"D:\\hidden.txt"},
   };
   for (const auto& c : cases) {
-    Desk desk;
-    desk.Services.Disk.AddFile(longFolder + L"\\a, b 'c'.txt");
-    desk.Services.Disk.AddFile(L"D:\\hidden.txt").Hidden = true;
-    desk.Panel(1);
-    desk.Browse.FillWith(c.Paths);
-    CHECK(desk.CommandState.OpenPanelIndex == 0);
-    CHECK(desk.Browse.State().WhatToAdd == c.Kind);
-    CHECK(desk.Browse.TextAddPath.Text() == c.Path);
-    CHECK(desk.Browse.TextAddName.HasFocus());
-    CHECK(desk.Added == 0);
+    CAPTURE(&c - cases);
+    AddBox adding;
+    adding.Computer.Disk.AddFile(longFile);
+    adding.Computer.Disk.AddFile(L"D:\\hidden.txt").Hidden = true;
+    adding.Desktop.Press(form::Key::F3);
+    adding.Box.FillWith(c.Paths);
+    CHECK(adding.Program.CommandState.OpenPanelIndex == 0);
+    CHECK(adding.Box.State().WhatToAdd == c.Kind);
+    CHECK(adding.Box.TextAddPath.Text() == c.Path);
+    CHECK(adding.Box.TextAddName.HasFocus());
   }
+}
+
+TEST_CASE("a snapshot's records are kept in order, across the growth of the table") {
+  fake::Computer computer;
+  computer.Entries.clear();
+  for (std::uint32_t id = 1; id <= 45; ++id) computer.AddProcess(id * 4, "p" + std::to_string(id) + ".exe");
+  clsActiveProcess active(computer, computer);
+  CHECK(active.GetActiveProcess() == 45);
+  for (const int index : {1, 20, 21, 40, 45}) {
+    CHECK(active.th32ProcessID(index) == static_cast<std::uint32_t>(index) * 4);
+    CHECK(active.szExeFile(index).size() == 260);
+    CHECK(active.szExeFile(index).starts_with(L"p" + std::to_wstring(index) + L".exe"));
+  }
+  CHECK_THROWS_AS((void)active.dwFlags(46), std::out_of_range);
+  CHECK(computer.Open == 0);
+}
+
+TEST_CASE("the finder puts the program's path into the box, and its drive type counts once") {
+  AddBox adding;
+  adding.Computer.Managed[1].ExecutablePath = L"E:\\Work\\Tool.EXE";
+  adding.DragTo(WindowId{1});
+  CHECK(adding.Computer.Target);
+  CHECK(adding.Computer.Marked == WindowId{1});
+  adding.Release();
+  CHECK(adding.Box.TextAddPath.Text() == L"E:\\Work\\Tool.EXE");
+  CHECK(adding.Box.TextAddName.HasFocus());
+  adding.Expect();
+  adding.Desktop.Type(L"Tool\r");
+  CHECK(adding.Told.at(0).starts_with(NotFixed));
+  adding.Box.TextAddName.SetFocus();
+  adding.Desktop.Type(L"\r");  // now the folder's own drive type counts
+  CHECK(adding.Added() == 1);
+  adding.DragTo(WindowId{1});
+  adding.Release();
+  adding.Pick(L"Tool.EXE");  // what the finder found is given up
+  adding.Desktop.Type(L"Work\r");
+  CHECK(adding.Added() == 2);
+
+  // Where no path is to be had the box stays as it was.
+  adding.Pick(L"Tool.EXE");
+  for (const WindowId window : {WindowId{2}, WindowId{3}, WindowId::None}) {
+    adding.Expect();
+    adding.DragTo(window);
+    adding.Release();
+    CHECK(adding.Told.back() == L"Could not find the Executable Path. Reason undetermined.");
+    CHECK(adding.Box.TextAddPath.Text() == L"C:\\Work\\Tool.EXE");
+  }
+  adding.Computer.Let("ManagedProcesses", fake::Outcome::Fails);
+  adding.Computer.ImagePath = L"D:\\plain.exe";
+  adding.DragTo(WindowId{1});
+  adding.Release();
+  CHECK(adding.Box.TextAddPath.Text() == L"D:\\plain.exe");
+}
+
+TEST_CASE("a drag that is broken off changes nothing, and the next one works") {
+  AddBox adding;
+  fake::Computer& computer = adding.Computer;
+  adding.DragTo(WindowId{1});
+  SUBCASE("by Escape") { adding.Desktop.Press(form::Key::Escape); }
+  SUBCASE("by another program taking the mouse") {
+    computer.Captured = WindowId{7};
+    computer.ButtonDown = false;
+    adding.Desktop.Advance(100);
+    CHECK(computer.Captured == WindowId{7});
+    computer.Captured = WindowId::None;
+  }
+  SUBCASE("by closing the box") {
+    adding.Box.CommandAddCancel.DoClick();
+    adding.Desktop.Press(form::Key::F2);
+  }
+  SUBCASE("by a place beyond the screen's numbers, which is asked about") {
+    adding.Expect();
+    computer.Cursor.X = 40000;
+    adding.Desktop.Advance(100);
+    CHECK(adding.Told.at(0).find(L"Bug-Vantor-FindExecutable") != std::wstring::npos);
+    computer.Cursor.X = 0;
+  }
+  CHECK((!computer.Target && computer.Captured == WindowId::None && computer.Marked == WindowId::None));
+  CHECK_FALSE(adding.Box.TimerFindPath.Enabled());
+  adding.Release();
+  CHECK(adding.Box.TextAddPath.Text().empty());
+  CHECK(adding.Box.Visible());
+  adding.DragTo(WindowId{1});
+  adding.Release();
+  CHECK(adding.Box.TextAddPath.Text() == L"C:\\Work\\Tool.EXE");
 }
 
 }  // namespace

@@ -1,30 +1,28 @@
 #include <doctest/doctest.h>
 
-#include "bar/StartedProgram.h"
+#include "fake/TestProgram.h"
 
-using namespace vantor;
-using list::LaunchGroup;
-using test::StartedProgram;
-using Starts = std::vector<std::wstring>;
-
+namespace vantor::command {
 namespace {
 
-void FillList(StartedProgram& bar) {
-  bar.Add(LaunchGroup::Prog, L"notepad", L"C:\\Program Files\\Note, pad.exe");
-  bar.Add(LaunchGroup::Prog, L"Net tool", L"C:\\net.exe");
-  bar.Add(LaunchGroup::File, L"Letter", L"C:\\My docs\\letter.doc");
-  bar.Add(LaunchGroup::Fold, L"Pictures", L"C:\\My pictures");
-  bar.Add(LaunchGroup::Web, L"News", L"http://news.example/a?b=c");
-}
+using list::LaunchGroup;
+using test::Texts;
 
-}  // namespace
+/// The bar, with a list.
+struct Line : test::StartedProgram {
+  Line() {
+    Add(LaunchGroup::Prog, L"notepad", L"C:\\Program Files\\Note, pad.exe");
+    Add(LaunchGroup::Prog, L"Net tool", L"C:\\net.exe");
+    Add(LaunchGroup::Prog, L"\u041F\u0440\u043E\u0435\u043A\u0442", L"C:\\p.exe");
+    Add(LaunchGroup::File, L"Letter", L"C:\\My docs\\letter.doc");
+    Add(LaunchGroup::Fold, L"Pictures", L"C:\\My pictures");
+    Add(LaunchGroup::Web, L"News", L"http://news.example/a?b=c");
+  }
+  form::TextBox& Box = Main.TextMain;
+};
 
 TEST_CASE("every code starts its target and empties the line") {
-  struct Row {
-    const wchar_t* Typed;
-    const wchar_t* Started;
-  };
-  constexpr Row Rows[] = {
+  const std::pair<std::wstring_view, std::wstring_view> rows[] = {
       {L"p=notepad c:\\a b.txt", L"run notepad c:\\a b.txt"},
       {L"p= calc", L"run  calc"},
       {L"f=C:\\a b.txt", L"shell C:\\a b.txt"},
@@ -43,69 +41,107 @@ TEST_CASE("every code starts its target and empties the line") {
       {L"d-p", L"run C:\\WINDOWS\\explorer.exe C:\\My pictures"},
       {L"w-News", L"shell http://news.example/a?b=c"},
   };
-  StartedProgram bar;
-  bar.Services.ScriptShell.SpecialFolders[L"SendTo"] = L"C:\\Send";
-  FillList(bar);
-  for (const Row& row : Rows) {
-    CAPTURE(std::wstring(row.Typed));
-    bar.Type(row.Typed);
-    bar.Desktop.Type(L"\r");
-    CHECK(bar.TakeStarts() == Starts{row.Started});
-    CHECK(bar.Main.TextMain.Text().empty());
+  Line line;
+  for (const auto& [typed, started] : rows) {
+    CAPTURE(started);
+    line.Computer.Started.clear();
+    line.Type(typed);
+    line.Desktop.Type(L"\r");
+    CHECK(line.Computer.Started == Texts{std::wstring(started)});
+    CHECK(line.Box.Text().empty());
   }
+  // What was renamed or removed since it was completed is not started.
+  line.Type(L"p-notepad");
+  line.Choose.ComboListProgName.RemoveItem(0);
+  line.Choose.ComboListProgPath.RemoveItem(0);
+  line.Desktop.Type(L"\r");
+  CHECK(line.Computer.Started.size() == 1);
 }
 
 TEST_CASE("a failed start is told and keeps the line, except for mails to the maker and calls") {
-  struct Row {
-    const wchar_t* Typed;
-    const wchar_t* Message;  // "" when nothing is shown
-    bool Keeps;
-  };
-  constexpr Row Rows[] = {
-      {L"p=nosuch", L"There was some error. Could not run the program.", true},
-      {L"p-notepad", L"There was some error. Could not run the program.", true},
-      {L"d=nosuch", L"There was some error. Could not open the Folder.", true},
-      {L"d.Desktop", L"There was some error. Could not open the Folder.", true},
-      {L"w;x", L"There was some error. Could not start the required program.", true},
-      {L"c.Mouse", L"", true},
+  const struct {
+    std::wstring_view Typed, Message;  // "" when nothing is shown
+    bool Keeps = true;
+  } rows[] = {
+      {L"p=nosuch", L"There was some error. Could not run the program."},
+      {L"p-notepad", L"There was some error. Could not run the program."},
+      {L"d=nosuch", L"There was some error. Could not open the Folder."},
+      {L"d.Desktop", L"There was some error. Could not open the Folder."},
+      {L"w;x", L"There was some error. Could not start the required program."},
+      {L"c.Mouse", L""},
       {L"e.bugs@orbel.example", L"There was some error. Could not start the required program.", false},
-      {L"t=1", L"The phone number is not valid.", false},
+      {L"t=1", L"Could not dial the number. Reason unknown.", false},
   };
-  StartedProgram bar;
-  bar.Services.Programs.StartSucceeds = false;
-  bar.Services.Programs.ShellOpenResult = 32;
-  bar.Services.Programs.CallResult = -4;
-  bar.Services.ScriptShell.RunSucceeds = false;
-  FillList(bar);
-  for (const Row& row : Rows) {
-    CAPTURE(std::wstring(row.Typed));
-    bar.Type(row.Typed);
-    const bool shows = *row.Message != 0;
-    if (shows) bar.ExpectMessage();
-    bar.Desktop.Type(L"\r");
-    CHECK(bar.Desktop.ModalScriptsDone());
-    if (shows) CHECK(bar.Told.back() == row.Message);
-    CHECK(bar.Main.TextMain.Text() == (row.Keeps ? row.Typed : L""));
+  Line line;
+  line.Computer.Let("", fake::Outcome::Fails);
+  for (const auto& row : rows) {
+    CAPTURE(row.Typed);
+    line.Told.clear();
+    line.Type(row.Typed);
+    if (!row.Message.empty()) line.Expect();
+    line.Desktop.Type(L"\r");
+    CHECK(line.Told == (row.Message.empty() ? Texts{} : Texts{std::wstring(row.Message)}));
+    CHECK(line.Box.Text() == (row.Keeps ? row.Typed : L""));
   }
 }
 
 TEST_CASE("a mail link is put together from what is given") {
-  fake::FakeServices fakes;
-  const command::Starters starters(fakes.Programs, fakes.ScriptShell);
-  fakes.Programs.ShellOpenResult = 33;
-  CHECK(starters.SendMailTo(L"MailTo:a@b", L"", L"") == L"");
-  CHECK(starters.SendMailTo(L"mail", L"", L"x & y") == L"");
-  CHECK(starters.SendMailTo(L"a@b", L"s t", L"x") == L"");
-  CHECK(fakes.Programs.ShellOpened ==
-        Starts{L"MailTo:a@b", L"mailto:mail?body=x & y", L"mailto:a@b?subject=s t&body=x"});
+  fake::Computer computer;
+  const Starters starters(computer, computer);
+  CHECK(starters.SendMailTo(L"MailTo:a@b", L"", L"").empty());
+  CHECK(starters.SendMailTo(L"mail", L"", L"x & y").empty());
+  CHECK(starters.SendMailTo(L"a@b", L"s t", L"x").empty());
+  CHECK(computer.Started ==
+        Texts{L"mail MailTo:a@b", L"mail mailto:mail?body=x & y", L"mail mailto:a@b?subject=s t&body=x"});
 }
 
-TEST_CASE("an item that was renamed or removed since it was completed is not started") {
-  StartedProgram bar;
-  FillList(bar);
-  bar.Type(L"p-notepad");
-  bar.Choose.ComboListProgName.RemoveItem(0);
-  bar.Choose.ComboListProgPath.RemoveItem(0);
-  bar.Desktop.Type(L"\r");
-  CHECK(bar.TakeStarts() == Starts{});
+TEST_CASE("typing completes to the first entry that begins so") {
+  const struct {
+    std::wstring_view Typed, Text;
+    int SelStart = 0;
+    int Item = NoIndex;
+    int Mail = NoIndex;
+  } rows[] = {
+      {L"c.a", L"c.Accessibility", 3},
+      {L"c.add", L"c.AddNewPrinter", 5},
+      {L"c.p", L"c.p", 3},
+      {L"c.t", L"c.t", 3},
+      {L"c.d", L"c.DateTime", 3},
+      {L"c.di", L"c.Di", 4},
+      {L"d.s", L"d.SendTo", 3},
+      {L"d.startu", L"d.Startup", 8},
+      {L"d.myd", L"d.MyDocuments", 5},
+      {L"e.s", L"e.suggestions@orbel.example", 3, NoIndex, 1},
+      {L"p-N", L"p-notepad", 3, 0},
+      {L"p-NOTEPAD", L"p-notepad", 9, 0},
+      {L"p-ne", L"p-Net tool", 4, 1},
+      {L"p-\u041F\u0420", L"p-\u041F\u0440\u043E\u0435\u043A\u0442", 4, 2},
+      {L"p-\u041F\u0440\u0430", L"p-\u041F\u0440\u0430", 5},
+      {L"f-n", L"f-n", 3},
+      {L"p-", L"p-", 2},
+      {L"x-n", L"x-n", 3},
+      {L"p=n", L"p=n", 3},
+  };
+  Line line;
+  const CommandState& state = line.Program.CommandState;
+  for (const auto& row : rows) {
+    CAPTURE(row.Text);
+    line.Type(row.Typed);
+    CHECK(line.Box.Text() == row.Text);
+    CHECK(line.Box.SelStart() == row.SelStart);
+    CHECK(line.Box.SelStart() + line.Box.SelLength() == static_cast<int>(row.Text.size()));
+    CHECK(state.MatchedItemIndex == row.Item);
+    CHECK(state.MailTargetIndex == row.Mail);
+  }
+  // What an input method composes is completed at its end, and not forgotten by moving the caret.
+  line.Box.InputComposing(true);
+  line.Type(L"p-n");
+  CHECK(line.Box.Text() == L"p-n");
+  line.Box.InputComposing(false);
+  CHECK(line.Box.Text() == L"p-notepad");
+  line.Box.InputSelection(0, 0);
+  CHECK(state.MatchedItemIndex == 0);
 }
+
+}  // namespace
+}  // namespace vantor::command

@@ -4,8 +4,7 @@
 #include <vector>
 
 #include "contract/Person.h"
-#include "fake/FakeDisk.h"
-#include "fake/FakeFileSystem.h"
+#include "fake/Computer.h"
 #include "form/FileLists.h"
 #include "form/Form.h"
 
@@ -32,16 +31,16 @@ class BrowseForm : public Form {
 }  // namespace
 
 TEST_CASE("the drive, folder and file lists walk a disk by keyboard and by the program") {
-  vantor::fake::FakeDisk disk;
+  vantor::fake::Computer computer;
+  vantor::fake::FakeDisk& disk = computer.Disk;
   disk.AddDrive(L'A', 1).Ready = false;
   disk.AddDrive(L'E', 1, L"STICK");
   disk.AddFile(L"C:\\Tools\\beta.txt");
   disk.AddFile(L"C:\\Tools\\Alpha.exe");
   disk.AddFile(L"C:\\Tools\\Deep\\x.exe");
   disk.AddFile(L"C:\\Tools\\Old\\y.exe");
-  vantor::fake::FakeFileSystem files(disk);
   const auto someone = MakePerson();
-  BrowseForm form(someone->Ui(), files);
+  BrowseForm form(someone->Ui(), computer);
   std::vector<std::wstring> told;
   form.Drive.Change = [&] { told.push_back(form.Drive.Drive()); };
   form.Dir.Change = [&] { told.push_back(form.Dir.Path()); };

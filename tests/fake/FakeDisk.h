@@ -1,32 +1,37 @@
 #pragma once
 
+#include <algorithm>
 #include <map>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace vantor::fake {
 
-/// Drives, folders and files in memory, behind FakeFileSystem and FakeDataFiles. Paths are compared without
-/// regard to the case of A to Z. Drive C: is there from the start, fixed; other drives are added.
+/// Drives, folders and files in memory. Paths are compared without regard to the case of A to Z. Drive C: is there from
+/// the start, fixed; other drives are added.
 class FakeDisk {
  public:
   struct DriveState {
     int Type = 2;
     std::wstring Label;
-    bool Ready = true;       // otherwise nothing on it can be seen
-    bool Examinable = true;  // otherwise asking for its type fails
+    bool Ready = true;  // otherwise nothing on it can be seen
     bool WriteProtected = false;
   };
   struct Entry {
     std::wstring Path;  // in the letter case it was made with
     bool IsFolder = false;
     bool Hidden = false;
-    bool Readable = true;
     bool Writable = true;
     std::string Bytes;
   };
+  enum class Fault {
+    None,
+    Killed,  // the program ends: Killed is thrown
+    Pulled,  // the medium is gone: its drive is not ready
+    Full,    // there is no room for more
+  };
+  struct Killed {};
 
   FakeDisk() { AddDrive(L'C', 2); }
 
@@ -34,7 +39,6 @@ class FakeDisk {
     return drives_[letter] = {type, std::wstring(label)};
   }
   DriveState& Drive(wchar_t letter) { return drives_.at(letter); }
-  void RemoveDrive(wchar_t letter) { drives_.erase(letter); }
 
   /// Makes a file with all the folders on its way.
   Entry& AddFile(std::wstring_view path, std::string_view bytes = "") {
@@ -51,25 +55,20 @@ class FakeDisk {
     entry.Path = Trim(path);
     entry.IsFolder = true;
   }
-  void Remove(std::wstring_view path) {
-    const std::wstring below = Key(path) + L"\\";
-    std::erase_if(entries_, [&](const auto& e) { return e.first == Key(path) || e.first.starts_with(below); });
-  }
-
+  void Remove(std::wstring_view path) { entries_.erase(Key(path)); }
   /// The bytes of a file; throws std::out_of_range when there is none.
   [[nodiscard]] std::string& Bytes(std::wstring_view path) { return entries_.at(Key(path)).Bytes; }
-  [[nodiscard]] bool HasFile(std::wstring_view path) const {
-    const Entry* entry = Find(path);
-    return entry && !entry->IsFolder;
+
+  /// Lets writing fail after so many bytes, every call counting as one more; a full disk holds so many in all.
+  void Break(Fault fault, std::size_t bytes) {
+    fault_ = fault;
+    left_ = bytes;
+    Used = 0;
   }
+  std::size_t Used = 0;               // by the calls since then
+  std::vector<std::wstring> Written;  // the paths, in order
 
-  /// So many writes succeed yet, folders made included; then all fail.
-  void FailWritesAfter(int count) { writesLeft_ = count; }
-  void FailNoWrites() { writesLeft_.reset(); }
-  /// The paths written, in order.
-  std::vector<std::wstring> Written;
-
-  // What the fake services ask.
+  // What the services ask.
 
   [[nodiscard]] const std::map<wchar_t, DriveState>& Drives() const { return drives_; }
   [[nodiscard]] const DriveState* DriveOf(std::wstring_view path) const {
@@ -80,15 +79,16 @@ class FakeDisk {
   /// The file or folder, if its drive is ready.
   [[nodiscard]] const Entry* Find(std::wstring_view path) const {
     const DriveState* drive = DriveOf(path);
-    if (drive && !drive->Ready) return nullptr;
     const auto found = entries_.find(Key(path));
-    return found == entries_.end() ? nullptr : &found->second;
+    return (drive && !drive->Ready) || found == entries_.end() ? nullptr : &found->second;
   }
-  [[nodiscard]] bool FolderExists(std::wstring_view path) const {
-    const DriveState* drive = DriveOf(path);
-    if (IsRoot(path)) return drive && drive->Ready;
+  [[nodiscard]] bool HasFile(std::wstring_view path) const {
     const Entry* entry = Find(path);
-    return entry && entry->IsFolder;
+    return entry && !entry->IsFolder;
+  }
+  [[nodiscard]] bool HasFolder(std::wstring_view path) const {
+    if (IsRoot(path)) return DriveOf(path) && DriveOf(path)->Ready;
+    return Find(path) && !HasFile(path);
   }
   /// What stands directly in a folder, sorted without regard to letter case.
   [[nodiscard]] std::vector<const Entry*> In(std::wstring_view folder) const {
@@ -97,25 +97,37 @@ class FakeDisk {
       if (Key(Parent(entry.Path)) == Key(folder) && Find(entry.Path)) result.push_back(&entry);
     return result;
   }
-  [[nodiscard]] bool Write(std::wstring_view path, std::string_view bytes) {
+  /// In place a file that does not fit is cut; otherwise the old one stays.
+  bool Write(std::wstring_view path, std::string_view bytes, bool inPlace) {
     const Entry* old = Find(path);
     if (!CanWrite(path) || (old && (old->IsFolder || !old->Writable))) return false;
-    AddFile(path, bytes);
-    Written.emplace_back(path);
-    return true;
+    std::size_t room = fault_ == Fault::None ? bytes.size() : left_;
+    if (fault_ == Fault::Full) room -= std::min(room, Size() - (inPlace && old ? old->Bytes.size() : 0));
+    const bool fits = bytes.size() <= room;
+    if (fits || inPlace) {
+      AddFile(path, bytes.substr(0, room));
+      Written.emplace_back(path);
+    }
+    Spend(path, bytes.size());
+    return fits;
   }
-  [[nodiscard]] bool RemoveFile(std::wstring_view path) {
+  bool RemoveFile(std::wstring_view path) {
     if (!HasFile(path)) return true;
     if (!CanWrite(path) || !Find(path)->Writable) return false;
     Remove(path);
     return true;
   }
-  [[nodiscard]] bool MakeFolder(std::wstring_view path) {
-    if (FolderExists(path)) return true;
+  bool MakeFolder(std::wstring_view path) {
+    if (HasFolder(path)) return true;
     if (HasFile(path) || !CanWrite(path)) return false;
     AddFolder(path);
-    Written.emplace_back(path);
     return true;
+  }
+  /// Of all files, in bytes.
+  [[nodiscard]] std::size_t Size() const {
+    std::size_t size = 0;
+    for (const auto& [key, entry] : entries_) size += entry.Bytes.size();
+    return size;
   }
 
  private:
@@ -134,19 +146,26 @@ class FakeDisk {
     const std::wstring trimmed = Trim(path);
     return trimmed.substr(0, trimmed.find_last_of(L'\\'));
   }
-  /// Counts a write, and says whether it may happen: into a folder that exists, on a drive that takes it.
+  /// Whether a call that writes may do so: into a folder that exists, on a drive that takes it.
   bool CanWrite(std::wstring_view path) {
-    if (writesLeft_ && (*writesLeft_)-- <= 0) {
-      writesLeft_ = 0;
-      return false;
-    }
+    Spend(path, 1);
     const DriveState* drive = DriveOf(path);
-    return (!drive || (drive->Ready && !drive->WriteProtected)) && FolderExists(Parent(path));
+    return (!drive || (drive->Ready && !drive->WriteProtected)) && HasFolder(Parent(path));
+  }
+  void Spend(std::wstring_view path, std::size_t bytes) {
+    Used += bytes;
+    if (fault_ == Fault::None || fault_ == Fault::Full) return;
+    const bool enough = bytes <= left_;
+    left_ -= std::min(left_, bytes);
+    if (enough) return;
+    if (fault_ == Fault::Killed) throw Killed();
+    Drive(Key(path)[0]).Ready = false;
   }
 
   std::map<wchar_t, DriveState> drives_;
   std::map<std::wstring, Entry> entries_;  // by Key of the path
-  std::optional<int> writesLeft_;
+  Fault fault_ = Fault::None;
+  std::size_t left_ = 0;
 };
 
 }  // namespace vantor::fake

@@ -5,42 +5,32 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <vector>
 
 #include "fuzz/Targets.h"
 
 namespace {
 
-using Input = std::vector<unsigned char>;
-
-/// Numbers that are the same everywhere.
-class Dice {
- public:
-  std::size_t Below(std::size_t count) {
-    state_ = state_ * 6364136223846793005U + 1442695040888963407U;
-    return static_cast<std::size_t>(state_ >> 33) % count;
-  }
-
- private:
-  unsigned long long state_ = 20;
-};
-
-void Change(Input& input, const Input& other, Dice& dice) {
-  const std::size_t at = dice.Below(input.size() + 1);
-  switch (dice.Below(4)) {
+/// Some bytes of an input are lost, and others come in their place.
+void Change(std::string& input, const std::string& other, std::mt19937& numbers) {
+  const auto below = [&](std::size_t count) { return numbers() % count; };
+  const std::size_t at = below(input.size() + 1);
+  switch (below(3)) {
     case 0:
-      input.insert(input.begin() + static_cast<std::ptrdiff_t>(at), static_cast<unsigned char>(dice.Below(256)));
+      input.insert(at, 1, static_cast<char>(below(256)));
       break;
     case 1:
-      input.resize(at);
-      input.insert(input.end(), other.begin() + static_cast<std::ptrdiff_t>(dice.Below(other.size() + 1)), other.end());
-      break;
-    case 2:
-      if (at < input.size()) input.erase(input.begin() + static_cast<std::ptrdiff_t>(at));
+      input.replace(at, input.npos, other, below(other.size() + 1));
       break;
     default:
-      if (at < input.size()) input[at] = static_cast<unsigned char>(dice.Below(256));
+      input.replace(at, 1, below(2), static_cast<char>(below(256)));
   }
+}
+
+void Run(const vantor::fuzz::Target& target, const std::string& input) {
+  const std::vector<unsigned char> bytes(input.begin(), input.end());
+  target.Run(bytes);
 }
 
 }  // namespace
@@ -51,25 +41,23 @@ int main(int count, char** arguments) {
   std::vector<std::filesystem::path> paths;
   for (const auto& entry : std::filesystem::directory_iterator(arguments[2])) paths.push_back(entry.path());
   std::sort(paths.begin(), paths.end());
-  std::vector<Input> seeds{{}};
+  std::vector<std::string> seeds{""};
   for (const auto& path : paths) {
     std::ifstream file(path, std::ios::binary);
     seeds.emplace_back(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
     std::fprintf(stderr, "%s\n", path.filename().c_str());
-    target.Run(seeds.back());
+    Run(target, seeds.back());
   }
-  Dice dice;
-  const int runs = std::atoi(arguments[3]);
-  for (int run = 0; run < runs; ++run) {
-    Input input = seeds[dice.Below(seeds.size())];
-    for (std::size_t changes = 1 + dice.Below(8); changes > 0; --changes)
-      Change(input, seeds[dice.Below(seeds.size())], dice);
-    // What fails can be looked at again: the file goes into the folder of the seeds.
-    std::ofstream(std::string(arguments[1]) + ".input", std::ios::binary)
-        .write(reinterpret_cast<const char*>(input.data()), static_cast<std::streamsize>(input.size()));
-    target.Run(input);
+  std::mt19937 numbers(20);
+  // What fails can be looked at again: the file goes into the folder of the seeds.
+  const std::string kept = std::string(arguments[1]) + ".input";
+  for (int run = std::atoi(arguments[3]); run > 0; --run) {
+    std::string input = seeds[numbers() % seeds.size()];
+    for (std::size_t changes = 1 + numbers() % 8; changes > 0; --changes)
+      Change(input, seeds[numbers() % seeds.size()], numbers);
+    std::ofstream(kept, std::ios::binary) << input;
+    Run(target, input);
   }
-  std::filesystem::remove(std::string(arguments[1]) + ".input");
-  std::printf("%zu inputs kept, %d made from them\n", paths.size(), runs);
+  std::filesystem::remove(kept);
   return 0;
 }

@@ -2,50 +2,13 @@
 
 #include <algorithm>
 
+#include "fake/StoredList.h"
 #include "fuzz/Wanderer.h"
 
 namespace vantor::fuzz {
 namespace {
 
-constexpr std::wstring_view Folder = L"C:\\Vantor\\Vantor";
-
-std::wstring DataPath(std::wstring_view name) { return std::wstring(Folder).append(L"\\").append(name) + L".Orbel"; }
-
-/// The settings and the lists, as a run of the program reads and writes them.
-struct Files {
-  explicit Files(fake::FakeServices& fakes, bool onMedia) : Fakes(fakes) {
-    Environment.RunMode = Environment.MachineRemembered = onMedia;
-    Environment.MediaDriveLetter = L"C";
-    Environment.DataFolder = Folder;
-    Environment.Files = {.Set = DataPath(L"Set"),
-                         .User = {},
-                         .ListFile = DataPath(L"ListFile"),
-                         .ListFold = DataPath(L"ListFold"),
-                         .ListProg = DataPath(L"ListProg"),
-                         .ListWeb = DataPath(L"ListWeb"),
-                         .MediaSet = {},
-                         .Machine = {},
-                         .MachineFile = DataPath(L"MachineFile"),
-                         .MachineFold = DataPath(L"MachineFold"),
-                         .MachineProg = DataPath(L"MachineProg")};
-    Fakes.Disk.AddFolder(Folder);
-  }
-  void Load() {
-    Lists.Restore();
-    Lists.LoadSettings();
-    Choose.Load();
-  }
-  void Save() { Lists.SaveLaunchList(Choose.List, 0, 0); }
-
-  fake::FakeServices& Fakes;
-  form::Headless Desktop;
-  start::Environment Environment;
-  list::Settings Settings;
-  list::ListFiles Lists{Fakes.All(), Environment, Settings};
-  message::MessageState State;
-  message::Messages Messages{Desktop, State};
-  list::frmChoose Choose{Desktop, Lists, Fakes.Language, Messages};
-};
+using test::StoredList;
 
 /// What is left of a text by being written: a record can't hold a quote.
 std::wstring Written(std::wstring text, std::wstring_view quote) {
@@ -53,40 +16,40 @@ std::wstring Written(std::wstring text, std::wstring_view quote) {
   return text;
 }
 
+std::string Text(Bytes bytes) { return {bytes.begin(), bytes.end()}; }
+
 }  // namespace
 
 void FuzzSettings(Bytes bytes) {
-  fake::FakeServices fakes;
-  fakes.Disk.AddFile(DataPath(L"Set"), std::string(bytes.begin(), bytes.end()));
-  Files first(fakes, false);
+  fake::Computer computer;
+  StoredList first(computer);
+  computer.Disk.AddFile(first.Environment.Files.Set, Text(bytes));
   first.Load();
-  const list::Settings& read = first.Settings;
   first.Save();
-  Files second(fakes, false);
+  StoredList second(computer);
   second.Load();
-  Require(read.OptionMask == second.Settings.OptionMask && second.Settings.WebUpper == list::NoRecords,
+  Require(first.Settings.OptionMask == second.Settings.OptionMask && second.Settings.WebUpper == list::NoRecords,
           "settings come back");
-  Require(read.Folder == second.Settings.Folder || read.Folder.find(L'"') != std::wstring::npos,
-          "the folder comes back");
+  const std::wstring& folder = first.Settings.Folder;
+  Require(folder == second.Settings.Folder || folder.find(L'"') != std::wstring::npos, "the folder comes back");
 }
 
 void FuzzList(Bytes bytes) {
   Choices choices(bytes);
-  const bool onMedia = choices.Below(2) == 1;
+  const bool onMedium = choices.Below(2) == 1;
   const auto upper = static_cast<std::int16_t>(choices.Byte() * 257);
   const std::string content = choices.Rest();
-  fake::FakeServices fakes;
-  for (const auto* name : {L"ListFile", L"ListFold", L"ListProg", L"ListWeb", L"MachineProg"})
-    fakes.Disk.AddFile(DataPath(name), content);
-  Files first(fakes, onMedia);
+  fake::Computer computer;
+  StoredList first(computer, onMedium);
+  const start::DataFilePaths& files = first.Environment.Files;
+  for (const std::wstring& path : {files.ListFile, files.ListFold, files.ListProg, files.ListWeb, files.MachineProg})
+    computer.Disk.AddFile(path, content);
   list::Settings& settings = first.Settings;
-  settings.WebUpper = settings.ProgUpper = settings.FoldUpper = settings.FileUpper = upper;
-  settings.MachineProgUpper = upper;
+  settings.WebUpper = settings.ProgUpper = settings.FoldUpper = settings.FileUpper = settings.MachineProgUpper = upper;
   first.Choose.Load();
-  const list::GroupBoxes& web = first.Choose.List.Of(list::LaunchGroup::Web);
-  Require(web.Name.ListCount() <= std::max(upper + 1, 0), "no more records than counted");
+  Require(first.Choose.ComboListWebName.ListCount() <= std::max(upper + 1, 0), "no more records than counted");
   first.Save();
-  Files second(fakes, onMedia);
+  StoredList second(computer, onMedium);
   second.Load();
   for (const list::LaunchGroup group : list::LaunchGroups) {
     const list::GroupBoxes& before = first.Choose.List.Of(group);
@@ -105,11 +68,11 @@ void FuzzMedia(Bytes bytes) {
   Choices flags(bytes.first(std::min<std::size_t>(bytes.size(), 1)));
   Wandering wandering(flags);
   const std::size_t which = choices.Byte() % 4;
-  wandering.World.System.Program = L"E:\\Tools";
+  wandering.Computer.Home = L"E:\\Work";
   constexpr std::wstring_view names[] = {L"MediaSet", L"Machine", L"User", L"Saving"};
-  const auto path = [](std::wstring_view name) { return L"E:\\Tools\\Vantor\\" + std::wstring(name) + L".Orbel"; };
-  wandering.World.Disk.AddFile(path(L"MediaSet"), "\"Vantor Media 1\"\r\n\"Ready\"\r\n\"Ada\"\r\n");
-  wandering.World.Disk.AddFile(path(names[which]), choices.Rest());
+  const auto path = [](std::wstring_view name) { return L"E:\\Work\\Vantor\\" + std::wstring(name) + L".Orbel"; };
+  wandering.Computer.Disk.AddFile(path(names[0]), "\"Vantor Media 1\"\r\n\"Ready\"\r\n\"Ada\"\r\n");
+  wandering.Computer.Disk.AddFile(path(names[which]), choices.Rest());
   wandering.Run();
 }
 
@@ -123,12 +86,10 @@ void FuzzLine(Bytes bytes) {
   for (Choices choices(bytes); choices.Left() && !wandering.Desktop.Ended();) {
     const unsigned byte = choices.Byte();
     wandering.Do([&] {
+      if (byte != 0xFF) return wandering.Desktop.Type(std::wstring(1, static_cast<wchar_t>(byte)));
       // The clipboard brings what can't be typed.
-      if (byte == 0xFF)
-        line.InputEdited(
-            line.Text() + static_cast<wchar_t>(choices.Byte()) + static_cast<wchar_t>(choices.Byte() * 256), 0, 0);
-      else
-        wandering.Desktop.Type(std::wstring(1, static_cast<wchar_t>(byte)));
+      const std::wstring pasted{static_cast<wchar_t>(choices.Byte()), static_cast<wchar_t>(choices.Byte() * 256)};
+      line.InputEdited(line.Text() + pasted, 0, 0);
     });
     const command::CommandState& state = wandering.Program.CommandState;
     Require(state.MatchedItemIndex >= command::NoIndex && state.MailTargetIndex >= command::NoIndex &&

@@ -2,17 +2,15 @@
 
 #include <algorithm>
 
-#include "form/Button.h"
-#include "form/ListControl.h"
-#include "form/Static.h"
-
 namespace vantor::fuzz {
 namespace {
+
+using form::Key;
 
 constexpr int DeepestMessages = 4;
 
 constexpr std::wstring_view Words[] = {L"p=notepad",
-                                       L"f=C:\\Tools\\notes.txt",
+                                       L"f=C:\\Work\\notes.txt",
                                        L"d=C:\\",
                                        L"d.s",
                                        L"c.mouse",
@@ -26,18 +24,14 @@ constexpr std::wstring_view Words[] = {L"p=notepad",
                                        L"\r",
                                        L"\b",
                                        L"\x1b",
-                                       L"C:\\Tools\\Edit.EXE",
+                                       L"C:\\Work\\Tool.EXE",
                                        L"http://example.org",
-                                       L"E:\\Tools\\x.exe",
+                                       L"E:\\Work\\Tool.EXE",
                                        L"\"",
                                        L"\t\n",
                                        L"\u00e9\u0416\uffff"};
 
-const std::string Item = "\"one\",\"C:\\Tools\\Edit.EXE\"\r\n\"two\",\"E:\\Tools\\x.exe\"\r\n";
-
-bool HasControlCharacter(const std::wstring& text) {
-  return std::any_of(text.begin(), text.end(), [](wchar_t c) { return c < L' ' || (c >= 0x7F && c < 0xA0); });
-}
+bool IsControl(wchar_t c) { return c < L' ' || (c >= 0x7F && c < 0xA0); }
 
 }  // namespace
 
@@ -58,27 +52,27 @@ std::wstring Wanderer::Text() {
 void Wanderer::Act() {
   form::Form& form = *Forms[choices_.Below(Forms.size())];
   const std::vector<form::Control*>& controls = form.Controls();
+  constexpr Key keys[] = {Key::Tab, Key::Enter, Key::Escape, Key::Up, Key::Down};
   switch (choices_.Below(16)) {
     case 0:
     case 1:
       return Type(Text());
     case 2:
-      return Press(static_cast<form::Key>(static_cast<int>(form::Key::F1) + static_cast<int>(choices_.Below(12))));
-    case 3: {
-      constexpr form::Key keys[] = {form::Key::Tab, form::Key::Enter, form::Key::Escape, form::Key::Up,
-                                    form::Key::Down};
+      return Press(static_cast<Key>(static_cast<int>(Key::F1) + static_cast<int>(choices_.Below(12))));
+    case 3:
       return Press(keys[choices_.Below(std::size(keys))]);
-    }
     case 4:
       return Advance(static_cast<int>(choices_.Below(30) * 100));
-    case 5:
-      return DragBy(form, static_cast<form::Twips>(choices_.Below(20000)) - 10000,
-                    static_cast<form::Twips>(choices_.Below(20000)) - 10000);
+    case 5: {
+      const auto right = static_cast<form::Twips>(choices_.Below(20000)) - 10000;
+      return DragBy(form, right, static_cast<form::Twips>(choices_.Below(20000)) - 10000);
+    }
     case 6:
       return form.InputWindowState(choices_.Below(2) == 0 ? form::WindowState::Normal : form::WindowState::Minimized);
-    case 7:
-      return form.InputDrop(
-          {choices_.Below(2) == 0 ? std::vector<std::wstring>{Text(), Text()} : std::vector<std::wstring>{}, Text()});
+    case 7: {
+      const std::wstring text = Text();
+      return form.InputDrop({std::vector<std::wstring>(choices_.Below(3), text), text});
+    }
     case 8:
       return ChangeWorld();
     case 9:
@@ -99,11 +93,10 @@ void Wanderer::ActOn(form::Control& control) {
       break;
     default:
       Click(control);
-      break;
   }
   if (auto* list = dynamic_cast<form::ListControl*>(&control)) {
-    if (list->ListCount() > 0)
-      list->InputSelect(static_cast<int>(choices_.Below(static_cast<std::size_t>(list->ListCount()))));
+    const auto count = static_cast<std::size_t>(list->ListCount());
+    if (count > 0) list->InputSelect(static_cast<int>(choices_.Below(count)));
   } else if (auto* box = dynamic_cast<form::TextBox*>(&control)) {
     const bool composing = choices_.Below(8) == 0;
     if (composing) box->InputComposing(true);
@@ -117,24 +110,21 @@ void Wanderer::ActOn(form::Control& control) {
 }
 
 void Wanderer::ChangeWorld() {
-  auto& disk = world_.Disk;
+  const auto toggle = [](bool& flag) { flag = !flag; };
   switch (choices_.Below(7)) {
     case 0:
-      disk.Drive(L'E').Ready = !disk.Drive(L'E').Ready;
-      return;
+      return toggle(computer_.Disk.Drive(L'E').Ready);
     case 1:
-      disk.Drive(L'C').WriteProtected = !disk.Drive(L'C').WriteProtected;
-      return;
+      return toggle(computer_.Disk.Drive(L'C').WriteProtected);
     case 2:
-      return disk.Remove(L"C:\\Tools\\Edit.EXE");
+      return computer_.Disk.Remove(L"C:\\Work\\Tool.EXE");
     case 3:
-      world_.WindowPicker.ButtonDown = !world_.WindowPicker.ButtonDown;
-      return;
+      return toggle(computer_.ButtonDown);
     case 4:
-      world_.WindowPicker.UnderCursor = static_cast<service::WindowId>(choices_.Below(4));
+      computer_.UnderCursor = static_cast<service::WindowId>(choices_.Below(4));
       return;
     case 5:
-      world_.WindowPicker.Cursor = {static_cast<int>(choices_.Below(60000)) - 10000, static_cast<int>(choices_.Byte())};
+      computer_.Cursor = {static_cast<int>(choices_.Below(60000)) - 10000, static_cast<int>(choices_.Byte())};
       return;
     default:
       Desktop.Bounds.Width = 12000 + static_cast<form::Twips>(choices_.Below(20000));
@@ -142,53 +132,43 @@ void Wanderer::ChangeWorld() {
 }
 
 void Wanderer::RunModal(form::Form& form) {
+  const auto open = [&] { return form.Visible() && !Ended(); };
   Forms.push_back(&form);
   ++modalDepth_;
-  for (int acts = 0; form.Visible() && !Ended() && choices_.Left() && acts < 20 && modalDepth_ < DeepestMessages;
-       ++acts) {
-    Act();
-  }
-  if (form.Visible() && !Ended()) form.InputClose();
-  if (form.Visible() && !Ended()) Press(form::Key::Enter);
-  Require(!form.Visible() || Ended(), "a message can be closed");
+  for (int acts = 0; open() && choices_.Left() && acts < 20 && modalDepth_ < DeepestMessages; ++acts) Act();
+  if (open()) form.InputClose();
+  if (open()) Press(Key::Enter);
+  Require(!open(), "a message can be closed");
   --modalDepth_;
   std::erase(Forms, &form);
 }
 
 Wandering::Wandering(Choices& choices) : Decisions(choices) {
-  fake::FakeDisk& disk = World.Disk;
-  disk.AddDrive(L'E', 1, L"STICK");
-  disk.AddDrive(L'R', 4).Ready = false;
-  for (const auto* path : {L"C:\\Tools\\Edit.EXE", L"C:\\Tools\\notes.txt", L"E:\\Tools\\x.exe"}) disk.AddFile(path);
-  World.Processes.AddEntry(7, "edit.exe");
-  World.Processes.Managed = {{7, L"C:\\Tools\\Edit.EXE"}, {8, std::nullopt}};
-  World.WindowPicker.Owners = {{service::WindowId{1}, 7}, {service::WindowId{2}, 9}};
-
+  fake::FakeDisk& disk = Computer.Disk;
   const unsigned flags = choices.Byte();
-  if ((flags & 1) != 0) World.System.Program = L"E:\\Tools";
-  const std::wstring data = World.System.Program + L"\\Vantor\\";
+  if ((flags & 1) != 0) Computer.Home = L"E:\\Work";
+  const auto add = [&](std::wstring_view name, std::string_view bytes) {
+    disk.AddFile((Computer.Home + L"\\Vantor\\").append(name).append(L".Orbel"), bytes);
+  };
   if ((flags & 2) != 0) {
-    disk.AddFile(data + L"Set.Orbel", "7\r\n1\r\n-1\r\n1\r\n1\r\n0\r\n0\r\n\"C:\\Tools\"\r\n1\r\n-1\r\n0\r\n");
-    disk.AddFile(data + L"User.Orbel", "\"Ada\"\r\n");
-    disk.AddFile(data + L"MediaSet.Orbel", "\"Vantor Media 1\"\r\n\"Ready\"\r\n\"Ada\"\r\n");
+    add(L"Set", "7\r\n1\r\n-1\r\n1\r\n1\r\n0\r\n0\r\n\"C:\\Work\"\r\n1\r\n-1\r\n0\r\n");
+    add(L"User", "\"Ada\"\r\n");
+    add(L"MediaSet", "\"Vantor Media 1\"\r\n\"Ready\"\r\n\"Ada\"\r\n");
     for (const auto* name : {L"ListFile", L"ListProg", L"ListWeb", L"MachineFile", L"MachineProg"})
-      disk.AddFile(data + name + L".Orbel", Item);
+      add(name, "\"one\",\"C:\\Work\\Tool.EXE\"\r\n\"two\",\"E:\\Work\\Tool.EXE\"\r\n");
   }
-  if ((flags & 4) != 0) disk.AddFile(data + L"Machine.Orbel", "3\r\n\"1A2B3C4D\"\r\n80023715840\r\n");
+  if ((flags & 4) != 0) add(L"Machine", "3\r\n\"1A2B3C4D\"\r\n80023715840\r\n");
   if ((flags & 8) != 0) {
-    Rate = choices.Byte() / 4;
-    Random = choices.Byte() + 1;
+    const unsigned rate = choices.Byte() / 4;  // so many calls of 256 go wrong
+    const bool mayThrow = (flags & 16) != 0;
+    Computer.Decide = [rate, mayThrow, random = choices.Byte() + 1](std::string_view /*call*/) mutable {
+      random = random * 1664525U + 1013904223U;
+      if ((random >> 24) >= rate) return fake::Outcome::Works;
+      return mayThrow && ((random >> 16) & 1) != 0 ? fake::Outcome::Throws : fake::Outcome::Fails;
+    };
   }
-  MayThrow = (flags & 16) != 0;
-  if ((flags & 32) != 0) disk.AddFile(data + L"Saving.Orbel", "\"Saving\"\r\n");
+  if ((flags & 32) != 0) add(L"Saving", "\"Saving\"\r\n");
   Desktop.Forms = {&Program.frmMain, &Program.frmBrowse, &Program.frmChoose};
-}
-
-fake::Outcome Wandering::Choose() {
-  if (Rate == 0) return fake::Outcome::Works;
-  Random = Random * 1664525U + 1013904223U;
-  if ((Random >> 24) >= Rate) return fake::Outcome::Works;
-  return MayThrow && ((Random >> 16) & 1) != 0 ? fake::Outcome::Throws : fake::Outcome::Fails;
 }
 
 void Wandering::Run() {
@@ -205,15 +185,13 @@ void Wandering::CheckState() {
   const int open = Program.CommandState.OpenPanelIndex;
   Require(open >= command::NoIndex && open < static_cast<int>(bar::menu::Count), "the open panel is one of the panels");
   Require(Desktop.Ended() || Program.MessageState.MessageBody.empty(), "a message leaves nothing behind");
-  Require(World.FileSystem.OpenObjects == 0, "every object is released");
-  for (const auto* started : {&World.Programs.CommandLines, &World.ScriptShell.Runs, &World.Programs.ShellOpened}) {
-    for (const std::wstring& target : *started)
-      Require(!HasControlCharacter(target), "a target has no control character");
-  }
+  Require(Computer.Open == 0, "every object is released");
+  for (const std::wstring& target : Computer.Started)
+    Require(std::none_of(target.begin(), target.end(), IsControl), "a target has no control character");
 }
 
 void Wandering::End() {
-  Rate = 0;
+  Computer.Decide = {};
   if (!Desktop.Ended()) Do([this] { Program.frmMain.InputClose(); });
   Require(Desktop.Ended(), "the program ends");
 }

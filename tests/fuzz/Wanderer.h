@@ -1,21 +1,17 @@
 #pragma once
 
-#include <array>
 #include <string>
 #include <vector>
 
-#include "fake/FailingServices.h"
-#include "fake/FakeServices.h"
-#include "form/Headless.h"
+#include "fake/TestProgram.h"
 #include "fuzz/Targets.h"
-#include "start/Program.h"
 
 namespace vantor::fuzz {
 
 /// A user who does anything, in any order.
 class Wanderer : public form::Headless {
  public:
-  Wanderer(Choices& choices, fake::FakeServices& world) : choices_(choices), world_(world) {}
+  Wanderer(Choices& choices, fake::Computer& computer) : choices_(choices), computer_(computer) {}
 
   std::vector<form::Form*> Forms;
 
@@ -29,7 +25,7 @@ class Wanderer : public form::Headless {
   std::wstring Text();
 
   Choices& choices_;
-  fake::FakeServices& world_;
+  fake::Computer& computer_;
   int modalDepth_ = 0;
 };
 
@@ -53,16 +49,9 @@ struct Wandering {
   void End();
 
   Choices& Decisions;
-  fake::FakeServices World;
-  Wanderer Desktop{Decisions, World};
-  unsigned Rate = 0;    // how many calls of 256 go wrong
-  unsigned Random = 1;  // decides which
-  bool MayThrow = false;
-  fake::FailingServices Services{World.All(), [this](const char*) { return Choose(); }};
-  start::Program Program{Desktop, Services.All()};
-
- private:
-  fake::Outcome Choose();
+  fake::Computer Computer;
+  Wanderer Desktop{Decisions, Computer};
+  start::Program Program{Desktop, Computer.Services()};
 };
 
 }  // namespace vantor::fuzz

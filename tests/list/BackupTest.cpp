@@ -2,188 +2,132 @@
 
 #include <doctest/doctest.h>
 
-#include "fake/FakeServices.h"
-#include "fake/FaultyDataFiles.h"
-#include "form/Headless.h"
-#include "list/frmChoose.h"
+#include "fake/StoredList.h"
 
 namespace vantor::list {
 namespace {
 
-using fake::FaultyDataFiles;
-using Fault = FaultyDataFiles::Fault;
+using Fault = fake::FakeDisk::Fault;
+using test::ItemsOf;
+using test::StoredList;
 
-constexpr std::wstring_view Folder = L"E:\\Vantor";
+const std::wstring Folder = L"E:\\Vantor\\Vantor\\";
+const std::wstring Mark = Folder + L"Saving.Orbel";
 
-/// All that a load gives: the counts, the folder, and the items of each group.
+/// The parts of a computer that a save is about: the disk alone is copied from case to case.
+struct Medium {
+  fake::Computer Computer;
+  fake::FakeDisk& Disk = Computer.Disk;
+
+  Medium() = default;
+  explicit Medium(const fake::FakeDisk& disk) { Disk = disk; }
+};
+
+/// All that a load gives: the options and the items of each group.
 using State = std::vector<std::wstring>;
 
-/// A medium with a computer's disk beside it, and runs of the program on them as far as its files go.
-struct Medium {
-  fake::FakeServices Fakes;
-  FaultyDataFiles Files{Fakes.Disk, Folder};
+State Load(StoredList& run) {
+  run.Load();
+  State state = ItemsOf(run.Choose.List);
+  state.push_back(std::to_wstring(run.Settings.OptionMask));
+  return state;
+}
 
-  Medium() {
-    Fakes.Disk.AddDrive(L'E', 1);
-    Fakes.Disk.AddFolder(Folder);
-    for (const auto* path : {L"C:\\p.exe", L"E:\\p.exe", L"E:\\q.exe"}) Fakes.Disk.AddFile(path);
-  }
-  Medium(const Medium& other) : Medium() { Fakes.Disk = other.Fakes.Disk; }
-};
-
-struct Run {
-  explicit Run(Medium& medium)
-      : services{medium.Files,
-                 medium.Fakes.FileSystem,
-                 medium.Fakes.Language,
-                 medium.Fakes.Management,
-                 medium.Fakes.Programs,
-                 medium.Fakes.ScriptShell,
-                 medium.Fakes.System,
-                 medium.Fakes.Processes,
-                 medium.Fakes.WindowPicker} {
-    const std::wstring folder(Folder);
-    environment.RunMode = environment.MachineRemembered = true;
-    environment.MediaDriveLetter = L"E";
-    environment.DataFolder = folder;
-    environment.Files = {.Set = folder + L"\\Set.Orbel",
-                         .User = {},
-                         .ListFile = folder + L"\\ListFile.Orbel",
-                         .ListFold = folder + L"\\ListFold.Orbel",
-                         .ListProg = folder + L"\\ListProg.Orbel",
-                         .ListWeb = folder + L"\\ListWeb.Orbel",
-                         .MediaSet = {},
-                         .Machine = {},
-                         .MachineFile = folder + L"\\MachineFile.Orbel",
-                         .MachineFold = folder + L"\\MachineFold.Orbel",
-                         .MachineProg = folder + L"\\MachineProg.Orbel"};
-  }
-
-  State Load() {
-    files.Restore();
-    files.LoadSettings();
-    choose.Load();
-    State state{std::to_wstring(settings.OptionMask)};
-    for (const LaunchGroup group : LaunchGroups) {
-      const GroupBoxes& boxes = choose.List.Of(group);
-      for (int i = 0; i < boxes.Name.ListCount(); ++i) state.push_back(boxes.Name.List(i) + L">" + boxes.Path.List(i));
-    }
-    return state;
-  }
-  void Save() { files.SaveLaunchList(choose.List, 0, 0); }
-  void Add(LaunchGroup group, std::wstring_view name, std::wstring_view path) {
-    choose.List.Of(group).AddItem(name, path);
-  }
-  void RemoveProgram() {
-    choose.ComboListProgName.RemoveItem(0);
-    choose.ComboListProgPath.RemoveItem(0);
-  }
-  /// What each run changes: longer, shorter, and a group that was empty.
-  void Change() {
-    settings.OptionMask = 6;
-    Add(LaunchGroup::Web, L"second", L"http://second");
-    RemoveProgram();
-    Add(LaunchGroup::Prog, L"on the medium", L"E:\\q.exe");
-    Add(LaunchGroup::Prog, L"on the computer", L"C:\\p.exe");
-    Add(LaunchGroup::File, L"new", L"E:\\q.exe");
-  }
-
-  service::Services services;
-  form::Headless desktop;
-  start::Environment environment;
-  Settings settings;
-  ListFiles files{services, environment, settings};
-  message::MessageState messageState;
-  message::Messages messages{desktop, messageState};
-  frmChoose choose{desktop, files, services.Language, messages};
-};
+State Loaded(const fake::FakeDisk& disk) {
+  Medium medium(disk);
+  StoredList run(medium.Computer, true);
+  return Load(run);
+}
 
 /// A medium on which a list was saved some times, so that there is an older generation too.
-Medium Used(int times = 3) {
+fake::FakeDisk Used(int times = 3) {
   Medium medium;
-  for (int run = 0; run < times; ++run) {
-    Run saving(medium);
-    saving.Load();
-    if (run > 0) saving.RemoveProgram();
-    saving.Add(LaunchGroup::Prog, std::to_wstring(run), L"E:\\p.exe");
-    saving.Add(LaunchGroup::Prog, L"of the computer", L"C:\\p.exe");
-    saving.Add(LaunchGroup::Web, L"first", L"http://first");
-    saving.Save();
-  }
-  return medium;
-}
-
-State Loaded(const Medium& medium) {
-  Medium copy(medium);
-  return Run(copy).Load();
-}
-
-/// A changed list is saved while the medium fails at a byte. Returns the bytes that a save needs.
-std::size_t SaveWith(Medium& medium, Fault fault, std::size_t bytes) {
-  Run run(medium);
-  run.Load();
-  run.Change();
-  medium.Files.Set(fault, bytes);
-  try {
+  for (int time = 0; time < times; ++time) {
+    StoredList run(medium.Computer, true);
+    run.Load();
+    if (time > 0) run.RemoveFirst(LaunchGroup::Prog);
+    run.Add(LaunchGroup::Prog, std::to_wstring(time), L"E:\\Work\\Tool.EXE");
+    run.Add(LaunchGroup::Prog, L"of the computer", L"C:\\Work\\Tool.EXE");
+    run.Add(LaunchGroup::Web, L"first", L"http://first");
     run.Save();
-  } catch (const FaultyDataFiles::Killed&) {
   }
-  const std::size_t used = medium.Files.Used();
-  medium.Files.Set(Fault::None, 0);
-  return used;
+  return medium.Disk;
+}
+
+/// Does something while the medium fails at a byte.
+template <class Action>
+void Break(fake::FakeDisk& disk, Fault fault, std::size_t bytes, Action action) {
+  disk.Break(fault, bytes);
+  try {
+    action();
+  } catch (const fake::FakeDisk::Killed&) {
+  }
+  disk.Break(Fault::None, 0);
+  disk.Drive(L'E').Ready = true;
+}
+
+/// A run that changes the list: longer, shorter, and a group that was empty.
+fake::FakeDisk SaveWith(const fake::FakeDisk& disk, Fault fault, std::size_t bytes, std::size_t* used = nullptr) {
+  Medium medium(disk);
+  StoredList run(medium.Computer, true);
+  run.Load();
+  run.Settings.OptionMask = 6;
+  run.Add(LaunchGroup::Web, L"second", L"http://second");
+  run.RemoveFirst(LaunchGroup::Prog);
+  run.Add(LaunchGroup::Prog, L"on the medium", L"E:\\Work\\Tool.EXE");
+  run.Add(LaunchGroup::Prog, L"on the computer", L"C:\\Work\\Tool.EXE");
+  run.Add(LaunchGroup::File, L"new", L"E:\\Work\\Tool.EXE");
+  Break(medium.Disk, fault, bytes, [&] {
+    run.Save();
+    if (used != nullptr) *used = medium.Disk.Used;
+  });
+  return medium.Disk;
 }
 
 TEST_CASE("a save broken off at any byte leaves the old list or the new one, whole") {
-  const Medium used = Used();
+  const fake::FakeDisk used = Used();
   const State before = Loaded(used);
-  Medium finished(used);
-  const std::size_t needed = SaveWith(finished, Fault::None, 0);
-  const State after = Loaded(finished);
+  std::size_t needed = 0;
+  const State after = Loaded(SaveWith(used, Fault::None, 0, &needed));
   const State older = Loaded(Used(2));
   REQUIRE((before != after && before != older));
 
   for (const Fault fault : {Fault::Killed, Fault::Pulled, Fault::Full}) {
+    CAPTURE(static_cast<int>(fault));
     std::size_t old = 0;
     std::size_t cases = 0;
-    const std::size_t least = fault == Fault::Full ? used.Files.Size() : 0;
+    const std::size_t least = fault == Fault::Full ? used.Size() : 0;
     const std::size_t most = fault == Fault::Full ? least + 2 * needed : needed;
     const std::size_t step = fault == Fault::Killed ? 1 : 7;
     for (std::size_t back = 0; back <= most - least; back += step, ++cases) {
       const std::size_t bytes = most - back;
-      CAPTURE(static_cast<int>(fault));
       CAPTURE(bytes);
-      Medium medium(used);
-      SaveWith(medium, fault, bytes);
-      const State state = Loaded(medium);
+      const fake::FakeDisk broken = SaveWith(used, fault, bytes);
+      const State state = Loaded(broken);
       old += state == before ? 1 : 0;
       REQUIRE((state == before || state == after));
-
       if (cases % 5 != 0) continue;
 
       // The next run may be broken off as well, while it puts the old list back. The places differ from case to case.
       for (std::size_t again = bytes % 199; again < needed; again += 199) {
-        Medium next(medium);
-        next.Files.Set(Fault::Killed, again);
-        try {
-          Run(next).Load();
-        } catch (const FaultyDataFiles::Killed&) {
-        }
-        next.Files.Set(Fault::None, 0);
-        REQUIRE(Loaded(next) == state);
+        Medium next(broken);
+        StoredList run(next.Computer, true);
+        Break(next.Disk, Fault::Killed, again, [&] { run.Load(); });
+        REQUIRE(Loaded(next.Disk) == state);
       }
       // What is kept is whole at every moment, or not taken.
-      Medium marked(medium);
-      marked.Fakes.Disk.AddFile(L"E:\\Vantor\\Saving.Orbel", "\"Saving\"\r\n");
-      const State kept = Loaded(marked);
+      Medium marked(broken);
+      marked.Disk.AddFile(Mark, "\"Saving\"\r\n");
+      const State kept = Loaded(marked.Disk);
       REQUIRE((kept == older || kept == before || kept == state));
       // A medium that can't be written to shows it too.
-      Medium protectedNow(medium);
-      protectedNow.Fakes.Disk.Drive(L'E').WriteProtected = true;
-      REQUIRE(Loaded(protectedNow) == state);
+      Medium protectedNow(broken);
+      protectedNow.Disk.Drive(L'E').WriteProtected = true;
+      REQUIRE(Loaded(protectedNow.Disk) == state);
       // And from there on all goes as if nothing had been.
-      SaveWith(medium, Fault::None, 0);
-      REQUIRE(Loaded(medium).front() == L"6");
-      CHECK_FALSE(medium.Fakes.Disk.HasFile(L"E:\\Vantor\\Saving.Orbel"));
+      const fake::FakeDisk saved = SaveWith(broken, Fault::None, 0);
+      REQUIRE(Loaded(saved).back() == L"6");
+      CHECK_FALSE(saved.HasFile(Mark));
     }
     CHECK(old > 1);
     CHECK(old < cases);
@@ -191,72 +135,57 @@ TEST_CASE("a save broken off at any byte leaves the old list or the new one, who
 }
 
 TEST_CASE("a file that may not be written leaves the old list whole") {
-  const Medium used = Used();
-  const State before = Loaded(used);
+  const fake::FakeDisk used = Used();
   for (const auto* name : {L"Set", L"ListWeb", L"ListProg", L"MachineProg", L"Backup\\Set", L"Backup\\ListWeb"}) {
     Medium medium(used);
-    medium.Fakes.Disk.AddFile(L"E:\\Vantor\\Saving.Orbel");  // a mark without its text says nothing
-    const std::wstring path = L"E:\\Vantor\\" + std::wstring(name) + L".Orbel";
-    medium.Fakes.Disk.AddFile(path, medium.Fakes.Disk.Bytes(path)).Writable = false;
-    SaveWith(medium, Fault::None, 0);
+    medium.Disk.AddFile(Mark);  // a mark without its text says nothing
+    const std::wstring path = Folder + name + L".Orbel";
+    medium.Disk.AddFile(path, medium.Disk.Bytes(path)).Writable = false;
     const bool inTheWay = path.find(L"Backup") == std::wstring::npos;
-    CHECK((Loaded(medium) == before) == inTheWay);
+    CHECK((Loaded(SaveWith(medium.Disk, Fault::None, 0)) == Loaded(used)) == inTheWay);
   }
 }
 
 TEST_CASE("a list that can't be put back is read where it is kept, until it can") {
-  const Medium used = Used();
-  const State before = Loaded(used);
-  Medium finished(used);
-  const std::size_t needed = SaveWith(finished, Fault::None, 0);
-  Medium broken(used);
-  SaveWith(broken, Fault::Pulled, needed * 3 / 4);
-  REQUIRE(broken.Fakes.Disk.Bytes(L"E:\\Vantor\\Saving.Orbel") == "\"Saving\"\r\n");
-  broken.Fakes.Disk.AddFile(L"E:\\Vantor\\ListWeb.Orbel", "\"fir").Writable = false;
+  const State before = Loaded(Used());
+  std::size_t needed = 0;
+  SaveWith(Used(), Fault::None, 0, &needed);
+  Medium broken(SaveWith(Used(), Fault::Pulled, needed * 3 / 4));
+  REQUIRE(broken.Disk.Bytes(Mark) == "\"Saving\"\r\n");
+  const std::wstring web = Folder + L"ListWeb.Orbel";
+  broken.Disk.AddFile(web, "\"fir").Writable = false;
+  CHECK(Loaded(broken.Disk) == before);
   for (std::size_t bytes = 0; bytes < needed; bytes += 11) {
-    Medium medium(broken);
-    CHECK(Run(medium).Load() == before);
-    SaveWith(medium, Fault::Killed, bytes);
-    CHECK(Loaded(medium) == before);
-    medium.Fakes.Disk.AddFile(L"E:\\Vantor\\ListWeb.Orbel", "\"fir").Writable = true;
-    CHECK(Loaded(medium) == before);
+    fake::FakeDisk again = SaveWith(broken.Disk, Fault::Killed, bytes);
+    CHECK(Loaded(again) == before);
+    again.AddFile(web, "\"fir").Writable = true;
+    CHECK(Loaded(again) == before);
   }
 }
 
 TEST_CASE("the generation kept is a whole one, and only what changed is written") {
-  Medium medium = Used();
-  const State before = Loaded(medium);
-  auto& written = medium.Fakes.Disk.Written;
-  {
-    Run same(medium);
-    same.Load();
-    written.clear();
-    same.Save();
-    CHECK(written.empty());
-  }
-  {
-    Run moved(medium);
-    moved.Load();
-    moved.settings.OptionMask = 3;
-    moved.Save();
-    const std::vector<std::wstring> expected{L"E:\\Vantor\\Backup\\ListProg.Orbel",
-                                             L"E:\\Vantor\\Backup\\ListWeb.Orbel",
-                                             L"E:\\Vantor\\Backup\\MachineProg.Orbel",
-                                             L"E:\\Vantor\\Backup\\Set.Orbel",
-                                             L"E:\\Vantor\\Saving.Orbel",
-                                             L"E:\\Vantor\\Set.Orbel",
-                                             L"E:\\Vantor\\Saving.Orbel"};
-    CHECK(written == expected);
-  }
+  Medium medium(Used());
+  auto& written = medium.Disk.Written;
+  StoredList run(medium.Computer, true);
+  const State before = Load(run);
+  written.clear();
+  run.Save();
+  CHECK(written.empty());
+  run.Settings.OptionMask = 3;
+  run.Save();
+  test::Texts expected;
+  for (const auto* name :
+       {L"Backup\\ListProg", L"Backup\\ListWeb", L"Backup\\MachineProg", L"Backup\\Set", L"Saving", L"Set", L"Saving"})
+    expected.push_back(Folder + name + L".Orbel");
+  CHECK(written == expected);
+
   // What was damaged from outside is loaded as far as it goes, and saved, but what is kept stays.
-  const std::string kept = medium.Fakes.Disk.Bytes(L"E:\\Vantor\\Backup\\ListProg.Orbel");
-  medium.Fakes.Disk.Bytes(L"E:\\Vantor\\ListProg.Orbel").resize(9);
-  {
-    Run damaged(medium);
-    CHECK(damaged.Load().size() == before.size() - 1);
-    damaged.Save();
-  }
-  CHECK(medium.Fakes.Disk.Bytes(L"E:\\Vantor\\Backup\\ListProg.Orbel") == kept);
+  const std::string kept = medium.Disk.Bytes(Folder + L"Backup\\ListProg.Orbel");
+  medium.Disk.Bytes(Folder + L"ListProg.Orbel").resize(9);
+  StoredList damaged(medium.Computer, true);
+  CHECK(Load(damaged).size() == before.size() - 1);
+  damaged.Save();
+  CHECK(medium.Disk.Bytes(Folder + L"Backup\\ListProg.Orbel") == kept);
 }
 
 }  // namespace

@@ -1,129 +1,66 @@
 #include <doctest/doctest.h>
 
-#include "fake/FakeServices.h"
-#include "form/Headless.h"
-#include "list/frmChoose.h"
+#include "fake/StoredList.h"
 
-using namespace vantor;
-using list::LaunchGroup;
-
+namespace vantor::list {
 namespace {
 
-/// One run of the program as far as its files go. The disk is the test's, so that a later run finds the files.
-struct Run {
-  explicit Run(fake::FakeServices& fakes) : Fakes(fakes) {
-    Environment.MediaDriveLetter = L'C';
-    Environment.DataFolder = Environment.MediaDriveLetter + L":\\Vantor\\Vantor";
-    const std::wstring folder = Environment.DataFolder + L"\\";
-    Environment.Files = {folder + L"Set.Orbel",      L"",
-                         folder + L"ListFile.Orbel", folder + L"ListFold.Orbel",
-                         folder + L"ListProg.Orbel", folder + L"ListWeb.Orbel"};
-    Fakes.Disk.AddFolder(folder);
-  }
-  void Load() {
-    Files.Restore();
-    Files.LoadSettings();
-    Choose.Load();
-  }
-  void Save() { Files.SaveLaunchList(Choose.List, 150, 300); }
-  void Add(LaunchGroup group, std::wstring_view name, std::wstring_view path) {
-    Choose.List.Of(group).AddItem(name, path);
-  }
-  /// "name>path" of each item.
-  std::vector<std::wstring> Items(LaunchGroup group) {
-    const list::GroupBoxes& boxes = Choose.List.Of(group);
-    std::vector<std::wstring> items;
-    items.reserve(boxes.Name.Entries().size());
-    for (int i = 0; i < boxes.Name.ListCount(); ++i) items.push_back(boxes.Name.List(i) + L">" + boxes.Path.List(i));
-    return items;
-  }
+using test::ItemsOf;
+using test::StoredList;
+using test::Texts;
 
-  fake::FakeServices& Fakes;
-  form::Headless Desktop;
-  start::Environment Environment;
-  list::Settings Settings;
-  list::ListFiles Files{Fakes.All(), Environment, Settings};
-  message::MessageState MessageState;
-  message::Messages Messages{Desktop, MessageState};
-  list::frmChoose Choose{Desktop, Files, Fakes.Language, Messages};
-};
-
-using Items = std::vector<std::wstring>;
-
-}  // namespace
+std::wstring DataFile(std::wstring_view name) { return L"C:\\Vantor\\Vantor\\" + std::wstring(name) + L".Orbel"; }
 
 TEST_CASE("a save writes exact bytes, and the next run has the same list") {
-  fake::FakeServices fakes;
-  fakes.Disk.AddFile(L"C:\\a, b.doc");
-  fakes.Disk.AddFile(L"C:\\p.exe");
-  fakes.Disk.AddFolder(L"C:\\Fol der");
-  {
-    Run run(fakes);
-    run.Settings.OptionMask = 6;
-    run.Settings.Folder = L"C:\\Docs, old";
-    run.Add(LaunchGroup::File, L"A, b", L"C:\\a, b.doc");
-    run.Add(LaunchGroup::Fold, L" Fold ", L"C:\\Fol der");
-    run.Add(LaunchGroup::Prog, L"caf\u00E9", L"C:\\p.exe");
-    run.Add(LaunchGroup::Prog, L"gone", L"C:\\gone.exe");
-    run.Save();
-  }
-  CHECK(fakes.Disk.Bytes(L"C:\\Vantor\\Vantor\\Set.Orbel") ==
-        "6\r\n0\r\n0\r\n1\r\n-1\r\n150\r\n300\r\n\"C:\\Docs, old\"\r\n-1\r\n-1\r\n-1\r\n");
-  CHECK(fakes.Disk.Bytes(L"C:\\Vantor\\Vantor\\ListFile.Orbel") == "\"A, b\",\"C:\\a, b.doc\"\r\n");
-  CHECK(fakes.Disk.Bytes(L"C:\\Vantor\\Vantor\\ListProg.Orbel") ==
-        "\"caf\xE9\",\"C:\\p.exe\"\r\n\"gone\",\"C:\\gone.exe\"\r\n");
-  CHECK(!fakes.Disk.HasFile(L"C:\\Vantor\\Vantor\\ListWeb.Orbel"));
-  Run run(fakes);
-  run.Load();
-  CHECK(run.Settings.OptionMask == 6);
-  CHECK(run.Settings.Left == 150);
-  CHECK(run.Settings.Folder == L"C:\\Docs, old");
-  CHECK(run.Items(LaunchGroup::File) == Items{L"A, b>C:\\a, b.doc"});
-  CHECK(run.Items(LaunchGroup::Fold) == Items{L" Fold >C:\\Fol der"});
-  CHECK(run.Items(LaunchGroup::Prog) == Items{L"caf\u00E9>C:\\p.exe"});
-  CHECK(fakes.FileSystem.OpenObjects == 0);
-}
+  fake::Computer computer;
+  StoredList first(computer);
+  first.Settings.OptionMask = 6;
+  first.Settings.Folder = L"C:\\Docs, old";
+  first.Add(LaunchGroup::File, L"A, b", L"C:\\Work\\notes.txt");
+  first.Add(LaunchGroup::Fold, L" Fold ", L"C:\\Work");
+  first.Add(LaunchGroup::Prog, L"caf\u00E9", L"C:\\Work\\Tool.EXE");
+  first.Add(LaunchGroup::Prog, L"gone", L"C:\\gone.exe");
+  first.Add(LaunchGroup::Web, L"the \"best\"", L"http://x/?q=\"a\"");
+  first.Add(LaunchGroup::Web, L"next", L"http://y");
+  first.Save();
+  CHECK(computer.Disk.Bytes(DataFile(L"Set")) ==
+        "6\r\n0\r\n0\r\n1\r\n1\r\n150\r\n300\r\n\"C:\\Docs, old\"\r\n-1\r\n-1\r\n-1\r\n");
+  CHECK(computer.Disk.Bytes(DataFile(L"ListFile")) == "\"A, b\",\"C:\\Work\\notes.txt\"\r\n");
+  CHECK(computer.Disk.Bytes(DataFile(L"ListProg")) ==
+        "\"caf\xE9\",\"C:\\Work\\Tool.EXE\"\r\n\"gone\",\"C:\\gone.exe\"\r\n");
 
-TEST_CASE("a group that became empty is no longer loaded, and its file stays") {
-  fake::FakeServices fakes;
-  {
-    Run run(fakes);
-    run.Add(LaunchGroup::Web, L"x", L"http://x");
-    run.Save();
-    run.Choose.ComboListWebName.Clear();
-    run.Choose.ComboListWebPath.Clear();
-    run.Save();
-  }
-  CHECK(fakes.Disk.Bytes(L"C:\\Vantor\\Vantor\\ListWeb.Orbel") == "\"x\",\"http://x\"\r\n");
-  Run run(fakes);
-  run.Load();
-  CHECK(run.Items(LaunchGroup::Web).empty());
-}
+  StoredList second(computer);
+  second.Load();
+  CHECK(second.Settings.OptionMask == 6);
+  CHECK(second.Settings.Left == 150);
+  CHECK(second.Settings.Folder == L"C:\\Docs, old");
+  // Double quotes are written so that the item and those after it are read again.
+  CHECK(ItemsOf(second.Choose.List) == Texts{L"A, b>C:\\Work\\notes.txt", L" Fold >C:\\Work",
+                                             L"caf\u00E9>C:\\Work\\Tool.EXE", L"the 'best'>http://x/?q=%22a%22",
+                                             L"next>http://y"});
 
-TEST_CASE("double quotes are written so that the item and those after it are read again") {
-  fake::FakeServices fakes;
-  {
-    Run run(fakes);
-    run.Add(LaunchGroup::Web, L"the \"best\"", L"http://x/?q=\"a\"");
-    run.Add(LaunchGroup::Web, L"next", L"http://y");
-    run.Save();
-    CHECK(run.Items(LaunchGroup::Web)[0] == L"the \"best\">http://x/?q=\"a\"");
-  }
-  Run run(fakes);
-  run.Load();
-  CHECK(run.Items(LaunchGroup::Web) == Items{L"the 'best'>http://x/?q=%22a%22", L"next>http://y"});
+  // A group that became empty is no longer loaded, and its file stays.
+  second.RemoveFirst(LaunchGroup::File);
+  second.Save();
+  StoredList third(computer);
+  third.Load();
+  CHECK(ItemsOf(third.Choose.List).size() == 4);
+  CHECK(computer.Disk.HasFile(DataFile(L"ListFile")));
+  CHECK(computer.Open == 0);
+
+  // What can't be saved harms nothing, and a place beyond 16 bits is saved as the nearest.
+  computer.Disk.Drive(L'C').WriteProtected = true;
+  third.Files.SaveLaunchList(third.Choose.List, 40000, -40000);
+  CHECK(third.Settings.Left == INT16_MAX);
+  CHECK(third.Settings.Top == INT16_MIN);
 }
 
 TEST_CASE("a damaged settings file gives what could be read of it") {
-  struct Row {
+  const struct {
     std::string_view Bytes;
-    int OptionMask;
-    int FileUpper;
-    int Left;
-    int MachineProgUpper;
+    int OptionMask, FileUpper, Left, MachineProgUpper;
     bool Whole = false;
-  };
-  constexpr Row Rows[] = {
+  } rows[] = {
       {"", 2, -1, 0, -1},
       {"5", 5, -1, 0, -1},
       {"5\r\n3\r", 5, 3, 0, -1},
@@ -131,77 +68,66 @@ TEST_CASE("a damaged settings file gives what could be read of it") {
       {"5\r\n99999\r\n0\r\nabc\r\n0\r\n7\r\n8\r\n\"\"\r\n1\r\n1\r\n1\r\nmore\r\n", 5, -1, 7, 1},
       {"5\r\n0\r\n0\r\n0\r\n0\r\n7\r\n8\r\n\"not closed\r\n1\r\n1\r\n1\r\n", 5, 0, 7, -1},
   };
-  for (const Row& row : Rows) {
+  for (const auto& row : rows) {
     CAPTURE(row.Bytes);
-    fake::FakeServices fakes;
-    Run run(fakes);
-    fakes.Disk.AddFile(run.Environment.Files.Set, row.Bytes);
-    const bool whole = list::LoadSettings(fakes.DataFiles, fakes.Language, run.Environment.Files.Set, run.Settings);
-    CHECK(whole == row.Whole);
-    CHECK(run.Settings.OptionMask == row.OptionMask);
-    CHECK(run.Settings.FileUpper == row.FileUpper);
-    CHECK(run.Settings.Left == row.Left);
-    CHECK(run.Settings.MachineProgUpper == row.MachineProgUpper);
+    fake::Computer computer;
+    computer.Disk.AddFile(DataFile(L"Set"), row.Bytes);
+    Settings settings;
+    CHECK(LoadSettings(computer, computer, DataFile(L"Set"), settings) == row.Whole);
+    CHECK(settings.OptionMask == row.OptionMask);
+    CHECK(settings.FileUpper == row.FileUpper);
+    CHECK(settings.Left == row.Left);
+    CHECK(settings.MachineProgUpper == row.MachineProgUpper);
+    CHECK_FALSE(LoadSettings(computer, computer, DataFile(L"none"), settings));
   }
-  fake::FakeServices fakes;
-  list::Settings settings;
-  CHECK(!list::LoadSettings(fakes.DataFiles, fakes.Language, L"C:\\none", settings));
 }
 
 TEST_CASE("files cut at any byte give the items before the cut, whatever the upper index says") {
   constexpr std::string_view whole = "\"one\",\"http://1\"\r\n\"two, 2\",\"http://2\"\r\nthree , http://3\r\n";
+  constexpr std::size_t ends[] = {whole.find("\r"), whole.find("\r\nthree"), whole.size() - 2};
+  const Texts all{L"one>http://1", L"two, 2>http://2", L"three>http://3"};
   for (std::size_t length = 0; length <= whole.size(); ++length) {
     for (const int upper : {-32768, -1, 0, 1, 2, 32767}) {
       CAPTURE(length);
       CAPTURE(upper);
-      fake::FakeServices fakes;
-      Run run(fakes);
-      run.Settings.WebUpper = static_cast<std::int16_t>(upper);
-      fakes.Disk.AddFile(run.Environment.Files.ListWeb, whole.substr(0, length));
-      run.Choose.Load();
-      const Items items = run.Items(LaunchGroup::Web);
-      CHECK(static_cast<int>(items.size()) <= std::max(upper + 1, 0));
-      if (length == whole.size() && upper >= 2) {
-        CHECK(items == Items{L"one>http://1", L"two, 2>http://2", L"three>http://3"});
-      }
-      if (length < 16) CHECK(items.empty());
-      if (length >= 16 && upper >= 0) CHECK(items.at(0) == L"one>http://1");
+      fake::Computer computer;
+      StoredList list(computer);
+      list.Settings.WebUpper = static_cast<std::int16_t>(upper);
+      computer.Disk.AddFile(DataFile(L"ListWeb"), whole.substr(0, length));
+      list.Choose.Load();
+      Texts items = ItemsOf(list.Choose.List);
+      // Of a target without quotes any part is one.
+      if (items.size() == 3 && length < ends[2]) items.pop_back();
+      const auto kept = std::count_if(std::begin(ends), std::end(ends), [&](auto end) { return end <= length; });
+      const auto expected = std::min<std::ptrdiff_t>(kept, std::max(upper + 1, 0));
+      CHECK(items == Texts(all.begin(), all.begin() + expected));
     }
   }
 }
 
-TEST_CASE("four groups of 32,767 items come back whole") {
+TEST_CASE("four groups of 32,767 items come back whole, and the last of them is completed") {
   constexpr int Count = 32767;
-  fake::FakeServices fakes;
-  fakes.Disk.AddFile(L"C:\\p.exe");
+  test::TestProgram program;
+  fake::Computer& computer = program.Computer;
   {
-    Run run(fakes);
+    StoredList run(computer);
     for (int i = 0; i < Count; ++i) {
-      const std::wstring name = L"Item " + std::to_wstring(i);
-      for (const LaunchGroup group : list::LaunchGroups) {
-        run.Add(group, name, group == LaunchGroup::Fold ? L"C:\\Vantor" : L"C:\\p.exe");
-      }
+      for (const LaunchGroup group : LaunchGroups)
+        run.Add(group, L"Item " + std::to_wstring(i), group == LaunchGroup::Fold ? L"C:\\Work" : L"C:\\Work\\Tool.EXE");
     }
     run.Save();
   }
-  Run run(fakes);
-  run.Load();
-  CHECK(run.Settings.WebUpper == Count - 1);
-  for (const LaunchGroup group : list::LaunchGroups) {
-    CHECK(run.Choose.List.Of(group).Name.ListCount() == Count);
-    CHECK(run.Choose.List.Of(group).Name.List(Count - 1) == L"Item 32766");
+  program.Start();
+  CHECK(program.Program.Settings.WebUpper == Count - 1);
+  for (const auto* code : {L"p-", L"f-", L"d-", L"w-"}) {
+    program.Type(code);
+    program.Desktop.Type(L"item 3276");
+    CHECK(program.Main.TextMain.Text() == code + std::wstring(L"Item 3276"));
+    program.Desktop.Type(L"6");
+    CHECK(program.Main.TextMain.Text() == code + std::wstring(L"Item 32766"));
+    CHECK(program.Program.CommandState.MatchedItemIndex == Count - 1);
   }
 }
 
-TEST_CASE("a place beyond 16 bits is saved as the nearest, and a save that fails harms nothing") {
-  fake::FakeServices fakes;
-  Run run(fakes);
-  run.Add(LaunchGroup::Web, L"x", L"http://x");
-  fakes.Disk.FailWritesAfter(0);
-  run.Save();
-  fakes.Disk.FailNoWrites();
-  run.Files.SaveLaunchList(run.Choose.List, 40000, -40000);
-  CHECK(run.Settings.Left == 32767);
-  CHECK(run.Settings.Top == -32768);
-  CHECK(fakes.Disk.HasFile(run.Environment.Files.ListWeb));
-}
+}  // namespace
+}  // namespace vantor::list

@@ -1,51 +1,43 @@
 #include <doctest/doctest.h>
 
-#include "bar/StartedProgram.h"
+#include "fake/TestProgram.h"
 
-using namespace vantor;
-using form::Key;
-using list::LaunchGroup;
-using test::StartedProgram;
-using Texts = std::vector<std::wstring>;
-
+namespace vantor::list {
 namespace {
 
+using test::ItemsOf;
+using test::Texts;
+
 /// The list panel, open over a list with items in all groups but that of the files.
-struct ListPanel : StartedProgram {
-  ListPanel() {
-    for (const wchar_t* name : {L"Mail", L"Edit", L"Calc"}) {
-      Add(LaunchGroup::Prog, name, std::wstring(L"C:\\") + name + L".exe");
-    }
+struct OpenListPanel : test::StartedProgram {
+  OpenListPanel() {
+    for (const std::wstring name : {L"Mail", L"Edit", L"Calc"}) Add(LaunchGroup::Prog, name, L"C:\\" + name + L".exe");
     Add(LaunchGroup::Fold, L"Docs", L"C:\\My docs");
     Add(LaunchGroup::Web, L"News", L"http://news");
-    Desktop.Press(Key::F4);
+    Desktop.Press(form::Key::F4);
   }
-  list::GroupFrame& Prog = Program.frmChoose.Page.Prog;
+  GroupFrame& Prog = Choose.Page.Prog;
 };
 
-}  // namespace
-
 TEST_CASE("an item opens after the panel has closed, by the starter of its group") {
-  ListPanel panel;
-  start::Program& program = panel.Program;
+  OpenListPanel panel;
   panel.Prog.Path.SetListIndex(1);
   CHECK(panel.Prog.Name.Text() == L"Edit");
   panel.Desktop.Click(panel.Prog.Open);
-  CHECK(!program.frmChoose.Visible());
-  panel.Desktop.Press(Key::F4);
-  panel.Desktop.Click(program.frmChoose.Page.Fold.Open);
-  panel.Desktop.Press(Key::F4);
-  panel.Services.ScriptShell.RunSucceeds = false;
-  panel.ExpectMessage();
-  panel.Desktop.Click(program.frmChoose.Page.Web.Open);
-  CHECK(panel.Services.Programs.CommandLines == Texts{L"C:\\Edit.exe"});
-  CHECK(panel.Services.ScriptShell.Runs == Texts{L"C:\\My docs", L"http://news"});
-  CHECK(panel.Told.size() == 1);
+  CHECK(!panel.Choose.Visible());
+  panel.Desktop.Press(form::Key::F4);
+  panel.Desktop.Click(panel.Choose.Page.Fold.Open);
+  panel.Desktop.Press(form::Key::F4);
+  panel.Computer.Let("Run", fake::Outcome::Fails);
+  panel.Expect();
+  panel.Desktop.Click(panel.Choose.Page.Web.Open);
+  CHECK(panel.Computer.Started == Texts{L"run C:\\Edit.exe", L"shell C:\\My docs", L"shell http://news"});
+  CHECK(panel.Told == Texts{L"There was some error. Could not start the required program."});
 }
 
-TEST_CASE("the rename box opens and closes, and OK follows the text") {
-  ListPanel panel;
-  list::GroupFrame& prog = panel.Prog;
+TEST_CASE("the rename box opens and closes, and OK follows the text; what is removed leaves the next one chosen") {
+  OpenListPanel panel;
+  GroupFrame& prog = panel.Prog;
   panel.Desktop.Click(prog.Rename);
   CHECK(prog.Rename.Picture() == form::Picture::ButtonOpen);
   panel.Desktop.Type(L"\rMai");
@@ -60,5 +52,11 @@ TEST_CASE("the rename box opens and closes, and OK follows the text") {
   CHECK(prog.TextRename.Text().empty());
   panel.Desktop.Click(prog.Rename);
   CHECK(!prog.FrameRename.Visible());
-  CHECK(prog.Name.Entries() == Texts{L"Mail", L"Edit", L"Calc"});
+  panel.Desktop.Click(prog.Remove);
+  CHECK(ItemsOf(panel.Choose.List.Of(LaunchGroup::Prog)) == Texts{L"Mail>C:\\Mail.exe", L"Calc>C:\\Calc.exe"});
+  CHECK(prog.Name.ListIndex() == prog.Path.ListIndex());
+  CHECK(prog.Name.Text() == L"Mail");
 }
+
+}  // namespace
+}  // namespace vantor::list

@@ -3,34 +3,19 @@
 #include <doctest/doctest.h>
 
 #include <stdexcept>
-#include <vector>
 
-#include "form/Headless.h"
+#include "fake/TestProgram.h"
 
 namespace vantor::message {
 namespace {
 
-/// Messages on a desktop, with hooks that note what they were asked.
-struct Desk {
-  form::Headless Ui;
-  MessageState State;
-  Messages Shown{Ui, State};
-  std::vector<std::wstring> Log;
-  MessageKey MailResult;
+using test::Texts;
 
-  Desk() {
-    Shown.Hooks.PauseOnTop = [this] { Log.emplace_back(L"pause"); };
-    Shown.Hooks.ResumeOnTop = [this] { Log.emplace_back(L"resume"); };
-    Shown.Hooks.SaveUserName = [this] { Log.push_back(L"save " + State.UserName); };
-    Shown.Hooks.EnableRemember = [this] { Log.emplace_back(L"enable"); };
-    Shown.Hooks.SendMailTo = [this](std::wstring_view to, std::wstring_view subject, std::wstring_view body) {
-      Log.push_back(std::wstring(to) + L"|" + std::wstring(subject) + L"|" + std::wstring(body));
-      return MailResult;
-    };
-  }
-  void Expect(std::function<void(frmMessage&)> script) {
-    Ui.WhenModal([script = std::move(script)](form::Form& form) { script(dynamic_cast<frmMessage&>(form)); });
-  }
+/// Messages of a program that runs.
+struct Desk : test::StartedProgram {
+  MessageState& State = Program.MessageState;
+  Messages& Shown = Program.Messages;
+
   void ShowUser(MessageKey key) {
     State.CurrentMessageKey = std::move(key);
     Shown.ShowUserMessage();
@@ -39,192 +24,146 @@ struct Desk {
     State.CurrentMessageKey = std::move(key);
     Shown.ShowStopMessage();
   }
-  [[nodiscard]] bool SlotsEmpty() const {
-    return (State.CurrentMessageKey + State.CurrentMessageText + State.MessageTitle + State.MessageBody +
+  void Escape() { Desktop.Press(form::Key::Escape); }
+  /// All messages came, and left nothing behind.
+  [[nodiscard]] bool Done() const {
+    return Desktop.ModalScriptsDone() && !State.BugReportPending &&
+           (State.CurrentMessageKey + State.CurrentMessageText + State.MessageTitle + State.MessageBody +
             State.MessageButtons + State.MessageInputs)
-               .empty() &&
-           !State.BugReportPending;
+               .empty();
   }
 };
 
-void Escape(Desk& desk) { desk.Ui.Press(form::Key::Escape); }
-
-TEST_CASE("A message addresses the user, pauses the bar, and leaves nothing behind") {
-  const struct {
-    std::wstring Name, Caption, Head;
-  } cases[] = {{L"", L"myMessage", L"myFriend"},
-               {L"myFriend", L"myMessage", L"myFriend"},
-               {L"Ada", L"Message For - Ada", L"Ada"}};
-  for (const auto& c : cases) {
+TEST_CASE("a message addresses the user, and leaves nothing behind") {
+  const Texts cases[] = {{L"", L"myMessage", L"myFriend"},
+                         {L"myFriend", L"myMessage", L"myFriend"},
+                         {L"Bob", L"Message For - Bob", L"Bob"}};
+  for (const auto& names : cases) {
     Desk desk;
-    desk.State.UserName = c.Name;
-    desk.Expect([&](frmMessage& form) {
-      CHECK(form.Caption() == c.Caption);
-      CHECK(form.LabelHead.Caption() == c.Head);
-      CHECK(form.LabelMessage.Caption() == L"Seleted item doesn't exist.\r\nFailed to add.");
-      CHECK(form.CommandOK.HasFocus());
-      CHECK((!form.CommandCancel.Enabled() && form.CommandCancel.Visible() && form.LabelCancel.Caption() == L"Cancel"));
-      desk.Ui.Press(form::Key::Enter);
+    desk.State.UserName = names[0];
+    desk.Expect([&](frmMessage& dialog) {
+      CHECK(dialog.Caption() == names[1]);
+      CHECK(dialog.LabelHead.Caption() == names[2]);
+      CHECK(dialog.CommandOK.HasFocus());
+      CHECK((dialog.CommandCancel.Visible() && !dialog.CommandCancel.Enabled()));
+      desk.Desktop.Press(form::Key::Enter);
     });
     desk.Shown.ShowList(L"MessageAddNotFound");
-    CHECK(desk.Log == std::vector<std::wstring>{L"pause", L"resume"});
-    CHECK(desk.SlotsEmpty());
+    CHECK(desk.Told == Texts{L"Seleted item doesn't exist.\r\nFailed to add."});
+    CHECK(desk.Done());
   }
 }
 
-TEST_CASE("A key that the routine does not hold shows nothing") {
+TEST_CASE("a key that the routine does not hold shows nothing") {
   Desk desk;
   desk.ShowStop(L"MessageProgInSystem");
   desk.Shown.ShowList(L"MessagePanelOpenError");
   desk.Shown.ShowList(L"MessageSmallScreen");
   desk.Shown.ShowText(L"");
-  CHECK_FALSE(desk.State.EndAfterMessage);
-  CHECK_FALSE(desk.Ui.Ended());
-  CHECK(desk.Log.empty());
+  CHECK_FALSE((desk.State.EndAfterMessage || desk.Desktop.Ended()));
 }
 
-TEST_CASE("A stop message ends the program, however it is left") {
+TEST_CASE("a stop message ends the program, however it is left") {
   for (int way = 0; way < 3; ++way) {
     Desk desk;
-    desk.Expect([&](frmMessage& form) {
-      CHECK_FALSE(desk.Ui.Ended());
-      if (way == 0) desk.Ui.Click(form.CommandOK);
-      if (way == 1) Escape(desk);
-      if (way == 2) form.InputClose();
+    desk.Expect([&](frmMessage& dialog) {
+      if (way == 0) desk.Desktop.Click(dialog.CommandOK);
+      if (way == 1) desk.Escape();
+      if (way == 2) dialog.InputClose();
     });
     desk.ShowStop(L"MessageMediaCDRom");
-    CHECK(desk.Ui.Ended());
+    CHECK(desk.Desktop.Ended());
   }
 }
 
-TEST_CASE("The name prompt takes letters, and every answer to it is stored as it should be") {
+TEST_CASE("the name prompt takes letters, and every answer to it is stored as it should be") {
   const struct {
     std::wstring Key, Typed, Name;
-    bool Saved;
+    std::string Saved;
   } cases[] = {
-      {L"MessageGetUserName", L"J0 o\u00F6-h\bhn\r", L"John", true},
-      {L"MessageGetUserName", L"\r", L"myFriend", true},
-      {L"MessageGetUserName", L"Bob\x1b", L"myFriend", true},
-      {L"MessageChangeUserName", L"Eve\r", L"Eve", true},
-      {L"MessageChangeUserName", L"\r", L"Old", false},
-      {L"MessageChangeUserName", L"X\x1b", L"Old", false},
+      {L"MessageGetUserName", L"J0 o\u00F6-h\bhn\r", L"John", "John"},
+      {L"MessageGetUserName", L"\r", NoUserName, "myFriend"},
+      {L"MessageGetUserName", L"Bob\x1b", NoUserName, "myFriend"},
+      {L"MessageChangeUserName", L"Eve\r", L"Eve", "Eve"},
+      {L"MessageChangeUserName", L"\r", L"Old", "Ada"},
+      {L"MessageChangeUserName", L"X\x1b", L"Old", "Ada"},
   };
   for (const auto& c : cases) {
+    CAPTURE(c.Saved);
     Desk desk;
     desk.State.UserName = L"Old";
-    desk.Expect([&](frmMessage& form) {
-      CHECK(form.TextInput0.HasFocus());
-      for (const wchar_t character : c.Typed) {
-        if (character == form::CharEscape)
-          Escape(desk);
-        else
-          desk.Ui.Type(std::wstring(1, character));
-      }
-    });
+    desk.ExpectTyping(c.Typed);
     desk.ShowUser(c.Key);
     CHECK(desk.State.UserName == c.Name);
-    CHECK((desk.Log.size() == 3) == c.Saved);
-    if (c.Saved) CHECK(desk.Log[1] == L"save " + c.Name);
-    CHECK(desk.SlotsEmpty());
+    CHECK(desk.Computer.Disk.Bytes(L"C:\\Vantor\\Vantor\\User.Orbel") == '"' + c.Saved + "\"\r\n");
+    CHECK(desk.Done());
   }
-}
-
-TEST_CASE("OK goes with the text in the name box, and what is pasted is cleaned") {
+  // OK goes with the text in the box, and what is pasted is cleaned.
   Desk desk;
-  desk.Expect([&](frmMessage& form) {
-    CHECK_FALSE(form.CommandOK.Enabled());
-    form.TextInput0.InputEdited(L"A\"d1 a", 6, 0);
-    CHECK(form.TextInput0.Text() == L"Ada");
-    CHECK(form.TextInput0.SelStart() == 3);
-    CHECK(form.CommandOK.Enabled());
-    form.TextInput0.InputEdited(L"", 0, 0);
-    CHECK_FALSE(form.CommandOK.Enabled());
-    form.TextInput0.InputEdited(L"12", 2, 0);
-    CHECK_FALSE(form.CommandOK.Enabled());
-    Escape(desk);
+  desk.Expect([&](frmMessage& dialog) {
+    for (const std::wstring_view pasted : {L"A\"d1 a", L"", L"12"}) {
+      dialog.TextInput0.InputEdited(std::wstring(pasted), static_cast<int>(pasted.size()), 0);
+      const std::wstring name = pasted.size() == 6 ? L"Ada" : L"";
+      CHECK(dialog.TextInput0.Text() == name);
+      CHECK(dialog.TextInput0.SelStart() == static_cast<int>(name.size()));
+      CHECK(dialog.CommandOK.Enabled() == !name.empty());
+    }
   });
   desk.ShowUser(L"MessageGetUserName");
 }
 
-TEST_CASE("A bug is reported by mail, if the user wants it") {
-  SUBCASE("yes") {
-    Desk desk;
-    desk.Expect([&](frmMessage& form) {
-      CHECK(form.LabelOK.Caption() == L"Yes");
-      CHECK(form.LabelMessage.Caption().find(L"\r\n    Bug-Vantor-Saving\r\n\r\nDo you") != std::wstring::npos);
-      desk.Ui.Click(form.CommandOK);
-    });
-    desk.Shown.Trap(L"Saving", [] { throw std::runtime_error("broken"); });
-    REQUIRE(desk.Log.size() == 3);
-    CHECK(desk.Log[2].starts_with(L"mailto:"));
-    CHECK(desk.Log[2].ends_with(L"|Vantor - Found Bug|Bug-Vantor-Saving"));
-    CHECK(desk.SlotsEmpty());
-  }
-  SUBCASE("yes, but there is no mail program") {
-    Desk desk;
-    desk.MailResult = L"MessageProgramStartError";
-    desk.Expect([&](frmMessage& form) { desk.Ui.Click(form.CommandOK); });
-    desk.Expect([&](frmMessage& form) {
-      CHECK(form.LabelMessage.Caption() == L"There was some error. Could not start the required program.");
-      Escape(desk);
-    });
-    desk.Shown.ReportBug(L"Saving");
-    CHECK(desk.Ui.ModalScriptsDone());
-    CHECK(desk.SlotsEmpty());
-  }
-  SUBCASE("no") {
-    Desk desk;
-    desk.Expect([&](frmMessage&) { Escape(desk); });
-    desk.Shown.ReportBug(L"Saving");
-    CHECK(desk.Log == std::vector<std::wstring>{L"pause", L"resume"});
-    CHECK(desk.SlotsEmpty());
+TEST_CASE("a bug is reported by mail, if the user wants it") {
+  const std::wstring mail = L"mail mailto:bugs@orbel.example?subject=Vantor - Found Bug&body=Bug-Vantor-Saving";
+  for (const bool wanted : {true, false}) {
+    for (const bool fails : {false, true}) {
+      Desk desk;
+      if (fails) desk.Computer.Let("ShellOpen", fake::Outcome::Fails);
+      desk.Expect([&](frmMessage& dialog) {
+        CHECK(dialog.LabelOK.Caption() == L"Yes");
+        CHECK(desk.Told.back().find(L"\r\n    Bug-Vantor-Saving\r\n\r\nDo you") != std::wstring::npos);
+        desk.Desktop.Click(wanted ? dialog.CommandOK : dialog.CommandCancel);
+      });
+      if (wanted && fails) desk.Expect();
+      desk.Shown.Trap(L"Saving", [] { throw std::runtime_error("broken"); });
+      CHECK(desk.Computer.Started == (wanted ? Texts{mail} : Texts{}));
+      if (wanted && fails) CHECK(desk.Told.back().ends_with(L"Could not start the required program."));
+      CHECK(desk.Done());
+    }
   }
 }
 
-TEST_CASE("Messages that open over others take nothing from them, and errors do not pile up") {
+TEST_CASE("messages that open over others take nothing from them, and errors do not pile up") {
   Desk desk;
   desk.Expect([&](frmMessage&) {
-    desk.Ui.Type(L"Ada");
+    desk.Desktop.Type(L"Eve");
     desk.Expect([&](frmMessage&) {
       desk.Shown.Trap(L"Tick", [] { throw 2; });  // passed over: a question is open
-      Escape(desk);
     });
     desk.Shown.Trap(L"Tick", [] { throw 1; });
-    desk.Ui.Type(L"7\r");
+    desk.Desktop.Type(L"7\r");
   });
   desk.ShowUser(L"MessageGetUserName");
-  CHECK(desk.State.UserName == L"Ada");
-  CHECK(desk.Log == std::vector<std::wstring>{L"pause", L"save Ada", L"resume"});
-  CHECK(desk.Ui.ModalScriptsDone());
+  CHECK(desk.State.UserName == L"Eve");
+  CHECK(desk.Told.size() == 2);
+  CHECK(desk.Done());
 }
 
-TEST_CASE("A free text enables the remember button afterwards, when that was asked for") {
-  Desk desk;
-  desk.State.EnableRememberAfterMessage = true;
-  desk.Expect([&](frmMessage& form) {
-    CHECK(form.LabelMessage.Caption() == L"Told.");
-    Escape(desk);
-  });
-  desk.Shown.ShowText(L"Told.");
-  CHECK(desk.Log == std::vector<std::wstring>{L"pause", L"enable", L"resume"});
-  CHECK_FALSE(desk.State.EnableRememberAfterMessage);
-}
-
-TEST_CASE("The first-start help tells of the missing button, and has room on the smallest screen") {
+TEST_CASE("the first-start help tells of the missing button, and has room on the smallest screen") {
   for (const bool present : {false, true}) {
     Desk desk;
+    const form::Rect screen{0, 0, 640 * 15, 450 * 15};
+    desk.Desktop.Desktop = {screen, screen};
     desk.Shown.Hooks.CompanionsPresent = [=] { return present; };
-    desk.Ui.Desktop.WorkArea = {0, 0, 640 * 15, 450 * 15};
-    desk.Expect([&](frmMessage& form) {
+    desk.Expect([&](frmMessage& dialog) {
       const std::wstring line = present ? L"\r\n\r\n\r\n\r\nYou will" : L"#5 button is not visible.\r\n\r\nYou will";
-      CHECK(form.LabelMessage.Caption().find(line) != std::wstring::npos);
-      const form::Size needed = desk.Ui.MeasureText(form.LabelMessage.Caption(), false, form.LabelMessage.Width());
-      CHECK(form.LabelMessage.Height() >= needed.Height);
-      CHECK(form.LabelMessage.Bottom() < form.CommandOK.Top());
-      CHECK(form.CommandOK.Right() < form.CommandCancel.Left());
-      CHECK(form.CommandCancel.Bottom() < form.Bounds().Height);
-      CHECK((form.Bounds().Left > 0 && form.Bounds().Right() < 640 * 15 && form.Bounds().Bottom() < 450 * 15));
-      Escape(desk);
+      CHECK(desk.Told.back().find(line) != std::wstring::npos);
+      const form::Size needed = desk.Desktop.MeasureText(desk.Told.back(), false, dialog.LabelMessage.Width());
+      CHECK(dialog.LabelMessage.Height() >= needed.Height);
+      CHECK(dialog.LabelMessage.Bottom() < dialog.CommandOK.Top());
+      CHECK(dialog.CommandOK.Right() < dialog.CommandCancel.Left());
+      CHECK(dialog.CommandCancel.Bottom() < dialog.Bounds().Height);
+      CHECK((dialog.Bounds().Left > 0 && dialog.Bounds().Right() < screen.Width));
+      CHECK(dialog.Bounds().Bottom() < screen.Height);
     });
     desk.Shown.ShowList(L"MessageFisrtStart");
   }

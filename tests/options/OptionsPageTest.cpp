@@ -1,47 +1,31 @@
 #include <doctest/doctest.h>
 
-#include "bar/StartedProgram.h"
+#include "fake/TestProgram.h"
 
-using namespace vantor;
-using form::Key;
-using test::StartedProgram;
-using Texts = std::vector<std::wstring>;
-
-namespace {
-
-constexpr wchar_t RunValue[] = L"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run\\OrbelsLauncher";
-
-struct Preferences : StartedProgram {
-  Preferences() { Desktop.Press(Key::F6); }
-  options::OptionsPage& Page = Program.OptionsPage;
-
-  /// Opens the page, ticks or clears boxes, and presses OK.
-  void Change(std::initializer_list<std::size_t> boxes) {
-    if (!Page.FrameOptions.Visible() || !Program.frmChoose.Visible()) Desktop.Press(Key::F6);
-    for (const std::size_t box : boxes) Desktop.Click(Page.CheckOptionMain[box]);
-    Desktop.Click(Page.CommandOptionOK);
-  }
-};
-
-}  // namespace
+using vantor::test::Texts;
 
 TEST_CASE("the run value is written and deleted only when that changes something") {
-  Preferences preferences;
-  auto& shell = preferences.Services.ScriptShell;
-  const std::wstring written = std::wstring(L"write ") + RunValue + L"=C:\\Vantor\\Vantor.exe";
-  const std::wstring deleted = std::wstring(L"delete ") + RunValue;
-  const auto callsOf = [&](std::initializer_list<std::size_t> boxes) {
-    shell.RegistryCalls.clear();
-    preferences.Change(boxes);
-    return shell.RegistryCalls;
-  };
-  CHECK(callsOf({0}) == Texts{written});
-  CHECK(callsOf({2}) == Texts{});
-  CHECK(callsOf({0}) == Texts{deleted});
-  shell.Registry[RunValue] = L"C:\\Vantor\\Vantor.exe";
-  CHECK(callsOf({0}) == Texts{});
-  shell.Registry.clear();
-  CHECK(callsOf({0}) == Texts{});
-  shell.Registry[RunValue] = L"C:\\Old\\Vantor.exe";
-  CHECK(callsOf({0}) == Texts{written});
+  const std::wstring value = L"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run\\OrbelsLauncher";
+  const std::wstring file = L"C:\\Vantor\\Vantor.exe";
+  const struct {
+    std::wstring Before;
+    std::size_t Box;
+    Texts Done;
+  } rows[] = {{L"", 0, {L"write " + file}},
+              {file, 2, {}},
+              {file, 0, {L"delete " + value}},
+              {file, 0, {}},
+              {L"", 0, {}},
+              {L"C:\\Old.exe", 0, {L"write " + file}}};
+  vantor::test::StartedProgram program;
+  auto& page = program.Program.OptionsPage;
+  for (const auto& row : rows) {
+    CAPTURE(&row - rows);
+    program.Computer.Registry = {{value, row.Before}};
+    program.Computer.Started.clear();
+    program.Desktop.Press(vantor::form::Key::F6);
+    program.Desktop.Click(page.CheckOptionMain[row.Box]);
+    program.Desktop.Click(page.CommandOptionOK);
+    CHECK(program.Computer.Started == row.Done);
+  }
 }

@@ -2,22 +2,18 @@
 
 #include <doctest/doctest.h>
 
-#include "fake/FakeServices.h"
-#include "form/Headless.h"
-#include "start/Program.h"
+#include "fake/TestProgram.h"
 
 namespace vantor::start {
-namespace {
 
-using Texts = std::vector<std::wstring>;
+using test::Texts;
 
 TEST_CASE("the maker's programs are found beside this one and in the drive's root, each once, the help last") {
-  struct Row {
+  const struct {
     std::wstring Program;
     Texts Files;
     Texts Expected;  // the paths; each one's name is that of its file
-  };
-  const Row rows[] = {
+  } rows[] = {
       {L"C:\\Vantor", {}, {}},
       {L"C:\\Vantor", {L"C:\\Orbel\\Draw\\Other.exe", L"C:\\Orbel\\Draw.exe", L"C:\\Orbels\\Draw\\Draw.exe"}, {}},
       {L"C:\\Vantor",
@@ -33,29 +29,20 @@ TEST_CASE("the maker's programs are found beside this one and in the drive's roo
       {L"C:\\Apps\\MyOrbel\\Vantor", {L"C:\\Apps\\MyOrbel\\Draw\\Draw.exe"}, {}},
       {L"C:\\", {L"C:\\VantorHelp.exe", L"C:\\Draw\\Draw.exe"}, {L"C:\\VantorHelp.exe"}},
   };
-  for (const Row& row : rows) {
-    CAPTURE(row.Program);
-    fake::FakeServices services;
-    services.System.Program = row.Program;
-    for (const std::wstring& file : row.Files) services.Disk.AddFile(file);
-    form::Headless desktop;
-    Program program(desktop, services.All());
-    program.frmMove.Load();
+  for (const auto& row : rows) {
+    CAPTURE(&row - rows);
+    test::TestProgram program;
+    program.Computer.Home = row.Program;
+    for (const std::wstring& file : row.Files) program.Computer.Disk.AddFile(file);
+    program.Program.frmMove.Load();
     Texts paths;
-    for (const Companion& companion : FindCompanions(services.All(), program.Environment)) {
+    for (const Companion& companion : FindCompanions(program.Computer.Services(), program.Program.Environment)) {
       paths.push_back(companion.Path);
       CHECK(companion.Path.ends_with(L'\\' + companion.Name + L".exe"));
     }
     CHECK(paths == row.Expected);
-    CHECK(services.FileSystem.OpenObjects == 0);
+    CHECK(program.Computer.Open == 0);
   }
-  fake::FakeServices services;
-  Environment environment;
-  environment.ProgramFolder = L"C:\\Vantor\\";
-  environment.DriveRoot = L"C:\\";
-  CHECK(FindCompanions(services.All(), environment).empty());
-  CHECK(services.FileSystem.ExistenceChecks == 1);
 }
 
-}  // namespace
 }  // namespace vantor::start

@@ -1,0 +1,257 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "fake/FakeDisk.h"
+#include "service/Services.h"
+
+namespace vantor::fake {
+
+enum class Outcome { Works, Fails, Throws };
+
+/// A computer in memory, which answers for all services and keeps what it was asked to do. It has a disk D:, a stick
+/// E:, a network drive N: and an empty CD drive R:, and window 1 is that of a program that runs from C:.
+class Computer : public service::DataFiles,
+                 public service::FileSystem,
+                 public service::Language,
+                 public service::Management,
+                 public service::Programs,
+                 public service::ScriptShell,
+                 public service::System,
+                 public service::Processes,
+                 public service::WindowPicker {
+ public:
+  using Text = std::wstring_view;
+  using Texts = std::vector<std::wstring>;
+  using Values = std::map<std::wstring, std::wstring, std::less<>>;
+
+  Computer() {
+    Disk.AddDrive(L'D', 2);
+    Disk.AddDrive(L'E', 1, L"STICK");
+    Disk.AddDrive(L'N', 3);
+    Disk.AddDrive(L'R', 4).Ready = false;
+    for (const auto* root : {L"C:", L"D:", L"E:", L"N:"}) Disk.AddFile(root + std::wstring(L"\\Work\\Tool.EXE"));
+    Disk.AddFile(L"C:\\Work\\notes.txt");
+    Disk.AddFolder(Home);
+    AddProcess(7, "tool.exe");
+  }
+
+  [[nodiscard]] service::Services Services() { return {*this, *this, *this, *this, *this, *this, *this, *this, *this}; }
+
+  /// Whether a call fails in the way its interface speaks of, or throws what nobody expected.
+  std::function<Outcome(std::string_view call)> Decide;
+  /// From now on this is the outcome of the calls of one name; of all for "".
+  void Let(std::string_view name, Outcome outcome) {
+    Decide = [=](std::string_view call) { return name.empty() || call == name ? outcome : Outcome::Works; };
+  }
+
+  FakeDisk Disk;
+  std::wstring Home = L"C:\\Vantor";  // where the program is
+  std::wstring Windows = L"C:\\WINDOWS";
+  bool Previous = false;  // another copy runs
+  Texts Titles;
+  service::DiskIdentity Identity{3, L"1A2B3C4D", 80023715840.0};
+  Values Specials{{L"MyDocuments", L"C:\\Documents"}, {L"SendTo", L"C:\\Send"}, {L"Desktop", L"C:\\Work"}};
+  Values Registry;
+  std::vector<service::Shortcut> Shortcuts;
+  Texts Started;  // "run …", "shell …", "mail …", "call …", "write …", "delete …"
+
+  std::vector<service::ProcessEntry> Entries;
+  std::vector<service::ManagedProcess> Managed{{0, std::nullopt}, {7, L"C:\\Work\\Tool.EXE"}, {8, std::nullopt}};
+  std::wstring ImagePath;  // of process 7, as Windows tells it
+  std::map<service::WindowId, std::uint32_t> Owners{{service::WindowId{1}, 7}, {service::WindowId{2}, 8}};
+  service::WindowId UnderCursor{1};
+  service::ScreenPoint Cursor;
+  bool ButtonDown = true;
+  service::WindowId Captured{};
+  service::WindowId Marked{};
+  bool Target = false;
+  int Open = 0;  // objects and snapshots
+
+  void AddProcess(std::uint32_t id, std::string_view name) {
+    service::ProcessEntry& entry = Entries.emplace_back();
+    entry.th32ProcessID = id;
+    std::copy(name.begin(), name.end(), entry.szExeFile.begin());
+  }
+
+  // --- files
+
+  std::optional<std::string> Read(Text path) override {
+    if (Fails(__func__) || !Disk.HasFile(path)) return std::nullopt;
+    return Disk.Bytes(path);
+  }
+  bool Write(Text path, std::string_view bytes) override { return !Fails(__func__) && Disk.Write(path, bytes, false); }
+  bool WriteInPlace(Text path, std::string_view bytes) override {
+    if (!Fails(__func__)) return Disk.Write(path, bytes, true);
+    Disk.Write(path, bytes.substr(0, bytes.size() / 2), true);
+    return false;
+  }
+  bool Remove(Text path) override { return !Fails(__func__) && Disk.RemoveFile(path); }
+  bool MakeFolder(Text path) override { return !Fails(__func__) && Disk.MakeFolder(path); }
+  bool FolderIsEmpty(Text path) override { return !Fails(__func__) && Disk.In(path).empty(); }
+
+  bool Available() override { return !Fails(__func__); }
+  std::optional<int> DriveType(Text root) override {
+    if (root.starts_with(L"\\\\")) return 3;
+    if (Fails(__func__) || Disk.DriveOf(root) == nullptr) return std::nullopt;
+    return Disk.DriveOf(root)->Type;
+  }
+  bool FileExists(Text path) override { return !Fails(__func__) && Disk.HasFile(path); }
+  bool FolderExists(Text path) override { return !Fails(__func__) && Disk.HasFolder(path); }
+  std::wstring ExtensionName(Text path) override {
+    const auto dot = path.rfind(L'.');
+    return Fails(__func__) || dot == path.npos ? L"" : std::wstring(path.substr(dot + 1));
+  }
+  std::vector<service::Drive> Drives() override {
+    std::vector<service::Drive> drives;
+    if (Fails(__func__)) return drives;
+    for (const auto& [letter, drive] : Disk.Drives())
+      drives.push_back({letter, drive.Type, drive.Ready ? drive.Label : L""});
+    return drives;
+  }
+  bool DriveReady(Text path) override { return !Fails(__func__) && Disk.HasFolder(path.substr(0, 2)); }
+  Texts Folders(Text path) override { return Fails(__func__) ? Texts() : Names(path, true, L""); }
+  Texts Files(Text path, Text pattern) override {
+    return Fails(__func__) ? Texts() : Names(path, false, pattern == L"*.*" ? L"" : Lower(pattern.substr(1)));
+  }
+  void BeginMany() override { ++Open; }
+  void EndMany() override { --Open; }
+
+  // --- letters: those of Latin-1 and Russian; a code page of Latin-1 and the euro
+
+  std::wstring Lower(Text text) const override {
+    std::wstring lower(text);
+    for (wchar_t& c : lower)
+      if (IsUpper(c)) c = static_cast<wchar_t>(c + 32);
+    return lower;
+  }
+  std::wstring Upper(Text text) const override {
+    std::wstring upper(text);
+    for (wchar_t& c : upper)
+      if (IsUpper(c - 32)) c = static_cast<wchar_t>(c - 32);
+    return upper;
+  }
+  std::wstring FromCodePage(std::string_view bytes) const override {
+    std::wstring text;
+    for (const char byte : bytes) {
+      const auto c = static_cast<wchar_t>(static_cast<unsigned char>(byte));
+      text += c < 0x80 || c >= 0xA0 ? c : c == 0x80 ? L'\u20AC' : L'\uFFFD';
+    }
+    return text;
+  }
+  std::optional<std::string> ToCodePage(Text text) const override {
+    std::string bytes;
+    for (const wchar_t c : text) bytes += static_cast<char>(c == L'\u20AC' ? 0x80 : c);
+    if (Fails(__func__) || FromCodePage(bytes) != text) return std::nullopt;
+    return bytes;
+  }
+
+  // --- what is asked of the system
+
+  std::optional<service::DiskIdentity> ReadDiskIdentity() override {
+    if (Fails(__func__)) return std::nullopt;
+    return Identity;
+  }
+  std::wstring WindowsDirectory() override { return Fails(__func__) ? L"" : Windows; }
+  std::wstring ProgramFolder() override { return Home; }
+  bool PreviousInstance() override { return !Fails(__func__) && Previous; }
+  void SetTitle(Text title) override { Titles.emplace_back(title); }
+  bool ActivateInstance(Text title) override { return !Fails(__func__) && Previous && title == L"Vantor Orbel"; }
+
+  bool StartCommandLine(Text line) override { return Note(L"run ", line) && !Fails(__func__); }
+  int ShellOpen(Text file) override { return Note(L"mail ", file) && Fails(__func__) ? 32 : 33; }
+  int RequestMakeCall(Text number, Text application) override {
+    return Note(L"call ", std::wstring(number).append(L"|").append(application)) && Fails(__func__) ? -9 : 0;
+  }
+  bool Run(Text target) override { return Note(L"shell ", target) && !Fails(__func__); }
+  std::wstring SpecialFolder(Text name) override { return Fails(__func__) ? L"" : Find(Specials, name); }
+  std::wstring RegistryRead(Text name) override { return Fails(__func__) ? L"" : Find(Registry, name); }
+  void RegistryWrite(Text name, Text value) override {
+    Note(L"write ", value);
+    if (!Fails(__func__)) Registry[std::wstring(name)] = value;
+  }
+  void RegistryDelete(Text name) override {
+    Note(L"delete ", name);
+    if (!Fails(__func__)) Registry.erase(std::wstring(name));
+  }
+  bool SaveShortcut(const service::Shortcut& shortcut) override {
+    if (Fails(__func__)) return false;
+    Shortcuts.push_back(shortcut);
+    return true;
+  }
+
+  // --- processes and windows
+
+  service::SnapshotId CreateSnapshot(std::uint32_t /*flags*/, std::uint32_t /*processId*/) override {
+    if (Fails(__func__)) return service::SnapshotId::None;
+    ++Open;
+    next_ = 0;
+    return service::SnapshotId{77};
+  }
+  bool First(service::SnapshotId snapshot, service::ProcessEntry& entry) override {
+    return !Fails(__func__) && Next(snapshot, entry);
+  }
+  bool Next(service::SnapshotId /*snapshot*/, service::ProcessEntry& entry) override {
+    if (Fails(__func__) || next_ == Entries.size() || entry.dwSize != service::ProcessEntrySize) return false;
+    entry = Entries[next_++];
+    entry.dwSize = service::ProcessEntrySize;
+    return true;
+  }
+  void CloseSnapshot(service::SnapshotId /*snapshot*/) override { --Open; }
+  std::optional<std::vector<service::ManagedProcess>> ManagedProcesses() override {
+    if (Fails(__func__)) return std::nullopt;
+    return Managed;
+  }
+  std::wstring ImageName(std::uint32_t processId) override {
+    return Fails(__func__) || processId != 7 ? L"" : ImagePath;
+  }
+  void SetCapture(service::WindowId window) override {
+    if (!Fails(__func__)) Captured = window;
+  }
+  service::WindowId GetCapture() override { return Fails(__func__) ? service::WindowId::None : Captured; }
+  void ReleaseCapture() override { Captured = service::WindowId::None; }
+  service::ScreenPoint GetCursorPos() override { return Cursor; }
+  service::WindowId WindowFromPoint(service::ScreenPoint /*point*/) override {
+    return Fails(__func__) ? service::WindowId::None : UnderCursor;
+  }
+  bool LeftButtonDown() override { return !Fails(__func__) && ButtonDown; }
+  std::uint32_t ProcessOfWindow(service::WindowId window) override {
+    return Fails(__func__) || Owners.count(window) == 0 ? 0 : Owners.at(window);
+  }
+  void ShowTarget(bool target) override { Target = target; }
+  void Mark(service::WindowId window) override { Marked = window; }
+
+ private:
+  bool Fails(const char* call) const {
+    const Outcome outcome = Decide ? Decide(call) : Outcome::Works;
+    if (outcome == Outcome::Throws) throw std::runtime_error(call);
+    return outcome == Outcome::Fails;
+  }
+  bool Note(Text how, Text what) {
+    Started.push_back(std::wstring(how).append(what));
+    return true;
+  }
+  static bool IsUpper(int c) {
+    return (c >= L'A' && c <= L'Z') || (c >= 0xC0 && c <= 0xDE && c != 0xD7) || (c >= 0x410 && c <= 0x42F);
+  }
+  static std::wstring Find(const Values& values, Text name) {
+    const auto found = values.find(name);
+    return found == values.end() ? L"" : found->second;
+  }
+  Texts Names(Text folder, bool folders, std::wstring_view ending) const {
+    Texts names;
+    for (const FakeDisk::Entry* entry : Disk.In(folder)) {
+      if (entry->IsFolder != folders || entry->Hidden || !Lower(entry->Path).ends_with(ending)) continue;
+      names.push_back(entry->Path.substr(entry->Path.rfind(L'\\') + 1));
+    }
+    return names;
+  }
+
+  std::size_t next_ = 0;
+};
+
+}  // namespace vantor::fake

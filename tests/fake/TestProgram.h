@@ -1,0 +1,85 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "fake/Computer.h"
+#include "form/Headless.h"
+#include "message/frmMessage.h"
+#include "start/Program.h"
+
+namespace vantor::test {
+
+using Texts = std::vector<std::wstring>;
+
+/// A group's items as "name>target" each.
+inline Texts ItemsOf(const list::GroupBoxes& boxes) {
+  Texts items;
+  for (int i = 0; i < boxes.Name.ListCount(); ++i) items.push_back(boxes.Name.List(i) + L">" + boxes.Path.List(i));
+  return items;
+}
+inline Texts ItemsOf(const list::LaunchList& list) {
+  Texts all;
+  for (const list::LaunchGroup group : list::LaunchGroups) {
+    for (std::wstring& item : ItemsOf(list.Of(group))) all.push_back(std::move(item));
+  }
+  return all;
+}
+
+/// The whole program on a computer of its own, on which it was used before, from C: in fixed-disk mode.
+struct TestProgram {
+  fake::Computer Computer;
+  form::Headless Desktop;
+  start::Program Program{Desktop, Computer.Services()};
+  bar::frmMain& Main = Program.frmMain;
+  list::frmChoose& Choose = Program.frmChoose;
+  Texts Told;  // the texts of the messages
+
+  explicit TestProgram(std::string_view optionMask = "2", std::string_view place = "0\r\n0") {
+    Computer.Disk.AddFile(L"C:\\Vantor\\Vantor\\Set.Orbel", std::string(optionMask)
+                                                                .append("\r\n-1\r\n-1\r\n-1\r\n-1\r\n")
+                                                                .append(place)
+                                                                .append("\r\n\"\"\r\n-1\r\n-1\r\n-1\r\n"));
+    Computer.Disk.AddFile(L"C:\\Vantor\\Vantor\\User.Orbel", "\"Ada\"\r\n");
+  }
+  /// Whether the bar is there then.
+  bool Start() {
+    Program.Main();
+    return Main.Visible() && !Desktop.Ended();
+  }
+
+  void Add(list::LaunchGroup group, std::wstring_view name, std::wstring_view path) {
+    Choose.List.Of(group).AddItem(name, path);
+  }
+  /// Types a line in the place of what stands in the box.
+  void Type(std::wstring_view line) {
+    Main.TextMain.SetText(L"");
+    Main.TextMain.SetFocus();
+    Desktop.Type(line);
+  }
+  /// The user reads the next message, does this, and closes it if it is open still.
+  void Expect(std::function<void(message::frmMessage&)> act = {}) {
+    Desktop.WhenModal([this, act = std::move(act)](form::Form& form) {
+      auto& dialog = dynamic_cast<message::frmMessage&>(form);
+      Told.push_back(dialog.LabelMessage.Caption());
+      if (act) act(dialog);
+      if (dialog.Visible()) dialog.InputClose();
+    });
+  }
+  void ExpectTyping(std::wstring_view answer) {
+    Expect([this, answer](auto& /*dialog*/) { Desktop.Type(answer); });
+  }
+};
+
+/// The same after its start.
+struct StartedProgram : TestProgram {
+  explicit StartedProgram(std::string_view optionMask = "2", std::string_view place = "0\r\n0")
+      : TestProgram(optionMask, place) {
+    Start();
+  }
+};
+
+}  // namespace vantor::test
