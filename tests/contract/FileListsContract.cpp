@@ -6,90 +6,68 @@
 #include "contract/Person.h"
 #include "fake/Computer.h"
 #include "form/FileLists.h"
-#include "form/Form.h"
 
 using namespace vantor::form;
 using vantor::contract::MakePerson;
-
-namespace {
-
-class BrowseForm : public Form {
- public:
-  BrowseForm(UserInterface& ui, vantor::service::FileSystem& files)
-      : Form(ui, L"BrowseForm"), Drive(*this, L"Drive", files), Dir(*this, L"Dir", files), File(*this, L"File", files) {
-    SetBounds({1500, 1500, 6000, 6000});
-    Drive.SetBounds({150, 150, 4500, 450});
-    Dir.SetBounds({150, 750, 4500, 2000});
-    File.SetBounds({150, 3000, 4500, 2000});
-  }
-
-  DriveList Drive;
-  FolderList Dir;
-  FileList File;
-};
-
-}  // namespace
+using Texts = std::vector<std::wstring>;
 
 TEST_CASE("the drive, folder and file lists walk a disk by keyboard and by the program") {
   vantor::fake::Computer computer;
   vantor::fake::FakeDisk& disk = computer.Disk;
   disk.AddDrive(L'A', 1).Ready = false;
   disk.AddDrive(L'E', 1, L"STICK");
-  disk.AddFile(L"C:\\Tools\\beta.txt");
-  disk.AddFile(L"C:\\Tools\\Alpha.exe");
-  disk.AddFile(L"C:\\Tools\\Deep\\x.exe");
-  disk.AddFile(L"C:\\Tools\\Old\\y.exe");
+  for (const wchar_t* file : {L"beta.txt", L"Alpha.exe", L"Deep\\x.exe", L"Old\\y.exe"})
+    disk.AddFile(std::wstring(L"C:\\Tools\\") + file);
   const auto someone = MakePerson();
-  BrowseForm form(someone->Ui(), computer);
-  std::vector<std::wstring> told;
-  form.Drive.Change = [&] { told.push_back(form.Drive.Drive()); };
-  form.Dir.Change = [&] { told.push_back(form.Dir.Path()); };
-  form.Drive.Refresh();
+  Form form(someone->Ui(), L"BrowseForm");
+  DriveList drives(form, L"Drive", computer);
+  FolderList folders(form, L"Dir", computer);
+  FileList list(form, L"File", computer);
+  form.SetBounds({1500, 1500, 6000, 6000});
+  drives.SetBounds({150, 150, 4500, 450});
+  folders.SetBounds({150, 750, 4500, 2000});
+  list.SetBounds({150, 3000, 4500, 2000});
+  Texts told;
+  drives.Change = [&] { told.push_back(drives.Drive()); };
+  folders.Change = [&] { told.push_back(folders.Path()); };
+  folders.Unreachable = [&] { told.emplace_back(L"unreachable"); };
+  drives.Refresh();
   form.Show();
 
-  form.Drive.SetDrive(L"E:\\Sub");
-  form.Drive.SetDrive(L"e:");
-  CHECK(someone->ShownText(form.Drive) == L"e: [STICK]");
-  CHECK(told == std::vector<std::wstring>{L"e:"});
-  told.clear();
+  drives.SetDrive(L"E:\\Sub");
+  drives.SetDrive(L"e:");
+  CHECK(someone->ShownText(drives) == L"e: [STICK]");
+  CHECK(folders.SetPath(L"c:\\Tools\\"));
+  CHECK(folders.SetPath(L"C:\\Tools"));
+  CHECK_FALSE(folders.SetPath(L"A:\\"));
+  CHECK_FALSE(folders.SetPath(L"C:\\Nowhere"));
+  CHECK(folders.Entries() == Texts{L"C:\\", L"Tools", L"Deep", L"Old"});
+  CHECK(folders.Text() == L"Tools");
+  CHECK(folders.LevelOf(3) == 2);
 
-  CHECK(form.Dir.SetPath(L"c:\\Tools\\"));
-  CHECK(form.Dir.SetPath(L"C:\\Tools"));
-  CHECK_FALSE(form.Dir.SetPath(L"A:\\"));
-  CHECK_FALSE(form.Dir.SetPath(L"C:\\Nowhere"));
-  CHECK(told == std::vector<std::wstring>{L"C:\\Tools"});
-  CHECK(form.Dir.Entries() == std::vector<std::wstring>{L"C:\\", L"Tools", L"Deep", L"Old"});
-  CHECK(form.Dir.Text() == L"Tools");
-  CHECK(form.Dir.LevelOf(3) == 2);
-
-  form.Dir.SetFocus();
-  someone->Press(Key::Down);
-  someone->Press(Key::Down);
-  someone->Press(Key::Enter);
-  CHECK(form.Dir.Path() == L"C:\\Tools\\Old");
-  someone->Press(Key::Up);
-  someone->Press(Key::Up);
-  someone->Press(Key::Enter);
-  CHECK(form.Dir.Path() == L"C:\\");
-  CHECK(form.Dir.PathOf(1) == L"C:\\Tools");
-  told.clear();
-  form.Dir.Unreachable = [&] { told.emplace_back(L"unreachable"); };
+  const auto enter = [&](Key way) {
+    someone->Press(way);
+    someone->Press(way);
+    someone->Press(Key::Enter);
+  };
+  folders.SetFocus();
+  enter(Key::Down);
+  enter(Key::Up);
+  CHECK(folders.PathOf(1) == L"C:\\Tools");
+  CHECK(folders.SetPath(L"C:\\Tools"));
   disk.Remove(L"C:\\Tools\\Old");
-  CHECK(form.Dir.SetPath(L"C:\\Tools"));
-  disk.Remove(L"C:\\Tools\\Deep");
-  someone->Press(Key::Down);
-  someone->Press(Key::Enter);
-  CHECK(told == std::vector<std::wstring>{L"C:\\Tools", L"unreachable"});
-  CHECK(form.Dir.Path() == L"C:\\Tools");
+  enter(Key::Down);
+  CHECK(told == Texts{L"e:", L"C:\\Tools", L"C:\\Tools\\Old", L"C:\\", L"C:\\Tools", L"unreachable"});
+  CHECK(folders.Path() == L"C:\\Tools");
 
   int clicks = 0;
-  form.File.Click = [&] { ++clicks; };
-  form.File.SetPath(L"C:\\Tools");
-  CHECK(form.File.Entries() == std::vector<std::wstring>{L"Alpha.exe", L"beta.txt"});
-  form.File.SetListIndex(1);
-  form.File.SetPattern(L"*.exe");
-  CHECK(form.File.Entries() == std::vector<std::wstring>{L"Alpha.exe"});
-  CHECK(form.File.ListIndex() == -1);
+  list.Click = [&] { ++clicks; };
+  list.SetPath(L"C:\\Tools");
+  CHECK(list.Entries() == Texts{L"Alpha.exe", L"beta.txt"});
+  list.SetListIndex(1);
+  list.SetPattern(L"*.exe");
+  CHECK(list.Entries() == Texts{L"Alpha.exe"});
+  CHECK(list.ListIndex() == -1);
   CHECK(clicks == 1);
   form.Unload();
 }

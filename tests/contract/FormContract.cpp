@@ -38,127 +38,107 @@ class RecordingForm : public Form {
   std::string& told_;
 };
 
+/// Somebody with a form, and one more for what opens over it.
+struct Stage {
+  std::unique_ptr<vantor::contract::Person> Someone = MakePerson();
+  std::string Told;
+  RecordingForm First{Someone->Ui(), Told};
+  RecordingForm Second{Someone->Ui(), Told};
+
+  void AwaitFocus(const Control& control) const {
+    REQUIRE(Someone->WaitUntil([&] { return Someone->IsShownFocused(control); }));
+  }
+};
+
 }  // namespace
 
-TEST_CASE("a form is loaded on first use, hidden and shown without a second load, and loaded anew after an unload") {
-  const auto someone = MakePerson();
-  std::string told;
-  RecordingForm form(someone->Ui(), told);
+TEST_CASE("a form is loaded once until its unload, hidden and shown, and sees the function keys of every control") {
+  Stage stage;
+  RecordingForm& form = stage.First;
   form.Text.SetText(L"kept");
-  CHECK(told.empty());
-  CHECK_FALSE(someone->IsShown(form));
+  CHECK(stage.Told.empty());
+  CHECK_FALSE(stage.Someone->IsShown(form));
   form.Show();
   form.Hide();
-  CHECK_FALSE(someone->IsShown(form));
+  CHECK_FALSE(stage.Someone->IsShown(form));
   form.Show();
-  CHECK(someone->WaitUntil([&] { return someone->IsShown(form); }));
-  CHECK(someone->ShownText(form.Text) == L"kept");
-  CHECK(told == "load ");
-  form.Unload();
-  form.Unload();
-  CHECK(told == "load unload ");
-  CHECK_FALSE(someone->IsShown(form));
-  form.Show();
-  CHECK(someone->WaitUntil([&] { return someone->IsShownFocused(form.Text); }));
-  CHECK(told == "load unload load ");
-  form.Unload();
-}
-
-TEST_CASE("a form sees the function keys whichever control has the focus") {
-  const auto someone = MakePerson();
-  std::string told;
-  RecordingForm form(someone->Ui(), told);
-  form.Show();
-  REQUIRE(someone->WaitUntil([&] { return someone->IsShownFocused(form.Text); }));
-  told.clear();
-  someone->Press(Key::F1);
+  stage.AwaitFocus(form.Text);
+  CHECK(stage.Someone->ShownText(form.Text) == L"kept");
+  stage.Someone->Press(Key::F1);
   form.Close.SetFocus();
-  someone->Press(Key::F10);
-  someone->Press(Key::F12);
+  stage.Someone->Press(Key::F10);
   form.List.AddItem(L"one");
   form.List.SetFocus();
-  someone->Press(Key::F4);  // drops lists elsewhere
-  someone->Press(Key::F2);
-  CHECK(told == "F1 F10 F12 F4 F2 ");
+  stage.Someone->Press(Key::F4);  // drops lists elsewhere
+  stage.Someone->Press(Key::F12);
+  form.Unload();
+  form.Unload();
+  CHECK_FALSE(stage.Someone->IsShown(form));
+  form.Show();
+  stage.AwaitFocus(form.List);
+  CHECK(stage.Told == "load F1 F10 F4 F12 unload load ");
   form.Unload();
 }
 
 TEST_CASE("a modal form keeps the user from the others until it goes, also when it unloads itself") {
-  const auto someone = MakePerson();
-  std::string told;
-  RecordingForm behind(someone->Ui(), told);
-  RecordingForm modal(someone->Ui(), told);
+  Stage stage;
+  RecordingForm& behind = stage.First;
+  RecordingForm& modal = stage.Second;
   int behindClicks = 0;
   behind.Close.Click = [&] { ++behindClicks; };
   modal.Close.Click = [&] { modal.Unload(); };
   modal.SetBounds({1500, 4500, 4500, 1500});
   behind.Show();
-  REQUIRE(someone->WaitUntil([&] { return someone->IsShownFocused(behind.Text); }));
-
-  someone->WhenModal([&](Form& open) {
+  stage.AwaitFocus(behind.Text);
+  stage.Someone->WhenModal([&](Form& open) {
     CHECK(&open == &modal);
-    CHECK(someone->WaitUntil([&] { return someone->IsShownFocused(modal.Text); }));
-    someone->Click(behind.Close);
+    stage.AwaitFocus(modal.Text);
+    stage.Someone->Click(behind.Close);
     CHECK(behindClicks == 0);
-    someone->Type(L"x");
-    someone->Click(modal.Close);
+    stage.Someone->Type(L"x");
+    stage.Someone->Click(modal.Close);
   });
   modal.ShowModal();
 
   CHECK(modal.Text.Text() == L"x");
   CHECK(behind.Text.Text().empty());
-  CHECK_FALSE(someone->IsShown(modal));
-  CHECK(someone->WaitUntil([&] { return someone->IsShownFocused(behind.Text); }));
-  someone->Click(behind.Close);
+  CHECK_FALSE(stage.Someone->IsShown(modal));
+  stage.AwaitFocus(behind.Text);
+  stage.Someone->Click(behind.Close);
   CHECK(behindClicks == 1);
   behind.Unload();
 }
 
 TEST_CASE("a timer ticks every interval while it is enabled, and not while its own tick is being handled") {
-  const auto someone = MakePerson();
-  std::string told;
-  RecordingForm form(someone->Ui(), told);
+  Stage stage;
+  Timer& clock = stage.First.Clock;
+  Timer& other = stage.Second.Clock;
   int ticks = 0;
-  form.Clock.Tick = [&] {
-    if (++ticks == 3) form.Clock.SetEnabled(false);
-  };
-  form.Clock.SetEnabled(true);
-  CHECK(someone->WaitUntil([&] { return ticks == 3; }));
-  CHECK_FALSE(form.Clock.Enabled());
-
-  RecordingForm other(someone->Ui(), told);
-  bool overlap = false;
-  bool inside = false;
-  form.Clock.Tick = [&] {
-    overlap = overlap || inside;
-    inside = true;
-    int others = 0;
-    other.Clock.Tick = [&] { ++others; };
-    other.Clock.SetEnabled(true);
-    someone->WhenModal([&](Form& open) {
-      CHECK(someone->WaitUntil([&] { return others >= 3; }));
+  int others = 0;
+  other.Tick = [&] { ++others; };
+  clock.Tick = [&] {
+    if (++ticks < 3) return;
+    // Three times as long as the other's interval: this one's would come, too.
+    stage.Someone->WhenModal([&](Form& open) {
+      CHECK(stage.Someone->WaitUntil([&] { return others >= 3; }));
       open.Unload();
     });
-    other.ShowModal();
-    other.Clock.SetEnabled(false);
-    form.Clock.SetEnabled(false);
-    inside = false;
-    ++ticks;
+    other.SetEnabled(true);
+    stage.Second.ShowModal();
+    other.SetEnabled(false);
+    CHECK(ticks == 3);
+    clock.SetEnabled(false);
   };
-  form.Clock.SetEnabled(true);
-  CHECK(someone->WaitUntil([&] { return ticks == 4; }));
-  CHECK_FALSE(overlap);
+  clock.SetEnabled(true);
+  CHECK(stage.Someone->WaitUntil([&] { return ticks == 3 && !clock.Enabled(); }));
 }
 
 TEST_CASE("the end of the program takes all windows away and asks nobody") {
-  const auto someone = MakePerson();
-  std::string told;
-  RecordingForm form(someone->Ui(), told);
-  RecordingForm modal(someone->Ui(), told);
-  form.Show();
-  someone->WhenModal([&](Form&) { someone->Ui().End(); });
-  modal.ShowModal();
-  CHECK(told == "load load ");
-  CHECK_FALSE(someone->IsShown(form));
-  CHECK_FALSE(someone->IsShown(modal));
+  Stage stage;
+  stage.First.Show();
+  stage.Someone->WhenModal([&](Form&) { stage.Someone->Ui().End(); });
+  stage.Second.ShowModal();
+  CHECK(stage.Told == "load load ");
+  CHECK_FALSE(stage.Someone->IsShown(stage.First));
+  CHECK_FALSE(stage.Someone->IsShown(stage.Second));
 }

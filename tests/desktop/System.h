@@ -49,7 +49,10 @@ class Shortcut {
     int icon = -1;
     WORD hotkey = 0;
     int show = 0;
-    link_->GetPath(text[0], MAX_PATH, nullptr, 0);
+    // By its identity, which has all letters.
+    PIDLIST_ABSOLUTE target = nullptr;
+    if (link_->GetIDList(&target) == S_OK) SHGetPathFromIDListW(target, text[0]);
+    CoTaskMemFree(target);
     link_->GetWorkingDirectory(text[1], MAX_PATH);
     link_->GetIconLocation(text[2], MAX_PATH, &icon);
     link_->GetDescription(text[3], MAX_PATH);

@@ -2,12 +2,10 @@
 
 #include <shlobj.h>
 
-#include <cstring>
-
 #include "TestFolder.h"
 #include "win32/Com.h"
 #include "win32/DropTarget.h"
-#include "win32/ShortcutFile.h"
+#include "win32/Handle.h"
 
 using namespace vantor::win32;
 
@@ -60,21 +58,6 @@ TEST_CASE("files that are dropped on a window arrive, those it does not want don
   CHECK(taken == std::vector<std::wstring>{path});
   accepts = false;
   CHECK(drop(DROPEFFECT_LINK) == DROPEFFECT_NONE);
-}
-
-TEST_CASE("a shortcut stands for its target as long as that is there") {
-  const OleMember ole;
-  const TestFolder folder;
-  vantor::service::Shortcut shortcut;
-  shortcut.File = folder / L"link.LNK";
-  shortcut.TargetPath = folder.Make(L"target.exe");
-  WriteShortcutFile(shortcut);
-  CHECK(ShortcutTarget(shortcut.File) == shortcut.TargetPath);
-  CHECK(ShortcutTarget(shortcut.TargetPath) == shortcut.TargetPath);
-  DeleteFileW(shortcut.TargetPath.c_str());
-  CHECK(ShortcutTarget(shortcut.File) == shortcut.File);
-  const std::wstring broken = folder.Make(L"broken.lnk", "no shortcut");
-  CHECK(ShortcutTarget(broken) == broken);
 }
 
 TEST_CASE("a web link that is a file stands for its address") {

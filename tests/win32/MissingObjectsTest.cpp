@@ -36,13 +36,10 @@ class Without {
   wchar_t old_[64] = L"";
 };
 
-/// Only on the test desktop, whose registry is thrown away.
-bool OnTestDesktop() { return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr; }
-
 }  // namespace
 
 TEST_CASE("without the scripting file system Windows is asked") {
-  if (!OnTestDesktop()) return;
+  SKIP_UNLESS(UnderWine(), "a registry of the test's own");
   const Without object(L"Scripting.FileSystemObject");
   Apartment com;
   FileSystem files(com);
@@ -60,7 +57,7 @@ TEST_CASE("without the scripting file system Windows is asked") {
 }
 
 TEST_CASE("without the scripting shell Windows does the same") {
-  if (!OnTestDesktop()) return;
+  SKIP_UNLESS(UnderWine(), "a registry of the test's own");
   const Without object(L"WScript.Shell");
   Apartment com;
   ScriptShell shell(com);
@@ -68,7 +65,7 @@ TEST_CASE("without the scripting shell Windows does the same") {
   const std::wstring ran = folder / L"ran.txt";
   SUBCASE("a document") { CHECK(shell.Run(folder.Make(L"my tool.cmd", "@echo ran>\"%~dp0ran.txt\"\r\n"))); }
   SUBCASE("a command line") { CHECK(shell.Run(L"cmd /c echo ran>\"" + ran + L"\"")); }
-  CHECK(Becomes([&] { return GetFileAttributesW(ran.c_str()) != INVALID_FILE_ATTRIBUTES; }));
+  CHECK(Eventually([&] { return std::filesystem::exists(ran); }));
   CHECK_FALSE(shell.Run(L"nosuchprogram"));
   CHECK(shell.SpecialFolder(L"SendTo").find(L":\\") == 1);
   shell.RegistryWrite(L"HKCU\\Software\\Vantor Test\\x", L"y");
@@ -81,13 +78,16 @@ TEST_CASE("without the scripting shell Windows does the same") {
   CHECK(shell.SaveShortcut(shortcut));
 }
 
-TEST_CASE("without the management service disk C: is the same disk") {
-  if (!OnTestDesktop()) return;
+TEST_CASE("disk C: tells who it is, the same each time, and without the management service") {
+  SKIP_UNLESS(UnderWine(), "a registry of the test's own");
   const auto told = Management().ReadDiskIdentity();
   const Without object(L"WinMgmts");
   const auto found = Management().ReadDiskIdentity();
   REQUIRE(told);
   REQUIRE(found);
+  CHECK(told->DriveType == 3);
+  CHECK(told->VolumeSerialNumber.size() == 8);
+  CHECK(told->Size > 1e6);
   CHECK(found->DriveType == told->DriveType);
   CHECK(found->VolumeSerialNumber == told->VolumeSerialNumber);
   CHECK(found->Size > 0);  // the test desktop's service has a size of its own making

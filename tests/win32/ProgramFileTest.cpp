@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <set>
+#include <cstring>
 #include <span>
 #include <string>
 #include <vector>
@@ -50,12 +50,6 @@ struct Image {
   }
 };
 
-std::string Upper(std::string text) {
-  std::ranges::transform(text, text.begin(),
-                         [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; });
-  return text;
-}
-
 /// The file's resources, without running it.
 struct Resources {
   HMODULE Module = LoadLibraryExW(ProgramPath().c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
@@ -96,16 +90,16 @@ TEST_CASE("the program file asks for the mitigations that its tool chain can giv
 
 TEST_CASE("the program starts with libraries that Windows takes from its own folder, whatever lies beside it") {
   // Of Windows' known libraries. The common controls come later, from Windows' store of them.
-  const std::set<std::string> known = {"ADVAPI32.DLL", "COMDLG32.DLL", "GDI32.DLL", "IMM32.DLL",
-                                       "KERNEL32.DLL", "MSVCRT.DLL",   "OLE32.DLL", "OLEAUT32.DLL",
-                                       "SHELL32.DLL",  "SHLWAPI.DLL",  "USER32.DLL"};
+  const char* const known[] = {"advapi32.dll", "comdlg32.dll", "gdi32.dll", "imm32.dll",
+                               "kernel32.dll", "msvcrt.dll",   "ole32.dll", "oleaut32.dll",
+                               "shell32.dll",  "shlwapi.dll",  "user32.dll"};
   const Image image;
   const DWORD imports = image.Directory(IMAGE_DIRECTORY_ENTRY_IMPORT).VirtualAddress;
   int count = 0;
   for (const auto* library = image.Loaded<IMAGE_IMPORT_DESCRIPTOR>(imports); library->Name != 0; ++library, ++count) {
-    const std::string name = image.Loaded<char>(library->Name);
+    const char* name = image.Loaded<char>(library->Name);
     CAPTURE(name);
-    CHECK(known.contains(Upper(name)));
+    CHECK(std::ranges::any_of(known, [name](const char* one) { return _stricmp(one, name) == 0; }));
   }
   CHECK(count >= 5);
 }
@@ -119,10 +113,7 @@ TEST_CASE("what is loaded later comes from Windows' folder alone too") {
   CHECK(usual != nullptr);
   FreeLibrary(usual);
   DeleteFileW(planted.c_str());
-
-  const HMODULE shell = vantor::win32::LoadSystemLibrary(L"shell32.dll");
-  CHECK(shell != nullptr);
-  FreeLibrary(shell);
+  CHECK(vantor::win32::LoadSystemLibrary(L"shell32.dll") != nullptr);
 }
 
 TEST_CASE("the manifests name what the program knows of Windows") {
@@ -136,17 +127,15 @@ TEST_CASE("the manifests name what the program knows of Windows") {
     CAPTURE(part);
     CHECK(manifest.find(part) != std::string::npos);
   }
-  // Windows would not start a program whose first one is not well made.
-  ACTCTXW what = {};
-  what.cbSize = sizeof what;
-  what.dwFlags = ACTCTX_FLAG_RESOURCE_NAME_VALID;
-  const std::wstring path = ProgramPath();
-  what.lpSource = path.c_str();
+  // Windows would not start a program whose first one is not well made; the program loads the second.
   for (const int id : {1, 2}) {
+    const std::wstring path = ProgramPath();
+    ACTCTXW what = {};
+    what.cbSize = sizeof what;
+    what.dwFlags = ACTCTX_FLAG_RESOURCE_NAME_VALID;
+    what.lpSource = path.c_str();
     what.lpResourceName = MAKEINTRESOURCEW(id);
-    const HANDLE context = CreateActCtxW(&what);
-    CHECK(context != INVALID_HANDLE_VALUE);
-    ReleaseActCtx(context);
+    CHECK(CreateActCtxW(&what) != INVALID_HANDLE_VALUE);
   }
 }
 
@@ -167,31 +156,16 @@ TEST_CASE("every field of the version resource is filled, and says one version")
   CHECK(value(L"OriginalFilename") == L"Vantor.exe");
   CHECK(L"Version " + value(L"ProductVersion") == vantor::start::VersionText);
   CHECK(value(L"FileVersion").starts_with(value(L"ProductVersion") + L"."));
-
-  void* fixed = nullptr;
-  UINT length = 0;
-  REQUIRE(VerQueryValueW(block.data(), L"\\", &fixed, &length) != FALSE);
-  const auto* numbers = static_cast<const VS_FIXEDFILEINFO*>(fixed);
-  for (const DWORD version : {numbers->dwFileVersionMS, numbers->dwProductVersionMS})
-    CHECK(std::to_wstring(HIWORD(version)) + L'.' + std::to_wstring(LOWORD(version)) == value(L"ProductVersion"));
 }
 
 TEST_CASE("the icon has a picture for every size that Windows shows it in, each with soft edges") {
-  const Resources resources;
-  const std::string group = resources.Bytes(1, RT_GROUP_ICON);
+  const std::string group = Resources().Bytes(1, RT_GROUP_ICON);
   constexpr std::size_t Header = 6;
   constexpr std::size_t Entry = 14;
   std::vector<int> sizes;
   for (std::size_t at = Header; at + Entry <= group.size(); at += Entry) {
-    const int size = static_cast<unsigned char>(group[at]);
-    sizes.push_back(size == 0 ? 256 : size);
+    sizes.push_back(static_cast<unsigned char>(group[at]));
     CHECK(group[at + 6] == 32);  // bits a pixel
-    const int id = static_cast<unsigned char>(group[at + 12]) + 256 * static_cast<unsigned char>(group[at + 13]);
-    std::string picture = resources.Bytes(id, RT_ICON);
-    const HICON icon = CreateIconFromResourceEx(reinterpret_cast<BYTE*>(picture.data()),
-                                                static_cast<DWORD>(picture.size()), TRUE, 0x30000, 0, 0, 0);
-    CHECK(icon != nullptr);
-    DestroyIcon(icon);
   }
-  CHECK(sizes == std::vector<int>{16, 20, 24, 32, 40, 48, 64, 256});
+  CHECK(sizes == std::vector<int>{16, 20, 24, 32, 40, 48, 64, 0});  // 0 for 256
 }

@@ -59,13 +59,6 @@ void CheckPixels(const SampleForm& sample, int dpi) {
   }
 }
 
-/// Windows tells a form that it has come to a screen of another resolution.
-void Tell(const SampleForm& sample, int dpi) {
-  RECT place;
-  GetWindowRect(WindowOf(sample), &place);
-  SendMessageW(WindowOf(sample), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&place));
-}
-
 }  // namespace
 
 TEST_CASE("a form that comes to a screen of another scale is laid out for it, with a title bar and without") {
@@ -75,7 +68,9 @@ TEST_CASE("a form that comes to a screen of another scale is laid out for it, wi
     sample.Show();
     const form::Rect bounds = sample.Bounds();
     for (const int dpi : {96, 192, 120, 144, 96}) {
-      Tell(sample, dpi);
+      RECT place;
+      GetWindowRect(WindowOf(sample), &place);
+      SendMessageW(WindowOf(sample), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&place));
       CheckPixels(sample, dpi);
     }
     CHECK(sample.Bounds() == bounds);
@@ -99,8 +94,7 @@ TEST_CASE("larger texts enlarge what holds them, as far as the screen allows, an
   ask(-18);
   CheckPixels(sample, 144);
   CHECK(Screens::MessageFont(144).lfHeight == -18);
-  const form::Rect screen = desktop.PrimaryScreen().Bounds;
-  CHECK(screen.Width == MulDiv(GetSystemMetrics(SM_CXSCREEN), 1440, 144));
+  CHECK(desktop.PrimaryScreen().Bounds.Width == MulDiv(GetSystemMetrics(SM_CXSCREEN), 1440, 144));
   ask(-200);
   const form::Rect smallest = desktop.PrimaryScreen().Bounds;
   CHECK(smallest.Width >= 11900);

@@ -4,9 +4,9 @@
 #include <exception>
 #include <stdexcept>
 #include <utility>
-#include <vector>
 
 #include "contract/Person.h"
+#include "desktop/Input.h"
 #include "form/Control.h"
 #include "win32/ControlWindow.h"
 #include "win32/WindowsDesktop.h"
@@ -27,27 +27,6 @@ HWND HandleOf(const form::Control& control) {
 HWND HandleOf(const form::Form& form) {
   const form::FormWindow* const window = form.Window();
   return window != nullptr ? static_cast<const win32::FormWindow*>(window)->Hwnd() : nullptr;
-}
-
-std::wstring TextOf(HWND window) {
-  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)), L'\0');
-  GetWindowTextW(window, text.data(), static_cast<int>(text.size()) + 1);
-  return text;
-}
-
-INPUT KeyInput(WORD key, bool up) {
-  INPUT input{};
-  input.type = INPUT_KEYBOARD;
-  input.ki.wVk = key;
-  input.ki.dwFlags = up ? KEYEVENTF_KEYUP : 0;
-  return input;
-}
-
-INPUT MouseInput(DWORD flags) {
-  INPUT input{};
-  input.type = INPUT_MOUSE;
-  input.mi.dwFlags = flags;
-  return input;
 }
 
 /// Uses the keyboard and the mouse of the desktop that the test runs on. The windows must belong to this thread.
@@ -73,30 +52,31 @@ class WindowsPerson : public Person {
 
   void Type(std::wstring_view text) override {
     for (const wchar_t character : text) {
-      const SHORT code = VkKeyScanW(character);
-      const auto key = static_cast<WORD>(code & 0xFF);
-      const bool shift = (code & 0x100) != 0;
-      std::vector<INPUT> inputs;
-      if (shift) inputs.push_back(KeyInput(VK_SHIFT, false));
-      inputs.push_back(KeyInput(key, false));
-      inputs.push_back(KeyInput(key, true));
-      if (shift) inputs.push_back(KeyInput(VK_SHIFT, true));
-      Do(inputs);
+      desktop::input::Type(desktop::Narrow(std::wstring(1, character)));
+      AwaitHandled();
     }
   }
-
   void Press(form::Key key) override {
-    Do({KeyInput(static_cast<WORD>(key), false), KeyInput(static_cast<WORD>(key), true)});
+    desktop::input::Press(static_cast<WORD>(key));
+    AwaitHandled();
   }
-
-  void Click(form::Control& control) override { ClickTimes(control, 1); }
-  void DoubleClick(form::Control& control) override { ClickTimes(control, 2); }
+  void Click(form::Control& control) override {
+    // Two clicks on one place must not come out as a double click unless they are one.
+    WaitUntil([&] { return GetTickCount() - lastClick_ > GetDoubleClickTime(); });
+    lastClick_ = GetTickCount();
+    desktop::input::Click(HandleOf(control));
+    AwaitHandled();
+  }
+  void DoubleClick(form::Control& control) override {
+    desktop::input::DoubleClick(desktop::window::Middle(HandleOf(control)));
+    AwaitHandled();
+  }
 
   bool WaitUntil(const std::function<bool()>& condition) override {
     const DWORD start = GetTickCount();
     while (true) {
       desktop_.HandlePending();
-      Rethrow();
+      if (error_) std::rethrow_exception(std::exchange(error_, nullptr));
       if (condition()) return true;
       if (GetTickCount() - start > Patience) return false;
       MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_ALLINPUT);
@@ -105,7 +85,9 @@ class WindowsPerson : public Person {
 
   void WhenModal(std::function<void(form::Form&)> script) override { scripts_.push_back(std::move(script)); }
 
-  std::wstring ShownText(const form::Control& control) override { return TextOf(HandleOf(control)); }
+  std::wstring ShownText(const form::Control& control) override {
+    return desktop::Wide(desktop::window::Text(HandleOf(control)));
+  }
   std::wstring ShownSelection(const form::Control& control) override {
     DWORD start = 0;
     DWORD end = 0;
@@ -116,9 +98,8 @@ class WindowsPerson : public Person {
   bool IsShownEnabled(const form::Control& control) override { return IsWindowEnabled(HandleOf(control)) != FALSE; }
   bool IsShown(const form::Form& form) override { return IsWindowVisible(HandleOf(form)) != FALSE; }
   bool IsShownFocused(const form::Control& control) override {
-    const HWND form = HandleOf(control.OwnerForm());
-    return form != nullptr && IsWindowVisible(form) != FALSE && GetForegroundWindow() == form &&
-           GetFocus() == HandleOf(control);
+    HWND const form = HandleOf(control.OwnerForm());
+    return form != nullptr && IsWindowVisible(form) && desktop::window::Focus(form) == HandleOf(control);
   }
 
  private:
@@ -149,34 +130,11 @@ class WindowsPerson : public Person {
     }
   }
 
-  void Rethrow() {
-    if (error_) std::rethrow_exception(std::exchange(error_, nullptr));
-  }
-
-  /// Puts the input in and handles it.
-  void Do(std::vector<INPUT> inputs) {
+  /// Waits until the input that was sent has been handled.
+  void AwaitHandled() {
     const int awaited = sentinelsSeen_ + 1;
-    inputs.push_back(KeyInput(SentinelKey, false));
-    inputs.push_back(KeyInput(SentinelKey, true));
-    SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+    desktop::input::Press(SentinelKey);
     if (!WaitUntil([&] { return sentinelsSeen_ >= awaited; })) throw std::logic_error("the input does not arrive");
-    desktop_.HandlePending();
-    Rethrow();
-  }
-
-  void ClickTimes(form::Control& control, int times) {
-    RECT place{};
-    GetWindowRect(HandleOf(control), &place);
-    SetCursorPos((place.left + place.right) / 2, (place.top + place.bottom) / 2);
-    // Two clicks on one place must not come out as a double click unless they are one.
-    WaitUntil([&] { return GetTickCount() - lastClick_ > GetDoubleClickTime(); });
-    std::vector<INPUT> inputs;
-    for (int i = 0; i < times; ++i) {
-      inputs.push_back(MouseInput(MOUSEEVENTF_LEFTDOWN));
-      inputs.push_back(MouseInput(MOUSEEVENTF_LEFTUP));
-    }
-    lastClick_ = GetTickCount();
-    Do(std::move(inputs));
   }
 
   static inline WindowsPerson* current_ = nullptr;
