@@ -1,22 +1,13 @@
-// desktop: --drive d:=hd --drive e:=floppy --drive n:=network --drive q:=cdrom --drive r:=ramdisk
-// Adding by browsing and by pointing at a window, while the program runs from a fixed disk.
+// desktop: --drive d:=hd --drive e:=floppy --drive f:=floppy --drive n:=network --drive q:=cdrom --drive r:=ramdisk
+// Adding by browsing, by pointing at a window, and by typing; from a fixed disk, and from a stick that travels.
 
 #include <doctest/doctest.h>
 
-#include "desktop/AddBox.h"
-#include "desktop/Recorder.h"
+#include "desktop/System.h"
 
 namespace vantor::desktop {
 namespace {
 
-const std::string PathListed =
-    "Selected item has already been included in the List. There is no need to add it again.\n";
-const std::string NameListed =
-    "The name you typed is listed name for another item in it's group.\r\n\r\nTwo different items in the same group "
-    "(Groups : Program, File, Folder and Web Site) can't be listed with same name. Type a different name please.\n";
-const std::string NotFixed =
-    "You can add Program, File and Folder to Launch List only if those are in a fixed Hard Disk. This one, that you "
-    "are trying to add, doesn't seems to be on a fixed Hard Disk.\n";
 const std::string NotReady = "The Drive you are trying to select is not ready.\n";
 
 /// A program that runs, with its add box open at a folder.
@@ -30,10 +21,48 @@ struct Adding {
   AddBox Box{Running};
 };
 
-/// Takes the medium out of a drive of the test desktop.
-void PullOut(char letter) {
-  const std::string medium = std::string(R"(Z:\prefix\drives\)") + static_cast<char>(letter | ' ');
-  std::filesystem::rename(medium, medium + ".out");
+/// Takes the medium out of a drive of the test desktop, for a while.
+struct PulledOut {
+  explicit PulledOut(char letter) : Medium(std::string(R"(Z:\prefix\drives\)") + letter) {
+    std::filesystem::rename(Medium, Medium + ".out");
+  }
+  ~PulledOut() { std::filesystem::rename(Medium + ".out", Medium); }
+  PulledOut(const PulledOut&) = delete;
+  PulledOut& operator=(const PulledOut&) = delete;
+
+  std::string Medium;
+};
+
+/// The box that unfolds from the bar of a running program.
+struct WebBox {
+  const Program& Running;
+
+  [[nodiscard]] bool Shown() const { return window::OfClass(Running.Bar(), "Edit").size() == 3; }
+  [[nodiscard]] HWND Address() const { return window::OfClass(Running.Bar(), "Edit").at(1); }
+  [[nodiscard]] HWND Name() const { return window::OfClass(Running.Bar(), "Edit").at(2); }
+  [[nodiscard]] HWND Add() const { return window::OfClass(Running.Bar(), "Button").back(); }
+  [[nodiscard]] HWND Banner() const { return Running.Button("Site Added To List : Click To Hide"); }
+
+  static void Fill(HWND box, const std::string& text) {
+    input::Click(box);
+    CHECK_BECOMES(window::FocusOf(box), box);
+    input::Type(text);
+    CHECK_BECOMES(window::Text(box), text);
+  }
+};
+
+const struct {
+  std::string Option, Name, Code;
+} Kinds[] = {{"Prog.", "Program", "p-"}, {"File", "File", "f-"}, {"Folder", "Folder", "d-"}};
+
+/// Adds a program, a file, and the folder that they are in.
+void AddAllKinds(const AddBox& box, const std::string& program, const std::string& file, const std::string& begin) {
+  for (const auto& kind : Kinds) {
+    box.Click(kind.Option);
+    if (kind.Name != "Folder") box.Pick(kind.Name == "File" ? file : program);
+    box.Add(begin + kind.Name);
+    box.AwaitBanner(kind.Name);
+  }
 }
 
 }  // namespace
@@ -63,7 +92,7 @@ TEST_CASE("what is added by browsing goes to the group of its extension, once, a
     CHECK_BECOMES(box.Path(), row.Target);
     if (row.Code == "f-") {
       box.Add("fIRST");
-      adding.Running.ExpectMessage(NameListed);
+      adding.Running.ExpectMessage("The name you typed is listed name for another item in it's group.\r\n\r\nTwo");
       CHECK(box.Path() == row.Target);
       CHECK(box.Name().empty());
     }
@@ -76,7 +105,8 @@ TEST_CASE("what is added by browsing goes to the group of its extension, once, a
   box.Click("File");
   box.Pick("tool.EXE");
   box.Add("Again");
-  adding.Running.ExpectMessage(PathListed);
+  adding.Running.ExpectMessage(
+      "Selected item has already been included in the List. There is no need to add it again.\n");
   CHECK(SendMessageW(box.FileList(), LB_GETCURSEL, 0, 0) == LB_ERR);
   CHECK(box.Name() == "Again");
   box.Click("Cancel");
@@ -88,28 +118,27 @@ TEST_CASE("what is added by browsing goes to the group of its extension, once, a
   CHECK(folder.Data("Set") == folder.Saved({.FileUpper = 1, .FoldUpper = 0, .ProgUpper = 0, .Folder = tools}));
 }
 
-TEST_CASE("what can't be used is grey, and the focus goes to the name as soon as there is a path") {
+TEST_CASE("what can't be used is disabled, the focus goes to the name as soon as there is a path, and OK follows it") {
   const Folder folder;
   folder.Write("notes.txt");
   const Adding adding(folder);
   const AddBox& box = adding.Box;
-  constexpr COLORREF Grey = RGB(192, 192, 192);
-  const COLORREF plain = GetSysColor(COLOR_WINDOW);
   const struct {
     std::string Kind, File;
     bool FindsPrograms, ListsFiles, TakesName;
-  } rows[] = {{"Prog.", "", true, true, false},   {"Prog.", "Vantor.exe", true, true, true},
-              {"File", "", false, true, false},   {"File", "notes.txt", false, true, true},
-              {"Folder", "", false, false, true}, {"Prog.", "", true, true, false}};
+  } rows[] = {{"Prog.", "", true, true, false},
+              {"Prog.", "Vantor.exe", true, true, true},
+              {"File", "", false, true, false},
+              {"File", "notes.txt", false, true, true},
+              {"Folder", "", false, false, true}};
   for (const auto& row : rows) {
     CAPTURE(row.Kind + row.File);
     if (row.File.empty()) box.Click(row.Kind);
     if (!row.File.empty()) box.Pick(row.File);
     CHECK_BECOMES(window::IsEnabled(box.Button("Find Program Path")), row.FindsPrograms);
     CHECK_BECOMES(window::IsEnabled(box.FileList()), row.ListsFiles);
-    CHECK_BECOMES(window::Ground(box.FileList()), row.ListsFiles ? plain : Grey);
+    CHECK_BECOMES(window::Ground(box.FileList()), row.ListsFiles ? GetSysColor(COLOR_WINDOW) : RGB(192, 192, 192));
     CHECK_BECOMES(window::IsEnabled(box.NameBox()), row.TakesName);
-    CHECK_BECOMES(window::Ground(box.NameBox()), row.TakesName ? plain : Grey);
     if (!row.TakesName) continue;
     box.AwaitNameFocus();
     input::Type("n");
@@ -136,19 +165,21 @@ TEST_CASE("only what lies on a fixed disk is added, and a drive that is not read
       box.AwaitBanner("Program");
       continue;
     }
-    adding.Running.ExpectMessage(NotFixed);
+    adding.Running.ExpectMessage("You can add Program, File and Folder to Launch List only if those are in a fixed");
     CHECK(box.Path() == root + "tool.exe");
     CHECK(box.Name() == "Tool");
   }
-  PullOut('Q');
-  box.ChooseDrive('Q');
-  adding.Running.ExpectMessage(NotReady);
-  CHECK_BECOMES(box.Drive(), "r:");
+  {
+    const PulledOut pulledOut('q');
+    box.ChooseDrive('Q');
+    adding.Running.ExpectMessage(NotReady);
+    CHECK_BECOMES(box.Drive(), "r:");
+  }
 
   std::filesystem::create_directory("E:\\Folder");
   box.ChooseDrive('E');
   CHECK_BECOMES(box.Drive(), "e:");
-  PullOut('E');
+  const PulledOut pulledOut('e');
   box.Enter("Folder");
   adding.Running.ExpectMessage(NotReady);
   CHECK_BECOMES(box.Drive(), "e:");
@@ -199,19 +230,207 @@ TEST_CASE("the open box opens a file by its button, a double click or Enter, and
   program.AwaitBar();
   const AddBox box(program, VK_F3);
   const std::string opened = '"' + folder.Path("recorder.exe") + '"';
+  const std::string document = opened + " document \"" + folder.Path("my notes.vantortest") + '"';
   // Another file each time: two clicks at one place soon make a double click.
   for (const std::string how : {"Open", "Enter", "double click"}) {
-    for (const auto& [file, started] :
-         {std::pair{"recorder.exe", opened},
-          {"my notes.vantortest", opened + " document \"" + folder.Path("my notes.vantortest") + '"'}}) {
-      box.Open();
-      if (how == "double click") box.DoublePick(file);
-      if (how != "double click") box.Pick(file);
-      if (how == "Open") box.Click("Open");
-      if (how == "Enter") input::Press(VK_RETURN);
-      CHECK(recorder.Next() == started);
-      program.AwaitBar();
+    box.Open();
+    if (how == "Open") {
+      box.Pick("my notes.vantortest");
+      box.Click("Open");
+    } else if (how == "Enter") {
+      box.Pick("recorder.exe");
+      input::Press(VK_RETURN);
+    } else {
+      box.DoublePick("my notes.vantortest");
     }
+    CHECK(recorder.Next() == (how == "Enter" ? opened : document));
+    program.AwaitBar();
+  }
+}
+
+TEST_CASE("sites are added with their addresses as typed; what is listed is refused") {
+  const Folder folder;
+  folder.WriteSettings({.OptionMask = 6, .WebUpper = 0});
+  folder.WriteData("ListWeb", ListBytes({{"News", "http://news.example"}}));
+  const Program program(folder);
+  program.AwaitBar();
+  const WebBox box{program};
+  REQUIRE(box.Shown());
+  const std::string foreign = "http://\u043F\u0440\u0438\u043C\u0435\u0440";
+  const struct {
+    std::string Address, Name;
+    bool ByKey = true;
+    std::string Refusal;
+  } rows[] = {
+      {"http://a.example/?q=a b,\"c\"", "A, \"quoted\""},
+      {foreign, "Foreign", false},
+      {"http://news.example", "Other", true, "Selected item has already been included in the List."},
+      {"http://NEWS.example", "nEWS", false, "The name you typed is listed name for another item"},
+      {"x", "x"},
+  };
+  for (const auto& row : rows) {
+    CAPTURE(row.Name);
+    CHECK_FALSE(IsWindowEnabled(box.Name()));
+    CHECK_BECOMES(window::Ground(box.Name()), RGB(192, 192, 192));
+    WebBox::Fill(box.Address(), row.Address);
+    CHECK(box.Banner() == nullptr);
+    CHECK_BECOMES(window::IsEnabled(box.Name()), true);
+    CHECK_FALSE(IsWindowEnabled(box.Add()));
+    WebBox::Fill(box.Name(), row.Name);
+    CHECK(IsWindowEnabled(box.Add()));
+    if (row.ByKey) input::Press(VK_RETURN);
+    if (!row.ByKey) input::Click(box.Add());
+    if (row.Refusal.empty()) {
+      Await("the banner", [&] { return box.Banner() != nullptr; });
+      CHECK_BECOMES(window::Focus(program.Bar()), program.TextMain());
+      CHECK((window::Text(box.Address()) + window::Text(box.Name())).empty());
+      continue;
+    }
+    program.ExpectMessage(row.Refusal);
+    const bool path = row.Name == "Other";
+    CHECK_BECOMES(window::Focus(program.Bar()), path ? box.Address() : box.Name());
+    CHECK(window::Text(box.Name()) == (path ? "Other" : ""));
+    // Folded and unfolded, the box begins anew.
+    for (const bool shown : {false, true}) {
+      input::Press(VK_F1);
+      CHECK_BECOMES(box.Shown(), shown);
+    }
+    CHECK(window::Text(box.Address()).empty());
+  }
+  // A click hides the banner, and Enter does nothing without a name.
+  input::Click(box.Banner());
+  CHECK_BECOMES(box.Banner(), nullptr);
+  WebBox::Fill(box.Address(), "y");
+  input::Press(VK_TAB);
+  CHECK_BECOMES(window::Focus(program.Bar()), box.Name());
+  input::Press(VK_RETURN);
+  program.Exit();
+  CHECK(folder.Data("ListWeb") == "\xEF\xBB\xBF" + ListBytes({{"News", "http://news.example"},
+                                                              {"A, 'quoted'", "http://a.example/?q=a b,%22c%22"},
+                                                              {"Foreign", foreign},
+                                                              {"x", "x"}}));
+}
+
+TEST_CASE("the box unfolds to the right, and pulls the bar left at the screen's edge") {
+  const Folder folder;
+  const int screen = GetSystemMetrics(SM_CXSCREEN);
+  folder.WriteSettings({.Left = 15 * (screen - 500)});
+  const Program program(folder);
+  HWND const bar = program.AwaitBar();
+  const RECT folded = window::Bounds(bar);
+  input::Click(program.Button("Show | Hide Add URL"));
+  CHECK_BECOMES(window::Bounds(bar).right, screen);
+  const LONG left = window::Bounds(bar).left;
+  CHECK(left < folded.left);
+  CHECK_BECOMES(window::Focus(bar), program.TextMain());
+  CHECK(program.Line().empty());
+  input::Press(VK_F1);
+  CHECK_BECOMES(window::Bounds(bar).right, left + folded.right - folded.left);
+  CHECK(window::Bounds(bar).left == left);
+}
+
+TEST_CASE("a list on a stick goes with it, and what lies on a computer waits for that computer") {
+  SKIP_UNLESS(UnderWine(), "a test desktop with two removable drives");
+  const Folder disk("C:\\");
+  for (const char* name : {"tool.exe", "notes.txt"}) disk.Write(name);
+  Folder stick("E:\\");
+  stick.CopyProgram("recorder.exe", "own.exe");
+  stick.Write("own.txt");
+  std::ofstream("N:\\tool.exe").close();
+  const std::string mediaSet = "\"Vantor Media 1\"\r\n\"Ready\"\r\n\"Anna\"\r\n";
+  stick.WriteData("MediaSet", mediaSet);
+  stick.WriteData("Set", Settings{.WebUpper = 0}.Bytes());
+  stick.WriteData("ListWeb", ListBytes({{"Site", "http://example.org/"}}));
+  const auto pickOnDisk = [&](const AddBox& box) {
+    box.ChooseDrive('C');
+    box.Enter(disk.Path().substr(3));
+    box.Pick("tool.exe");
+    box.Add("Tool");
+  };
+  {
+    const Program program(stick);
+    program.AwaitBar();
+    const AddBox box(program);
+    const Panel preferences(program, VK_F6, "Options");
+    box.Open();
+    AddAllKinds(box, "own.exe", "own.txt", "Own ");  // what is on the stick needs no computer
+    box.Click("Prog.");
+    pickOnDisk(box);
+    program.ExpectMessage("The selected machine need to be identified first.");
+    CHECK(box.Path() == disk.Path("tool.exe"));
+    CHECK(box.Name() == "Tool");
+    preferences.Open();
+    preferences.Click("Remember My Computer");
+    CHECK_BECOMES(window::IsEnabled(preferences.Button("Remember My Computer")), false);
+    box.Open();
+    AddAllKinds(box, "tool.exe", "notes.txt", "Disk ");
+    box.Click("Prog.");
+    box.ChooseDrive('N');
+    box.Pick("tool.exe");
+    box.Add("Net");
+    program.ExpectMessage("From this machine you can add Program, File and Folder to Launch List but only if");
+    box.Click("Cancel");
+    program.Exit();
+  }
+  const std::string inside = "#" + stick.Path().substr(1);
+  const std::string machine = stick.Data("Machine");
+  const std::string other = "3\r\n\"0BADCAFE\"\r\n" + machine.substr(machine.size() / 2);
+  CHECK(machine.starts_with("3\r\n\""));
+  const Settings settings{.FileUpper = 0,
+                          .FoldUpper = 0,
+                          .ProgUpper = 0,
+                          .WebUpper = 0,
+                          .MachineFileUpper = 0,
+                          .MachineFoldUpper = 0,
+                          .MachineProgUpper = 0};
+  const auto checkSaved = [&](const std::string& ofMachine) {
+    const std::pair<std::string, std::string> files[] = {
+        {"Set", settings.Bytes()},
+        {"MediaSet", mediaSet},
+        {"ListFile", ListBytes({{"Own File", inside + "\\own.txt"}})},
+        {"ListFold", ListBytes({{"Own Folder", inside}})},
+        {"ListProg", ListBytes({{"Own Program", inside + "\\own.exe"}})},
+        {"ListWeb", ListBytes({{"Site", "http://example.org/"}})},
+        {"Machine", ofMachine},
+        {"MachineFile", ListBytes({{"Disk File", disk.Path("notes.txt")}})},
+        {"MachineFold", ListBytes({{"Disk Folder", disk.Path()}})},
+        {"MachineProg", ListBytes({{"Disk Program", disk.Path("tool.exe")}})}};
+    for (const auto& [name, bytes] : files) {
+      CAPTURE(name);
+      CHECK(stick.Data(name) == bytes);
+    }
+  };
+  checkSaved(machine);
+
+  stick.MoveTo("F:\\");
+  Recorder recorder(stick);
+  for (const std::string& ofMachine : {machine, other, machine}) {
+    const bool home = ofMachine == machine;
+    CAPTURE(home);
+    stick.WriteData("Machine", ofMachine);
+    const Program program(stick);
+    program.AwaitBar();
+    for (const auto& [option, name, code] : Kinds) {
+      program.TypeLine(code + "di");
+      CHECK_BECOMES(program.Line(), code + (home ? "Disk " + name : "di"));
+      program.TypeLine(code + "o");
+      CHECK_BECOMES(program.Line(), code + "Own " + name);
+    }
+    program.Enter("p-o");
+    CHECK(recorder.Next() == '"' + stick.Path("own.exe") + '"');
+    if (!home) {
+      const AddBox box(program);
+      program.AwaitBar();
+      box.Open();
+      pickOnDisk(box);
+      program.ExpectMessage("You have already indentifed a machine from which to add to Launch List.");
+      const Panel preferences(program, VK_F6, "Options");
+      preferences.Open();
+      CHECK_FALSE(IsWindowEnabled(preferences.Button("Remember My Computer")));
+      preferences.Close();
+    }
+    program.Exit();
+    checkSaved(ofMachine);
   }
 }
 

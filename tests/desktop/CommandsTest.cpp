@@ -4,8 +4,6 @@
 
 #include <string>
 
-#include "desktop/Program.h"
-#include "desktop/Recorder.h"
 #include "desktop/System.h"
 
 namespace vantor::desktop {

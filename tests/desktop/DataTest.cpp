@@ -79,22 +79,6 @@ TEST_CASE("settings and lists are written whole at the exit, and what can be rea
   }
 }
 
-TEST_CASE("items whose targets are gone, or that are not counted, go; a folder stays") {
-  const Folder folder;
-  folder.Write("a, b.txt");
-  const std::pair<std::string, std::string> gone{"gone", folder.Path("gone")};
-  const std::pair<std::string, std::string> there{"a, b", folder.Path("a, b.txt")};
-  folder.WriteSettings({.FileUpper = 1, .FoldUpper = 0, .ProgUpper = 0, .Folder = folder.Path("Vantor")});
-  folder.WriteData("ListFile", ListBytes({gone, there}));
-  folder.WriteData("ListFold", ListBytes({gone}));
-  folder.WriteData("ListProg", ListBytes({there, {"uncounted", "x"}}));
-  StartAndClose(folder);
-  CHECK(folder.Data("Set") == Settings{.FileUpper = 0, .ProgUpper = 0, .Folder = folder.Path("Vantor")}.Bytes());
-  CHECK(folder.Data("ListFile") == ListBytes({there}));
-  CHECK(folder.Data("ListFold") == ListBytes({gone}));
-  CHECK(folder.Data("ListProg") == ListBytes({there}));
-}
-
 TEST_CASE("the program killed in the midst of a save has lost nothing at its next start") {
   const LongList list(32767);
   const Folder folder;

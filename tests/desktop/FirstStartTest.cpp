@@ -8,28 +8,10 @@
 namespace vantor::desktop {
 namespace {
 
-constexpr char NameQuestion[] =
-    "Your Name Please\n"
-    "Thank you for trying Vantor.\r\n\r\n"
-    "If you want to be addressed by your name of choice then please enter that name in the above box. Use only "
-    "alphabets please.\r\n\r\n"
-    "Vantor will address you as **myFriend** if you do not enter a name.\r\n\r\n"
-    "orbel\r\ncontact@orbel.example\n";
-constexpr char Greeting[] =
-    "If you missed it, main program window is at the top left corner of your screen.\r\n"
-    "You can drag it by clicking left mouse button on small spaces between the buttons or buttons and Text box. "
-    "Buttons from left :\r\n"
-    "\r\n"
-    "    1. Show/Hide Add URL Box.            2. Show | Hide Add To List Box.\r\n"
-    "    3. Show | Hide Open Box.                 4. Show | Hide Open From List Box.\r\n"
-    "    5. Show | Hide Run (Orbel's) Box.   6. Show | Hide Preferences Box.\r\n"
-    "    7. Show | Hide Help Box.                   8. Show | Hide Code List Box.\r\n"
-    "    9. Mimimize Button.                           10. Exit Button.\r\n"
-    "\r\n"
-    "Since you don't have any more Orbel's program #5 button is not visible.\r\n"
-    "\r\n"
-    "You will type Code and Command in the Text Box (blue part).\r\n"
-    "For Code and Command please check Help.\n";
+const std::string NameQuestion = "Your Name Please\nThank you for trying Vantor.\r\n\r\n";
+const std::string Greeting =
+    "\r\n\r\nSince you don't have any more Orbel's program #5 button is not visible.\r\n\r\n"
+    "You will type Code and Command in the Text Box (blue part).\r\nFor Code and Command please check Help.\n";
 
 }  // namespace
 

@@ -2,7 +2,6 @@
 
 #include <doctest/doctest.h>
 
-#include "desktop/Program.h"
 #include "desktop/System.h"
 #include "product/Product.rc.h"
 

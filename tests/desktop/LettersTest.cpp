@@ -9,8 +9,7 @@
 
 #include <algorithm>
 
-#include "desktop/Program.h"
-#include "desktop/Recorder.h"
+#include "desktop/System.h"
 
 namespace vantor::desktop {
 namespace {

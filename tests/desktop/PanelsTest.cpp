@@ -1,10 +1,13 @@
 // desktop: --screen 800x600x24
-// The panels on the smallest screen: opened, switched and closed each way, placed, and the list worked on.
+// The panels on the smallest screen: opened, switched and closed each way, placed; and what is done in the list, the
+// preferences and the panel of the maker's other programs.
 
 #include <doctest/doctest.h>
+#include <windows.h>
+// Needs the one before it.
+#include <commctrl.h>
 
-#include "desktop/Program.h"
-#include "desktop/Recorder.h"
+#include "desktop/System.h"
 
 namespace vantor::desktop {
 namespace {
@@ -23,6 +26,7 @@ class ListedFolder : public Folder {
   }
 };
 
+/// Those that each bar has.
 const struct {
   std::string Button;  // the bar's
   WORD Key;
@@ -63,6 +67,17 @@ struct Group {
   void Click(const std::string& text) const { input::Click(Button(text)); }
   [[nodiscard]] LRESULT Count() const { return SendMessageW(Name, CB_GETCOUNT, 0, 0); }
 };
+
+const char* const Captions[] = {"Start With Windows", "Always On Top", "Show Add URL Box At Start"};
+
+/// The boxes of the panel as a text: x for each that is ticked.
+std::string Boxes(const Panel& preferences) {
+  std::string boxes;
+  for (const char* caption : Captions) {
+    boxes += SendMessageW(preferences.Button(caption), BM_GETCHECK, 0, 0) == BST_CHECKED ? 'x' : '-';
+  }
+  return boxes;
+}
 
 }  // namespace
 
@@ -219,6 +234,158 @@ TEST_CASE("items of the list are renamed, opened, and removed to the last; an em
   const Group web(panel, "Web URL List :");
   CHECK(panel.Focus() == web.Name);
   CHECK(window::Text(web.Path) == "http://one");
+}
+
+TEST_CASE("each option takes effect when it should, is saved, and is undone") {
+  RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, RunKey, RunValue);
+  const Folder folder;
+  folder.WriteSettings({});
+  // What is ticked before and after, and what the files and the registry then hold.
+  const struct {
+    std::string Before, After;
+    int Mask;
+  } rows[] = {{"-x-", "x-x", 5}, {"x-x", "---", 0}, {"---", "-xx", 6}, {"-xx", "-x-", 2}};
+  for (const auto& row : rows) {
+    CAPTURE(row.After);
+    const Program program(folder);
+    HWND const bar = program.AwaitBar();
+    const auto webBoxShown = [&] { return window::OfClass(bar, "Edit").size() == 3; };
+    CHECK(webBoxShown() == (row.Before[2] == 'x'));
+    const Panel preferences(program, VK_F6, "Options");
+    for (const std::string answer : {"Cancel", "OK"}) {  // cancelled, nothing has changed
+      CAPTURE(answer);
+      preferences.Open();
+      CHECK(Boxes(preferences) == row.Before);
+      // The first box has the focus; ticked and cleared again, it leaves nothing to confirm.
+      for (const bool changed : {true, false}) {
+        input::Press(VK_SPACE);
+        CHECK_BECOMES(window::IsEnabled(preferences.Button("OK")), changed);
+      }
+      for (std::size_t i = 0; i < std::size(Captions); ++i) {
+        if (row.Before[i] != row.After[i]) preferences.Click(Captions[i]);
+      }
+      CHECK_BECOMES(Boxes(preferences), row.After);
+      preferences.Click(answer);
+      CHECK_BECOMES(window::Focus(bar), program.TextMain());
+      const std::string& now = answer == "OK" ? row.After : row.Before;
+      CHECK(RegistryText(HKEY_LOCAL_MACHINE, RunKey, RunValue) ==
+            (now[0] == 'x' ? folder.Path("Vantor.exe") : "(none)"));
+    }
+    CHECK(webBoxShown() == (row.Before[2] == 'x'));
+    if (row.After[1] == 'x') {
+      CHECK_BECOMES(window::IsTopMost(bar), true);
+    } else {
+      CHECK_FALSE(Eventually([&] { return window::IsTopMost(bar); }, 1500));  // more than one beat of the timer
+    }
+    program.Exit();
+    CHECK(folder.Data("Set") == folder.Saved({.OptionMask = row.Mask}));
+  }
+}
+
+TEST_CASE("the desktop shortcut starts the program, and success is told only when it is there") {
+  const std::string desktop = SystemFolder(CSIDL_DESKTOPDIRECTORY);
+  const std::string file = desktop + "\\Vantor.lnk";
+  DeleteFileW(Wide(file).c_str());
+  const Folder folder;
+  folder.WriteSettings({});
+  const Program program(folder);
+  program.AwaitBar();
+  const Panel preferences(program, VK_F6, "Options");
+  preferences.Open();
+  for (int time = 0; time < 2; ++time) {  // the second replaces the first
+    preferences.Click("Create Desktop Shortcut");
+    program.ExpectMessage("A shortcut for Vantor has been placed on your Desktop.");
+    preferences.AwaitInput();
+    const std::string path = folder.Path("Vantor.exe");
+    CHECK(Shortcut(file).Text() == path + '\n' + folder.Path() + "\\\n" + path + ", 0\nVantor\n" +
+                                       std::to_string(MAKEWORD('L', HOTKEYF_CONTROL | HOTKEYF_SHIFT)) + '\n' +
+                                       std::to_string(SW_SHOWNORMAL));
+  }
+  DeleteFileW(Wide(file).c_str());
+  SKIP_UNLESS(UnderWine(), "a desktop folder that is the test's alone");
+  // A file in the folder's place: nothing can be saved there.
+  REQUIRE(MoveFileW(Wide(desktop).c_str(), Wide(desktop + ".aside").c_str()));
+  std::ofstream(std::filesystem::path(Wide(desktop))).close();
+  preferences.Click("Create Desktop Shortcut");
+  input::Press(VK_ESCAPE);
+  program.AwaitBar();
+  CHECK(program.Message() == nullptr);
+  DeleteFileW(Wide(desktop).c_str());
+  MoveFileW(Wide(desktop + ".aside").c_str(), Wide(desktop).c_str());
+}
+
+TEST_CASE("companions are listed, completed and started; one that vanished is told; without any there is no button") {
+  const Folder outer;
+  const Folder folder(outer.Path("Orbel\\"));
+  const std::string names[] = {"Draw it", "\u00C9cran"};
+  std::string paths[2];
+  for (int i = 0; i < 2; ++i) {
+    const std::string name = "Orbel\\" + names[i] + "\\" + names[i] + ".exe";
+    outer.CopyProgram("recorder.exe", name);
+    paths[i] = outer.Path(name);
+  }
+  const std::string help = folder.Path("VantorHelp.exe");
+  folder.CopyProgram("recorder.exe", "VantorHelp.exe");
+  folder.WriteSettings({});
+  Recorder recorder(folder);
+  const auto started = [&recorder](const std::string& path) { CHECK(recorder.Next() == '"' + path + '"'); };
+  const std::string button = "Show | Hide Run (Orbel's Program)";
+  {
+    const Program program(folder);
+    program.AwaitBar();
+    CHECK(program.Button(button) != nullptr);
+    const Panel panel(program, VK_F5, "Orbel's Programs");
+    panel.Open();
+    HWND list = window::OfClass(panel.Find(), "ListBox").at(0);
+    CHECK(SendMessageW(list, LB_GETCOUNT, 0, 0) == 3);
+    panel.Close();
+
+    panel.Open();
+    input::Press(VK_DOWN);
+    CHECK_BECOMES(SendMessageW(list, LB_GETCURSEL, 0, 0), 1);
+    input::Press(VK_RETURN);
+    started(paths[1]);
+    program.AwaitBar();
+    panel.Open();
+    CHECK(SendMessageW(list, LB_GETCURSEL, 0, 0) == 1);
+    input::Press(VK_DOWN);
+    panel.Click("Open");
+    started(help);
+
+    program.AwaitBar();
+    program.TypeLine("r-d");
+    CHECK_BECOMES(program.LineWithSelection(), "r-D[raw it]");
+    input::Press(VK_RETURN);
+    started(paths[0]);
+    CHECK_BECOMES(program.Line(), "");
+    program.Enter("r-\u00E9");
+    started(paths[1]);
+
+    // What was started has to end before its file can go.
+    for (const std::string& path : paths) {
+      Await("the end of " + path, [&] { return DeleteFileW(Wide(path).c_str()) != FALSE; });
+    }
+    const std::string gone = "There was some error. Could not run the program.\n";
+    program.Enter("r-draw");
+    program.ExpectMessage(gone);
+    program.AwaitBar();
+    CHECK(program.Line() == "r-Draw it");
+    panel.Open();
+    input::Press(VK_UP);
+    input::Press(VK_RETURN);
+    program.ExpectMessage(gone);
+    program.Exit();
+  }
+  Await("the end of the help", [&] { return DeleteFileW(Wide(help).c_str()) != FALSE; });
+  const Program program(folder);
+  program.AwaitBar();
+  CHECK(program.Button(button) == nullptr);
+  input::Press(VK_F5);
+  program.Enter("r-d");
+  input::Type("x");
+  CHECK_BECOMES(program.Line(), "r-dx");
+  CHECK(Panel(program, VK_F5, "Orbel's Programs").Find() == nullptr);
+  CHECK(recorder.Lines().size() == 4);
 }
 
 }  // namespace vantor::desktop

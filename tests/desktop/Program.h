@@ -1,16 +1,127 @@
 #pragma once
 
-#include <windows.h>
-
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <utility>
+#include <vector>
 
-#include "desktop/Basics.h"
-#include "desktop/Folder.h"
-#include "desktop/Input.h"
-#include "desktop/Window.h"
+#include "desktop/Desktop.h"
 
 namespace vantor::desktop {
+
+/// The settings file's eleven values; the bar's place is in twips.
+struct Settings {
+  int OptionMask = 2;
+  int FileUpper = -1;
+  int FoldUpper = -1;
+  int ProgUpper = -1;
+  int WebUpper = -1;
+  int Left = 0;
+  int Top = 0;
+  std::string Folder;
+  int MachineFileUpper = -1;
+  int MachineFoldUpper = -1;
+  int MachineProgUpper = -1;
+
+  [[nodiscard]] std::string Bytes() const {
+    std::string bytes;
+    const auto add = [&bytes](const std::string& value) { bytes += value + "\r\n"; };
+    for (const int value : {OptionMask, FileUpper, FoldUpper, ProgUpper, WebUpper, Left, Top})
+      add(std::to_string(value));
+    add('"' + Folder + '"');
+    for (const int value : {MachineFileUpper, MachineFoldUpper, MachineProgUpper}) add(std::to_string(value));
+    return bytes;
+  }
+};
+
+/// The bytes of a list file.
+using Items = std::vector<std::pair<std::string, std::string>>;
+inline std::string ListBytes(const Items& items) {
+  std::string bytes;
+  for (const auto& [name, target] : items) {
+    bytes.append("\"").append(name).append("\",\"").append(target).append("\"\r\n");
+  }
+  return bytes;
+}
+
+/// A folder of a test's own, with the program in it; gone when the test ends.
+class Folder {
+ public:
+  /// In the temporary folder, or in the root of the drive that is named ("E:\\").
+  explicit Folder(const std::string& root = {}) {
+    wchar_t temporary[MAX_PATH];
+    const std::wstring given(temporary, GetTempPathW(MAX_PATH, temporary));
+    // In its long form, as the program and the shell report paths.
+    const std::wstring parent(temporary, GetLongPathNameW(given.c_str(), temporary, MAX_PATH));
+    static int count = 0;
+    path_ = (root.empty() ? Narrow(parent) : root) + "vantor" + std::to_string(GetCurrentProcessId()) + "-" +
+            std::to_string(++count);
+    CopyProgram("Vantor.exe", "Vantor.exe");
+  }
+  ~Folder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(Wide(path_), ignored);
+  }
+  Folder(const Folder&) = delete;
+  Folder& operator=(const Folder&) = delete;
+
+  /// Full path of a name in the folder; without one, that of the folder.
+  [[nodiscard]] std::string Path(const std::string& name = {}) const {
+    return name.empty() ? path_ : path_ + "\\" + name;
+  }
+  /// Replaces a file, making the folders that it needs.
+  void Write(const std::string& name, const std::string& bytes = {}) const {
+    std::ofstream(Place(name), std::ios::binary) << bytes;
+  }
+  /// The bytes of a file; "(none)" when there is none.
+  [[nodiscard]] std::string Read(const std::string& name) const {
+    std::ifstream file(std::filesystem::path(Wide(Path(name))), std::ios::binary);
+    if (!file) return "(none)";
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+  /// Copies a program that was built beside this one.
+  void CopyProgram(const std::string& program, const std::string& name) const {
+    wchar_t own[MAX_PATH];
+    const std::wstring self(own, GetModuleFileNameW(nullptr, own, MAX_PATH));
+    std::filesystem::copy_file(self.substr(0, self.rfind(L'\\') + 1) + Wide(program), Place(name),
+                               std::filesystem::copy_options::overwrite_existing);
+  }
+  /// Takes the whole folder to the root of another drive, as its medium put in there would.
+  void MoveTo(const std::string& root) {
+    const std::string there = root + path_.substr(path_.rfind('\\') + 1);
+    std::filesystem::copy(Wide(path_), Wide(there), std::filesystem::copy_options::recursive);
+    // A system process that the program called may still stand in the folder, which then stays, empty.
+    std::error_code ignored;
+    std::filesystem::remove_all(Wide(path_), ignored);
+    path_ = there;
+  }
+
+  /// A data file, by its name without the ending.
+  void WriteData(const std::string& name, const std::string& bytes) const {
+    Write("Vantor\\" + name + ".Orbel", bytes);
+  }
+  [[nodiscard]] std::string Data(const std::string& name) const { return Read("Vantor\\" + name + ".Orbel"); }
+  /// What the program finds when it is not its first start: settings and a user's name.
+  void WriteSettings(const Settings& settings) const {
+    WriteData("Set", settings.Bytes());
+    WriteData("User", "\"Anna\"\r\n");
+  }
+  /// The bytes that settings are saved as: where none was chosen, the folder shown last is the program's own.
+  [[nodiscard]] std::string Saved(Settings settings) const {
+    if (settings.Folder.empty()) settings.Folder = Path();
+    return settings.Bytes();
+  }
+
+ private:
+  [[nodiscard]] std::filesystem::path Place(const std::string& name) const {
+    std::filesystem::path path = Wide(Path(name));
+    std::filesystem::create_directories(path.parent_path());
+    return path;
+  }
+
+  std::string path_;
+};
 
 /// A running Vantor, looked at and used from outside; ended by force when a test leaves it running.
 class Program {
@@ -170,6 +281,66 @@ class Panel {
  private:
   WORD key_;
   std::string title_;
+};
+
+/// The box by which a running program's user adds items (F2), or opens files (F3), and what a person does in it.
+class AddBox : public Panel {
+ public:
+  explicit AddBox(const Program& program, WORD key = VK_F2)
+      : Panel(program, key, key == VK_F2 ? "Add To List" : "Open") {}
+
+  void AwaitBanner(const std::string& kind) const {
+    Await("the banner", [&] { return Button(kind + " Added To List : Click To Hide") != nullptr; });
+  }
+  [[nodiscard]] HWND NameBox() const { return OfClass("Edit", 1); }
+  [[nodiscard]] HWND FileList() const { return OfClass("ListBox", 1); }
+  [[nodiscard]] std::string Path() const { return window::Text(OfClass("Edit", 0)); }
+  [[nodiscard]] std::string Name() const { return window::Text(NameBox()); }
+  /// The drive shown, as the list of drives has it.
+  [[nodiscard]] std::string Drive() const { return window::Text(OfClass("ComboBox", 0)); }
+  void AwaitNameFocus() const {
+    Await("the focus on the name", [this] { return window::FocusOf(Find()) == NameBox(); });
+  }
+
+  /// Chooses a drive by the keyboard.
+  void ChooseDrive(char letter) const {
+    input::Click(OfClass("ComboBox", 0));
+    input::Type(std::string(1, letter));
+    const std::string chosen{static_cast<char>(letter | ' '), ':'};
+    Await("the drive, or a message", [&] { return Drive().starts_with(chosen) || program_.Message() != nullptr; });
+    if (program_.Message() == nullptr) input::Press(VK_RETURN);
+  }
+  /// Goes into a folder by a double click.
+  void Enter(const std::string& folder) const { input::DoubleClick(Entry(OfClass("ListBox", 0), folder)); }
+  void Pick(const std::string& file) const { input::Click(Entry(FileList(), file)); }
+  void DoublePick(const std::string& file) const { input::DoubleClick(Entry(FileList(), file)); }
+  /// Types a name for what is chosen, and presses Enter.
+  void Add(const std::string& name) const {
+    AwaitNameFocus();
+    input::Type(name);
+    Await("the name", [&] { return Name() == name; });
+    input::Press(VK_RETURN);
+  }
+
+ private:
+  [[nodiscard]] HWND OfClass(const std::string& name, std::size_t index) const {
+    const auto controls = window::OfClass(Find(), name);
+    return index < controls.size() ? controls[index] : nullptr;
+  }
+  /// Where an entry of a list is on the screen, once it is there.
+  [[nodiscard]] static POINT Entry(HWND list, const std::string& text) {
+    const std::wstring wide = Wide(text);
+    LRESULT index = LB_ERR;
+    Await(text + " in the list", [&] {
+      index = SendMessageW(list, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(wide.c_str()));
+      return index != LB_ERR;
+    });
+    RECT item = {};
+    SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item));
+    POINT middle{(item.left + item.right) / 2, (item.top + item.bottom) / 2};
+    ClientToScreen(list, &middle);
+    return middle;
+  }
 };
 
 }  // namespace vantor::desktop

@@ -4,11 +4,88 @@
 // Needs the one before it.
 #include <shlobj.h>
 
+#include <sstream>
 #include <string>
+#include <vector>
 
-#include "desktop/Basics.h"
+#include "desktop/Program.h"
 
 namespace vantor::desktop {
+
+/// Sees what the program starts, by the recorder program standing in its place.
+class Recorder {
+ public:
+  /// Puts the recorder into the folder as recorder.exe, and behind the documents whose names end in .vantortest.
+  explicit Recorder(const Folder& folder) : folder_(folder) {
+    folder_.CopyProgram("recorder.exe", "recorder.exe");
+    folder_.Write(RecordName);
+    SetEnvironmentVariableW(L"VANTOR_RECORD", Wide(folder_.Path(RecordName)).c_str());
+    SetKey(ClassesRoot(), Classes + L".vantortest", L"", L"VantorTest");
+    SetKey(ClassesRoot(), Classes + LR"(VantorTest\shell\open\command)", L"", Wide(Quoted() + R"( document "%1")"));
+  }
+  ~Recorder() {
+    RegDeleteTreeW(ClassesRoot(), (Classes + L".vantortest").c_str());
+    RegDeleteTreeW(ClassesRoot(), (Classes + L"VantorTest").c_str());
+  }
+  Recorder(const Recorder&) = delete;
+  Recorder& operator=(const Recorder&) = delete;
+
+  /// Wine only: puts it in the place of Explorer and rundll32, and behind web and mail addresses.
+  void ReplaceSystem() const {
+    RemoveSystemPrograms();
+    for (const std::wstring& program : SystemPrograms()) {
+      std::filesystem::copy_file(Wide(folder_.Path("recorder.exe")), program);
+    }
+    for (const std::wstring scheme : {L"http", L"https", L"mailto"}) {
+      RegDeleteTreeW(HKEY_CLASSES_ROOT, (scheme + L"\\shell").c_str());  // how Wine opens them by itself
+      SetKey(ClassesRoot(), Classes + scheme, L"URL Protocol", L"");
+      SetKey(ClassesRoot(), Classes + scheme + L"\\shell\\open\\command", L"",
+             Wide(Quoted() + ' ' + Narrow(scheme) + " \"%1\""));
+    }
+  }
+  /// Wine only: takes Explorer, rundll32, the mail program and telephony away.
+  static void RemoveSystemPrograms() {
+    for (const std::wstring& program : SystemPrograms()) std::filesystem::remove(program);
+    SetKey(HKEY_CURRENT_USER, L"Software\\Wine\\DllOverrides", L"rundll32.exe", L"native");
+    SetKey(HKEY_CURRENT_USER, L"Software\\Wine\\DllOverrides", L"tapi32", L"");
+    RegDeleteTreeW(HKEY_CLASSES_ROOT, L"mailto");
+  }
+
+  /// The command lines recorded so far.
+  [[nodiscard]] std::vector<std::string> Lines() const {
+    std::istringstream records(folder_.Read(RecordName));
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(records, line);) lines.push_back(line);
+    return lines;
+  }
+  /// Waits for the next command line that was not asked for yet.
+  std::string Next() {
+    if (!Eventually([this] { return Lines().size() > seen_; })) return "(nothing started)";
+    return Lines()[seen_++];
+  }
+
+ private:
+  static constexpr char RecordName[] = "record.txt";
+  static inline const std::wstring Classes = L"Software\\Classes\\";
+
+  /// Where document kinds are told: for the user alone, but Wine looks at the machine's only.
+  static HKEY ClassesRoot() { return UnderWine() ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER; }
+  static void SetKey(HKEY root, const std::wstring& key, const std::wstring& name, const std::wstring& value) {
+    if (RegSetKeyValueW(root, key.c_str(), name.c_str(), REG_SZ, value.c_str(),
+                        static_cast<DWORD>(value.size() + 1) * sizeof(wchar_t)) != ERROR_SUCCESS) {
+      throw std::runtime_error("the registry can't be written");
+    }
+  }
+  static std::vector<std::wstring> SystemPrograms() {
+    wchar_t path[MAX_PATH];
+    const std::wstring windows(path, GetWindowsDirectoryW(path, MAX_PATH));
+    return {windows + L"\\explorer.exe", windows + L"\\system32\\rundll32.exe"};
+  }
+  [[nodiscard]] std::string Quoted() const { return '"' + folder_.Path("recorder.exe") + '"'; }
+
+  const Folder& folder_;
+  std::size_t seen_ = 0;
+};
 
 inline std::string SystemFolder(int id) {
   wchar_t path[MAX_PATH] = L"";

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "desktop/Basics.h"
+#include "desktop/Desktop.h"
 
 namespace vantor::win32 {
 

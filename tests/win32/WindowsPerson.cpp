@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "contract/Person.h"
-#include "desktop/Input.h"
+#include "desktop/Desktop.h"
 #include "form/Control.h"
 #include "win32/ControlWindow.h"
 #include "win32/WindowsDesktop.h"
