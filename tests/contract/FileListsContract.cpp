@@ -14,8 +14,7 @@ using Texts = std::vector<std::wstring>;
 TEST_CASE("the drive, folder and file lists walk a disk by keyboard and by the program") {
   vantor::fake::Computer computer;
   vantor::fake::FakeDisk& disk = computer.Disk;
-  disk.AddDrive(L'A', 1).Ready = false;
-  disk.AddDrive(L'E', 1, L"STICK");
+  disk.Drives[L'A'] = {1, L"", false};
   for (const wchar_t* file : {L"beta.txt", L"Alpha.exe", L"Deep\\x.exe", L"Old\\y.exe"})
     disk.AddFile(std::wstring(L"C:\\Tools\\") + file);
   const auto someone = MakePerson();

@@ -30,10 +30,7 @@ class Computer : public service::DataFiles,
   using Values = std::map<std::wstring, std::wstring, std::less<>>;
 
   Computer() {
-    Disk.AddDrive(L'D', 2);
-    Disk.AddDrive(L'E', 1, L"STICK");
-    Disk.AddDrive(L'N', 3);
-    Disk.AddDrive(L'R', 4).Ready = false;
+    Disk.Drives = {{L'C', {2}}, {L'D', {2}}, {L'E', {1, L"STICK"}}, {L'N', {3}}, {L'R', {4, L"", false}}};
     for (const auto* root : {L"C:", L"D:", L"E:", L"N:"}) Disk.AddFile(root + std::wstring(L"\\Work\\Tool.EXE"));
     Disk.AddFile(L"C:\\Work\\notes.txt");
     Disk.AddFolder(Home);
@@ -53,17 +50,14 @@ class Computer : public service::DataFiles,
   std::wstring Home = L"C:\\Vantor";  // where the program is
   std::wstring Windows = L"C:\\WINDOWS";
   bool Previous = false;  // another copy runs
-  Texts Titles;
   service::DiskIdentity Identity{3, L"1A2B3C4D", 80023715840.0};
   Values Specials{{L"MyDocuments", L"C:\\Documents"}, {L"SendTo", L"C:\\Send"}, {L"Desktop", L"C:\\Work"}};
   Values Registry;
-  std::vector<service::Shortcut> Shortcuts;
-  Texts Started;  // "run …", "shell …", "mail …", "call …", "write …", "delete …"
+  Texts Asked;  // "run …", "shell …", "mail …", "call …", "write …", "delete …", "shortcut …", "title …"
 
   std::vector<service::ProcessEntry> Entries;
   std::vector<service::ManagedProcess> Managed{{0, std::nullopt}, {7, L"C:\\Work\\Tool.EXE"}, {8, std::nullopt}};
   std::wstring ImagePath;  // of process 7, as Windows tells it
-  std::map<service::WindowId, std::uint32_t> Owners{{service::WindowId{1}, 7}, {service::WindowId{2}, 8}};
   service::WindowId UnderCursor{1};
   service::ScreenPoint Cursor;
   bool ButtonDown = true;
@@ -74,6 +68,7 @@ class Computer : public service::DataFiles,
 
   void AddProcess(std::uint32_t id, std::string_view name) {
     service::ProcessEntry& entry = Entries.emplace_back();
+    entry.dwSize = service::ProcessEntrySize;
     entry.th32ProcessID = id;
     std::copy(name.begin(), name.end(), entry.szExeFile.begin());
   }
@@ -81,8 +76,7 @@ class Computer : public service::DataFiles,
   // --- files
 
   std::optional<std::string> Read(Text path) override {
-    if (Fails(__func__) || !Disk.HasFile(path)) return std::nullopt;
-    return Disk.Bytes(path);
+    return Fails(__func__) || !Disk.HasFile(path) ? std::nullopt : std::optional(Disk.Bytes(path));
   }
   bool Write(Text path, std::string_view bytes) override { return !Fails(__func__) && Disk.Write(path, bytes, false); }
   bool WriteInPlace(Text path, std::string_view bytes) override {
@@ -109,7 +103,7 @@ class Computer : public service::DataFiles,
   std::vector<service::Drive> Drives() override {
     std::vector<service::Drive> drives;
     if (Fails(__func__)) return drives;
-    for (const auto& [letter, drive] : Disk.Drives())
+    for (const auto& [letter, drive] : Disk.Drives)
       drives.push_back({letter, drive.Type, drive.Ready ? drive.Label : L""});
     return drives;
   }
@@ -153,13 +147,12 @@ class Computer : public service::DataFiles,
   // --- what is asked of the system
 
   std::optional<service::DiskIdentity> ReadDiskIdentity() override {
-    if (Fails(__func__)) return std::nullopt;
-    return Identity;
+    return Fails(__func__) ? std::nullopt : std::optional(Identity);
   }
   std::wstring WindowsDirectory() override { return Fails(__func__) ? L"" : Windows; }
   std::wstring ProgramFolder() override { return Home; }
   bool PreviousInstance() override { return !Fails(__func__) && Previous; }
-  void SetTitle(Text title) override { Titles.emplace_back(title); }
+  void SetTitle(Text title) override { Note(L"title ", title); }
   bool ActivateInstance(Text title) override { return !Fails(__func__) && Previous && title == L"Vantor Orbel"; }
 
   bool StartCommandLine(Text line) override { return Note(L"run ", line) && !Fails(__func__); }
@@ -171,17 +164,13 @@ class Computer : public service::DataFiles,
   std::wstring SpecialFolder(Text name) override { return Fails(__func__) ? L"" : Find(Specials, name); }
   std::wstring RegistryRead(Text name) override { return Fails(__func__) ? L"" : Find(Registry, name); }
   void RegistryWrite(Text name, Text value) override {
-    Note(L"write ", value);
-    if (!Fails(__func__)) Registry[std::wstring(name)] = value;
+    if (Note(L"write ", value) && !Fails(__func__)) Registry[std::wstring(name)] = value;
   }
   void RegistryDelete(Text name) override {
-    Note(L"delete ", name);
-    if (!Fails(__func__)) Registry.erase(std::wstring(name));
+    if (Note(L"delete ", name) && !Fails(__func__)) Registry.erase(std::wstring(name));
   }
   bool SaveShortcut(const service::Shortcut& shortcut) override {
-    if (Fails(__func__)) return false;
-    Shortcuts.push_back(shortcut);
-    return true;
+    return Note(L"shortcut ", shortcut.File) && !Fails(__func__);
   }
 
   // --- processes and windows
@@ -192,26 +181,22 @@ class Computer : public service::DataFiles,
     next_ = 0;
     return service::SnapshotId{77};
   }
-  bool First(service::SnapshotId snapshot, service::ProcessEntry& entry) override {
-    return !Fails(__func__) && Next(snapshot, entry);
+  bool First(service::SnapshotId id, service::ProcessEntry& entry) override {
+    return !Fails(__func__) && Next(id, entry);
   }
   bool Next(service::SnapshotId /*snapshot*/, service::ProcessEntry& entry) override {
     if (Fails(__func__) || next_ == Entries.size() || entry.dwSize != service::ProcessEntrySize) return false;
     entry = Entries[next_++];
-    entry.dwSize = service::ProcessEntrySize;
     return true;
   }
   void CloseSnapshot(service::SnapshotId /*snapshot*/) override { --Open; }
   std::optional<std::vector<service::ManagedProcess>> ManagedProcesses() override {
-    if (Fails(__func__)) return std::nullopt;
-    return Managed;
+    return Fails(__func__) ? std::nullopt : std::optional(Managed);
   }
   std::wstring ImageName(std::uint32_t processId) override {
     return Fails(__func__) || processId != 7 ? L"" : ImagePath;
   }
-  void SetCapture(service::WindowId window) override {
-    if (!Fails(__func__)) Captured = window;
-  }
+  void SetCapture(service::WindowId window) override { Captured = Fails(__func__) ? Captured : window; }
   service::WindowId GetCapture() override { return Fails(__func__) ? service::WindowId::None : Captured; }
   void ReleaseCapture() override { Captured = service::WindowId::None; }
   service::ScreenPoint GetCursorPos() override { return Cursor; }
@@ -220,7 +205,7 @@ class Computer : public service::DataFiles,
   }
   bool LeftButtonDown() override { return !Fails(__func__) && ButtonDown; }
   std::uint32_t ProcessOfWindow(service::WindowId window) override {
-    return Fails(__func__) || Owners.count(window) == 0 ? 0 : Owners.at(window);
+    return Fails(__func__) ? 0 : window == service::WindowId{1} ? 7 : window == service::WindowId{2} ? 8 : 0;
   }
   void ShowTarget(bool target) override { Target = target; }
   void Mark(service::WindowId window) override { Marked = window; }
@@ -232,7 +217,7 @@ class Computer : public service::DataFiles,
     return outcome == Outcome::Fails;
   }
   bool Note(Text how, Text what) {
-    Started.push_back(std::wstring(how).append(what));
+    Asked.push_back(std::wstring(how).append(what));
     return true;
   }
   static bool IsUpper(int c) {
@@ -245,7 +230,7 @@ class Computer : public service::DataFiles,
   Texts Names(Text folder, bool folders, std::wstring_view ending) const {
     Texts names;
     for (const FakeDisk::Entry* entry : Disk.In(folder)) {
-      if (entry->IsFolder != folders || entry->Hidden || !Lower(entry->Path).ends_with(ending)) continue;
+      if (entry->IsFolder != folders || !Lower(entry->Path).ends_with(ending)) continue;
       names.push_back(entry->Path.substr(entry->Path.rfind(L'\\') + 1));
     }
     return names;

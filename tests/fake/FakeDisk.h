@@ -8,8 +8,8 @@
 
 namespace vantor::fake {
 
-/// Drives, folders and files in memory. Paths are compared without regard to the case of A to Z. Drive C: is there from
-/// the start, fixed; other drives are added.
+/// Drives, folders and files in memory. Paths are compared without regard to the case of A to Z. At first
+/// there is a fixed drive C:.
 class FakeDisk {
  public:
   struct DriveState {
@@ -21,7 +21,6 @@ class FakeDisk {
   struct Entry {
     std::wstring Path;  // in the letter case it was made with
     bool IsFolder = false;
-    bool Hidden = false;
     bool Writable = true;
     std::string Bytes;
   };
@@ -33,12 +32,7 @@ class FakeDisk {
   };
   struct Killed {};
 
-  FakeDisk() { AddDrive(L'C', 2); }
-
-  DriveState& AddDrive(wchar_t letter, int type, std::wstring_view label = L"") {
-    return drives_[letter] = {type, std::wstring(label)};
-  }
-  DriveState& Drive(wchar_t letter) { return drives_.at(letter); }
+  std::map<wchar_t, DriveState> Drives{{L'C', {}}};
 
   /// Makes a file with all the folders on its way.
   Entry& AddFile(std::wstring_view path, std::string_view bytes = "") {
@@ -49,11 +43,7 @@ class FakeDisk {
     return entry;
   }
   void AddFolder(std::wstring_view path) {
-    if (IsRoot(path) || Find(path)) return;
-    AddFolder(Parent(path));
-    Entry& entry = entries_[Key(path)];
-    entry.Path = Trim(path);
-    entry.IsFolder = true;
+    if (!IsRoot(path) && !Find(path)) AddFile(path).IsFolder = true;
   }
   void Remove(std::wstring_view path) { entries_.erase(Key(path)); }
   /// The bytes of a file; throws std::out_of_range when there is none.
@@ -70,11 +60,10 @@ class FakeDisk {
 
   // What the services ask.
 
-  [[nodiscard]] const std::map<wchar_t, DriveState>& Drives() const { return drives_; }
   [[nodiscard]] const DriveState* DriveOf(std::wstring_view path) const {
     if (path.size() < 2 || path[1] != L':') return nullptr;
-    const auto found = drives_.find(Key(path)[0]);
-    return found == drives_.end() ? nullptr : &found->second;
+    const auto found = Drives.find(Key(path)[0]);
+    return found == Drives.end() ? nullptr : &found->second;
   }
   /// The file or folder, if its drive is ready.
   [[nodiscard]] const Entry* Find(std::wstring_view path) const {
@@ -159,10 +148,9 @@ class FakeDisk {
     left_ -= std::min(left_, bytes);
     if (enough) return;
     if (fault_ == Fault::Killed) throw Killed();
-    Drive(Key(path)[0]).Ready = false;
+    Drives.at(Key(path)[0]).Ready = false;
   }
 
-  std::map<wchar_t, DriveState> drives_;
   std::map<std::wstring, Entry> entries_;  // by Key of the path
   Fault fault_ = Fault::None;
   std::size_t left_ = 0;

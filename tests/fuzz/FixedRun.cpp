@@ -12,20 +12,13 @@
 
 namespace {
 
-/// Some bytes of an input are lost, and others come in their place.
+/// A byte is put in, taken out or changed, or the rest becomes that of another input.
 void Change(std::string& input, const std::string& other, std::mt19937& numbers) {
-  const auto below = [&](std::size_t count) { return numbers() % count; };
-  const std::size_t at = below(input.size() + 1);
-  switch (below(3)) {
-    case 0:
-      input.insert(at, 1, static_cast<char>(below(256)));
-      break;
-    case 1:
-      input.replace(at, input.npos, other, below(other.size() + 1));
-      break;
-    default:
-      input.replace(at, 1, below(2), static_cast<char>(below(256)));
-  }
+  const std::size_t at = numbers() % (input.size() + 1);
+  if (numbers() % 4 == 0)
+    input.replace(at, input.npos, other, numbers() % (other.size() + 1));
+  else
+    input.replace(at, numbers() % 2, numbers() % 2, static_cast<char>(numbers()));
 }
 
 void Run(const vantor::fuzz::Target& target, const std::string& input) {

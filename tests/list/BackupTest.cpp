@@ -63,7 +63,7 @@ void Break(fake::FakeDisk& disk, Fault fault, std::size_t bytes, Action action) 
   } catch (const fake::FakeDisk::Killed&) {
   }
   disk.Break(Fault::None, 0);
-  disk.Drive(L'E').Ready = true;
+  disk.Drives[L'E'].Ready = true;
 }
 
 /// A run that changes the list: longer, shorter, and a group that was empty.
@@ -122,7 +122,7 @@ TEST_CASE("a save broken off at any byte leaves the old list or the new one, who
       REQUIRE((kept == older || kept == before || kept == state));
       // A medium that can't be written to shows it too.
       Medium protectedNow(broken);
-      protectedNow.Disk.Drive(L'E').WriteProtected = true;
+      protectedNow.Disk.Drives[L'E'].WriteProtected = true;
       REQUIRE(Loaded(protectedNow.Disk) == state);
       // And from there on all goes as if nothing had been.
       const fake::FakeDisk saved = SaveWith(broken, Fault::None, 0);

@@ -49,7 +49,7 @@ TEST_CASE("a save writes exact bytes, and the next run has the same list") {
   CHECK(computer.Open == 0);
 
   // What can't be saved harms nothing, and a place beyond 16 bits is saved as the nearest.
-  computer.Disk.Drive(L'C').WriteProtected = true;
+  computer.Disk.Drives[L'C'].WriteProtected = true;
   third.Files.SaveLaunchList(third.Choose.List, 40000, -40000);
   CHECK(third.Settings.Left == INT16_MAX);
   CHECK(third.Settings.Top == INT16_MIN);

@@ -1,6 +1,7 @@
 #include <doctest/doctest.h>
 
 #include "fake/TestProgram.h"
+#include "list/NameMatch.h"
 
 namespace vantor::list {
 namespace {
@@ -8,38 +9,27 @@ namespace {
 using test::ItemsOf;
 using test::Texts;
 
-/// The list panel, open over a list with items in all groups but that of the files.
-struct OpenListPanel : test::StartedProgram {
-  OpenListPanel() {
-    for (const std::wstring name : {L"Mail", L"Edit", L"Calc"}) Add(LaunchGroup::Prog, name, L"C:\\" + name + L".exe");
-    Add(LaunchGroup::Fold, L"Docs", L"C:\\My docs");
-    Add(LaunchGroup::Web, L"News", L"http://news");
-    Desktop.Press(form::Key::F4);
+TEST_CASE("on the list page an item is opened by the starter of its group, renamed and removed") {
+  test::StartedProgram panel;
+  for (const std::wstring name : {L"Mail", L"Edit", L"Calc"})
+    panel.Add(LaunchGroup::Prog, name, L"C:\\" + name + L".exe");
+  panel.Add(LaunchGroup::Fold, L"Docs", L"C:\\My docs");
+  panel.Add(LaunchGroup::Web, L"News", L"http://news");
+  panel.Desktop.Press(form::Key::F4);
+  GroupFrame& prog = panel.Choose.Page.Prog;
+  prog.Path.SetListIndex(1);
+  CHECK(prog.Name.Text() == L"Edit");
+  panel.Computer.Asked.clear();
+  for (GroupFrame* frame : {&prog, &panel.Choose.Page.Fold, &panel.Choose.Page.Web}) {
+    panel.Desktop.Click(frame->Open);
+    CHECK(!panel.Choose.Visible());
+    panel.Desktop.Press(form::Key::F4);
   }
-  GroupFrame& Prog = Choose.Page.Prog;
-};
+  CHECK(panel.Computer.Asked == Texts{L"run C:\\Edit.exe", L"shell C:\\My docs", L"shell http://news"});
 
-TEST_CASE("an item opens after the panel has closed, by the starter of its group") {
-  OpenListPanel panel;
-  panel.Prog.Path.SetListIndex(1);
-  CHECK(panel.Prog.Name.Text() == L"Edit");
-  panel.Desktop.Click(panel.Prog.Open);
-  CHECK(!panel.Choose.Visible());
-  panel.Desktop.Press(form::Key::F4);
-  panel.Desktop.Click(panel.Choose.Page.Fold.Open);
-  panel.Desktop.Press(form::Key::F4);
-  panel.Computer.Let("Run", fake::Outcome::Fails);
-  panel.Expect();
-  panel.Desktop.Click(panel.Choose.Page.Web.Open);
-  CHECK(panel.Computer.Started == Texts{L"run C:\\Edit.exe", L"shell C:\\My docs", L"shell http://news"});
-  CHECK(panel.Told == Texts{L"There was some error. Could not start the required program."});
-}
-
-TEST_CASE("the rename box opens and closes, and OK follows the text; what is removed leaves the next one chosen") {
-  OpenListPanel panel;
-  GroupFrame& prog = panel.Prog;
+  // The rename box opens and closes, and OK follows the text.
   panel.Desktop.Click(prog.Rename);
-  CHECK(prog.Rename.Picture() == form::Picture::ButtonOpen);
+  prog.Name.SetListIndex(0);
   panel.Desktop.Type(L"\rMai");
   CHECK(prog.RenOK.Enabled());
   panel.Desktop.Type(L"l");
@@ -54,8 +44,25 @@ TEST_CASE("the rename box opens and closes, and OK follows the text; what is rem
   CHECK(!prog.FrameRename.Visible());
   panel.Desktop.Click(prog.Remove);
   CHECK(ItemsOf(panel.Choose.List.Of(LaunchGroup::Prog)) == Texts{L"Mail>C:\\Mail.exe", L"Calc>C:\\Calc.exe"});
-  CHECK(prog.Name.ListIndex() == prog.Path.ListIndex());
-  CHECK(prog.Name.Text() == L"Mail");
+  CHECK((prog.Name.ListIndex() == 0 && prog.Path.ListIndex() == 0));
+}
+
+TEST_CASE("names are listed regardless of letter case, paths only when identical") {
+  test::TestProgram program;
+  form::ComboBox& box = program.Choose.ComboListProgName;
+  CHECK(CheckNameListed(program.Computer, L"", box).empty());
+  for (const auto* entry : {L"Editor", L"\u00C9t\u00E9", L"\u041F\u0440\u043E\u0435\u043A\u0442"}) box.AddItem(entry);
+  for (const auto* name : {L"EDITOR", L"editor", L"\u00E9T\u00C9", L"\u043F\u0420\u043E\u0435\u043A\u0442"})
+    CHECK(CheckNameListed(program.Computer, name, box) == L"MessageNameAlreadyListed");
+  for (const auto* name : {L"Edito", L"Editor ", L"\u00CAt\u00E9", L""})
+    CHECK(CheckNameListed(program.Computer, name, box).empty());
+  CHECK(PathAlreadyListed(L"Editor", box) == L"MessagePathAlreadyListed");
+  CHECK(PathAlreadyListed(L"editor", box).empty());
+  // Letters that share a place in the memory of letters are kept apart: 0x431 and 0x131.
+  NameMatch match(program.Computer, L"\u0431\u0131");
+  CHECK(match.Begins(L"\u0411\u0131x"));
+  CHECK(!match.Begins(L"\u0131\u0411"));
+  CHECK(match.Equals(L"\u0411\u0131"));
 }
 
 }  // namespace

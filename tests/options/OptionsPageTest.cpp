@@ -22,10 +22,10 @@ TEST_CASE("the run value is written and deleted only when that changes something
   for (const auto& row : rows) {
     CAPTURE(&row - rows);
     program.Computer.Registry = {{value, row.Before}};
-    program.Computer.Started.clear();
+    program.Computer.Asked.clear();
     program.Desktop.Press(vantor::form::Key::F6);
     program.Desktop.Click(page.CheckOptionMain[row.Box]);
     program.Desktop.Click(page.CommandOptionOK);
-    CHECK(program.Computer.Started == row.Done);
+    CHECK(program.Computer.Asked == row.Done);
   }
 }

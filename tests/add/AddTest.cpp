@@ -1,18 +1,18 @@
-#include "add/frmBrowse.h"
-
 #include <doctest/doctest.h>
 
+#include "add/MachineIdentity.h"
 #include "add/clsActiveProcess.h"
 #include "fake/TestProgram.h"
 
 namespace vantor::add {
 namespace {
 
+using fake::Outcome;
 using service::WindowId;
 using test::Texts;
 
 constexpr std::wstring_view NotFixed = L"You can add Program, File and Folder to Launch List only if those are in a";
-constexpr std::wstring_view NotReady = L"The Drive you are trying to select is not ready.";
+constexpr char OwnIdentity[] = "3\r\n\"1A2B3C4D\"\r\n80023715840\r\n";
 
 /// The add box of a program that runs, open at a folder with a program and a file.
 struct AddBox : test::StartedProgram {
@@ -33,6 +33,10 @@ struct AddBox : test::StartedProgram {
     Desktop.Advance(100);
   }
   void Release() { Box.CommandFindPath.InputMouseUp(form::MouseButton::Left); }
+  void Find(WindowId window) {
+    DragTo(window);
+    Release();
+  }
   [[nodiscard]] std::size_t Added() const { return test::ItemsOf(Choose.List).size(); }
 
   frmBrowse& Box = Program.frmBrowse;
@@ -58,20 +62,20 @@ TEST_CASE("a name left over from another choice adds nothing while there is no p
   CHECK(box.State().BrowseFolder == L"C:\\");
 }
 
-TEST_CASE("where an item may come from") {
+TEST_CASE("where an item may come from, and which folder is kept for the next run") {
   constexpr std::wstring_view NoMachineYet = L"While Vantor runs from a Removable Media - it can add";
   constexpr std::wstring_view NotFixedHere = L"From this machine you can add";
   constexpr std::wstring_view OtherMachine = L"While Vantor runs from a Removable Media - Program File and Folder if";
   const struct {
     bool Media, Unknown, Remembered;
-    wchar_t Drive;
+    std::wstring Folder;
     std::wstring_view Refusal;  // "" when it may be added
   } cases[] = {
-      {false, false, false, L'D', L""},         {false, false, false, L'E', NotFixed},
-      {false, false, false, L'N', NotFixed},    {true, true, false, L'E', L""},
-      {true, true, false, L'D', NoMachineYet},  {true, false, true, L'D', L""},
-      {true, false, true, L'N', NotFixedHere},  {true, false, true, L'E', L""},
-      {true, false, false, L'D', OtherMachine}, {true, false, false, L'E', L""},
+      {false, false, false, L"D:\\Work", L""},         {false, false, false, L"E:\\Work", NotFixed},
+      {false, false, false, L"N:\\Work", NotFixed},    {true, true, false, L"E:\\Work", L""},
+      {true, true, false, L"D:\\Work", NoMachineYet},  {true, false, true, L"D:\\Work", L""},
+      {true, false, true, L"N:\\Work", NotFixedHere},  {true, false, true, L"E:\\Work", L""},
+      {true, false, false, L"D:\\Work", OtherMachine}, {true, false, false, L"E:\\Work", L""},
   };
   for (const auto& c : cases) {
     CAPTURE(&c - cases);
@@ -81,8 +85,9 @@ TEST_CASE("where an item may come from") {
     environment.MachineUnknown = c.Unknown;
     environment.MachineRemembered = c.Remembered;
     if (c.Media) environment.MediaDriveLetter = L"E";
-    adding.Box.DriveWork.SetDrive(std::wstring(1, c.Drive));
-    REQUIRE(adding.Box.DirWork.SetPath(std::wstring(1, c.Drive) + L":\\Work"));
+    adding.Box.DriveWork.SetDrive(c.Folder.substr(0, 1));
+    REQUIRE(adding.Box.DirWork.SetPath(c.Folder));
+    if (!c.Media) CHECK(adding.Program.Settings.Folder == (c.Refusal.empty() ? c.Folder : L""));
     adding.Pick(L"Tool.EXE");
     const bool refused = !c.Refusal.empty();
     if (refused) adding.Expect([](auto& dialog) { dialog.CommandOK.DoClick(); });
@@ -93,30 +98,7 @@ TEST_CASE("where an item may come from") {
     CHECK(adding.Box.TextAddName.Text() == L"Tool");
     CHECK(adding.Program.OptionsPage.CommandOptionRemember.Enabled() == (c.Refusal == NoMachineYet));
   }
-}
-
-TEST_CASE("the last folder on a fixed disk is kept for the next run, and a drive that is not ready is told") {
-  AddBox adding;
-  frmBrowse& box = adding.Box;
-  const std::wstring& folder = adding.Program.Settings.Folder;
-  REQUIRE(box.DirWork.SetPath(L"D:\\Work"));
-  CHECK(box.DriveWork.Drive() == L"d:");
-  CHECK(folder == L"D:\\Work");
-  adding.Expect();
-  box.DriveWork.SetDrive(L"r:");
-  CHECK(box.DirWork.Path() == L"D:\\Work");
-  CHECK(box.DriveWork.Drive() == L"d:");
-  box.DriveWork.SetDrive(L"e:");
-  CHECK(box.DirWork.Path() == L"E:\\");
-  CHECK(folder.empty());
-  adding.Computer.Disk.Drive(L'E').Ready = false;
-  adding.Expect();
-  box.DirWork.InputSelect(1);
-  adding.Desktop.DoubleClick(box.DirWork);
-  CHECK(adding.Told == Texts{std::wstring(NotReady), std::wstring(NotReady)});
-  CHECK(box.DirWork.Path() == L"E:\\");
-
-  // One that is gone at the next start gives way to the program's own.
+  // A folder that is gone at the next start gives way to the program's own.
   test::TestProgram next;
   next.Program.Settings.Folder = L"C:\\Gone";
   next.Program.Environment.ProgramFolder = L"C:\\Vantor\\";
@@ -136,13 +118,11 @@ TEST_CASE("what is dropped on the program fills the add box as if browsed to") {
       {{L"Z:\\no", L"C:\\Work\\notes.txt"}, AddKind::File, L"C:\\Work\\notes.txt"},
       {{L"D:\\Work\\"}, AddKind::Folder, L"D:\\Work"},
       {{longFile}, AddKind::File, longFile},
-      {{L"D:\\hidden.txt"}, AddKind::File, L"D:\\hidden.txt"},
   };
   for (const auto& c : cases) {
     CAPTURE(&c - cases);
     AddBox adding;
     adding.Computer.Disk.AddFile(longFile);
-    adding.Computer.Disk.AddFile(L"D:\\hidden.txt").Hidden = true;
     adding.Desktop.Press(form::Key::F3);
     adding.Box.FillWith(c.Paths);
     CHECK(adding.Program.CommandState.OpenPanelIndex == 0);
@@ -154,36 +134,28 @@ TEST_CASE("what is dropped on the program fills the add box as if browsed to") {
 
 TEST_CASE("a snapshot's records are kept in order, across the growth of the table") {
   fake::Computer computer;
-  computer.Entries.clear();
-  for (std::uint32_t id = 1; id <= 45; ++id) computer.AddProcess(id * 4, "p" + std::to_string(id) + ".exe");
+  for (std::uint32_t index = 2; index <= 45; ++index) computer.AddProcess(index * 4, "p.exe");
   clsActiveProcess active(computer, computer);
   CHECK(active.GetActiveProcess() == 45);
-  for (const int index : {1, 20, 21, 40, 45}) {
-    CHECK(active.th32ProcessID(index) == static_cast<std::uint32_t>(index) * 4);
-    CHECK(active.szExeFile(index).size() == 260);
-    CHECK(active.szExeFile(index).starts_with(L"p" + std::to_wstring(index) + L".exe"));
-  }
+  for (const int index : {20, 21, 40, 45}) CHECK(active.th32ProcessID(index) == static_cast<std::uint32_t>(index) * 4);
+  CHECK(active.szExeFile(45) == std::wstring(L"p.exe").append(255, L'\0'));
   CHECK_THROWS_AS((void)active.dwFlags(46), std::out_of_range);
-  CHECK(computer.Open == 0);
 }
 
 TEST_CASE("the finder puts the program's path into the box, and its drive type counts once") {
   AddBox adding;
   adding.Computer.Managed[1].ExecutablePath = L"E:\\Work\\Tool.EXE";
   adding.DragTo(WindowId{1});
-  CHECK(adding.Computer.Target);
-  CHECK(adding.Computer.Marked == WindowId{1});
+  CHECK((adding.Computer.Target && adding.Computer.Marked == WindowId{1}));
   adding.Release();
   CHECK(adding.Box.TextAddPath.Text() == L"E:\\Work\\Tool.EXE");
-  CHECK(adding.Box.TextAddName.HasFocus());
   adding.Expect();
   adding.Desktop.Type(L"Tool\r");
   CHECK(adding.Told.at(0).starts_with(NotFixed));
   adding.Box.TextAddName.SetFocus();
   adding.Desktop.Type(L"\r");  // now the folder's own drive type counts
   CHECK(adding.Added() == 1);
-  adding.DragTo(WindowId{1});
-  adding.Release();
+  adding.Find(WindowId{1});
   adding.Pick(L"Tool.EXE");  // what the finder found is given up
   adding.Desktop.Type(L"Work\r");
   CHECK(adding.Added() == 2);
@@ -192,15 +164,13 @@ TEST_CASE("the finder puts the program's path into the box, and its drive type c
   adding.Pick(L"Tool.EXE");
   for (const WindowId window : {WindowId{2}, WindowId{3}, WindowId::None}) {
     adding.Expect();
-    adding.DragTo(window);
-    adding.Release();
+    adding.Find(window);
     CHECK(adding.Told.back() == L"Could not find the Executable Path. Reason undetermined.");
     CHECK(adding.Box.TextAddPath.Text() == L"C:\\Work\\Tool.EXE");
   }
-  adding.Computer.Let("ManagedProcesses", fake::Outcome::Fails);
+  adding.Computer.Let("ManagedProcesses", Outcome::Fails);
   adding.Computer.ImagePath = L"D:\\plain.exe";
-  adding.DragTo(WindowId{1});
-  adding.Release();
+  adding.Find(WindowId{1});
   CHECK(adding.Box.TextAddPath.Text() == L"D:\\plain.exe");
 }
 
@@ -232,9 +202,58 @@ TEST_CASE("a drag that is broken off changes nothing, and the next one works") {
   adding.Release();
   CHECK(adding.Box.TextAddPath.Text().empty());
   CHECK(adding.Box.Visible());
-  adding.DragTo(WindowId{1});
-  adding.Release();
+  adding.Find(WindowId{1});
   CHECK(adding.Box.TextAddPath.Text() == L"C:\\Work\\Tool.EXE");
+}
+
+TEST_CASE("the computer is known again by its disk C:, and what can't be read is asked about") {
+  enum class Expected { Unknown, Remembered, Other, Asked };
+  const struct {
+    const char* File;  // null: none
+    Expected Result;
+    Outcome Identity = Outcome::Works;
+  } cases[] = {
+      {nullptr, Expected::Unknown},
+      {OwnIdentity, Expected::Remembered},
+      {"2\r\n\"1A2B3C4D\"\r\n80023715840\r\n", Expected::Other},
+      {"3\r\n\"1A2B3C4D\"\r\n80023715841\r\n", Expected::Other},
+      {"3\r\n\"1A2B3C4E\"\r\n80023715840\r\n", Expected::Other},
+      {"\"3\"\r\n\"1A2B3C4D\"\r\n80023715840\r\n", Expected::Other},
+      {"x\r\n\"1A2B3C4D\"\r\n80023715840\r\n", Expected::Other},
+      {"3\r\n\"1A2B3C4D\"\r\n", Expected::Asked},
+      {"", Expected::Asked},
+      {OwnIdentity, Expected::Other, Outcome::Fails},
+      {OwnIdentity, Expected::Asked, Outcome::Throws},
+  };
+  for (const auto& c : cases) {
+    CAPTURE(&c - cases);
+    test::TestProgram program;
+    start::Environment& environment = program.Program.Environment;
+    const service::Services services = program.Computer.Services();
+    environment.Files.Machine = L"E:\\Machine.Orbel";
+    program.Computer.Let("ReadDiskIdentity", c.Identity);
+    if (c.File != nullptr) program.Computer.Disk.AddFile(L"E:\\Machine.Orbel", c.File);
+    if (c.Result == Expected::Asked) program.Expect();
+    IdentifyMachine(services, program.Program.Messages, environment);
+    if (c.Result == Expected::Asked)
+      CHECK(program.Told.at(0).find(L"Bug-Vantor-DeclareOwnerOnMedia") != std::wstring::npos);
+    CHECK(environment.MachineUnknown == (c.Result == Expected::Unknown));
+    CHECK(environment.MachineRemembered == (c.Result == Expected::Remembered));
+    if (c.Result != Expected::Unknown) continue;
+
+    // It can't be remembered in silence while the service does not answer, otherwise with a message.
+    program.Computer.Let("ReadDiskIdentity", Outcome::Fails);
+    CHECK_FALSE(RememberMyComputer(services, program.Program.Messages, environment));
+    program.Computer.Let("ReadDiskIdentity", Outcome::Throws);
+    program.Expect();
+    CHECK_FALSE(RememberMyComputer(services, program.Program.Messages, environment));
+    CHECK(program.Told == Texts{L"Could not save data for identifying this machine. Reason undetermined"});
+    CHECK((environment.MachineUnknown && !environment.MachineRemembered));
+    program.Computer.Decide = {};
+    CHECK(RememberMyComputer(services, program.Program.Messages, environment));
+    CHECK((!environment.MachineUnknown && environment.MachineRemembered));
+    CHECK(program.Computer.Disk.Bytes(L"E:\\Machine.Orbel") == OwnIdentity);
+  }
 }
 
 }  // namespace

@@ -1,0 +1,177 @@
+#include <doctest/doctest.h>
+
+#include <algorithm>
+
+#include "bar/PanelPlace.h"
+#include "fake/TestProgram.h"
+#include "start/Places.h"
+
+namespace vantor::bar {
+namespace {
+
+using form::Key;
+using test::StartedProgram;
+using test::Texts;
+
+TEST_CASE("buttons without a panel are not there, and leave no gap") {
+  StartedProgram program;
+  frmMain& bar = program.Main;
+  for (const std::size_t index : {0U, 1U, 2U, 4U, 6U}) bar.SetPanel(index, nullptr);
+  std::vector<const form::Control*> controls;
+  for (const form::Control* control : bar.Controls()) {
+    if (control->Container() == &bar.FrameButtons && control->Visible()) controls.push_back(control);
+  }
+  std::sort(controls.begin(), controls.end(), [](auto* a, auto* b) { return a->Left() < b->Left(); });
+  Texts names;
+  for (const form::Control* control : controls) {
+    if (!names.empty()) CHECK(control->Left() == controls[names.size() - 1]->Right() + 60);
+    names.push_back(control->Name());
+  }
+  CHECK(names == Texts{L"ImageLauncher", L"CommandWeb", L"TextMain", L"CommandMenu(5)", L"CommandMin", L"CommandExit"});
+
+  for (std::size_t i = 0; i < menu::Count; ++i) bar.SetPanel(i, &program.Program.HelpPanel);
+  CHECK(bar.Bounds().Width == bar.CommandExit.Right());
+  // Unfolded it still leaves its margin free on the smallest screen.
+  CHECK(bar.Web.FrameWeb.Right() + 480 <= 12000);
+  for (const auto* name : {L"CommandMenu(4)", L"CommandMenu(5)", L"CommandMenu(6)", L"CommandMin", L"CommandExit",
+                           L"CommandWeb", L"CommandMenu(0)"}) {
+    program.Desktop.Press(Key::Tab);
+    CHECK(bar.ActiveControl()->Name() == name);
+  }
+}
+
+TEST_CASE("dragging ends within the screen, and leaves room for what unfolds") {
+  StartedProgram program;
+  frmMain& bar = program.Main;
+  const form::Rect screen = program.Desktop.Desktop.Bounds;
+  program.Desktop.DragBy(bar, 99999, 99999);
+  CHECK(bar.Bounds().Left == screen.Width - bar.Bounds().Width - 480);
+  CHECK(bar.Bounds().Top == screen.Height - bar.Bounds().Height - 600);
+  program.Desktop.DragBy(bar, -99999, -99999);
+  CHECK((bar.Bounds().Left == 0 && bar.Bounds().Top == 0));
+  program.Desktop.Press(Key::F1);
+  program.Desktop.DragBy(bar, 99999, 0);
+  CHECK(bar.Bounds().Left == screen.Width - bar.Web.FrameWeb.Right() - 480);
+  bar.InputMouseMove(form::MouseButton::None);
+  // A window manager may tell of the drag's end after the drag.
+  bar.InputMoved({-900, 300, bar.Bounds().Width, bar.Bounds().Height});
+  CHECK((bar.Bounds().Left == 0 && bar.Bounds().Top == 300));
+}
+
+TEST_CASE("the bar stands as it was left, and comes along when the screen or the room on it shrinks") {
+  const struct {
+    const char* Saved;
+    int Left, Top;
+  } rows[] = {{"30000\r\n0", 15360 - 480 - 6960, 0},
+              {"-30000\r\n0", 0, 0},
+              {"0\r\n20000", 0, 10440},
+              {"-60\r\n0", -60, 0},
+              {"14000\r\n9", 14000, 9}};
+  for (const auto& row : rows) {
+    CAPTURE(row.Saved);
+    StartedProgram program("2", row.Saved);
+    frmMain& bar = program.Main;
+    CHECK((bar.Bounds().Left == row.Left && bar.Bounds().Top == row.Top));
+    program.Desktop.Desktop = {{0, 0, 12000, 9000}, {0, 600, 12000, 8400}};
+    program.Desktop.Press(Key::F6);
+    bar.InputScreensChanged();
+    program.Choose.InputScreensChanged();
+    CHECK((bar.Bounds().Right() <= 12000 - 480 && bar.Bounds().Bottom() <= 9000 - 600));
+    CHECK(program.Choose.Bounds().Bottom() <= 9000);
+    // A taskbar along the top, and a screen that is narrower than the bar.
+    program.Desktop.Desktop = {{0, 0, 6000, 8400}, {0, 600, 6000, 8400}};
+    bar.SetBounds({bar.Bounds().Left, 0, bar.Bounds().Width, bar.Bounds().Height});
+    bar.InputScreensChanged();
+    CHECK((bar.Bounds().Left == 0 && bar.Bounds().Top == 600));
+  }
+}
+
+TEST_CASE("the bar climbs on top each second, except while a message or a panel is open or the user does not want it") {
+  StartedProgram program;
+  const auto climbs = [&] {
+    program.Desktop.Advance(5000);
+    return program.Main.TopMost();
+  };
+  const auto climbsAfterMessage = [&] {
+    program.Expect([&](auto&) { CHECK(!climbs()); });
+    program.Program.Messages.ShowList(L"MessageEmptyList");
+    return climbs();
+  };
+  CHECK(climbs());
+  CHECK(climbsAfterMessage());
+  program.Desktop.Press(Key::F7);
+  CHECK(!climbsAfterMessage());
+  program.Desktop.Press(Key::F7);
+  CHECK(climbs());
+  program.Program.Options.AlwaysOnTop = 0;
+  CHECK(!climbsAfterMessage());
+}
+
+TEST_CASE("an idle line shows the product's name again, ready to be typed over") {
+  StartedProgram program;
+  form::TextBox& line = program.Main.TextMain;
+  program.Desktop.Press(Key::F12);
+  program.Desktop.Advance(50000);
+  program.Desktop.Type(L"x");
+  program.Desktop.Advance(1000);
+  program.Desktop.DoubleClick(line);
+  program.Desktop.Advance(60000);
+  CHECK(line.Text().empty());
+  program.Desktop.Advance(1000);
+  CHECK(line.Text() == L"Vantor");
+  CHECK(line.SelLength() == 6);
+}
+
+TEST_CASE("leaving before the list was read keeps the list") {
+  test::TestProgram program;
+  program.Program.Environment.ProgramFolder = L"C:\\Vantor\\";
+  start::SetDataFiles(program.Program.Environment);
+  program.Program.Settings.WebUpper = 0;
+  program.Computer.Disk.AddFile(L"C:\\Vantor\\Vantor\\ListWeb.Orbel", "\"x\",\"http://x\"\r\n");
+  program.Main.Show();
+  program.Desktop.Click(program.Main.CommandExit);
+  CHECK(program.Computer.Disk.Bytes(L"C:\\Vantor\\Vantor\\Set.Orbel").starts_with("2\r\n-1\r\n-1\r\n-1\r\n0\r\n"));
+}
+
+TEST_CASE("a panel stands by the bar, and on the screen") {
+  const form::Rect area{0, 0, 12000, 8600};
+  const struct {
+    form::Rect Bar, Place;
+  } cases[] = {
+      {{0, 0, 6000, 480}, {0, 480, 5040, 7700}},
+      {{9000, 0, 6000, 480}, {6960, 480, 5040, 7700}},     // off the right edge
+      {{300, 8100, 6000, 480}, {300, 400, 5040, 7700}},    // above
+      {{300, 4000, 6000, 480}, {6300, 900, 5040, 7700}},   // no room but beside
+      {{5900, 4000, 6000, 480}, {860, 900, 5040, 7700}},   // on the other side
+      {{3000, 4000, 6000, 480}, {3000, 900, 5040, 7700}},  // over it
+      {{0, 0, 6000, 480}, {6000, 0, 5040, 9000}},          // taller than the screen: from its top
+  };
+  for (const auto& c : cases) CHECK(PlacePanel(c.Bar, {c.Place.Width, c.Place.Height}, area) == c.Place);
+}
+
+TEST_CASE("the help and code pages fit the smallest screen, with their texts whole and apart") {
+  test::TestProgram program;
+  program.Computer.Disk.AddFile(L"C:\\Vantor\\VantorHelp.exe");  // of which there are lines too
+  program.Start();
+  program.Desktop.Desktop = {{0, 0, 12000, 9000}, {0, 0, 12000, 8550}};
+  const list::frmChoose& panel = program.Choose;
+  for (const auto& [key, frame] : {std::pair(Key::F7, &program.Program.HelpPage.FrameHelp),
+                                   std::pair(Key::F8, &program.Program.CodePage.FrameCode)}) {
+    program.Desktop.Press(key);
+    CHECK((panel.Bounds().Right() <= 12000 && panel.Bounds().Bottom() <= 8550));
+    std::vector<const form::Control*> texts;
+    for (const form::Control* text : panel.Controls()) {
+      if (text->Container() != frame) continue;
+      CHECK((text->Right() <= frame->Width() && text->Bottom() <= frame->Height()));
+      for (const form::Control* other : texts) {
+        CHECK((text->Right() <= other->Left() || other->Right() <= text->Left() || text->Bottom() <= other->Top() ||
+               other->Bottom() <= text->Top()));
+      }
+      texts.push_back(text);
+    }
+    CHECK(texts.size() > 2);
+  }
+}
+
+}  // namespace
+}  // namespace vantor::bar

@@ -1,0 +1,188 @@
+#include <doctest/doctest.h>
+
+#include "fake/TestProgram.h"
+#include "start/Companions.h"
+#include "start/Places.h"
+
+namespace vantor::start {
+namespace {
+
+using test::TestProgram;
+using test::Texts;
+
+constexpr char FirstSettings[] = "2\r\n-1\r\n-1\r\n-1\r\n-1\r\n0\r\n0\r\n\"\"\r\n-1\r\n-1\r\n-1\r\n";
+
+/// On a stick that the program has never run from.
+struct OnMedium : TestProgram {
+  OnMedium() { Computer.Home = L"E:\\Work"; }
+};
+
+TEST_CASE("drives have a class, folders a root, and the Windows folder ends in one backslash") {
+  fake::Computer computer;
+  const std::wstring_view classes[] = {L"Unknown", L"Removable", L"Fixed", L"Remote", L"CDRom", L"RAMDisk", L""};
+  for (int type = 0; type < 7; ++type) {
+    computer.Disk.Drives[L'E'].Type = type;
+    CHECK(GetDriveTypeText(computer, L"E:\\") == classes[type]);
+  }
+  CHECK(GetDriveTypeText(computer, L"Q:\\").empty());
+  CHECK(DriveRootOf(L"E:\\") == L"E:\\");
+  CHECK(DriveRootOf(L"E:\\Work\\x\\") == L"E:\\");
+  CHECK(DriveRootOf(L"\\\\server\\share\\") == L"\\\\server\\share\\");
+  CHECK(DriveRootOf(L"\\\\server\\share\\a\\b\\") == L"\\\\server\\share\\");
+  const std::wstring longest = L"C:\\" + std::wstring(251, L'w');
+  const Texts folders[] = {
+      {L"C:\\Windows", L"C:\\Windows\\"}, {L"D:\\", L"D:\\"}, {longest, longest + L"\\"}, {longest + L"w", L""}};
+  for (const Texts& folder : folders) {
+    computer.Windows = folder[0];
+    Environment environment;
+    GetWindowsFolder(computer, computer, environment);
+    CHECK(environment.WindowsFolder == folder[1]);
+    CHECK(environment.WindowsFolderUpper == computer.Upper(folder[1]));
+    CHECK(environment.WindowsDriveLetter == folder[1].substr(0, 1));
+  }
+}
+
+TEST_CASE("the maker's programs are found beside this one and in the drive's root, each once, the help last") {
+  const struct {
+    std::wstring Program;
+    Texts Files;
+    Texts Expected;  // the paths; each one's name is that of its file
+  } rows[] = {
+      {L"C:\\Vantor", {L"C:\\Orbel\\Draw\\Other.exe", L"C:\\Orbel\\Draw.exe", L"C:\\Orbels\\Draw\\Draw.exe"}, {}},
+      {L"C:\\Vantor",
+       {L"C:\\Vantor\\VantorHelp.exe", L"C:\\ORBEL\\Write\\write.EXE", L"C:\\Orbel\\Draw it\\Draw it.exe"},
+       {L"C:\\Orbel\\Draw it\\Draw it.exe", L"C:\\Orbel\\Write\\Write.exe", L"C:\\Vantor\\VantorHelp.exe"}},
+      // The same folder by both ways, and this program in it.
+      {L"C:\\oRBEL\\Vantor",
+       {L"C:\\oRBEL\\Vantor\\Vantor.exe", L"C:\\oRBEL\\Draw\\Draw.exe"},
+       {L"C:\\Orbel\\Draw\\Draw.exe"}},
+      {L"C:\\Apps\\orbel\\Vantor",
+       {L"C:\\Apps\\Orbel\\Draw\\Draw.exe", L"C:\\Apps\\Orbel\\Zip\\Zip.exe", L"C:\\Orbel\\DRAW\\Draw.exe"},
+       {L"C:\\Orbel\\DRAW\\DRAW.exe", L"C:\\Apps\\orbel\\Zip\\Zip.exe"}},
+      {L"C:\\Apps\\MyOrbel\\Vantor", {L"C:\\Apps\\MyOrbel\\Draw\\Draw.exe"}, {}},
+      {L"C:\\", {L"C:\\VantorHelp.exe", L"C:\\Draw\\Draw.exe"}, {L"C:\\VantorHelp.exe"}},
+  };
+  for (const auto& row : rows) {
+    CAPTURE(&row - rows);
+    TestProgram program;
+    program.Computer.Home = row.Program;
+    for (const std::wstring& file : row.Files) program.Computer.Disk.AddFile(file);
+    program.Program.frmMove.Load();
+    Texts paths;
+    for (const Companion& companion : FindCompanions(program.Computer.Services(), program.Program.Environment)) {
+      paths.push_back(companion.Path);
+      CHECK(companion.Path.ends_with(L'\\' + companion.Name + L".exe"));
+    }
+    CHECK(paths == row.Expected);
+  }
+}
+
+TEST_CASE("the program refuses where it can't run, before anything is loaded or written") {
+  const struct {
+    int Width, Height, DriveType;
+    std::wstring_view Text;  // "" for none
+  } cases[] = {
+      {12000, 9000, 2, L""},
+      {11985, 9000, 2, L"Screen resolution must be"},
+      {12000, 8985, 2, L"Screen resolution must be"},
+      {15360, 11520, 0, L"The Program encountered a problem"},
+      {15360, 11520, 3, L"The Program encountered a problem"},
+      {15360, 11520, 4, L"This Program runs from Removable Media, such as"},
+  };
+  for (const auto& c : cases) {
+    CAPTURE(&c - cases);
+    TestProgram program;
+    program.Desktop.Desktop.Bounds = {0, 0, c.Width, c.Height};
+    program.Computer.Disk.Drives[L'C'].Type = c.DriveType;
+    if (!c.Text.empty()) program.Expect();
+    CHECK(program.Start() == c.Text.empty());
+    if (c.Text.empty()) continue;
+    CHECK(program.Told.at(0).starts_with(c.Text));
+    CHECK_FALSE((program.Main.Loaded() || program.Choose.Loaded()));
+    CHECK(program.Computer.Disk.Written.empty());
+  }
+  // Inside the Windows folder, or with none known, it goes on.
+  for (const auto* windows : {L"c:\\vantor", L"C:\\VANTOR\\", L"C:\\Van", L""}) {
+    TestProgram program;
+    program.Computer.Windows = windows;
+    CHECK(program.Start());
+  }
+}
+
+TEST_CASE("a second copy hands over to the first, or goes on when that has no window") {
+  for (const bool hasWindow : {true, false}) {
+    TestProgram program;
+    program.Computer.Previous = true;
+    if (!hasWindow) program.Computer.Let("ActivateInstance", fake::Outcome::Fails);
+    CHECK(program.Start() != hasWindow);
+    Texts titles{L"title Vantor Orbel", L"title BypassThisInstance"};
+    if (!hasWindow) titles.push_back(titles[0]);
+    CHECK(program.Computer.Asked == titles);
+  }
+}
+
+TEST_CASE("what can't be read or written does not keep the program from starting, nor is it a first start") {
+  TestProgram damaged;
+  std::string& settings = damaged.Computer.Disk.Bytes(L"C:\\Vantor\\Vantor\\Set.Orbel");
+  settings = "7\r\n-1";
+  REQUIRE(damaged.Start());
+  CHECK(damaged.Program.Settings.OptionMask == 7);
+  CHECK(settings == "7\r\n-1");
+
+  TestProgram readOnly;
+  readOnly.Computer.Home = L"D:\\Work";
+  readOnly.Computer.Disk.Drives[L'D'].WriteProtected = true;
+  readOnly.ExpectTyping(L"\r");
+  readOnly.Expect();
+  CHECK(readOnly.Start());
+  CHECK(readOnly.Program.MessageState.UserName == L"myFriend");
+
+  TestProgram broken;
+  broken.Computer.Let("WindowsDirectory", fake::Outcome::Throws);
+  broken.Expect();
+  CHECK_FALSE(broken.Start());
+  CHECK(broken.Told.at(0).find(L"Bug-Vantor-ActiveStart") != std::wstring::npos);
+  CHECK(broken.Desktop.Ended());
+}
+
+TEST_CASE("a first run from a medium that can't write is refused, and told apart from a medium in use afterwards") {
+  // What the disk counts: a call, and the bytes that it writes.
+  constexpr std::size_t Folder = 1;
+  constexpr std::size_t MediaSet = sizeof "'Vantor Media 1'\r\n'Setup'\r\n''\r\n";
+  for (std::size_t bytes = 0; bytes < Folder + 2 * MediaSet + sizeof FirstSettings; bytes += 4) {
+    CAPTURE(bytes);
+    OnMedium program;
+    program.Computer.Disk.Break(fake::FakeDisk::Fault::Pulled, bytes);
+    program.Expect();
+    CHECK_FALSE(program.Start());
+    CHECK(program.Told.at(0).starts_with(L"There was problem writing Data"));
+
+    OnMedium next;
+    next.Computer.Disk = program.Computer.Disk;
+    next.Computer.Disk.Break(fake::FakeDisk::Fault::None, 0);
+    next.Computer.Disk.Drives[L'E'].Ready = true;
+    const bool triesAgain = bytes < Folder + MediaSet;
+    if (triesAgain) next.ExpectTyping(L"Ada\r");
+    next.Expect();
+    CHECK(next.Start() == triesAgain);
+    if (!triesAgain) CHECK(next.Told.at(0).starts_with(L"To run this Program from a Removable Media there"));
+  }
+}
+
+TEST_CASE("a medium with lists needs its own settings, and one without options starts as for the first time") {
+  OnMedium foreign;
+  foreign.Computer.Disk.AddFile(L"E:\\Work\\Vantor\\ListWeb.Orbel");
+  foreign.Expect();
+  CHECK_FALSE(foreign.Start());
+  CHECK(foreign.Told.at(0).starts_with(L"To run the Program from this Media"));
+
+  OnMedium own;
+  own.Computer.Disk.AddFile(L"E:\\Work\\Vantor\\MediaSet.Orbel", "\"Vantor Media 1\"\r\n\"Ready\"\r\n\"Ada\"\r\n");
+  own.Expect();
+  REQUIRE(own.Start());
+  CHECK(own.Told.at(0).starts_with(L"If you missed it"));
+  CHECK(own.Computer.Disk.Bytes(L"E:\\Work\\Vantor\\Set.Orbel") == FirstSettings);
+}
+
+}  // namespace
+}  // namespace vantor::start
