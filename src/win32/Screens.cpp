@@ -30,6 +30,21 @@ int PlainSystemDpi() {
   return dpi;
 }
 
+/// The resolution that Windows tells of.
+int PlainDpiOf(HMONITOR monitor) {
+  // Shcore.dll came with Windows 8.1.
+  using GetDpi = HRESULT(WINAPI*)(HMONITOR, int, UINT*, UINT*);
+  static const GetDpi getDpi = [] {
+    LoadSystemLibrary(L"shcore.dll");
+    return Find<GetDpi>(L"shcore.dll", "GetDpiForMonitor");
+  }();
+  UINT x = 0;
+  UINT y = 0;
+  return getDpi != nullptr && getDpi(monitor, 0, &x, &y) == S_OK && x != 0 ? static_cast<int>(x) : PlainSystemDpi();
+}
+
+HMONITOR PrimaryMonitor() { return MonitorFromPoint(POINT{}, MONITOR_DEFAULTTOPRIMARY); }
+
 /// The user's font for messages and dialogs at 96 dots per inch, and what its size makes of everything else.
 struct TextSize {
   LOGFONTW Font{};
@@ -64,7 +79,7 @@ const TextSize& UserTextSize() {
   const double wanted = std::abs(size.Font.lfHeight) / UsualHeight;
   const double room =
       std::min(GetSystemMetrics(SM_CXSCREEN) / SmallestScreen[0], GetSystemMetrics(SM_CYSCREEN) / SmallestScreen[1]) *
-      96 / PlainSystemDpi();
+      96 / PlainDpiOf(PrimaryMonitor());
   if (wanted > 1) {
     size.Scale = std::clamp(room, 1.0, wanted);
     size.Font.lfHeight = std::lround(size.Font.lfHeight / wanted);  // the scale makes up for it
@@ -73,19 +88,7 @@ const TextSize& UserTextSize() {
   return *known;
 }
 
-int DpiOfMonitor(HMONITOR monitor) {
-  // Shcore.dll came with Windows 8.1.
-  using GetDpi = HRESULT(WINAPI*)(HMONITOR, int, UINT*, UINT*);
-  static const GetDpi getDpi = [] {
-    LoadSystemLibrary(L"shcore.dll");
-    return Find<GetDpi>(L"shcore.dll", "GetDpiForMonitor");
-  }();
-  UINT x = 0;
-  UINT y = 0;
-  if (getDpi != nullptr && getDpi(monitor, 0, &x, &y) == S_OK && x != 0)
-    return Screens::WithTextScale(static_cast<int>(x));
-  return Screens::SystemDpi();
-}
+int DpiOfMonitor(HMONITOR monitor) { return Screens::WithTextScale(PlainDpiOf(monitor)); }
 
 /// A screen in both measures.
 struct Place {
@@ -123,12 +126,8 @@ BOOL CALLBACK AddPlace(HMONITOR monitor, HDC /*dc*/, RECT* /*area*/, LPARAM plac
 std::vector<Place> AllPlaces() {
   std::vector<Place> places;
   EnumDisplayMonitors(nullptr, nullptr, AddPlace, reinterpret_cast<LPARAM>(&places));
-  if (places.empty()) places.push_back(Describe(MonitorFromWindow(nullptr, MONITOR_DEFAULTTOPRIMARY)));
+  if (places.empty()) places.push_back(Describe(PrimaryMonitor()));
   return places;
-}
-
-int Overlap(int from, int to, int otherFrom, int otherTo) {
-  return std::max(std::min(to, otherTo) - std::max(from, otherFrom), 0);
 }
 
 int Gap(int from, int to, int otherFrom, int otherTo) { return std::max({otherFrom - to, from - otherTo, 0}); }
@@ -137,8 +136,8 @@ int Gap(int from, int to, int otherFrom, int otherTo) { return std::max({otherFr
 Place Best(const form::Rect& place) {
   const auto score = [&](const Place& screen) {
     const form::Rect& area = screen.Twips;
-    const double shared = double(Overlap(place.Left, place.Right(), area.Left, area.Right())) *
-                          Overlap(place.Top, place.Bottom(), area.Top, area.Bottom());
+    const double shared = double(form::Overlap(place.Left, place.Right(), area.Left, area.Right())) *
+                          form::Overlap(place.Top, place.Bottom(), area.Top, area.Bottom());
     if (shared > 0) return shared;
     return -double(Gap(place.Left, place.Right(), area.Left, area.Right())) -
            Gap(place.Top, place.Bottom(), area.Top, area.Bottom());
@@ -170,7 +169,11 @@ void Screens::DeclareAwareness() {
 
 void Screens::Forget() { RememberedTextSize().reset(); }
 
-int Screens::WithTextScale(int dpi) { return static_cast<int>(std::lround(dpi * UserTextSize().Scale)); }
+int Screens::WithTextScale(int dpi) {
+  constexpr double Inexactness = 0.01;  // of the scale, which may stand for a whole number
+  // Rounded up, the main screen would be smaller than the smallest.
+  return static_cast<int>(dpi * UserTextSize().Scale + Inexactness);
+}
 
 int Screens::SystemDpi() { return WithTextScale(PlainSystemDpi()); }
 
@@ -211,10 +214,7 @@ void Screens::AddEdges(RECT& inside, DWORD style, DWORD extendedStyle, int dpi) 
 
 form::Screen Screens::At(const form::Rect& place) { return ToScreen(Best(place)); }
 
-form::Screen Screens::Primary() {
-  const POINT origin{};
-  return ToScreen(Describe(MonitorFromPoint(origin, MONITOR_DEFAULTTOPRIMARY)));
-}
+form::Screen Screens::Primary() { return ToScreen(Describe(PrimaryMonitor())); }
 
 LOGFONTW Screens::MessageFont(int dpi) {
   LOGFONTW font = UserTextSize().Font;

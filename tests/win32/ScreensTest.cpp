@@ -97,8 +97,8 @@ TEST_CASE("larger texts enlarge what holds them, as far as the screen allows, an
   CHECK(desktop.PrimaryScreen().Bounds.Width == MulDiv(GetSystemMetrics(SM_CXSCREEN), 1440, 144));
   ask(-200);
   const form::Rect smallest = desktop.PrimaryScreen().Bounds;
-  CHECK(smallest.Width >= 11900);
-  CHECK(smallest.Height >= 8900);
+  CHECK(smallest.Width >= 12000);
+  CHECK(smallest.Height >= 9000);
   ask(usual.lfMessageFont.lfHeight);
   CheckPixels(sample, 96);
   sample.Unload();
