@@ -62,11 +62,15 @@ bool WriteOver(const std::wstring& path, std::string_view bytes) {
 }  // namespace
 
 std::optional<std::string> DataFiles::Read(std::wstring_view path) {
-  const FileHandle file(CreateFileW(CallPath(path).c_str(), GENERIC_READ,
-                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
-                                    FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+  const std::wstring place = CallPath(path);
+  FileHandle file;
+  const DWORD error = Patiently([&] {
+    file = FileHandle(CreateFileW(place.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                  nullptr, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    return static_cast<bool>(file);
+  });
   LARGE_INTEGER size = {};
-  if (!file || !GetFileSizeEx(file.Get(), &size) || size.QuadPart > LargestFile) return std::nullopt;
+  if (error != ERROR_SUCCESS || !GetFileSizeEx(file.Get(), &size) || size.QuadPart > LargestFile) return std::nullopt;
   std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
   DWORD read = 0;
   if (!ReadFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr)) return std::nullopt;
