@@ -1,5 +1,6 @@
 #include "win32/FileSystem.h"
 
+#include "text/Path.h"
 #include "win32/FolderListing.h"
 #include "win32/LongPath.h"
 
@@ -9,13 +10,8 @@ namespace {
 
 /// "C:\" of "C:", "c:\x"; "\\server\share\" of a path on a share; the path itself when it names no drive.
 std::wstring RootOf(std::wstring_view path) {
-  if (path.size() >= 2 && path[1] == L':') return std::wstring(path.substr(0, 2)) + L'\\';
-  if (path.starts_with(L"\\\\")) {
-    const std::size_t share = path.find(L'\\', 2);
-    const std::size_t end = share == std::wstring_view::npos ? std::wstring_view::npos : path.find(L'\\', share + 1);
-    return std::wstring(path.substr(0, end)) + L'\\';
-  }
-  return std::wstring(path);
+  const std::wstring_view drive = text::DriveName(path);
+  return drive.empty() ? std::wstring(path) : std::wstring(drive) + L'\\';
 }
 
 std::optional<int> PlainDriveType(const std::wstring& root) {
@@ -150,11 +146,11 @@ FileSystem::Object FileSystem::Make() {
 }
 
 ComPointer<scripting::IDrive> FileSystem::GetDrive(std::wstring_view path) {
-  // The object knows drives as "C:" and "\\server\share".
-  std::wstring name = RootOf(path);
-  if (name.ends_with(L'\\')) name.pop_back();
+  const Object object = Make();
+  ComText name;
   ComPointer<scripting::IDrive> drive;
-  Check(Make()->GetDrive(MakeComText(name).Get(), drive.Put()));
+  Check(object->GetDriveName(MakeComText(path).Get(), name.Put()));
+  Check(object->GetDrive(name.Get(), drive.Put()));
   return drive;
 }
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "win32/Language.h"
+
 namespace vantor::win32 {
 
 namespace {
@@ -74,7 +76,7 @@ bool Instance::OtherRuns() {
 }
 
 Activation ActivateBar(std::wstring_view title) {
-  const HWND application = FindWindowW(L"ThunderRT6Main", std::wstring(title).c_str());
+  const HWND application = FindWindowA("ThunderRT6Main", Language().ToCodePage(title).value_or("").c_str());
   if (application == nullptr) return Activation::NoWindow;
   const HWND bar = BarOf(application);
   if (bar == nullptr) return Activation::NoBar;

@@ -25,9 +25,9 @@ class Instance {
   bool owned_ = false;
 };
 
-/// Restores and brings to the front the bar that stands before the application window of this title. False
-/// while there is no such window, or it has no bar yet.
+/// Whether a bar was brought to the front; there may be no application window of the title, or it has no bar yet.
 enum class Activation { NoWindow, NoBar, Done };
+/// Restores and brings to the front the bar that stands before the application window of this title.
 [[nodiscard]] Activation ActivateBar(std::wstring_view title);
 
 }  // namespace vantor::win32

@@ -54,13 +54,11 @@ bool ScriptShell::Run(std::wstring_view target) {
 }
 
 std::wstring ScriptShell::SpecialFolder(std::wstring_view name) {
-  std::wstring path;
   try {
-    path = Make().Object(L"SpecialFolders").Get(L"Item", {Variant(name)}).Text().value_or(L"");
-  } catch (const ComError&) {
-    path.clear();
+    return Make().Object(L"SpecialFolders").Get(L"Item", {Variant(name)}).Text().value_or(L"");
+  } catch (const ComError& error) {
+    return error.Lacking() ? PlainSpecialFolder(name) : std::wstring();
   }
-  return path.empty() ? PlainSpecialFolder(name) : path;
 }
 
 std::wstring ScriptShell::RegistryRead(std::wstring_view name) {

@@ -5,7 +5,7 @@
 namespace vantor::win32 {
 
 std::wstring System::WindowsDirectory() {
-  constexpr UINT Size = 255;  // the room that the program has always given this call
+  constexpr UINT Size = 255;  // a longer name counts as none, as of a folder that can't be found
   wchar_t folder[Size + 1] = L"";
   const UINT length = GetWindowsDirectoryW(folder, Size);
   return length < Size ? std::wstring(folder, length) : std::wstring();
