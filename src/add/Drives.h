@@ -10,9 +10,6 @@ namespace vantor::add {
 inline constexpr std::int16_t UnknownDrive = 0;
 inline constexpr std::int16_t FixedDrive = 2;
 
-/// The drive of a path, such as "C:"; "" when the path begins with none.
-[[nodiscard]] std::wstring_view DriveName(std::wstring_view path);
-
 /// The type of the path's drive in the scripting file system's numbering; UnknownDrive when it can't be examined.
 [[nodiscard]] std::int16_t DriveTypeOf(const service::Services& services, std::wstring_view path);
 

@@ -4,21 +4,17 @@
 #include <utility>
 #include <vector>
 
+#include "text/Path.h"
+
 namespace vantor::form {
 
 namespace {
 
-bool IsShare(std::wstring_view path) { return path.starts_with(L"\\\\"); }
-
-/// "c:" for a path on a lettered drive, "\\server\share" for one on a share.
+/// The drive of a path as the list shows it: with its letter in lower case.
 std::wstring DriveOf(std::wstring_view path) {
-  if (IsShare(path)) {
-    const std::size_t share = path.find(L'\\', 2);
-    return std::wstring(path.substr(0, share == std::wstring_view::npos ? share : path.find(L'\\', share + 1)));
-  }
-  std::wstring drive(path.substr(0, 1));
+  std::wstring drive(text::DriveName(path));
   if (!drive.empty() && drive[0] >= L'A' && drive[0] <= L'Z') drive[0] += L'a' - L'A';
-  return drive + L":";
+  return drive;
 }
 
 /// Without a trailing backslash unless it is a drive's root; the letter of the drive in upper case.
@@ -43,7 +39,7 @@ void DriveList::Refresh() {
   std::vector<std::wstring> entries;
   int index = -1;
   for (const service::Drive& drive : files_.Drives()) {
-    std::wstring entry = DriveOf(std::wstring_view(&drive.Letter, 1));
+    std::wstring entry = DriveOf(std::wstring{drive.Letter, L':'});
     if (entry == chosen) index = static_cast<int>(entries.size());
     if (!drive.Label.empty()) entry += L" [" + drive.Label + L"]";
     entries.push_back(std::move(entry));
@@ -57,13 +53,11 @@ void DriveList::Refresh() {
   NotifyWindow(Property::ListIndex);
 }
 
-std::wstring DriveList::Drive() const {
-  const std::wstring entry = Text();
-  return IsShare(entry) ? entry : entry.substr(0, 2);
-}
+std::wstring DriveList::Drive() const { return std::wstring(text::DriveName(Text())); }
 
 void DriveList::SetDrive(std::wstring_view path) {
   const std::wstring drive = DriveOf(path);
+  if (drive.empty()) return;
   const auto isDrive = [&](const std::wstring& entry) { return entry == drive || entry.starts_with(drive + L" ["); };
   auto found = std::find_if(list_.begin(), list_.end(), isDrive);
   if (found == list_.end()) {
@@ -99,7 +93,8 @@ void FolderList::EntryChosen() {
 }
 
 void FolderList::Fill() {
-  const std::size_t rootEnd = IsShare(path_) ? DriveOf(path_).size() : path_.find(L'\\') + 1;
+  const std::size_t drive = text::DriveName(path_).size();
+  const std::size_t rootEnd = drive == 2 ? 3 : drive;
   std::vector<std::wstring> entries{path_.substr(0, rootEnd)};
   for (std::size_t start = path_.find_first_not_of(L'\\', rootEnd); start < path_.size();) {
     const std::size_t end = std::min(path_.find(L'\\', start), path_.size());

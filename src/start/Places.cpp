@@ -1,7 +1,8 @@
 #include "start/Places.h"
 
-#include <algorithm>
 #include <iterator>
+
+#include "text/Path.h"
 
 namespace vantor::start {
 
@@ -21,14 +22,7 @@ void GetWindowsFolder(service::System& system, const service::Language& language
   environment.WindowsFolder = std::move(folder);
 }
 
-std::wstring DriveRootOf(std::wstring_view folder) {
-  // The root of \\server\share\tools\ is \\server\share\ .
-  const int backslashes = folder.starts_with(L"\\\\") ? 4 : 1;
-  std::size_t end = 0;
-  for (int i = 0; i < backslashes && end < folder.size(); ++i)
-    end = std::min(folder.find(L'\\', end), folder.size() - 1) + 1;
-  return std::wstring(folder.substr(0, end));
-}
+std::wstring DriveRootOf(std::wstring_view folder) { return std::wstring(text::DriveName(folder)) + L'\\'; }
 
 void SetDataFiles(Environment& environment) {
   environment.DataFolder = environment.ProgramFolder;
