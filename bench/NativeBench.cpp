@@ -128,10 +128,11 @@ struct Bench {
     for (int i = 0; i < Count; ++i) {
       wchar_t name[32];
       std::swprintf(name, std::size(name), L"Item number %05d", i);
-      Choose.List.Of(LaunchGroup::File).AddItem(name, file);
-      Choose.List.Of(LaunchGroup::Fold).AddItem(name, Folder + L"/Program Files/Some Vendor");
-      Choose.List.Of(LaunchGroup::Prog).AddItem(name, file);
-      Choose.List.Of(LaunchGroup::Web).AddItem(name, L"http://www.example.org/some/page?number=" + std::to_wstring(i));
+      Choose.List.Of(LaunchGroup::File).AddItem({name, file});
+      Choose.List.Of(LaunchGroup::Fold).AddItem({name, Folder + L"/Program Files/Some Vendor"});
+      Choose.List.Of(LaunchGroup::Prog).AddItem({name, file});
+      Choose.List.Of(LaunchGroup::Web)
+          .AddItem({name, L"http://www.example.org/some/page?number=" + std::to_wstring(i)});
     }
     ListFiles.SaveLaunchList(Choose.List, 0, 0);
   }

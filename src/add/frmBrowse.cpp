@@ -5,17 +5,13 @@
 #include "add/Drives.h"
 #include "add/ItemGroup.h"
 #include "add/PlaceRules.h"
+#include "text/Path.h"
 
 namespace vantor::add {
 namespace {
 
 constexpr std::wstring_view EveryFile = L"*.*";
 constexpr std::wstring_view Programs = L"*.exe";
-
-template <class Hook, class... Args>
-void Call(const Hook& hook, Args&&... args) {
-  if (hook) hook(std::forward<Args>(args)...);
-}
 
 service::WindowId WindowOf(const form::Control& control) {
   return service::WindowId{control.Window() != nullptr ? control.Window()->Handle() : 0};
@@ -58,7 +54,7 @@ void frmBrowse::ConnectEvents() {
   messages.Connect(CommandFindPath.MouseDown, L"FindExecutableDown", this, &frmBrowse::CommandFindPath_MouseDown);
   messages.Connect(CommandFindPath.MouseUp, L"FindExecutableUp", this, &frmBrowse::CommandFindPath_MouseUp);
   messages.Connect(TimerFindPath.Tick, L"FindExecutableTick", this, &frmBrowse::TimerFindPath_Timer);
-  FrameAddedInfo.Click = [this] { FrameAddedInfo.SetVisible(false); };
+  messages.Connect(FrameAddedInfo.Click, L"FrameAddedInfo_Click", this, &frmBrowse::FrameAddedInfo_Click);
 }
 
 bool frmBrowse::Adding() const { return parts_.CommandState.OpenPanelIndex == bar::menu::Add; }
@@ -79,7 +75,7 @@ void frmBrowse::Form_Load() {
 }
 
 void frmBrowse::Open() {
-  parts_.Messages.Trap(L"OpenBrowse", [this] {
+  parts_.Messages.Trap(L"Open", [this] {
     Load();
     ReadLists();
     if (Opening()) {
@@ -93,7 +89,14 @@ void frmBrowse::Open() {
     LayOut();
     if (Hooks.Place) SetBounds(Hooks.Place({Bounds().Width, Bounds().Height}));
     Show();
+    FirstControl().SetFocus();
   });
+}
+
+form::Control& frmBrowse::FirstControl() {
+  if (Opening()) return DriveWork;
+  if (TextAddName.Enabled()) return TextAddName;
+  return OptionBrowse[static_cast<std::size_t>(state_.WhatToAdd)];
 }
 
 void frmBrowse::Close() {
@@ -103,14 +106,15 @@ void frmBrowse::Close() {
 }
 
 void frmBrowse::Form_KeyUp(form::Key key) {
-  if (finder_.FinderActive()) {
-    if (key == form::Key::Escape) StopFinder();
-    return;
-  }
-  if (key != form::Key::Escape)
-    Call(Hooks.HotKey, key);
-  else if (!TextAddName.Composing())
-    CommandAddCancel.DoClick();
+  parts_.Messages.Trap(L"Form_KeyUp", [&] {
+    if (finder_.FinderActive()) {
+      if (key == form::Key::Escape) StopFinder();
+    } else if (key != form::Key::Escape) {
+      Hooks.HotKey(key);
+    } else if (!TextAddName.Composing()) {
+      CommandAddCancel.DoClick();
+    }
+  });
 }
 
 // --- what to add
@@ -155,7 +159,7 @@ void frmBrowse::ReadLists() {
 void frmBrowse::DriveWork_Change() {
   const service::Language& language = parts_.Services.Language;
   const std::wstring drive = DriveWork.Drive();
-  const bool there = language.Lower(DriveName(DirWork.Path())) == language.Lower(drive);
+  const bool there = language.Lower(text::DriveName(DirWork.Path())) == language.Lower(drive);
   if (!there && !DirWork.SetPath(drive)) {
     DriveWork.SetDrive(DirWork.Path());
     parts_.Messages.ShowList(L"MessageDriveNotReady");
@@ -231,9 +235,7 @@ void frmBrowse::EnableNameBox(bool enable) {
 void frmBrowse::TextAddName_Change() { CommandAddOK.SetEnabled(!TextAddName.Text().empty()); }
 
 void frmBrowse::TextAddName_KeyPress(wchar_t& character) {
-  if (character != form::CharEnter) return;
-  character = 0;  // a box of one line would beep
-  if (!TextAddName.Text().empty()) CommandAddOK.DoClick();
+  if (character == form::CharEnter && !TextAddName.Text().empty()) CommandAddOK.DoClick();
 }
 
 void frmBrowse::CommandAddOK_Click() {
@@ -242,12 +244,12 @@ void frmBrowse::CommandAddOK_Click() {
   if (path.empty()) return FileWork.SetFocus();  // a name is left from before, but nothing is chosen
   if (RefusedByPlace(path)) return;
   const list::LaunchGroup group = GroupOf(parts_.Services, state_.WhatToAdd, path);
-  const AddBox box{TextAddPath, TextAddName, FrameAddedInfo};
-  const AddResult result =
-      AddUnlessListed(box, parts_.List.Of(group), BannerOf(group), parts_.Messages, parts_.Services.Language);
+  const list::AddBox box{TextAddPath, TextAddName, FrameAddedInfo};
+  const list::AddResult result =
+      list::AddUnlessListed(box, parts_.List.Of(group), BannerOf(group), parts_.Messages, parts_.Services.Language);
   const bool showsFiles = state_.WhatToAdd != AddKind::Folder;
-  if (result == AddResult::PathListed || (result == AddResult::Added && showsFiles)) FileWork.Refresh();
-  if (result == AddResult::Added) Call(Hooks.ItemAdded);
+  if (result == list::AddResult::PathListed || (result == list::AddResult::Added && showsFiles)) FileWork.Refresh();
+  if (result == list::AddResult::Added) Hooks.ItemAdded();
 }
 
 bool frmBrowse::RefusedByPlace(std::wstring_view path) {
@@ -263,13 +265,13 @@ bool frmBrowse::RefusedByPlace(std::wstring_view path) {
 
 // --- leaving
 
-void frmBrowse::CommandAddCancel_Click() { Call(Hooks.ClosePanel); }
+void frmBrowse::CommandAddCancel_Click() { Hooks.ClosePanel(); }
 
 void frmBrowse::CommandSelectOK_Click() {
   if (FileWork.ListIndex() == -1) return;
   const std::int16_t panel = parts_.CommandState.OpenPanelIndex;
   const std::wstring path = state_.BrowseFolder + FileWork.Text();
-  Call(Hooks.ClosePanel);  // which also takes the selection away
+  Hooks.ClosePanel();  // which also takes the selection away
   const bool run = panel == bar::menu::List || IsProgram(parts_.Services, path);
   parts_.Messages.ShowList(run ? parts_.Starters.RunProgramCommand(path) : parts_.Starters.OpenWithShell(path));
 }

@@ -6,18 +6,19 @@
 #include <string_view>
 #include <vector>
 
-#include "add/AddToList.h"
 #include "add/BrowseState.h"
 #include "add/Finder.h"
 #include "bar/Panel.h"
 #include "command/CommandState.h"
 #include "command/Starters.h"
 #include "form/Button.h"
+#include "form/Event.h"
 #include "form/FileLists.h"
 #include "form/Form.h"
 #include "form/Static.h"
 #include "form/TextBox.h"
 #include "form/Timer.h"
+#include "list/AddToList.h"
 #include "list/LaunchList.h"
 #include "list/Settings.h"
 #include "message/Messages.h"
@@ -40,13 +41,13 @@ struct BrowseParts {
 /// What the bar does for the box. An empty one does nothing.
 struct BrowseHooks {
   /// Opens the panel of this CommandMenu index, if it is not open.
-  std::function<void(int index)> OpenPanel;
+  form::Event<int /*index*/> OpenPanel;
   /// Closes the open panel, and lets the bar keep itself on top if the user wants that.
-  std::function<void()> ClosePanel;
+  form::Event<> ClosePanel;
   /// An item was added: the command line is emptied and takes the focus, if the bar shows.
-  std::function<void()> ItemAdded;
+  form::Event<> ItemAdded;
   /// A function key was let go.
-  std::function<void(form::Key key)> HotKey;
+  form::Event<form::Key /*key*/> HotKey;
   /// Where a box of this size stands by the bar.
   std::function<form::Rect(form::Size size)> Place;
 };
@@ -131,6 +132,7 @@ class frmBrowse : public form::Form, public bar::Panel {
   void FileWork_Click();
   void FileWork_DblClick();
   void TextAddPath_Change();
+  void FrameAddedInfo_Click() { FrameAddedInfo.SetVisible(false); }
   void TextAddName_Change();
   void TextAddName_KeyPress(wchar_t& character);
   void CommandAddOK_Click();
@@ -142,6 +144,7 @@ class frmBrowse : public form::Form, public bar::Panel {
 
   [[nodiscard]] bool Adding() const;
   [[nodiscard]] bool Opening() const;
+  [[nodiscard]] form::Control& FirstControl();
   void ShowChosenKind();
   void OfferFiles(std::wstring_view pattern, bool enabled);
   void EnableNameBox(bool enable);

@@ -7,9 +7,9 @@
 namespace vantor::add {
 
 void frmBrowse::FillWith(const std::vector<std::wstring>& paths) {
-  parts_.Messages.Trap(L"BrowseDropped", [&] {
+  parts_.Messages.Trap(L"FillWith", [&] {
     if (paths.empty() || Ui().ModalForm() != nullptr) return;
-    if (!Adding() && Hooks.OpenPanel) Hooks.OpenPanel(static_cast<int>(bar::menu::Add));
+    if (!Adding()) Hooks.OpenPanel(static_cast<int>(bar::menu::Add));
     if (!Adding()) return;
     if (std::any_of(paths.begin(), paths.end(), [this](const auto& path) { return GoToDropped(path); })) {
       Activate();

@@ -2,18 +2,18 @@
 #include <cstddef>
 
 #include "add/frmBrowse.h"
-#include "list/PictureButton.h"
+#include "form/PictureButton.h"
 
 namespace vantor::add {
 namespace {
 
+using form::ButtonHeight;
+using form::DressButton;
+using form::PlaceButton;
 using form::Twips;
-using list::ButtonHeight;
-using list::DressButton;
-using list::PlaceButton;
 
 constexpr Twips BoxWidth = 5040;
-constexpr Twips Margin = 120;  // around the box, and inside it
+constexpr Twips Margin = 120;
 constexpr Twips InnerWidth = BoxWidth - 2 * Margin;
 constexpr Twips Gap = 60;
 constexpr Twips CaptionHeight = 240;  // from a frame's top to what is in it
@@ -100,7 +100,7 @@ void frmBrowse::LayOut() {
     }
     const Twips listsTop = FrameWhatToAdd.Bottom() + Margin;
     const Twips leastBottom = LayOutAddFrames(listsTop + LeastListsHeight + Margin) + ButtonHeight + Margin;
-    const Twips spare = Ui().ScreenAt(Bounds()).WorkArea.Height - BarRoom - leastBottom - 2 * Margin;
+    const Twips spare = Ui().ScreenAt(Bounds()).WorkArea.Height - BarRoom - leastBottom;
     const Twips listsHeight = std::clamp(LeastListsHeight + spare, LeastListsHeight, MostListsHeight);
     LayOutLists(listsTop, listsTop + listsHeight);
     top = LayOutAddFrames(listsTop + listsHeight + Margin);
@@ -110,9 +110,9 @@ void frmBrowse::LayOut() {
   FrameAddCancel.SetBounds({CancelLeft, top, ButtonWidth, ButtonHeight});
   PlaceButton(CommandAddCancel, LabelAddCancel, {0, 0, ButtonWidth, ButtonHeight});
 
-  FrameBrowseBack.SetBounds({Margin, Margin, BoxWidth, FrameAddCancel.Bottom() + Margin});
+  FrameBrowseBack.SetBounds({0, 0, BoxWidth, FrameAddCancel.Bottom() + Margin});
   PictureNo.SetBounds({Margin, FrameAddCancel.Top(), Gap / 4, Gap / 4});
-  SetBounds({Bounds().Left, Bounds().Top, FrameBrowseBack.Right() + Margin, FrameBrowseBack.Bottom() + Margin});
+  SetBounds({Bounds().Left, Bounds().Top, FrameBrowseBack.Width(), FrameBrowseBack.Height()});
 }
 
 void frmBrowse::LayOutLists(Twips top, Twips bottom) {

@@ -1,8 +1,9 @@
 #include "bar/AddWebBox.h"
 
-#include "add/AddToList.h"
 #include "form/Keys.h"
+#include "form/PictureButton.h"
 #include "form/UserInterface.h"
+#include "list/AddToList.h"
 
 namespace vantor::bar {
 
@@ -38,7 +39,7 @@ AddWebBox::AddWebBox(form::Form& bar, const list::LaunchList& list, const servic
   LabelWebName.SetTransparent(false);
   TextWebName.SetAccessibleName(L"Launch Name");
   CommandAddWeb.SetCaption(L"Add");
-  CommandAddWeb.SetPictures(form::Picture::ButtonNormal, form::Picture::ButtonPressed, form::Picture::ButtonDisabled);
+  form::DressButton(CommandAddWeb);
   FrameAddedInfo.SetCaption(AddedCaption);
   FrameAddedInfo.SetBackColor(form::Color::LineBlue);
   FrameAddedInfo.SetVisible(false);
@@ -49,7 +50,7 @@ AddWebBox::AddWebBox(form::Form& bar, const list::LaunchList& list, const servic
   messages_.Connect(TextWebName.Change, L"TextWebName_Change", this, &AddWebBox::TextWebName_Change);
   messages_.Connect(TextWebName.KeyPress, L"TextWebName_KeyPress", this, &AddWebBox::TextWebName_KeyPress);
   messages_.Connect(CommandAddWeb.Click, L"CommandAddWeb_Click", this, &AddWebBox::CommandAddWeb_Click);
-  FrameAddedInfo.Click = [this] { FrameAddedInfo.SetVisible(false); };
+  messages_.Connect(FrameAddedInfo.Click, L"FrameAddedInfo_Click", this, &AddWebBox::FrameAddedInfo_Click);
 }
 
 void AddWebBox::LayOut(Twips left, Twips height) {
@@ -87,22 +88,20 @@ void AddWebBox::TextWebUrl_Change() {
 void AddWebBox::TextWebName_Change() { CommandAddWeb.SetEnabled(BothFilled()); }
 
 void AddWebBox::TextWebName_KeyPress(wchar_t& character) {
-  if (character != form::CharEnter) return;
-  character = 0;  // a box of one line would beep
-  if (BothFilled()) CommandAddWeb.DoClick();
+  if (character == form::CharEnter && BothFilled()) CommandAddWeb.DoClick();
 }
 
 void AddWebBox::CommandAddWeb_Click() {
   PictureNo.SetFocus();
-  const add::AddBox box{TextWebUrl, TextWebName, FrameAddedInfo};
-  switch (add::AddUnlessListed(box, list_.Of(list::LaunchGroup::Web), AddedCaption, messages_, language_)) {
-    case add::AddResult::PathListed:
+  const list::AddBox box{TextWebUrl, TextWebName, FrameAddedInfo};
+  switch (list::AddUnlessListed(box, list_.Of(list::LaunchGroup::Web), AddedCaption, messages_, language_)) {
+    case list::AddResult::PathListed:
       TextWebUrl.SetFocus();
       break;
-    case add::AddResult::NameListed:
+    case list::AddResult::NameListed:
       break;
-    case add::AddResult::Added:
-      if (Added) Added();
+    case list::AddResult::Added:
+      Added();
       break;
   }
 }

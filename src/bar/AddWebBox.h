@@ -1,8 +1,7 @@
 #pragma once
 
-#include <functional>
-
 #include "form/Button.h"
+#include "form/Event.h"
 #include "form/Form.h"
 #include "form/Static.h"
 #include "form/TextBox.h"
@@ -19,7 +18,7 @@ class AddWebBox {
             message::Messages& messages);
 
   /// Runs when a site was added.
-  std::function<void()> Added;
+  form::Event<> Added;
 
   form::Frame FrameWeb;
   form::TextBox TextWebUrl{FrameWeb, L"TextWebUrl"};
@@ -36,6 +35,7 @@ class AddWebBox {
 
  private:
   void TextWebUrl_Change();
+  void FrameAddedInfo_Click() { FrameAddedInfo.SetVisible(false); }
   void TextWebName_Change();
   void TextWebName_KeyPress(wchar_t& character);
   void CommandAddWeb_Click();

@@ -5,8 +5,8 @@
 
 #include "bar/PageText.h"
 #include "form/Form.h"
+#include "form/PictureButton.h"
 #include "form/UserInterface.h"
-#include "list/PictureButton.h"
 #include "product/Product.h"
 
 namespace vantor::bar {
@@ -29,7 +29,7 @@ CompanionPage::CompanionPage(form::Form& form, const start::Environment& environ
   FrameRun.SetCaption(title_);
   FrameRun.SetVisible(false);
   ListRunName.SetAccessibleName(title_);
-  list::DressButton(CommandRunOpen, LabelRunOpen, L"Open");
+  form::DressButton(CommandRunOpen, LabelRunOpen, L"Open");
   messages.Connect(ListRunName.DblClick, L"ListRunName_DblClick", this, &CompanionPage::CommandRunOpen_Click);
   messages.Connect(CommandRunOpen.Click, L"CommandRunOpen_Click", this, &CompanionPage::CommandRunOpen_Click);
 }
@@ -49,14 +49,14 @@ form::Size CompanionPage::LayOut() {
   }
   const Twips width = std::clamp(nameWidth + BesideName, LeastWidth, GreatestWidth);
   ListRunName.SetBounds({PageMargin, PageTop, width, ListHeight});
-  list::PlaceButton(
+  form::PlaceButton(
       CommandRunOpen, LabelRunOpen,
-      {PageMargin, ListRunName.Bottom() + PageMargin, list::ButtonWidth(LabelRunOpen), list::ButtonHeight});
+      {PageMargin, ListRunName.Bottom() + PageMargin, form::ButtonWidth(LabelRunOpen), form::ButtonHeight});
   return {width + 2 * PageMargin, CommandRunOpen.Bottom() + PageMargin};
 }
 
 void CompanionPage::CommandRunOpen_Click() {
-  if (ListRunName.ListIndex() == -1 || !Start) return;
+  if (ListRunName.ListIndex() == -1) return;
   Start(environment_.Companions.at(static_cast<std::size_t>(ListRunName.ListIndex())).Path);
 }
 

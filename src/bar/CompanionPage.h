@@ -1,10 +1,10 @@
 #pragma once
 
-#include <functional>
 #include <string>
 #include <string_view>
 
 #include "form/Button.h"
+#include "form/Event.h"
 #include "form/ListControl.h"
 #include "form/Static.h"
 #include "list/ChoosePage.h"
@@ -19,7 +19,7 @@ class CompanionPage : public list::ChoosePage {
   CompanionPage(form::Form& form, const start::Environment& environment, message::Messages& messages);
 
   /// Closes the panel and starts a program; a failure is told there.
-  std::function<void(std::wstring_view target)> Start;
+  form::Event<std::wstring_view /*target*/> Start;
 
   form::Frame FrameRun;
   form::ListBox ListRunName{FrameRun, L"ListRunName"};

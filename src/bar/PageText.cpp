@@ -11,8 +11,6 @@ namespace {
 using form::Twips;
 
 constexpr Twips BetweenColumns = 180;
-// More than any line needs, so that none is broken.
-constexpr Twips AnyWidth = 30000;
 
 }  // namespace
 
@@ -24,7 +22,7 @@ form::Label& PageText::Add(form::Control& container, std::wstring_view text, boo
 }
 
 Twips WidthOf(const form::Label& label) {
-  return label.OwnerForm().Ui().MeasureText(label.Caption(), label.Bold(), AnyWidth).Width;
+  return label.OwnerForm().Ui().MeasureText(label.Caption(), label.Bold(), form::UserInterface::AnyWidth).Width;
 }
 
 Twips Place(form::Label& label, Twips left, Twips top, Twips width) {

@@ -37,11 +37,6 @@ constexpr std::array<std::wstring_view, menu::Count> MenuTips{
     L"Show | Hide Code List---F8",
 };
 
-/// How far two ranges, each a start and a length, overlap.
-Twips Overlap(Twips a, Twips lengthOfA, Twips b, Twips lengthOfB) {
-  return std::min(a + lengthOfA, b + lengthOfB) - std::max(a, b);
-}
-
 }  // namespace
 
 frmMain::frmMain(form::UserInterface& ui, const BarParts& parts)
@@ -116,9 +111,10 @@ void frmMain::Form_Load() {
     ShowWidth();
     // The screens may be others than when the place was saved: part of the bar must be there to take hold of.
     const form::Rect& bar = Bounds();
-    const form::Rect screen = Ui().ScreenAt(bar).Bounds;
-    if (Overlap(bar.Left, bar.Width, screen.Left, screen.Width) < BarHeight ||
-        Overlap(bar.Top, bar.Height, screen.Top, screen.Height) < BarHeight / 2) {
+    screen_ = Ui().ScreenAt(bar);
+    const form::Rect& screen = screen_.Bounds;
+    if (form::Overlap(bar.Left, bar.Right(), screen.Left, screen.Right()) < BarHeight ||
+        form::Overlap(bar.Top, bar.Bottom(), screen.Top, screen.Bottom()) < BarHeight / 2) {
       KeepOnScreen();
     }
     ShowWebFace();
@@ -189,8 +185,10 @@ void frmMain::Form_Moved() {
 
 void frmMain::Form_ScreensChanged() {
   parts_.Messages.Trap(L"Form_ScreensChanged", [this] {
+    // Most settings are none of the bar's, which may stand where a drag could not leave it.
+    if (Ui().ScreenAt(Bounds()) == screen_) return;
     KeepOnScreen();
-    MoveInto(Ui().ScreenAt(Bounds()).WorkArea);  // a taskbar may have come to where the bar was
+    MoveInto(screen_.WorkArea);  // a taskbar may have come to where the bar was
   });
 }
 
@@ -202,7 +200,8 @@ void frmMain::ShowWidth() {
 
 void frmMain::KeepOnScreen() {
   form::Rect place = Bounds();
-  const form::Rect screen = Ui().ScreenAt(place).Bounds;
+  screen_ = Ui().ScreenAt(place);
+  const form::Rect& screen = screen_.Bounds;
   place.Left = std::max(place.Left, screen.Left);
   place.Left = std::min(place.Left, screen.Right() - (BarWidth() + RightMargin));
   place.Top = std::max(place.Top, screen.Top);
@@ -213,7 +212,8 @@ void frmMain::KeepOnScreen() {
 // --- staying on top
 
 void frmMain::PauseOnTop() {
-  TimerWatchOnTop.SetEnabled(false);  // who opens has the bar's place now, and the focus
+  // Who opens has the bar's place now, and the focus, unless the bar is out of sight and is waited for.
+  if (WindowState() != form::WindowState::Minimized) TimerWatchOnTop.SetEnabled(false);
   if (!TimerOnTop.Enabled()) return;
   TimerOnTop.SetEnabled(false);
   SetTopMost(false);
@@ -332,7 +332,9 @@ void frmMain::ClearTextMain() {
 
 // --- hot keys
 
-void frmMain::Form_KeyUp(form::Key key) { HotKey(key); }
+void frmMain::Form_KeyUp(form::Key key) {
+  parts_.Messages.Trap(L"Form_KeyUp", [&] { HotKey(key); });
+}
 
 void frmMain::HotKey(form::Key key) {
   const auto click = [](form::CommandButton& button) {

@@ -71,6 +71,8 @@ class frmMain : public form::Form {
   [[nodiscard]] bool HasPanel(std::size_t index) const { return panels_.at(index) != nullptr; }
   /// Closes the open panel, if there is one, and goes back to an empty command line.
   void ClosePanel();
+  /// Goes back to an empty command line.
+  void ClearTextMain();
 
   /// Unfolds the add-web box with an address in it, ready for the name.
   void OfferWebSite(std::wstring_view address);
@@ -110,7 +112,6 @@ class frmMain : public form::Form {
   void TimerOnTop_Timer();
   void TimerWatchOnTop_Timer();
   void EmptyTextMain() { TextMain.SetText({}); }
-  void ClearTextMain();
   void ShowWebFace();
   void ShowMenuCaptions();
   [[nodiscard]] bool StayOnTop() const { return parts_.Options.AlwaysOnTop != 0; }
@@ -119,6 +120,7 @@ class frmMain : public form::Form {
   command::CommandLine commandLine_;
   std::array<Panel*, menu::Count> panels_{};
   double twipsPerPixelX_ = 15;
+  form::Screen screen_;          // the one that the bar was last seen on
   form::Twips narrowWidth_ = 0;  // to the right edge of CommandExit
   form::Twips wideWidth_ = 0;    // to the right edge of the unfolded add-web box
   bool addWebShown_ = false;

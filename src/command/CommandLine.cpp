@@ -7,6 +7,7 @@
 #include "command/BuiltInActions.h"
 #include "command/CodeTables.h"
 #include "form/Keys.h"
+#include "form/Scoped.h"
 #include "list/NameMatch.h"
 #include "text/Numbers.h"
 
@@ -143,48 +144,52 @@ void CommandLine::Escape() {
 
 void CommandLine::Complete(const CommandCode& code, std::wstring_view prefix, std::wstring_view typed) {
   const auto itself = [](std::wstring_view entry) { return entry; };
+  const auto offered = [](const ControlPanelWord& entry) { return entry.Offered ? entry.Word : L""; };
+  const auto named = [](const start::Companion& entry) { return std::wstring_view(entry.Name); };
+  const auto index = [](int found) { return text::ToInt16(found); };
   switch (code.Argument) {
     case Argument::ControlPanelPage:
-      CompleteFrom(
-          ControlPanelNames, [](const ControlPanelWord& entry) { return entry.Offered ? entry.Word : L""; }, prefix,
-          typed);
+      CompleteFromTable(prefix, typed, ControlPanelNames, offered);
       return;
     case Argument::SpecialFolder:
-      CompleteFrom(SpecialFolderNames, itself, prefix, typed);
+      CompleteFromTable(prefix, typed, SpecialFolderNames, itself);
       return;
     case Argument::MakerAddress:
-      state_.MailTargetIndex = text::ToInt16(CompleteFrom(MailAddresses, itself, prefix, typed));
-      return;
-    case Argument::ItemName:
-      state_.MatchedItemIndex = text::ToInt16(CompleteFrom(list_.Of(code.Group).Name.Entries(), itself, prefix, typed));
+      state_.MailTargetIndex = index(CompleteFromTable(prefix, typed, MailAddresses, itself));
       return;
     case Argument::CompanionName:
-      state_.MatchedItemIndex = text::ToInt16(CompleteFrom(
-          environment_.Companions, [](const start::Companion& entry) -> std::wstring_view { return entry.Name; },
-          prefix, typed));
+      state_.MatchedItemIndex = index(CompleteFromTable(prefix, typed, environment_.Companions, named));
+      return;
+    case Argument::ItemName:
+      state_.MatchedItemIndex = index(CompleteFromGroup(prefix, typed, list_.Of(code.Group).Name));
       return;
     case Argument::Typed:
       return;
   }
 }
 
+int CommandLine::CompleteFromGroup(std::wstring_view prefix, std::wstring_view typed, const form::ComboBox& names) {
+  return CompleteFromTable(prefix, typed, names.Entries(), [](std::wstring_view entry) { return entry; });
+}
+
 template <class Entries, class TextOf>
-int CommandLine::CompleteFrom(const Entries& entries, TextOf textOf, std::wstring_view prefix,
-                              std::wstring_view typed) {
+int CommandLine::CompleteFromTable(std::wstring_view prefix, std::wstring_view typed, const Entries& table,
+                                   TextOf textOf) {
   list::NameMatch match(services_.Language, typed);
   const auto found =
-      std::find_if(entries.begin(), entries.end(), [&](const auto& entry) { return match.Begins(textOf(entry)); });
-  if (found == entries.end()) return NoIndex;
+      std::find_if(table.begin(), table.end(), [&](const auto& entry) { return match.Begins(textOf(entry)); });
+  if (found == table.end()) return NoIndex;
   PutCompletion(prefix, typed.size(), textOf(*found));
-  return static_cast<int>(found - entries.begin());
+  return static_cast<int>(found - table.begin());
 }
 
 void CommandLine::PutCompletion(std::wstring_view prefix, std::size_t typedLength, std::wstring_view entry) {
   const int caret = textMain_.SelStart();
   // Searching again in the change that this raises would only find the same entry.
-  completing_ = true;
-  textMain_.SetText(std::wstring(prefix).append(entry));
-  completing_ = false;
+  {
+    const form::Scoped completing(completing_, true);
+    textMain_.SetText(std::wstring(prefix).append(entry));
+  }
   const auto typedEnd = static_cast<int>(CodeLength + typedLength);
   if (entry.size() > typedLength) {
     textMain_.Select(typedEnd, static_cast<int>(entry.size() - typedLength));

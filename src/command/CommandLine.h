@@ -1,11 +1,11 @@
 #pragma once
 
-#include <functional>
 #include <string_view>
 
 #include "command/CommandCodes.h"
 #include "command/CommandState.h"
 #include "command/Starters.h"
+#include "form/Event.h"
 #include "form/TextBox.h"
 #include "list/LaunchList.h"
 #include "message/Messages.h"
@@ -16,9 +16,9 @@ namespace vantor::command {
 
 /// What the command line makes happen on the bar.
 struct CommandLineHooks {
-  std::function<void()> Minimize;
+  form::Event<> Minimize;
   /// A click on a CommandMenu button.
-  std::function<void(int index)> ClickMenu;
+  form::Event<int /*index*/> ClickMenu;
 };
 
 /// The keys, the completion and the commands of the bar's text box.
@@ -50,9 +50,10 @@ class CommandLine {
 
   // What type-ahead does.
   void Complete(const CommandCode& code, std::wstring_view prefix, std::wstring_view typed);
-  /// Completes to the first entry that begins with `typed`. Returns its index, -1 for none.
+  // They complete to the first entry that begins with `typed`, and return its index, -1 for none.
   template <class Entries, class TextOf>
-  int CompleteFrom(const Entries& entries, TextOf textOf, std::wstring_view prefix, std::wstring_view typed);
+  int CompleteFromTable(std::wstring_view prefix, std::wstring_view typed, const Entries& table, TextOf textOf);
+  int CompleteFromGroup(std::wstring_view prefix, std::wstring_view typed, const form::ComboBox& names);
   void PutCompletion(std::wstring_view prefix, std::size_t typedLength, std::wstring_view entry);
 
   form::TextBox& textMain_;

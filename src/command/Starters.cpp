@@ -29,7 +29,7 @@ message::MessageKey Starters::OpenWithShell(std::wstring_view target) const {
 
 message::MessageKey Starters::Outcome(bool started, std::wstring_view failure) const {
   if (!started) return message::MessageKey(failure);
-  if (Started) Started();
+  Started();
   return {};
 }
 

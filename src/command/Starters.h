@@ -1,8 +1,8 @@
 #pragma once
 
-#include <functional>
 #include <string_view>
 
+#include "form/Event.h"
 #include "message/MessageState.h"
 #include "service/Programs.h"
 #include "service/ScriptShell.h"
@@ -16,7 +16,7 @@ class Starters {
   Starters(service::Programs& programs, service::ScriptShell& shell) : programs_(programs), shell_(shell) {}
 
   /// Runs when something was started by one of the three below; the bar empties its command line then.
-  std::function<void()> Started;
+  form::Event<> Started;
 
   message::MessageKey RunProgramCommand(std::wstring_view commandLine) const;
   message::MessageKey RunExplorerCommand(std::wstring_view commandLine) const;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "form/Scoped.h"
 #include "form/UserInterface.h"
 
 namespace vantor::form {
@@ -47,11 +48,19 @@ void Form::Show() {
 
 void Form::ShowModal() {
   Load();
-  ui_.modalForms_.push_back(this);
-  ui_.ModalChanged();
+  struct Turn {  // ends also when an exception leaves it: the other forms take input again
+    explicit Turn(Form& form) : Of(form) {
+      Of.ui_.modalForms_.push_back(&Of);
+      Of.ui_.ModalChanged();
+    }
+    ~Turn() { Of.LeaveModal(); }
+    Turn(const Turn&) = delete;
+    Turn& operator=(const Turn&) = delete;
+    Form& Of;
+  };
+  const Turn turn(*this);
   Show();
   ui_.RunModal(*this);
-  LeaveModal();
 }
 
 void Form::Hide() {
@@ -108,9 +117,8 @@ void Form::MoveInto(const Rect& area) {
 
 void Form::Drag() {
   if (window_ == nullptr) return;
-  dragging_ = true;
+  const Scoped dragging(dragging_, true);
   window_->Drag();
-  dragging_ = false;
 }
 
 void Form::Activate() {

@@ -122,12 +122,11 @@ class Form {
   virtual void Form_Load() {}
   virtual void Form_Unload() {}
   virtual void Form_KeyUp(Key /*key*/) {}
-  /// The mouse moves over a free spot: no control is there, or only frames without border, labels and images,
-  /// which let the mouse through to the form unless a Click handler wants it.
   /// The window was moved from outside, by the window manager say, which may tell of a drag's end late.
   virtual void Form_Moved() {}
   /// The screens or the room on them changed: a visible form comes into the room that is left.
   virtual void Form_ScreensChanged();
+  /// The mouse moves over a free spot: no control is there, or only frames, labels and images, which let it through.
   virtual void Form_MouseMove(MouseButton /*held*/) {}
   /// What closing the window does: an unload unless the form does otherwise.
   virtual void Form_Close() { Unload(); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 
 namespace vantor::form {
@@ -21,6 +22,11 @@ struct Rect {
   friend bool operator==(const Rect&, const Rect&) = default;
 };
 
+/// How far two stretches overlap; 0 when they don't.
+[[nodiscard]] inline Twips Overlap(Twips from, Twips to, Twips otherFrom, Twips otherTo) {
+  return std::max(std::min(to, otherTo) - std::max(from, otherFrom), 0);
+}
+
 struct Size {
   Twips Width = 0;
   Twips Height = 0;
@@ -32,6 +38,8 @@ struct Screen {
   Rect WorkArea;
   double TwipsPerPixelX = 15;
   double TwipsPerPixelY = 15;
+
+  friend bool operator==(const Screen&, const Screen&) = default;
 };
 
 /// A colour: 0x00BBGGRR, or 0x800000nn for the system colour nn, which follows the user's theme.

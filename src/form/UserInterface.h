@@ -22,6 +22,8 @@ class UserInterface {
   [[nodiscard]] virtual Screen ScreenAt(const Rect& place) const = 0;
   [[nodiscard]] virtual Screen PrimaryScreen() const = 0;
 
+  /// A width, in twips, at which no line of a label or a button is broken.
+  static constexpr Twips AnyWidth = 30000;
   /// The room that a label's text takes when its lines are broken at `width` twips.
   [[nodiscard]] virtual Size MeasureText(std::wstring_view text, bool bold, Twips width) const = 0;
 

@@ -35,7 +35,7 @@ class Backup final : public service::DataFiles {
 
   std::optional<std::string> Read(std::wstring_view path) override;
   /// One file of a save. A failed write leaves what was written of it; the next start then finds the mark.
-  bool Write(std::wstring_view path, std::string_view bytes) override;
+  bool Write(std::wstring_view path, std::string_view bytes) override;  // in place too: the kept one stands by
   bool WriteInPlace(std::wstring_view path, std::string_view bytes) override { return Write(path, bytes); }
   bool Remove(std::wstring_view path) override { return files_.Remove(path); }
   bool MakeFolder(std::wstring_view path) override { return files_.MakeFolder(path); }

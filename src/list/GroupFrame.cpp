@@ -5,9 +5,9 @@
 
 #include "form/Form.h"
 #include "form/Keys.h"
+#include "form/PictureButton.h"
 #include "form/UserInterface.h"
 #include "list/NameMatch.h"
-#include "list/PictureButton.h"
 
 namespace vantor::list {
 
@@ -61,15 +61,15 @@ void GroupFrame::Dress(const GroupTexts& texts) {
   LabelPath.SetCaption(L"Launch Path :");
   Name.SetAccessibleName(item + L" Name");
   Path.SetAccessibleName(item + L" Launch Path");
-  DressButton(Open, LabelOpen, L"Open");
-  DressButton(Rename, LabelRename, L"Rename");
-  DressButton(Remove, LabelRemove, L"Remove From List");
+  form::DressButton(Open, LabelOpen, L"Open");
+  form::DressButton(Rename, LabelRename, L"Rename");
+  form::DressButton(Remove, LabelRemove, L"Remove From List");
   FrameRename.SetBorder(false);
   FrameRename.SetVisible(false);
   LabelNewName.SetCaption(texts.NewNameLabel);
   TextRename.SetAccessibleName(item + L" New Name");
-  DressButton(RenOK, LabelRenOK, L"OK");
-  DressButton(RenCancel, LabelRenCancel, L"Cancel");
+  form::DressButton(RenOK, LabelRenOK, L"OK");
+  form::DressButton(RenCancel, LabelRenCancel, L"Cancel");
   RenOK.SetEnabled(false);
 }
 
@@ -106,21 +106,21 @@ Twips GroupFrame::LayOut(Twips left, Twips top, Twips width) {
 
   Twips x = boxLeft;
   const auto place = [&x](form::CommandButton& button, form::Label& label, Twips at) {
-    PlaceButton(button, label, {x, at, ButtonWidth(label), ButtonHeight});
+    form::PlaceButton(button, label, {x, at, form::ButtonWidth(label), form::ButtonHeight});
     x += button.Width() + Gap;
   };
   place(Open, LabelOpen, y);
   place(Rename, LabelRename, y);
   place(Remove, LabelRemove, y);
-  y += ButtonHeight + Gap;
+  y += form::ButtonHeight + Gap;
 
-  FrameRename.SetBounds({Gap, y, width - 2 * Gap, ButtonHeight});
+  FrameRename.SetBounds({Gap, y, width - 2 * Gap, form::ButtonHeight});
   const Twips inside = Margin - Gap;
-  LabelNewName.SetBounds({inside, (ButtonHeight - LabelHeight) / 2, labelWidth, LabelHeight});
-  const Twips buttons = ButtonWidth(LabelRenOK) + Gap + ButtonWidth(LabelRenCancel);
+  LabelNewName.SetBounds({inside, (form::ButtonHeight - LabelHeight) / 2, labelWidth, LabelHeight});
+  const Twips buttons = form::ButtonWidth(LabelRenOK) + Gap + form::ButtonWidth(LabelRenCancel);
   const Twips textLeft = boxLeft - Gap;
   x = FrameRename.Width() - inside - buttons;
-  TextRename.SetBounds({textLeft, (ButtonHeight - LineHeight) / 2, x - Gap - textLeft, LineHeight});
+  TextRename.SetBounds({textLeft, (form::ButtonHeight - LineHeight) / 2, x - Gap - textLeft, LineHeight});
   place(RenOK, LabelRenOK, 0);
   place(RenCancel, LabelRenCancel, 0);
 
@@ -129,7 +129,6 @@ Twips GroupFrame::LayOut(Twips left, Twips top, Twips width) {
 }
 
 void GroupFrame::Prepare() {
-  ShowRename(false);
   if (Path.ListIndex() == -1 && Path.ListCount() > 0) Path.SetListIndex(0);
   EnableByCount();
 }
@@ -139,15 +138,9 @@ void GroupFrame::EnableByCount() {
   for (form::CommandButton* button : {&Open, &Rename, &Remove}) button->SetEnabled(any);
 }
 
-void GroupFrame::Name_Click() {
-  Path.SetListIndex(Name.ListIndex());
-  TextRename_Change();  // another name is compared now
-}
-
 void GroupFrame::Open_Click() {
   if (Path.ListIndex() == -1) return;
-  const std::wstring target = Path.Text();
-  if (Start) Start(target);
+  Start(std::wstring(Path.Text()));  // a copy: the panel closes first
 }
 
 void GroupFrame::Rename_Click() {
@@ -168,9 +161,7 @@ void GroupFrame::TextRename_Change() {
 }
 
 void GroupFrame::TextRename_KeyPress(wchar_t& character) {
-  if (character != form::CharEnter) return;
-  character = 0;  // a box of one line would beep
-  if (!TextRename.Text().empty()) RenOK_Click();
+  if (character == form::CharEnter && !TextRename.Text().empty()) RenOK_Click();
 }
 
 void GroupFrame::RenOK_Click() {
@@ -199,7 +190,6 @@ void GroupFrame::Remove_Click() {
   Path.RemoveItem(index);
   if (Path.ListCount() > 0) Path.SetListIndex(0);
   EnableByCount();
-  TextRename_Change();
 }
 
 }  // namespace vantor::list

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <functional>
 #include <string_view>
 
 #include "form/Button.h"
+#include "form/Event.h"
 #include "form/ListControl.h"
 #include "form/Static.h"
 #include "form/TextBox.h"
@@ -27,7 +27,7 @@ class GroupFrame {
              message::Messages& messages);
 
   /// Starts a target, after the panel has closed.
-  std::function<void(std::wstring_view target)> Start;
+  form::Event<std::wstring_view /*target*/> Start;
 
   form::Frame Frame;
   form::Label LabelName;
@@ -51,14 +51,14 @@ class GroupFrame {
 
   /// Places the controls in a frame of the given width with its corner at (left, top), in twips. Returns the height.
   form::Twips LayOut(form::Twips left, form::Twips top, form::Twips width);
-  /// Selects an entry if there is one, and closes the rename box.
+  /// Selects an entry if there is one.
   void Prepare();
 
  private:
   void Dress(const GroupTexts& texts);
   void ConnectEvents();
 
-  void Name_Click();
+  void Name_Click() { Path.SetListIndex(Name.ListIndex()); }
   void Path_Click() { Name.SetListIndex(Path.ListIndex()); }
   void Open_Click();
   void Rename_Click();

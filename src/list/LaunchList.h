@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <string_view>
 
 #include "form/ListControl.h"
 
@@ -12,15 +13,28 @@ enum class LaunchGroup { File, Fold, Prog, Web };
 
 inline constexpr std::array LaunchGroups{LaunchGroup::File, LaunchGroup::Fold, LaunchGroup::Prog, LaunchGroup::Web};
 
+/// What can be started: a display name and a target, a path or a web address.
+struct LaunchItem {
+  std::wstring_view Name;
+  std::wstring_view Target;
+};
+
 /// The paired boxes of one group: entry k of both is one item.
 struct GroupBoxes {
   form::ComboBox& Name;
   form::ComboBox& Path;
 
-  void AddItem(std::wstring_view name, std::wstring_view path) const {
-    Name.AddItem(name);
-    Path.AddItem(path);
+  /// Adds to the end of both boxes, or throws and adds to none.
+  void AddItem(const LaunchItem& item) const {
+    Name.AddItem(item.Name);
+    try {
+      Path.AddItem(item.Target);
+    } catch (...) {
+      Name.RemoveItem(Name.ListCount() - 1);
+      throw;
+    }
   }
+  [[nodiscard]] LaunchItem Item(int index) const { return {Name.List(index), Path.List(index)}; }
 };
 
 /// The launch list: the boxes of all groups, in the order of LaunchGroups.

@@ -33,11 +33,11 @@ class RecordWriter {
 
   void Reserve(std::size_t characters) { file_.Reserve(characters); }
 
-  void Write(std::wstring_view name, std::wstring_view target) {
-    if (name.find(L'"') == std::wstring_view::npos && target.find(L'"') == std::wstring_view::npos) {
-      file_.Write(name, target);
+  void Write(const LaunchItem& item) {
+    if (item.Name.find(L'"') == item.Name.npos && item.Target.find(L'"') == item.Target.npos) {
+      file_.Write(item.Name, item.Target);
     } else {
-      file_.Write(WithoutQuotes(name, L"'"), WithoutQuotes(target, quoteInTarget_));
+      file_.Write(WithoutQuotes(item.Name, L"'"), WithoutQuotes(item.Target, quoteInTarget_));
     }
   }
 
@@ -121,7 +121,7 @@ bool ListFiles::LoadFile(const Group& group, const GroupBoxes& boxes, std::wstri
     target.clear();
     if (onMedia) target = environment_.MediaDriveLetter;
     target += onMedia && !stored->Text.empty() ? stored->Text.substr(1) : stored->Text;
-    if (TargetExists(group, target)) boxes.AddItem(name->Text, target);
+    if (TargetExists(group, target)) boxes.AddItem({name->Text, target});
   }
   return true;
 }
@@ -169,22 +169,20 @@ void ListFiles::SaveGroupList(const Group& group, const GroupBoxes& boxes) {
   RecordWriter machine(quoteInTarget);
   std::size_t size = 0;
   for (int i = 0; i <= total; ++i) {
-    size += boxes.Name.List(i).size() + boxes.Path.List(i).size() + PunctuationOfRecord;
+    const LaunchItem item = boxes.Item(i);
+    size += item.Name.size() + item.Target.size() + PunctuationOfRecord;
   }
   main.Reserve(size);
   std::wstring open;
   for (int i = 0; i <= total; ++i) {
-    const std::wstring& name = boxes.Name.List(i);
-    const std::wstring& target = boxes.Path.List(i);
-    if (!BelongsToMain(group, target)) {
-      machine.Write(name, target);
-    } else if (group.MachineFile != nullptr && !target.empty()) {
-      open = target;
+    LaunchItem item = boxes.Item(i);
+    const bool onMain = BelongsToMain(group, item.Target);
+    if (onMain && group.MachineFile != nullptr && !item.Target.empty()) {
+      open = item.Target;
       open.front() = OpenDriveLetter;
-      main.Write(name, open);
-    } else {
-      main.Write(name, target);
+      item.Target = open;
     }
+    (onMain ? main : machine).Write(item);
   }
   const auto write = [this](const std::wstring& path, const RecordWriter& records) {
     if (records.File().Bytes().empty()) return;  // the file of a list that is empty stays as it is

@@ -38,6 +38,7 @@ class ListFiles {
   [[nodiscard]] bool LoadFile(const Group& group, const GroupBoxes& boxes, std::wstring_view path, int upper,
                               bool onMedia);
   [[nodiscard]] bool TargetExists(const Group& group, std::wstring_view target) const;
+  /// Returns the upper index of the group's items that lie on the medium, and sets that of the computer's.
   [[nodiscard]] std::int16_t CountMediaItems(const Group& group, const GroupBoxes& boxes, std::int16_t upper) const;
   void SaveGroupList(const Group& group, const GroupBoxes& boxes);
   /// Whether the target is written into the group's main list file, in removable-media mode with the drive

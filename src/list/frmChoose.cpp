@@ -1,6 +1,6 @@
 #include "list/frmChoose.h"
 
-#include "list/PictureButton.h"
+#include "form/PictureButton.h"
 
 namespace vantor::list {
 
@@ -16,7 +16,7 @@ frmChoose::frmChoose(form::UserInterface& ui, ListFiles& files, const service::L
   Page.FrameList.SetVisible(false);
   SetBorderStyle(form::BorderStyle::Line);
   FrameCancel.SetBorder(false);
-  DressButton(CommandListCancel, LabelListCancel, L"Cancel");
+  form::DressButton(CommandListCancel, LabelListCancel, L"Cancel");
   messages_.Connect(CommandListCancel.Click, L"CommandListCancel_Click", this, &frmChoose::CommandListCancel_Click);
   for (const LaunchGroup group : LaunchGroups) {
     Page.Of(group).Start = [this, group](std::wstring_view target) { Start(group, target); };
@@ -43,10 +43,10 @@ void frmChoose::ShowPage(ChoosePage& page) {
   form::Twips height = size.Height;
   if (closes) {
     LabelListCancel.SetCaption(page.CloseCaption());
-    const form::Twips width = ButtonWidth(LabelListCancel);
-    FrameCancel.SetBounds({size.Width - Margin - width, height, width, ButtonHeight});
-    PlaceButton(CommandListCancel, LabelListCancel, {0, 0, width, ButtonHeight});
-    height += ButtonHeight + Margin;
+    const form::Twips width = form::ButtonWidth(LabelListCancel);
+    FrameCancel.SetBounds({size.Width - Margin - width, height, width, form::ButtonHeight});
+    form::PlaceButton(CommandListCancel, LabelListCancel, {0, 0, width, form::ButtonHeight});
+    height += form::ButtonHeight + Margin;
   }
   SetBounds(Hooks.Place ? Hooks.Place({size.Width, height})
                         : form::Rect{Bounds().Left, Bounds().Top, size.Width, height});
@@ -55,22 +55,21 @@ void frmChoose::ShowPage(ChoosePage& page) {
   (first != nullptr ? *first : CommandListCancel).SetFocus();
 }
 
-void frmChoose::CommandListCancel_Click() {
-  if (Hooks.ClosePanel) Hooks.ClosePanel();
-}
+void frmChoose::CommandListCancel_Click() { Hooks.ClosePanel(); }
 
 void frmChoose::Start(LaunchGroup group, std::wstring_view target) {
   CommandListCancel_Click();
-  const auto& start = group == LaunchGroup::Prog ? Hooks.RunProgram : Hooks.OpenWithShell;
-  if (start) start(target);
+  (group == LaunchGroup::Prog ? Hooks.RunProgram : Hooks.OpenWithShell)(target);
 }
 
 void frmChoose::Form_KeyUp(form::Key key) {
-  if (key == form::Key::Escape) {
-    CommandListCancel_Click();
-  } else if (Hooks.HotKey) {
-    Hooks.HotKey(key);
-  }
+  messages_.Trap(L"Form_KeyUp", [&] {
+    if (key == form::Key::Escape) {
+      CommandListCancel_Click();
+    } else {
+      Hooks.HotKey(key);
+    }
+  });
 }
 
 }  // namespace vantor::list

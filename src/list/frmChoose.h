@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "form/Button.h"
+#include "form/Event.h"
 #include "form/Form.h"
 #include "form/ListControl.h"
 #include "form/Static.h"
@@ -18,12 +19,12 @@ namespace vantor::list {
 
 /// What the bar does for the dialog. An empty one does nothing.
 struct ChooseHooks {
-  std::function<void()> ClosePanel;
+  form::Event<> ClosePanel;
   /// Start a target; a failure is told there.
-  std::function<void(std::wstring_view target)> RunProgram;
-  std::function<void(std::wstring_view target)> OpenWithShell;
+  form::Event<std::wstring_view /*target*/> RunProgram;
+  form::Event<std::wstring_view /*target*/> OpenWithShell;
   /// A function key was let go.
-  std::function<void(form::Key key)> HotKey;
+  form::Event<form::Key /*key*/> HotKey;
   /// Where a box of this size stands by the bar.
   std::function<form::Rect(form::Size size)> Place;
 };

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "form/Scoped.h"
 #include "product/Product.h"
 
 namespace vantor::message {
@@ -9,26 +10,7 @@ namespace {
 
 constexpr std::wstring_view BugKeyPrefix = L"Bug-Vantor-";
 
-template <class Hook, class... Args>
-void Call(const Hook& hook, Args&&... args) {
-  if (hook) hook(std::forward<Args>(args)...);
-}
-
 bool IsNamePrompt(const MessageKey& key) { return key == L"MessageGetUserName" || key == L"MessageChangeUserName"; }
-
-/// Sets a value for the length of a scope, also when an exception leaves it.
-template <class T>
-class Scoped {
- public:
-  Scoped(T& variable, T value) : variable_(variable), old_(std::exchange(variable, value)) {}
-  ~Scoped() { variable_ = old_; }
-  Scoped(const Scoped&) = delete;
-  Scoped& operator=(const Scoped&) = delete;
-
- private:
-  T& variable_;
-  T old_;
-};
 
 }  // namespace
 
@@ -85,7 +67,7 @@ void Messages::Trap(std::wstring_view routine, const std::function<void()>& body
 
 void Messages::ReportBug(std::wstring_view routine) {
   if (askingAboutBug_) return;
-  const Scoped asking(askingAboutBug_, true);
+  const form::Scoped asking(askingAboutBug_, true);
   State.CurrentMessageKey = std::wstring(BugKeyPrefix) += routine;
   ShowBugMessage();
 }
@@ -94,6 +76,7 @@ std::wstring Messages::AddresseeTitle() const { return State.UserName.empty() ? 
 
 void Messages::OpenMessageDialog(std::wstring_view title, std::wstring_view body, std::wstring_view buttons,
                                  std::wstring_view inputs) {
+  if (ui_.Ended()) return;  // the end came while a service was waited for
   // What a message that opens meanwhile must not take away.
   const MessageKey key = State.CurrentMessageKey;
   const bool endAfter = State.EndAfterMessage;
@@ -115,8 +98,8 @@ void Messages::OpenMessageDialog(std::wstring_view title, std::wstring_view body
   State.ShowDoNotShowBox = false;
 
   {
-    const Scoped open(openDialogs_, openDialogs_ + 1);
-    if (openDialogs_ == 1) Call(Hooks.PauseOnTop);
+    const form::Scoped open(openDialogs_, openDialogs_ + 1);
+    if (openDialogs_ == 1) Hooks.PauseOnTop();
     dialog.Arrange(Hooks.HomeScreen ? Hooks.HomeScreen() : ui_.PrimaryScreen());
     dialog.ShowModal();
   }
@@ -137,8 +120,8 @@ void Messages::OpenMessageDialog(std::wstring_view title, std::wstring_view body
 
 void Messages::AcceptMessageDialog(const MessageKey& key, std::wstring_view input, bool reportBug) {
   if (IsNamePrompt(key)) State.UserName = input.empty() ? NoUserName : input;
-  if (std::exchange(State.EnableRememberAfterMessage, false)) Call(Hooks.EnableRemember);
-  if (IsNamePrompt(key)) Call(Hooks.SaveUserName);
+  if (std::exchange(State.EnableRememberAfterMessage, false)) Hooks.EnableRemember();
+  if (IsNamePrompt(key)) Hooks.SaveUserName();
   LeaveMessage();
   if (reportBug) SendBugReport(key);
 }
@@ -146,7 +129,7 @@ void Messages::AcceptMessageDialog(const MessageKey& key, std::wstring_view inpu
 void Messages::CloseMessageDialog(const MessageKey& key) {
   if (key == L"MessageGetUserName") {
     State.UserName = NoUserName;
-    Call(Hooks.SaveUserName);
+    Hooks.SaveUserName();
   }
   LeaveMessage();
 }
@@ -158,7 +141,7 @@ void Messages::LeaveMessage() {
   State.MessageButtons.clear();
   State.MessageInputs.clear();
   State.CurrentMessageText.clear();
-  if (openDialogs_ == 0) Call(Hooks.ResumeOnTop);
+  if (openDialogs_ == 0) Hooks.ResumeOnTop();
 }
 
 void Messages::SendBugReport(const MessageKey& key) {

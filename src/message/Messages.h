@@ -5,6 +5,7 @@
 #include <string_view>
 #include <utility>
 
+#include "form/Event.h"
 #include "form/UserInterface.h"
 #include "message/Catalogue.h"
 #include "message/MessageState.h"
@@ -15,17 +16,17 @@ namespace vantor::message {
 /// What a message makes happen elsewhere. Whoever owns those things fills it in; an empty one does nothing.
 struct MessageHooks {
   /// A message opens: stop the bar's on-top timer and take the bar out of the topmost band, if it runs.
-  std::function<void()> PauseOnTop;
+  form::Event<> PauseOnTop;
   /// The last open message has closed: when no panel is open, the on-top timer runs exactly when the preference
   /// says so.
-  std::function<void()> ResumeOnTop;
+  form::Event<> ResumeOnTop;
   /// The screen in whose middle messages open; the primary one without this hook.
   std::function<form::Screen()> HomeScreen;
-  std::function<void()> SaveUserName;
+  form::Event<> SaveUserName;
   /// Opens a mail; returns a MessageKey, "" on success.
   std::function<MessageKey(std::wstring_view address, std::wstring_view subject, std::wstring_view body)> SendMailTo;
   /// Enables "Remember My Computer".
-  std::function<void()> EnableRemember;
+  form::Event<> EnableRemember;
   /// Whether any of the maker's other programs is present.
   std::function<bool()> CompanionsPresent;
 };

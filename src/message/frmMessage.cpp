@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "form/PictureButton.h"
+
 namespace vantor::message {
 namespace {
 
@@ -13,7 +15,6 @@ constexpr form::Twips Gap = 150;
 constexpr form::Twips InputHeight = 315;
 constexpr form::Twips CheckHeight = 270;
 constexpr form::Twips ButtonWidth = 1215;
-constexpr form::Twips ButtonHeight = 390;
 constexpr form::Twips NarrowText = 4200;
 // Holds the table of the first-start help without breaking its lines, and fits a screen 640 pixels wide.
 constexpr form::Twips WideText = 7200;
@@ -37,12 +38,6 @@ constexpr ButtonSet ButtonSets[] = {
     {L"TimerStart", false, false, L"", L"", true},
 };
 
-void DressButton(form::CommandButton& button, const form::Label& label) {
-  button.SetEnabled(false);
-  button.SetFaceLabel(label);
-  button.SetPictures(form::Picture::ButtonNormal, form::Picture::ButtonPressed, form::Picture::ButtonDisabled);
-}
-
 }  // namespace
 
 frmMessage::frmMessage(form::UserInterface& ui) : Form(ui, L"frmMessage") {
@@ -57,8 +52,10 @@ frmMessage::frmMessage(form::UserInterface& ui) : Form(ui, L"frmMessage") {
   CheckDoNotShow.SetCaption(L"Do not show this message again.");
   CheckDoNotShow.SetForeColor(form::Color::WindowText);
   CheckDoNotShow.SetVisible(false);
-  DressButton(CommandOK, LabelOK);
-  DressButton(CommandCancel, LabelCancel);
+  form::DressButton(CommandOK, LabelOK, {});
+  form::DressButton(CommandCancel, LabelCancel, {});
+  CommandOK.SetEnabled(false);
+  CommandCancel.SetEnabled(false);
   TextInput0.SetBackColor(form::Color::LineBlue);
   TextInput0.SetVisible(false);
   LabelMessage.SetForeColor(form::Color::WindowText);
@@ -109,13 +106,13 @@ void frmMessage::Arrange(const form::Screen& screen) {
   if (CheckDoNotShow.Visible()) place(CheckDoNotShow, CheckHeight);
 
   top += Gap;
-  CommandCancel.SetBounds({left + width - ButtonWidth, top, ButtonWidth, ButtonHeight});
-  CommandOK.SetBounds({CommandCancel.Left() - Gap - ButtonWidth, top, ButtonWidth, ButtonHeight});
+  CommandCancel.SetBounds({left + width - ButtonWidth, top, ButtonWidth, form::ButtonHeight});
+  CommandOK.SetBounds({CommandCancel.Left() - Gap - ButtonWidth, top, ButtonWidth, form::ButtonHeight});
   LabelCancel.SetBounds(CommandCancel.Bounds());
   LabelOK.SetBounds(CommandOK.Bounds());
 
   const form::Twips formWidth = left + width + Margin;
-  const form::Twips formHeight = top + ButtonHeight + Margin;
+  const form::Twips formHeight = top + form::ButtonHeight + Margin;
   PictureMessage.SetBounds({0, 0, BandWidth, formHeight});
   const form::Rect& area = screen.WorkArea;
   SetBounds({area.Left + std::max((area.Width - formWidth) / 2, 0),

@@ -4,15 +4,15 @@
 #include <numeric>
 
 #include "form/Form.h"
+#include "form/PictureButton.h"
 #include "form/UserInterface.h"
-#include "list/PictureButton.h"
 
 namespace vantor::options {
 
 namespace {
 
+using form::ButtonHeight;
 using form::Twips;
-using list::ButtonHeight;
 
 constexpr Twips Margin = 120;
 constexpr Twips Gap = 60;
@@ -39,10 +39,10 @@ void OptionsPage::Dress() {
   FrameOptions.SetCaption(L"Preferences");
   FrameOptions.SetVisible(false);
   for (std::size_t i = 0; i < Count; ++i) CheckOptionMain[i].SetCaption(Captions[i]);
-  list::DressButton(CommandOptionShortcut, LabelOptionShortcut, L"Create Desktop Shortcut");
-  list::DressButton(CommandOptionRemember, LabelOptionRemember, L"Remember My Computer");
-  list::DressButton(CommandOptionOK, LabelOptionOK, L"OK");
-  list::DressButton(CommandOptionCancel, LabelOptionCancel, L"Cancel");
+  form::DressButton(CommandOptionShortcut, LabelOptionShortcut, L"Create Desktop Shortcut");
+  form::DressButton(CommandOptionRemember, LabelOptionRemember, L"Remember My Computer");
+  form::DressButton(CommandOptionOK, LabelOptionOK, L"OK");
+  form::DressButton(CommandOptionCancel, LabelOptionCancel, L"Cancel");
   CommandOptionRemember.SetEnabled(false);
 }
 
@@ -63,15 +63,15 @@ void OptionsPage::ConnectEvents() {
 }
 
 form::Size OptionsPage::LayOut() {
-  constexpr Twips AnyWidth = 30000;
   CommandOptionRemember.SetVisible(parts_.Environment.RunMode);
   Twips width = LeastWidth;
   for (const form::CheckBox& box : CheckOptionMain) {
-    const Twips text = FrameOptions.OwnerForm().Ui().MeasureText(box.Caption(), false, AnyWidth).Width;
+    const Twips text =
+        FrameOptions.OwnerForm().Ui().MeasureText(box.Caption(), false, form::UserInterface::AnyWidth).Width;
     width = std::max(width, CheckMark + text + 2 * Margin);
   }
   for (const form::Label* label : {&LabelOptionShortcut, &LabelOptionRemember}) {
-    width = std::max(width, list::ButtonWidth(*label) + 2 * Margin);
+    width = std::max(width, form::ButtonWidth(*label) + 2 * Margin);
   }
   Twips top = CaptionHeight;
   for (form::CheckBox& box : CheckOptionMain) {
@@ -81,17 +81,17 @@ form::Size OptionsPage::LayOut() {
   top += Gap;
   const auto placeWide = [&](form::CommandButton& button, form::Label& label) {
     if (!button.Visible()) return;
-    list::PlaceButton(button, label, {Margin, top, width - 2 * Margin, ButtonHeight});
+    form::PlaceButton(button, label, {Margin, top, width - 2 * Margin, ButtonHeight});
     top += ButtonHeight + Gap;
   };
   placeWide(CommandOptionShortcut, LabelOptionShortcut);
   placeWide(CommandOptionRemember, LabelOptionRemember);
   top += Margin;
-  const Twips cancelWidth = list::ButtonWidth(LabelOptionCancel);
-  const Twips okWidth = list::ButtonWidth(LabelOptionOK);
+  const Twips cancelWidth = form::ButtonWidth(LabelOptionCancel);
+  const Twips okWidth = form::ButtonWidth(LabelOptionOK);
   const Twips cancelLeft = width - Margin - cancelWidth;
-  list::PlaceButton(CommandOptionCancel, LabelOptionCancel, {cancelLeft, top, cancelWidth, ButtonHeight});
-  list::PlaceButton(CommandOptionOK, LabelOptionOK, {cancelLeft - Gap - okWidth, top, okWidth, ButtonHeight});
+  form::PlaceButton(CommandOptionCancel, LabelOptionCancel, {cancelLeft, top, cancelWidth, ButtonHeight});
+  form::PlaceButton(CommandOptionOK, LabelOptionOK, {cancelLeft - Gap - okWidth, top, okWidth, ButtonHeight});
   return {width, top + ButtonHeight + Margin};
 }
 
@@ -118,12 +118,10 @@ void OptionsPage::CommandOptionOK_Click() {
   if (chosen.StartWithWindows != parts_.Options.StartWithWindows) SetStartWithWindows(chosen.StartWithWindows != 0);
   parts_.Settings.OptionMask = pendingOptionMask_;
   parts_.Options = chosen;
-  if (Hooks.ClosePanel) Hooks.ClosePanel();
+  Hooks.ClosePanel();
 }
 
-void OptionsPage::CommandOptionCancel_Click() {
-  if (Hooks.ClosePanel) Hooks.ClosePanel();
-}
+void OptionsPage::CommandOptionCancel_Click() { Hooks.ClosePanel(); }
 
 void OptionsPage::SetStartWithWindows(bool start) {
   const std::wstring current = parts_.ScriptShell.RegistryRead(RunValue);

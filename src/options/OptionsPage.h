@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "form/Button.h"
+#include "form/Event.h"
 #include "form/Static.h"
 #include "list/ChoosePage.h"
 #include "list/Settings.h"
@@ -29,7 +30,7 @@ struct OptionsParts {
 /// What others do for the page. An empty one does nothing.
 struct OptionsHooks {
   /// Closes the open panel; the bar keeps itself on top afterwards if the option says so.
-  std::function<void()> ClosePanel;
+  form::Event<> ClosePanel;
   /// Makes this computer the remembered one; false when it could not.
   std::function<bool()> RememberMyComputer;
 };

@@ -33,8 +33,7 @@ class FileSystem {
   /// Whether the drive of a path can be read now.
   [[nodiscard]] virtual bool DriveReady(std::wstring_view path) = 0;
   /// Names of the folders in a folder, sorted without regard to letter case, hidden ones left out as Explorer does by
-  /// default.
-  /// Empty when it can't be read.
+  /// default. Empty when it can't be read.
   [[nodiscard]] virtual std::vector<std::wstring> Folders(std::wstring_view path) = 0;
   /// The same for the files whose names fit `pattern` ("*.exe"; "*.*" is every name).
   [[nodiscard]] virtual std::vector<std::wstring> Files(std::wstring_view path, std::wstring_view pattern) = 0;

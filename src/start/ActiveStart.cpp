@@ -56,7 +56,6 @@ void ActiveStart::FindPlaces() {
 
 void ActiveStart::ChooseRunMode() {
   Environment& environment = program_.Environment;
-  const service::ManyFileCalls many(program_.Services.FileSystem);
   if (!program_.Services.FileSystem.Available()) {
     Stop(L"MessageNeedSriptRuntime");
     return;

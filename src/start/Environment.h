@@ -10,10 +10,10 @@ inline constexpr std::wstring_view ProductName = L"Vantor";
 inline constexpr std::wstring_view ApplicationTitle = L"Vantor Orbel";
 inline constexpr std::wstring_view VersionText = L"Version 2.0";
 
-/// Full paths of the data files. Those of removable-media mode are "" in fixed-disk mode.
+/// Full paths of the data files. Those of the other mode are "".
 struct DataFilePaths {
   std::wstring Set;
-  std::wstring User;
+  std::wstring User;  // fixed-disk mode only
   std::wstring ListFile;
   std::wstring ListFold;
   std::wstring ListProg;

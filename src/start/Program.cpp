@@ -24,12 +24,8 @@ void Program::Main() {
 void Program::ConnectMessages() {
   message::MessageHooks& hooks = Messages.Hooks;
   // The messages of the start come before there is a bar.
-  hooks.PauseOnTop = [this] {
-    if (frmMain.Loaded()) frmMain.PauseOnTop();
-  };
-  hooks.ResumeOnTop = [this] {
-    if (frmMain.Loaded()) frmMain.ResumeOnTop();
-  };
+  hooks.PauseOnTop = [this] { frmMain.PauseOnTop(); };
+  hooks.ResumeOnTop = [this] { frmMain.ResumeOnTop(); };
   hooks.HomeScreen = [this] { return frmMain.Loaded() ? Ui.ScreenAt(frmMain.Bounds()) : Ui.PrimaryScreen(); };
   hooks.SaveUserName = [this] { SaveUserName(Services, Environment, MessageState.UserName); };
   hooks.SendMailTo = [this](std::wstring_view address, std::wstring_view subject, std::wstring_view body) {
@@ -52,9 +48,7 @@ void Program::ConnectBrowse() {
   };
   hooks.ClosePanel = [this] { frmMain.ClosePanel(); };
   hooks.ItemAdded = [this] {
-    if (!frmMain.Visible() || frmMain.WindowState() == form::WindowState::Minimized) return;
-    frmMain.TextMain.SetText({});
-    frmMain.TextMain.SetFocus();
+    if (frmMain.Visible() && frmMain.WindowState() != form::WindowState::Minimized) frmMain.ClearTextMain();
   };
   hooks.HotKey = [this](form::Key key) { frmMain.HotKey(key); };
   hooks.Place = [this](form::Size size) { return PlaceByBar(size); };

@@ -243,8 +243,6 @@ bool ComboWindow::OnKey(WPARAM key) {
     case VK_END:
       Choose(list_.ListCount() - 1);
       return true;
-    case VK_F4:
-      return true;  // a hot key of the bar; Alt+Down drops the list
     default:
       return false;
   }

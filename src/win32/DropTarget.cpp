@@ -131,8 +131,10 @@ std::wstring WebAddressIn(const std::wstring& path) {
   std::wstring address(LongestAddress, L'\0');
   address.resize(GetPrivateProfileStringW(L"InternetShortcut", L"URL", L"", address.data(), LongestAddress,
                                           CallPath(path).c_str()));
-  const bool leadsToTheWeb = address.starts_with(L"http://") || address.starts_with(L"https://");
-  return leadsToTheWeb ? address : std::wstring();
+  const auto begins = [&](std::wstring_view scheme) {
+    return _wcsnicmp(address.c_str(), scheme.data(), scheme.size()) == 0;
+  };
+  return begins(L"http://") || begins(L"https://") ? address : std::wstring();
 }
 
 std::wstring ShortcutTarget(const std::wstring& path) {

@@ -438,6 +438,7 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         keysDown_.fill(false);
       } else {
         desktop_.Activated(*this);
+        desktop_.StandBehind(*this);  // other programs' windows may have come between
       }
       break;
     case WM_SETFOCUS:

@@ -53,24 +53,19 @@ form::Size Desktop::MeasureText(std::wstring_view text, bool bold, form::Twips w
 }
 
 void Desktop::RunModal(form::Form& form) {
-  MSG message;
-  while (!Ended() && form.Visible()) {
-    if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
-      End();
-    } else {
-      Handle(message);
-    }
-  }
+  while (!Ended() && form.Visible()) HandleNext();
 }
 
 void Desktop::Run() {
+  while (!Ended()) HandleNext();
+}
+
+void Desktop::HandleNext() {
   MSG message;
-  while (!Ended()) {
-    if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
-      End();
-    } else {
-      Handle(message);
-    }
+  if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
+    End();
+  } else {
+    Handle(message);
   }
 }
 
@@ -94,7 +89,11 @@ void Desktop::Handle(MSG& message) {
 }
 
 void Desktop::ReportError() const {
-  if (OnError) OnError(std::current_exception());
+  try {
+    if (OnError) OnError(std::current_exception());
+  } catch (...) {
+    // Not even the question could be asked. Nothing may go on into the system's frames.
+  }
 }
 
 void Desktop::StartTimer(form::Timer& timer) {

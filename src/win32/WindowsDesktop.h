@@ -82,6 +82,7 @@ class Desktop final : public form::UserInterface {
 
   static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
   void ReportError() const;
+  void HandleNext();
   void Handle(MSG& message);
   void Tick(UINT_PTR id);
   /// Destroys the discarded windows that handle no message any more.

@@ -81,7 +81,7 @@ void FuzzLine(Bytes bytes) {
   Choices start{Bytes(used)};
   Wandering wandering(start);
   wandering.Do([&] { wandering.Program.Main(); });
-  wandering.Program.frmChoose.List.Of(list::LaunchGroup::Web).AddItem(L"line", L"http://a\r\nb");
+  wandering.Program.frmChoose.List.Of(list::LaunchGroup::Web).AddItem({L"line", L"http://a\r\nb"});
   form::TextBox& line = wandering.Program.frmMain.TextMain;
   for (Choices choices(bytes); choices.Left() && !wandering.Desktop.Ended();) {
     const unsigned byte = choices.Byte();

@@ -8,7 +8,7 @@
 #include "message/Messages.h"
 #include "service/Language.h"
 
-namespace vantor::add {
+namespace vantor::list {
 
 /// The controls of a box by which items are added, whatever their group.
 struct AddBox {
@@ -21,12 +21,12 @@ enum class AddResult { Added, PathListed, NameListed };
 
 /// Adds what the box holds to the end of a group, unless the target or the name is in it already. Then it says so
 /// and leaves the box as it is, but for a listed name, which is cleared for another one.
-[[nodiscard]] AddResult AddUnlessListed(const AddBox& box, const list::GroupBoxes& group, std::wstring_view banner,
+[[nodiscard]] AddResult AddUnlessListed(const AddBox& box, const GroupBoxes& group, std::wstring_view banner,
                                         message::Messages& messages, const service::Language& language);
 
 /// Appends an item to a group, empties the box and shows the banner. Throws std::length_error when the group is
 /// full.
-void AddToList(std::wstring_view name, std::wstring_view path, const AddBox& box, const list::GroupBoxes& group,
+void AddToList(std::wstring_view name, std::wstring_view path, const AddBox& box, const GroupBoxes& group,
                std::wstring_view banner);
 
-}  // namespace vantor::add
+}  // namespace vantor::list

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <utility>
+
+namespace vantor::form {
+
+/// Sets a value for the length of a scope, also when an exception leaves it.
+template <class T>
+class Scoped {
+ public:
+  Scoped(T& variable, T value) : variable_(variable), old_(std::exchange(variable, value)) {}
+  ~Scoped() { variable_ = old_; }
+  Scoped(const Scoped&) = delete;
+  Scoped& operator=(const Scoped&) = delete;
+
+ private:
+  T& variable_;
+  T old_;
+};
+
+}  // namespace vantor::form
