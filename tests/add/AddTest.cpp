@@ -42,6 +42,21 @@ struct AddBox : test::StartedProgram {
   frmBrowse& Box = Program.frmBrowse;
 };
 
+TEST_CASE("the box opens on its first useful control, whatever had the focus when it closed") {
+  AddBox adding;
+  adding.Pick(L"Tool.EXE");
+  adding.Desktop.Type(L"Tool\r");
+  for (const bool again : {false, true}) {
+    CAPTURE(again);
+    adding.Desktop.Press(form::Key::F2);
+    if (!again) adding.Desktop.Press(form::Key::F2);
+    CHECK(adding.Box.ActiveControl() == &adding.Box.OptionBrowse[0]);
+    adding.Desktop.Press(form::Key::F3);
+    CHECK(adding.Box.ActiveControl() == &adding.Box.DriveWork);
+    adding.Desktop.Click(adding.Box.CommandAddCancel);
+  }
+}
+
 TEST_CASE("a name left over from another choice adds nothing while there is no path") {
   AddBox adding;
   frmBrowse& box = adding.Box;
@@ -85,7 +100,7 @@ TEST_CASE("where an item may come from, and which folder is kept for the next ru
     environment.MachineUnknown = c.Unknown;
     environment.MachineRemembered = c.Remembered;
     if (c.Media) environment.MediaDriveLetter = L"E";
-    adding.Box.DriveWork.SetDrive(c.Folder.substr(0, 1));
+    adding.Box.DriveWork.SetDrive(c.Folder);
     REQUIRE(adding.Box.DirWork.SetPath(c.Folder));
     if (!c.Media) CHECK(adding.Program.Settings.Folder == (c.Refusal.empty() ? c.Folder : L""));
     adding.Pick(L"Tool.EXE");

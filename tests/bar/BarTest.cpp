@@ -86,6 +86,15 @@ TEST_CASE("the bar stands as it was left, and comes along when the screen or the
   }
 }
 
+TEST_CASE("a change of settings that are none of the bar's leaves it where it is") {
+  StartedProgram program("2", "9000\r\n0");
+  program.Desktop.Press(Key::F1);
+  const form::Rect place = program.Main.Bounds();
+  CHECK(place.Right() == program.Desktop.Desktop.Bounds.Width);
+  program.Main.InputScreensChanged();
+  CHECK(program.Main.Bounds() == place);
+}
+
 TEST_CASE("the bar climbs on top each second, except while a message or a panel is open or the user does not want it") {
   StartedProgram program;
   const auto climbs = [&] {
@@ -102,6 +111,11 @@ TEST_CASE("the bar climbs on top each second, except while a message or a panel 
   program.Desktop.Press(Key::F7);
   CHECK(!climbsAfterMessage());
   program.Desktop.Press(Key::F7);
+  CHECK(climbs());
+  program.Desktop.Press(Key::F9);
+  climbsAfterMessage();
+  CHECK(program.Main.TimerWatchOnTop.Enabled());  // waits for the bar to come back
+  program.Main.InputWindowState(form::WindowState::Normal);
   CHECK(climbs());
   program.Program.Options.AlwaysOnTop = 0;
   CHECK(!climbsAfterMessage());

@@ -23,7 +23,7 @@ struct StoredList {
   }
   void Save() { Files.SaveLaunchList(Choose.List, 150, 300); }
   void Add(list::LaunchGroup group, std::wstring_view name, std::wstring_view path) {
-    Choose.List.Of(group).AddItem(name, path);
+    Choose.List.Of(group).AddItem({name, path});
   }
   void RemoveFirst(list::LaunchGroup group) {
     Choose.List.Of(group).Name.RemoveItem(0);

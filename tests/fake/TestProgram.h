@@ -52,7 +52,7 @@ struct TestProgram {
   }
 
   void Add(list::LaunchGroup group, std::wstring_view name, std::wstring_view path) {
-    Choose.List.Of(group).AddItem(name, path);
+    Choose.List.Of(group).AddItem({name, path});
   }
   /// Types a line in the place of what stands in the box.
   void Type(std::wstring_view line) {

@@ -40,6 +40,7 @@ TEST_CASE("on the list page an item is opened by the starter of its group, renam
   CHECK(prog.TextRename.Text().empty());
   panel.Desktop.Click(prog.Rename);
   CHECK(!prog.FrameRename.Visible());
+  prog.Name.SetListIndex(1);
   panel.Desktop.Click(prog.Remove);
   CHECK(ItemsOf(panel.Choose.List.Of(LaunchGroup::Prog)) == Texts{L"Mail>C:\\Mail.exe", L"Calc>C:\\Calc.exe"});
   CHECK((prog.Name.ListIndex() == 0 && prog.Path.ListIndex() == 0));

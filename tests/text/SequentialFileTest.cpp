@@ -23,7 +23,8 @@ TEST_CASE("fields are read as an input statement reads them") {
       {L"plain \"x\",y", {L"plain \"x\"", L"y"}},
   };
   for (const auto& [text, expected] : cases) {
-    CAPTURE(std::string(text.begin(), text.end()));
+    const std::string shown(text.begin(), text.end());
+    CAPTURE(shown);
     Fields fields;
     SequentialReader reader(text);
     while (const auto field = reader.Read())
