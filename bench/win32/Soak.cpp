@@ -117,6 +117,13 @@ struct Soak {
     Await("an empty line", [&] { return Running.Line().empty(); });
     for (const char c : line + '\r') PostMessageW(Running.TextMain(), WM_CHAR, static_cast<WPARAM>(c), 1);
   }
+  /// The window of the program that the keyboard is for; null while it is for none.
+  [[nodiscard]] HWND Focused() const {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(GetWindowThreadProcessId(Bar, nullptr), &info);
+    return info.hwndFocus;
+  }
   [[nodiscard]] DWORD ProcessId() const { return window::ProcessOf(Bar); }
   void DismissMessages() const {
     while (HWND message = Running.Message()) {
@@ -155,9 +162,13 @@ struct Soak {
   void Panel(int number) const {
     constexpr WPARAM keys[] = {VK_F2, VK_F3, VK_F4, VK_F6, VK_F7, VK_F8};
     const WPARAM key = keys[static_cast<std::size_t>(number) % std::size(keys)];
-    for (const std::size_t windows : {2U, 1U}) {
-      Key(Running.TextMain(), key);
-      Await("the panel", [&] { return window::OfProcess(ProcessId()).size() == windows; });
+    for (const bool open : {true, false}) {
+      Key(Focused(), key);
+      // A key goes on only when the window manager is done as well, which else takes the focus away in the midst of it.
+      Await("the panel", [&] {
+        const HWND front = GetAncestor(Focused(), GA_ROOT);
+        return front != nullptr && (front != Bar) == open && IsWindowVisible(front);
+      });
     }
   }
   void Message(int /*number*/) const {
@@ -181,20 +192,21 @@ struct Soak {
   }
 };
 
-/// Does each kind of use. Whether what is held levelled off.
-bool Measure(int hundredths) {
+/// Does each kind of use, or the one that is named. Whether what is held levelled off.
+bool Measure(int hundredths, std::wstring_view only) {
   bool level = true;
   const Soak soak;
   using Act = void (Soak::*)(int) const;
   const struct {
-    const char* Name;
+    const wchar_t* Name;
     Act Do;
     int Count;  // of the long run
-  } kinds[] = {{"commands", &Soak::Command, 10'000},
-               {"panels", &Soak::Panel, 6'000},
-               {"messages", &Soak::Message, 1'000},
-               {"finder drags", &Soak::Find, 500}};
+  } kinds[] = {{L"commands", &Soak::Command, 10'000},
+               {L"panels", &Soak::Panel, 6'000},
+               {L"messages", &Soak::Message, 1'000},
+               {L"drags", &Soak::Find, 500}};
   for (const auto& kind : kinds) {
+    if (!only.empty() && only != kind.Name) continue;
     const bool finder = kind.Do == &Soak::Find;
     if (finder) {
       soak.Key(soak.Running.TextMain(), VK_F2);
@@ -207,9 +219,10 @@ bool Measure(int hundredths) {
     const Usage before = soak.Now();
     for (int i = 0; i < count; ++i) (soak.*kind.Do)(i);
     const Usage after = soak.Now();
-    std::printf("%d %s: GDI %lu to %lu, USER %lu to %lu, handles %lu to %lu, windows %d to %d, private %ld to %ld KB\n",
-                count, kind.Name, before.Gdi, after.Gdi, before.User, after.User, before.Handles, after.Handles,
-                before.Windows, after.Windows, before.PrivateKilobytes, after.PrivateKilobytes);
+    std::printf(
+        "%d %ls: GDI %lu to %lu, USER %lu to %lu, handles %lu to %lu, windows %d to %d, private %ld to %ld KB\n", count,
+        kind.Name, before.Gdi, after.Gdi, before.User, after.User, before.Handles, after.Handles, before.Windows,
+        after.Windows, before.PrivateKilobytes, after.PrivateKilobytes);
     std::fflush(stdout);
     // Wine's management service keeps 3 handles and some 34 KB each time it is asked and left, of a bare program too.
     const int asked = finder && UnderWine() ? count : 0;
@@ -228,7 +241,7 @@ bool Measure(int hundredths) {
 int wmain(int count, wchar_t** arguments) {
   try {
     const int percent = count > 1 ? _wtoi(arguments[1]) : 100;
-    const bool level = vantor::desktop::Measure(percent);
+    const bool level = vantor::desktop::Measure(percent, count > 2 ? arguments[2] : L"");
     if (!level) std::puts("what is held did not level off");
     return level ? 0 : 1;
   } catch (const std::exception& error) {
