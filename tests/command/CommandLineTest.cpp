@@ -39,8 +39,9 @@ TEST_CASE("every code starts its target and empties the line") {
       {L"w-News", L"shell http://news.example/a?b=c"},
   };
   Line line;
-  for (const auto& [typed, started] : rows) {
-    CAPTURE(std::string(started.begin(), started.end()));
+  for (const auto& row : rows) {
+    const auto& [typed, started] = row;
+    CAPTURE(&row - rows);
     line.Computer.Asked.clear();
     line.Type(typed);
     line.Desktop.Type(L"\r");
