@@ -113,9 +113,9 @@ TEST_CASE("a locked text box takes text from the program only") {
   const auto someone = MakePerson();
   Form form(someone->Ui(), L"LockedForm");
   TextBox box(form, L"Box");
-  form.SetBounds({1500, 1500, 6000, 4500});
   box.SetBounds({150, 150, 4500, 450});
   box.SetLocked(true);
+  form.SetBounds({1500, 1500, 6000, 4500});
   form.Show();
   REQUIRE(someone->WaitUntil([&] { return someone->IsShownFocused(box); }));
   box.SetText(L"C:\\Tools");

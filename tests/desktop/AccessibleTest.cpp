@@ -98,24 +98,23 @@ HWND AwaitForm(const Program& program) {
 }
 
 /// Everything that a control shows on the screen.
-std::vector<DWORD> Picture(HWND window) {
+std::string Picture(HWND window) {
   const RECT place = window::Bounds(window);
   const int width = place.right - place.left;
   const int height = place.bottom - place.top;
-  HDC screen = GetDC(nullptr);
-  HDC memory = CreateCompatibleDC(screen);
-  HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
-  HGDIOBJ old = SelectObject(memory, bitmap);
-  BitBlt(memory, 0, 0, width, height, screen, place.left, place.top, SRCCOPY);
-  SelectObject(memory, old);
   BITMAPINFO info{};
-  info.bmiHeader = {sizeof info.bmiHeader, width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-  std::vector<DWORD> pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
-  GetDIBits(memory, bitmap, 0, static_cast<UINT>(height), pixels.data(), &info, DIB_RGB_COLORS);
-  DeleteObject(bitmap);
+  info.bmiHeader = {sizeof info.bmiHeader, width, height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+  void* pixels = nullptr;
+  HDC const screen = GetDC(nullptr);
+  HDC const memory = CreateCompatibleDC(screen);
+  HBITMAP const bitmap = CreateDIBSection(memory, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
+  SelectObject(memory, bitmap);
+  BitBlt(memory, 0, 0, width, height, screen, place.left, place.top, SRCCOPY);
+  std::string picture(static_cast<const char*>(pixels), static_cast<std::size_t>(4 * width * height));
   DeleteDC(memory);
+  DeleteObject(bitmap);
   ReleaseDC(nullptr, screen);
-  return pixels;
+  return picture;
 }
 
 /// Walks once round a form by Tab: all that can be used must be on the way, and must look otherwise with the focus.
@@ -133,7 +132,7 @@ void CheckTabs(HWND form) {
   do {
     CAPTURE(Heard(control).Line());
     visited.insert(control);
-    const std::vector<DWORD> focused = Picture(control);
+    const std::string focused = Picture(control);
     input::Press(VK_TAB);
     if (awaited.size() == 1) break;
     Await("Tab to go on", [&] { return window::FocusOf(form) != control; });

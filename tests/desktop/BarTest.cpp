@@ -82,6 +82,7 @@ TEST_CASE("the line completes, clears and stays while the bar is minimised") {
 }
 
 TEST_CASE("the bar is dragged, kept on the screen, saved where it would be restored, and there at the next start") {
+  SKIP_UNLESS(UnderWine(), "a display that can be asked to drag");
   const Folder folder;
   const int twips = TwipsPerPixel();
   const POINT screen = {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};

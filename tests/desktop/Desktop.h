@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <stdexcept>
 #include <string>
 #include <tuple>
@@ -21,11 +23,23 @@ inline std::string Narrow(const std::wstring& text) {
   return {bytes.begin(), bytes.end()};
 }
 
+/// The bytes of a text in a file of Windows.
+inline std::string Utf16(const std::string& text) {
+  const std::wstring wide = Wide(text);
+  return {reinterpret_cast<const char*>(wide.data()), wide.size() * sizeof(wchar_t)};
+}
+
 /// Whether this runs under Wine, in an installation that is the test's alone: its system files may be replaced.
 inline bool UnderWine() { return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr; }
 
 inline bool Exists(const std::string& path) {
   return GetFileAttributesW(Wide(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+/// The bytes of a file; "(none)" when there is none.
+inline std::string BytesOf(const std::string& path) {
+  std::ifstream file(std::filesystem::path(Wide(path)), std::ios::binary);
+  if (!file) return "(none)";
+  return {std::istreambuf_iterator<char>(file), {}};
 }
 
 /// Asks until the condition holds. False when it does not within the time.
@@ -265,17 +279,10 @@ inline void DoubleClick(POINT at) {
   Click(at);
 }
 
-/// Presses the left button at one point, moves and lets go at the other. Under Wine the window manager of the X display
-/// moves windows, and looks at the display's own mouse only: there this drag is the display's. It first moves a little,
-/// until the window is seen to follow, and then all the way.
+/// Wine only: presses the left button at one point, moves and lets go at the other. The window manager of the X display
+/// moves windows, and looks at the display's own mouse only. It first moves a little, until the window is seen to
+/// follow, and then all the way.
 inline void Drag(POINT from, POINT to) {
-  if (!UnderWine()) {
-    Hold(from);
-    Mouse({(from.x + to.x) / 2, (from.y + to.y) / 2});
-    Mouse(to);
-    LetGo(to);
-    return;
-  }
   std::string commandLine = R"script(Z:\bin\bash -c "
 xdotool mousemove $1 $2
 eval $(xdotool getmouselocation --shell)

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
@@ -74,12 +72,7 @@ class Folder {
   void Write(const std::string& name, const std::string& bytes = {}) const {
     std::ofstream(Place(name), std::ios::binary) << bytes;
   }
-  /// The bytes of a file; "(none)" when there is none.
-  [[nodiscard]] std::string Read(const std::string& name) const {
-    std::ifstream file(std::filesystem::path(Wide(Path(name))), std::ios::binary);
-    if (!file) return "(none)";
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
+  [[nodiscard]] std::string Read(const std::string& name) const { return BytesOf(Path(name)); }
   /// Copies a program that was built beside this one.
   void CopyProgram(const std::string& program, const std::string& name) const {
     wchar_t own[MAX_PATH];
@@ -128,10 +121,6 @@ class Program {
  public:
   explicit Program(const Folder& folder) : Program(folder.Path("Vantor.exe")) {}
   explicit Program(const std::string& path) : process_(Start('"' + path + '"', path.substr(0, path.rfind('\\')))) {}
-  /// One that something else has started.
-  explicit Program(DWORD process) : process_{OpenProcess(PROCESS_ALL_ACCESS, FALSE, process), nullptr, process, 0} {
-    if (process_.hProcess == nullptr) throw std::runtime_error("no such program runs");
-  }
   ~Program() {
     if (Running()) {
       TerminateProcess(process_.hProcess, 99);
@@ -310,8 +299,11 @@ class AddBox : public Panel {
     Await("the drive, or a message", [&] { return Drive().starts_with(chosen) || program_.Message() != nullptr; });
     if (program_.Message() == nullptr) input::Press(VK_RETURN);
   }
-  /// Goes into a folder by a double click.
-  void Enter(const std::string& folder) const { input::DoubleClick(Entry(OfClass("ListBox", 0), folder)); }
+  /// Goes into a folder by a click and a key.
+  void Enter(const std::string& folder) const {
+    input::Click(Entry(OfClass("ListBox", 0), folder));
+    input::Press(VK_RETURN);
+  }
   void Pick(const std::string& file) const { input::Click(Entry(FileList(), file)); }
   void DoublePick(const std::string& file) const { input::DoubleClick(Entry(FileList(), file)); }
   /// Types a name for what is chosen, and presses Enter.

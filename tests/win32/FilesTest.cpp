@@ -2,6 +2,7 @@
 #include <doctest/doctest.h>
 
 #include <algorithm>
+#include <span>
 
 #include "TestFolder.h"
 #include "win32/DataFiles.h"
@@ -25,20 +26,16 @@ void SetAttributes(const std::wstring& path, DWORD attributes) { SetFileAttribut
 
 TEST_CASE("drives are classified as the scripting file system does") {
   Disk disk;
-  const struct {
-    std::wstring Root;
-    int Type;  // 0 for none
-    bool Ready;
-    bool OnTestDesktop = true;
-  } rows[] = {{L"C:", 2, true, false}, {L"c:\\", 2, true, false}, {L"C:\\windows\\system32", 2, true, false},
-              {L"", 0, false, false},  {L"Q:\\", 0, false},       {L"nonsense", 0, false, false},
-              {L"E:\\", 1, true},      {L"g:", 3, true},          {L"H:", 5, true},
-              {L"I:", 4, false},       {L"J:", 0, false},         {L"\\\\no-such-server\\share\\", 0, false, false}};
-  for (const auto& row : rows) {
-    if (row.OnTestDesktop && GetDriveTypeW(L"H:\\") != DRIVE_RAMDISK) continue;
-    CAPTURE(std::string(row.Root.begin(), row.Root.end()));
-    CHECK(disk.Files.DriveType(row.Root).value_or(0) == row.Type);
-    CHECK(disk.Files.DriveReady(row.Root) == row.Ready);
+  // The last five are those of the test desktop.
+  const std::pair<std::wstring, int> rows[] = {{L"C:", 2},       {L"c:\\", 2}, {L"C:\\windows\\system32", 2},
+                                               {L"", 0},         {L"Q:\\", 0}, {L"\\\\no-such-server\\share\\", 0},
+                                               {L"nonsense", 0}, {L"E:\\", 1}, {L"g:", 3},
+                                               {L"H:", 5},       {L"I:", 4},   {L"J:", 0}};
+  const std::size_t count = std::size(rows) - (GetDriveTypeW(L"H:\\") == DRIVE_RAMDISK ? 0 : 5);
+  for (const auto& [root, type] : std::span(rows, count)) {
+    CAPTURE(std::string(root.begin(), root.end()));
+    CHECK(disk.Files.DriveType(root).value_or(0) == type);
+    CHECK(disk.Files.DriveReady(root) == (type != 0 && type != 4));
   }
   const auto drives = disk.Files.Drives();
   CHECK(std::ranges::is_sorted(drives, {}, [](const auto& drive) { return drive.Letter; }));

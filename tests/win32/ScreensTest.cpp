@@ -1,6 +1,7 @@
 #include <doctest/doctest.h>
 #include <windows.h>
 
+#include "desktop/Desktop.h"
 #include "form/Button.h"
 #include "form/Form.h"
 #include "form/ListControl.h"
@@ -37,7 +38,6 @@ HWND WindowOf(const form::Control& control) { return win32::ControlWindow::Of(&c
 
 /// Whether everything of the form has the size and place that its twips have at a resolution.
 void CheckPixels(const SampleForm& sample, int dpi) {
-  CAPTURE(dpi);
   const auto pixels = [dpi](form::Twips twips) { return MulDiv(twips, dpi, 1440); };
   RECT inside;
   GetClientRect(WindowOf(sample), &inside);
@@ -47,8 +47,7 @@ void CheckPixels(const SampleForm& sample, int dpi) {
   for (const form::Control* control : sample.Controls()) {
     CAPTURE(dpi);
     const HWND window = WindowOf(*control);
-    RECT place;
-    GetWindowRect(window, &place);
+    RECT place = desktop::window::Bounds(window);
     MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&place), 2);
     CHECK(place.left == pixels(control->Left()));
     CHECK(place.top == pixels(control->Top()));
@@ -68,8 +67,7 @@ TEST_CASE("a form that comes to a screen of another scale is laid out for it, wi
     sample.Show();
     const form::Rect bounds = sample.Bounds();
     for (const int dpi : {96, 192, 120, 144, 96}) {
-      RECT place;
-      GetWindowRect(WindowOf(sample), &place);
+      const RECT place = desktop::window::Bounds(WindowOf(sample));
       SendMessageW(WindowOf(sample), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&place));
       CheckPixels(sample, dpi);
     }
