@@ -1,7 +1,5 @@
 #include <doctest/doctest.h>
 
-#include <algorithm>
-
 #include "bar/PanelPlace.h"
 #include "fake/TestProgram.h"
 #include "start/Places.h"
@@ -11,32 +9,22 @@ namespace {
 
 using form::Key;
 using test::StartedProgram;
-using test::Texts;
 
-TEST_CASE("buttons without a panel are not there, and leave no gap") {
+TEST_CASE("a button without a panel is not there, and leaves no gap") {
   StartedProgram program;
   frmMain& bar = program.Main;
-  for (const std::size_t index : {0U, 1U, 2U, 4U, 6U}) bar.SetPanel(index, nullptr);
-  std::vector<const form::Control*> controls;
-  for (const form::Control* control : bar.Controls()) {
-    if (control->Container() == &bar.FrameButtons && control->Visible()) controls.push_back(control);
-  }
-  std::sort(controls.begin(), controls.end(), [](auto* a, auto* b) { return a->Left() < b->Left(); });
-  Texts names;
-  for (const form::Control* control : controls) {
-    if (!names.empty()) CHECK(control->Left() == controls[names.size() - 1]->Right() + 60);
-    names.push_back(control->Name());
-  }
-  CHECK(names == Texts{L"ImageLauncher", L"CommandWeb", L"TextMain", L"CommandMenu(5)", L"CommandMin", L"CommandExit"});
-
-  for (std::size_t i = 0; i < menu::Count; ++i) bar.SetPanel(i, &program.Program.HelpPanel);
-  CHECK(bar.Bounds().Width == bar.CommandExit.Right());
-  // Unfolded it still leaves its margin free on the smallest screen.
-  CHECK(bar.Web.FrameWeb.Right() + 480 <= 12000);
-  for (const auto* name : {L"CommandMenu(4)", L"CommandMenu(5)", L"CommandMenu(6)", L"CommandMin", L"CommandExit",
-                           L"CommandWeb", L"CommandMenu(0)"}) {
-    program.Desktop.Press(Key::Tab);
-    CHECK(bar.ActiveControl()->Name() == name);
+  const form::CommandButton& button = bar.CommandMenu[menu::Companions];
+  const int narrow = bar.Bounds().Width;
+  for (int time = 0; time < 2; ++time) {
+    CHECK_FALSE(button.Visible());
+    CHECK(bar.Bounds().Width == narrow);
+    bar.SetPanel(menu::Companions, &program.Program.HelpPanel);
+    CHECK(button.Visible());
+    CHECK(bar.Bounds().Width == narrow + button.Width() + 60);
+    CHECK(bar.Bounds().Width == bar.CommandExit.Right());
+    // Unfolded it still leaves its margin free on the smallest screen.
+    CHECK(bar.Web.FrameWeb.Right() + 480 <= 12000);
+    bar.SetPanel(menu::Companions, nullptr);
   }
 }
 
@@ -69,7 +57,7 @@ TEST_CASE("the bar stands as it was left, and comes along when the screen or the
               {"14000\r\n9", 14000, 9}};
   for (const auto& row : rows) {
     CAPTURE(row.Saved);
-    StartedProgram program("2", row.Saved);
+    StartedProgram program(row.Saved);
     frmMain& bar = program.Main;
     CHECK((bar.Bounds().Left == row.Left && bar.Bounds().Top == row.Top));
     program.Desktop.Desktop = {{0, 0, 12000, 9000}, {0, 600, 12000, 8400}};
@@ -87,7 +75,7 @@ TEST_CASE("the bar stands as it was left, and comes along when the screen or the
 }
 
 TEST_CASE("a change of settings that are none of the bar's leaves it where it is") {
-  StartedProgram program("2", "9000\r\n0");
+  StartedProgram program("9000\r\n0");
   program.Desktop.Press(Key::F1);
   const form::Rect place = program.Main.Bounds();
   CHECK(place.Right() == program.Desktop.Desktop.Bounds.Width);

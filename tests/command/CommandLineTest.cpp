@@ -66,10 +66,11 @@ TEST_CASE("a failed start is told and keeps the line, except for mails to the ma
       {L"w;x", L"There was some error. Could not start the required program."},
       {L"c.Mouse", L""},
       {L"e.bugs@orbel.example", L"There was some error. Could not start the required program.", false},
-      {L"t=1", L"Could not dial the number. Reason unknown.", false},
+      {L"t=1", L"The phone number is not valid.", false},
   };
   Line line;
   line.Computer.Let("", fake::Outcome::Fails);
+  line.Computer.CallError = -4;
   for (const auto& row : rows) {
     CAPTURE(&row - rows);
     line.Told.clear();

@@ -27,7 +27,7 @@ class Computer : public service::DataFiles,
  public:
   using Text = std::wstring_view;
   using Texts = std::vector<std::wstring>;
-  using Values = std::map<std::wstring, std::wstring, std::less<>>;
+  using Values = std::map<std::wstring, std::wstring>;
 
   Computer() {
     Disk.Drives = {{L'C', {2}}, {L'D', {2}}, {L'E', {1, L"STICK"}}, {L'N', {3}}, {L'R', {4, L"", false}}};
@@ -53,6 +53,7 @@ class Computer : public service::DataFiles,
   service::DiskIdentity Identity{3, L"1A2B3C4D", 80023715840.0};
   Values Specials{{L"MyDocuments", L"C:\\Documents"}, {L"SendTo", L"C:\\Send"}, {L"Desktop", L"C:\\Work"}};
   Values Registry;
+  int CallError = -9;  // of a telephone call that fails
   Texts Asked;  // "run …", "shell …", "mail …", "call …", "write …", "delete …", "shortcut …", "title …"
 
   std::vector<service::ProcessEntry> Entries;
@@ -158,11 +159,11 @@ class Computer : public service::DataFiles,
   bool StartCommandLine(Text line) override { return Note(L"run ", line) && !Fails(__func__); }
   int ShellOpen(Text file) override { return Note(L"mail ", file) && Fails(__func__) ? 32 : 33; }
   int RequestMakeCall(Text number, Text application) override {
-    return Note(L"call ", std::wstring(number).append(L"|").append(application)) && Fails(__func__) ? -9 : 0;
+    return Note(L"call ", std::wstring(number).append(L"|").append(application)) && Fails(__func__) ? CallError : 0;
   }
   bool Run(Text target) override { return Note(L"shell ", target) && !Fails(__func__); }
-  std::wstring SpecialFolder(Text name) override { return Fails(__func__) ? L"" : Find(Specials, name); }
-  std::wstring RegistryRead(Text name) override { return Fails(__func__) ? L"" : Find(Registry, name); }
+  std::wstring SpecialFolder(Text name) override { return Fails(__func__) ? L"" : Specials[std::wstring(name)]; }
+  std::wstring RegistryRead(Text name) override { return Fails(__func__) ? L"" : Registry[std::wstring(name)]; }
   void RegistryWrite(Text name, Text value) override {
     if (Note(L"write ", value) && !Fails(__func__)) Registry[std::wstring(name)] = value;
   }
@@ -222,10 +223,6 @@ class Computer : public service::DataFiles,
   }
   static bool IsUpper(int c) {
     return (c >= L'A' && c <= L'Z') || (c >= 0xC0 && c <= 0xDE && c != 0xD7) || (c >= 0x410 && c <= 0x42F);
-  }
-  static std::wstring Find(const Values& values, Text name) {
-    const auto found = values.find(name);
-    return found == values.end() ? L"" : found->second;
   }
   Texts Names(Text folder, bool folders, std::wstring_view ending) const {
     Texts names;

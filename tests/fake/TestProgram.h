@@ -38,11 +38,9 @@ struct TestProgram {
   list::frmChoose& Choose = Program.frmChoose;
   Texts Told;  // the texts of the messages
 
-  explicit TestProgram(std::string_view optionMask = "2", std::string_view place = "0\r\n0") {
-    Computer.Disk.AddFile(L"C:\\Vantor\\Vantor\\Set.Orbel", std::string(optionMask)
-                                                                .append("\r\n-1\r\n-1\r\n-1\r\n-1\r\n")
-                                                                .append(place)
-                                                                .append("\r\n\"\"\r\n-1\r\n-1\r\n-1\r\n"));
+  explicit TestProgram(const std::string& place = "0\r\n0") {
+    Computer.Disk.AddFile(L"C:\\Vantor\\Vantor\\Set.Orbel",
+                          "2\r\n-1\r\n-1\r\n-1\r\n-1\r\n" + place + "\r\n\"\"\r\n-1\r\n-1\r\n-1\r\n");
     Computer.Disk.AddFile(L"C:\\Vantor\\Vantor\\User.Orbel", "\"Ada\"\r\n");
   }
   /// Whether the bar is there then.
@@ -76,10 +74,7 @@ struct TestProgram {
 
 /// The same after its start.
 struct StartedProgram : TestProgram {
-  explicit StartedProgram(std::string_view optionMask = "2", std::string_view place = "0\r\n0")
-      : TestProgram(optionMask, place) {
-    Start();
-  }
+  explicit StartedProgram(const std::string& place = "0\r\n0") : TestProgram(place) { Start(); }
 };
 
 }  // namespace vantor::test

@@ -12,26 +12,22 @@ namespace vantor::fuzz {
 inline constexpr int DeepestMessages = 4;
 
 inline constexpr std::wstring_view Words[] = {L"p=notepad",
-                                              L"f=C:\\Work\\notes.txt",
-                                              L"d=C:\\",
                                               L"d.s",
-                                              L"c.mouse",
                                               L"e.b",
                                               L"t=123",
                                               L"w-",
                                               L"p-",
-                                              L"f-on",
-                                              L"d-",
+                                              L"f-on",  // codes
                                               L"c/abc",
                                               L"\r",
                                               L"\b",
                                               L"\x1b",
-                                              L"C:\\Work\\Tool.EXE",
-                                              L"http://example.org",
-                                              L"E:\\Work\\Tool.EXE",
-                                              L"\"",
                                               L"\t\n",
-                                              L"\u00e9\u0416\uffff"};
+                                              L"\"",
+                                              L"\u00e9\u0416\uffff",
+                                              L"C:\\Work\\Tool.EXE",
+                                              L"E:\\Work\\Tool.EXE",
+                                              L"http://example.org"};
 
 /// A user who does anything, in any order.
 class Wanderer : public form::Headless {

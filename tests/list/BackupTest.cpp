@@ -14,36 +14,30 @@ using test::StoredList;
 const std::wstring Folder = L"E:\\Vantor\\Vantor\\";
 const std::wstring Mark = Folder + L"Saving.Orbel";
 
-/// The parts of a computer that a save is about: the disk alone is copied from case to case.
-struct Medium {
+/// All that a load gives: the items of each group, and the options.
+using State = test::Texts;
+
+/// One run of the program on a computer with a copy of a disk.
+struct Run {
+  explicit Run(const fake::FakeDisk& disk) { Disk = disk; }
+  State Load() {
+    List.Load();
+    State state = ItemsOf(List.Choose.List);
+    state.push_back(std::to_wstring(List.Settings.OptionMask));
+    return state;
+  }
   fake::Computer Computer;
   fake::FakeDisk& Disk = Computer.Disk;
-
-  Medium() = default;
-  explicit Medium(const fake::FakeDisk& disk) { Disk = disk; }
+  StoredList List{Computer, true};
 };
 
-/// All that a load gives: the options and the items of each group.
-using State = std::vector<std::wstring>;
-
-State Load(StoredList& run) {
-  run.Load();
-  State state = ItemsOf(run.Choose.List);
-  state.push_back(std::to_wstring(run.Settings.OptionMask));
-  return state;
-}
-
-State Loaded(const fake::FakeDisk& disk) {
-  Medium medium(disk);
-  StoredList run(medium.Computer, true);
-  return Load(run);
-}
+State Loaded(const fake::FakeDisk& disk) { return Run(disk).Load(); }
 
 /// A medium on which a list was saved some times, so that there is an older generation too.
 fake::FakeDisk Used(int times = 3) {
-  Medium medium;
+  fake::Computer computer;
   for (int time = 0; time < times; ++time) {
-    StoredList run(medium.Computer, true);
+    StoredList run(computer, true);
     run.Load();
     if (time > 0) run.RemoveFirst(LaunchGroup::Prog);
     run.Add(LaunchGroup::Prog, std::to_wstring(time), L"E:\\Work\\Tool.EXE");
@@ -51,7 +45,7 @@ fake::FakeDisk Used(int times = 3) {
     run.Add(LaunchGroup::Web, L"first", L"http://first");
     run.Save();
   }
-  return medium.Disk;
+  return computer.Disk;
 }
 
 /// Does something while the medium fails at a byte.
@@ -68,8 +62,8 @@ void Break(fake::FakeDisk& disk, Fault fault, std::size_t bytes, Action action) 
 
 /// A run that changes the list: longer, shorter, and a group that was empty.
 fake::FakeDisk SaveWith(const fake::FakeDisk& disk, Fault fault, std::size_t bytes, std::size_t* used = nullptr) {
-  Medium medium(disk);
-  StoredList run(medium.Computer, true);
+  Run broken(disk);
+  StoredList& run = broken.List;
   run.Load();
   run.Settings.OptionMask = 6;
   run.Add(LaunchGroup::Web, L"second", L"http://second");
@@ -77,11 +71,11 @@ fake::FakeDisk SaveWith(const fake::FakeDisk& disk, Fault fault, std::size_t byt
   run.Add(LaunchGroup::Prog, L"on the medium", L"E:\\Work\\Tool.EXE");
   run.Add(LaunchGroup::Prog, L"on the computer", L"C:\\Work\\Tool.EXE");
   run.Add(LaunchGroup::File, L"new", L"E:\\Work\\Tool.EXE");
-  Break(medium.Disk, fault, bytes, [&] {
+  Break(broken.Disk, fault, bytes, [&] {
     run.Save();
-    if (used != nullptr) *used = medium.Disk.Used;
+    if (used != nullptr) *used = broken.Disk.Used;
   });
-  return medium.Disk;
+  return broken.Disk;
 }
 
 TEST_CASE("a save broken off at any byte leaves the old list or the new one, whole") {
@@ -110,20 +104,19 @@ TEST_CASE("a save broken off at any byte leaves the old list or the new one, who
 
       // The next run may be broken off as well, while it puts the old list back. The places differ from case to case.
       for (std::size_t again = bytes % 199; again < needed; again += 199) {
-        Medium next(broken);
-        StoredList run(next.Computer, true);
-        Break(next.Disk, Fault::Killed, again, [&] { run.Load(); });
+        Run next(broken);
+        Break(next.Disk, Fault::Killed, again, [&] { next.Load(); });
         REQUIRE(Loaded(next.Disk) == state);
       }
       // What is kept is whole at every moment, or not taken.
-      Medium marked(broken);
-      marked.Disk.AddFile(Mark, "\"Saving\"\r\n");
-      const State kept = Loaded(marked.Disk);
+      fake::FakeDisk marked = broken;
+      marked.AddFile(Mark, "\"Saving\"\r\n");
+      const State kept = Loaded(marked);
       REQUIRE((kept == older || kept == before || kept == state));
       // A medium that can't be written to shows it too.
-      Medium protectedNow(broken);
-      protectedNow.Disk.Drives[L'E'].WriteProtected = true;
-      REQUIRE(Loaded(protectedNow.Disk) == state);
+      fake::FakeDisk protectedNow = broken;
+      protectedNow.Drives[L'E'].WriteProtected = true;
+      REQUIRE(Loaded(protectedNow) == state);
       // And from there on all goes as if nothing had been.
       const fake::FakeDisk saved = SaveWith(broken, Fault::None, 0);
       REQUIRE(Loaded(saved).back() == L"6");
@@ -137,12 +130,12 @@ TEST_CASE("a save broken off at any byte leaves the old list or the new one, who
 TEST_CASE("a file that may not be written leaves the old list whole") {
   const fake::FakeDisk used = Used();
   for (const auto* name : {L"Set", L"ListWeb", L"ListProg", L"MachineProg", L"Backup\\Set", L"Backup\\ListWeb"}) {
-    Medium medium(used);
-    medium.Disk.AddFile(Mark);  // a mark without its text says nothing
+    fake::FakeDisk disk = used;
+    disk.AddFile(Mark);  // a mark without its text says nothing
     const std::wstring path = Folder + name + L".Orbel";
-    medium.Disk.AddFile(path, medium.Disk.Bytes(path)).Writable = false;
+    disk.AddFile(path, used.Find(path)->Bytes).Writable = false;
     const bool inTheWay = path.find(L"Backup") == std::wstring::npos;
-    CHECK((Loaded(SaveWith(medium.Disk, Fault::None, 0)) == Loaded(used)) == inTheWay);
+    CHECK((Loaded(SaveWith(disk, Fault::None, 0)) == Loaded(used)) == inTheWay);
   }
 }
 
@@ -150,13 +143,13 @@ TEST_CASE("a list that can't be put back is read where it is kept, until it can"
   const State before = Loaded(Used());
   std::size_t needed = 0;
   SaveWith(Used(), Fault::None, 0, &needed);
-  Medium broken(SaveWith(Used(), Fault::Pulled, needed * 3 / 4));
-  REQUIRE(broken.Disk.Bytes(Mark) == "\"Saving\"\r\n");
+  fake::FakeDisk broken = SaveWith(Used(), Fault::Pulled, needed * 3 / 4);
+  REQUIRE(broken.Bytes(Mark) == "\"Saving\"\r\n");
   const std::wstring web = Folder + L"ListWeb.Orbel";
-  broken.Disk.AddFile(web, "\"fir").Writable = false;
-  CHECK(Loaded(broken.Disk) == before);
+  broken.AddFile(web, "\"fir").Writable = false;
+  CHECK(Loaded(broken) == before);
   for (std::size_t bytes = 0; bytes < needed; bytes += 11) {
-    fake::FakeDisk again = SaveWith(broken.Disk, Fault::Killed, bytes);
+    fake::FakeDisk again = SaveWith(broken, Fault::Killed, bytes);
     CHECK(Loaded(again) == before);
     again.AddFile(web, "\"fir").Writable = true;
     CHECK(Loaded(again) == before);
@@ -164,15 +157,14 @@ TEST_CASE("a list that can't be put back is read where it is kept, until it can"
 }
 
 TEST_CASE("the generation kept is a whole one, and only what changed is written") {
-  Medium medium(Used());
-  auto& written = medium.Disk.Written;
-  StoredList run(medium.Computer, true);
-  const State before = Load(run);
+  Run run(Used());
+  auto& written = run.Disk.Written;
+  const State before = run.Load();
   written.clear();
-  run.Save();
+  run.List.Save();
   CHECK(written.empty());
-  run.Settings.OptionMask = 3;
-  run.Save();
+  run.List.Settings.OptionMask = 3;
+  run.List.Save();
   test::Texts expected;
   for (const auto* name :
        {L"Backup\\ListProg", L"Backup\\ListWeb", L"Backup\\MachineProg", L"Backup\\Set", L"Saving", L"Set", L"Saving"})
@@ -180,12 +172,12 @@ TEST_CASE("the generation kept is a whole one, and only what changed is written"
   CHECK(written == expected);
 
   // What was damaged from outside is loaded as far as it goes, and saved, but what is kept stays.
-  const std::string kept = medium.Disk.Bytes(Folder + L"Backup\\ListProg.Orbel");
-  medium.Disk.Bytes(Folder + L"ListProg.Orbel").resize(9);
-  StoredList damaged(medium.Computer, true);
-  CHECK(Load(damaged).size() == before.size() - 1);
-  damaged.Save();
-  CHECK(medium.Disk.Bytes(Folder + L"Backup\\ListProg.Orbel") == kept);
+  const std::string kept = run.Disk.Bytes(Folder + L"Backup\\ListProg.Orbel");
+  Run damaged(run.Disk);
+  damaged.Disk.Bytes(Folder + L"ListProg.Orbel").resize(9);
+  CHECK(damaged.Load().size() == before.size() - 1);
+  damaged.List.Save();
+  CHECK(damaged.Disk.Bytes(Folder + L"Backup\\ListProg.Orbel") == kept);
 }
 
 }  // namespace

