@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "command/CodeTables.h"
+#include "command/Starters.h"
 #include "start/Environment.h"
 
 namespace vantor::command {
@@ -27,11 +28,13 @@ message::MessageKey OpenControlPanelApplet(const service::Services& services, st
 }
 
 std::wstring DialNumber(const service::Services& services, std::wstring_view number) {
+  constexpr std::wstring_view NotValid = L"The phone number is not valid.";
+  if (!IsPlain(number)) return std::wstring(NotValid);
   switch (services.Programs.RequestMakeCall(number, start::ProductName)) {
     case 0:
       return {};
     case -4:  // TAPIERR_INVALDESTADDRESS
-      return L"The phone number is not valid.";
+      return std::wstring(NotValid);
     case -3:  // TAPIERR_REQUESTQUEUEFULL
       return L"The queue of pending Windows Telephony dialing requests is full.";
     case -2:  // TAPIERR_NOREQUESTRECIPIENT

@@ -4,16 +4,11 @@
 #include <string>
 
 namespace vantor::command {
-namespace {
 
-/// Line breaks and other control characters stand in no path and no address. Where the clipboard or a file that
-/// somebody else wrote brings them, the system is not to see them.
 bool IsPlain(std::wstring_view text) {
   return std::none_of(text.begin(), text.end(),
                       [](wchar_t c) { return c < L' ' || (c >= 0x7F && c <= 0x9F) || c == 0x2028 || c == 0x2029; });
 }
-
-}  // namespace
 
 message::MessageKey Starters::RunProgramCommand(std::wstring_view commandLine) const {
   return Outcome(IsPlain(commandLine) && programs_.StartCommandLine(commandLine), L"MessageProgramRunError");

@@ -9,6 +9,10 @@
 
 namespace vantor::command {
 
+/// Line breaks and other control characters stand in no path, no address and no number. Where the clipboard or a file
+/// that somebody else wrote brings them, the system is not to see them.
+[[nodiscard]] bool IsPlain(std::wstring_view text);
+
 /// The routines that start what a target names. Each returns "" when it was started, else the key of the message
 /// that says what failed. A target with a control character in it is not started.
 class Starters {
