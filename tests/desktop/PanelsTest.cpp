@@ -290,6 +290,13 @@ TEST_CASE("the desktop shortcut starts the program, in its folder, by Ctrl+Shift
     CHECK(link.substr(64, 2) == "L\3");                       // Ctrl+Shift+L
   }
   DeleteFileW(Wide(file).c_str());
+  // A folder in the file's place: success is told only when it is there.
+  std::filesystem::create_directory(Wide(file));
+  preferences.Click("Create Desktop Shortcut");
+  input::Press(VK_ESCAPE);
+  program.AwaitBar();
+  CHECK(program.Message() == nullptr);
+  std::filesystem::remove(Wide(file));
 }
 
 TEST_CASE("companions are listed, completed and started; one that vanished is told; without any there is no button") {
