@@ -8,7 +8,6 @@
 
 #include "text/Numbers.h"
 #include "win32/Com.h"
-#include "win32/Patience.h"
 
 namespace vantor::win32 {
 
@@ -77,7 +76,7 @@ void Ask(Question& question) noexcept {
 
 std::optional<service::DiskIdentity> Management::ReadDiskIdentity() {
   const auto question = std::make_shared<Question>();
-  if (!EndsInTime([question] { Ask(*question); })) return std::nullopt;
+  if (!patience_.EndsInTime([question] { Ask(*question); })) return std::nullopt;
   if (question->Refused) throw std::runtime_error("the identity of disk C: can't be read");
   return question->Answer;
 }

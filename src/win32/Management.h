@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "service/Management.h"
+#include "win32/Patience.h"
 
 namespace vantor::win32 {
 
@@ -10,6 +11,9 @@ namespace vantor::win32 {
 class Management final : public service::Management {
  public:
   [[nodiscard]] std::optional<service::DiskIdentity> ReadDiskIdentity() override;
+
+ private:
+  Patience patience_;
 };
 
 }  // namespace vantor::win32

@@ -10,7 +10,7 @@ namespace vantor::win32 {
 
 namespace {
 
-constexpr DWORD Patience = 5000;  // milliseconds
+constexpr DWORD Time = 5000;  // milliseconds
 
 /// What the two threads share. Whichever lets go last frees it.
 struct Task {
@@ -43,7 +43,8 @@ bool WaitWhilePainting(HANDLE event, DWORD milliseconds) {
 
 }  // namespace
 
-bool EndsInTime(std::function<void()> work) {
+bool Patience::EndsInTime(std::function<void()> work) {
+  if (!left_.expired()) return false;
   auto task = std::make_shared<Task>();
   task->Work = std::move(work);
   task->Done.Reset(CreateEventW(nullptr, TRUE, FALSE, nullptr));
@@ -51,7 +52,9 @@ bool EndsInTime(std::function<void()> work) {
   const KernelHandle thread(CreateThread(nullptr, 0, WorkAndTell, theirs.get(), 0, nullptr));
   if (!thread) return false;
   (void)theirs.release();  // the thread's own now
-  return WaitWhilePainting(task->Done.Get(), Patience);
+  if (WaitWhilePainting(task->Done.Get(), Time)) return true;
+  left_ = task;
+  return false;
 }
 
 }  // namespace vantor::win32

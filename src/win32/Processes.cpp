@@ -12,7 +12,6 @@
 
 #include "win32/Com.h"
 #include "win32/Handle.h"
-#include "win32/Patience.h"
 
 namespace vantor::win32 {
 
@@ -87,7 +86,7 @@ void Processes::CloseSnapshot(service::SnapshotId snapshot) { CloseHandle(Handle
 
 std::optional<std::vector<service::ManagedProcess>> Processes::ManagedProcesses() {
   const auto question = std::make_shared<Question>();
-  if (!EndsInTime([question] { Ask(*question); })) return std::nullopt;
+  if (!patience_.EndsInTime([question] { Ask(*question); })) return std::nullopt;
   return std::move(question->Answer);
 }
 

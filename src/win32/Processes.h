@@ -1,6 +1,7 @@
 #pragma once
 
 #include "service/Processes.h"
+#include "win32/Patience.h"
 
 namespace vantor::win32 {
 
@@ -13,6 +14,9 @@ class Processes final : public service::Processes {
 
   [[nodiscard]] std::optional<std::vector<service::ManagedProcess>> ManagedProcesses() override;
   [[nodiscard]] std::wstring ImageName(std::uint32_t processId) override;
+
+ private:
+  Patience patience_;
 };
 
 }  // namespace vantor::win32

@@ -159,21 +159,27 @@ TEST_CASE("the mark stands around a window, is not felt by the mouse, and goes")
 }
 
 TEST_CASE("work that ends is waited for, work that does not for five seconds at most") {
+  Patience patience;
   bool done = false;
-  CHECK(EndsInTime([&] { done = true; }));
+  CHECK(patience.EndsInTime([&] { done = true; }));
   CHECK(done);
 
   // As with a service that never answers: the work goes on behind, and comes to its end later.
   const auto answer = std::make_shared<KernelHandle>(CreateEventW(nullptr, TRUE, FALSE, nullptr));
   const auto ended = std::make_shared<KernelHandle>(CreateEventW(nullptr, TRUE, FALSE, nullptr));
   const DWORD begin = GetTickCount();
-  CHECK_FALSE(EndsInTime([answer, ended] {
+  CHECK_FALSE(patience.EndsInTime([answer, ended] {
     WaitForSingleObject(answer->Get(), INFINITE);
     SetEvent(ended->Get());
   }));
   CHECK(GetTickCount() - begin >= 4900);
+  // Nothing more is asked meanwhile, so that not one thread after the other is left behind.
+  const auto asked = std::make_shared<bool>(false);
+  CHECK_FALSE(patience.EndsInTime([asked] { *asked = true; }));
+  CHECK_FALSE(*asked);
   SetEvent(answer->Get());
   CHECK(WaitForSingleObject(ended->Get(), 20000) == WAIT_OBJECT_0);
+  CHECK(vantor::desktop::Eventually([&] { return patience.EndsInTime([] {}); }));
 }
 
 TEST_CASE("files that are dropped on a window arrive, those it does not want don't") {
