@@ -44,7 +44,7 @@ class Wanderer : public form::Headless {
     switch (choices_.Below(16)) {
       case 0:
       case 1:
-        return Type(Text());
+        return Type(Text().substr(0, 100));  // more than that is pasted, below
       case 2:
         return Press(static_cast<form::Key>(static_cast<int>(form::Key::F1) + static_cast<int>(choices_.Below(12))));
       case 3:
