@@ -68,6 +68,7 @@ bool Programs::StartCommandLine(std::wstring_view commandLine) {
 }
 
 int Programs::ShellOpen(std::wstring_view file) {
+  if (!FitsShell(file)) return ERROR_FILE_NOT_FOUND;
   apartment_.Enter();
   // What opens it may be running already and has to come to the front.
   AllowSetForegroundWindow(ASFW_ANY);

@@ -40,6 +40,7 @@ bool FitsCodePage(const service::Shortcut& shortcut) {
 }  // namespace
 
 bool ScriptShell::Run(std::wstring_view target) {
+  if (!FitsShell(target)) return false;
   // What opens it may be running already and has to come to the front.
   AllowSetForegroundWindow(ASFW_ANY);
   try {

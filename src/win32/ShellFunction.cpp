@@ -16,7 +16,14 @@ FARPROC FindShellFunction(const char* name) {
   return found;
 }
 
+bool FitsShell(std::wstring_view target) {
+  constexpr std::size_t LongestUnderWine = 1024;
+  static const bool wine = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+  return !wine || target.size() <= LongestUnderWine;
+}
+
 bool OpenByShell(const std::wstring& file, const std::wstring& arguments) {
+  if (!FitsShell(file) || !FitsShell(arguments)) return false;
   SHELLEXECUTEINFOW what = {};
   what.cbSize = sizeof what;
   what.fMask = SEE_MASK_FLAG_NO_UI;

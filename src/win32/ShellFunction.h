@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <string>
+#include <string_view>
 
 namespace vantor::win32 {
 
@@ -16,6 +17,9 @@ template <class Function>
 Function* ShellFunction(const char* name) {
   return reinterpret_cast<Function*>(reinterpret_cast<void*>(FindShellFunction(name)));
 }
+
+/// Whether the shell bears a target of this length. Wine's runs over its own stack beyond some 1,400 characters.
+[[nodiscard]] bool FitsShell(std::wstring_view target);
 
 /// Opens a file or starts a program as the shell does, asking for the administrator's rights where it needs them. False
 /// when that fails; nothing is shown then. The shell's extensions are COM objects, so the thread must have entered COM.
