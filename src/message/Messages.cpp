@@ -68,8 +68,12 @@ void Messages::Trap(std::wstring_view routine, const std::function<void()>& body
 void Messages::ReportBug(std::wstring_view routine) {
   if (askingAboutBug_) return;
   const form::Scoped asking(askingAboutBug_, true);
-  State.CurrentMessageKey = std::wstring(BugKeyPrefix) += routine;
-  ShowBugMessage();
+  try {
+    State.CurrentMessageKey = std::wstring(BugKeyPrefix) += routine;
+    ShowBugMessage();
+  } catch (...) {
+    LeaveMessage();  // a fault of the question or of its report is not asked about in turn
+  }
 }
 
 std::wstring Messages::AddresseeTitle() const { return State.UserName.empty() ? NoUserName : State.UserName; }

@@ -56,7 +56,7 @@ class Messages {
   void ShowText(std::wstring_view text);
 
   /// The error trap of a routine: runs `body`; an exception sets the bug key of the routine's name ("Bug-Vantor-"
-  /// and the name) and asks whether to report it. Throws only if that question can't be shown.
+  /// and the name) and asks whether to report it.
   void Trap(std::wstring_view routine, const std::function<void()>& body);
   /// Makes a member of `owner` the handler of an event, in an error trap of the routine's name.
   template <class Event, class Name, class Owner, class Handler>
@@ -65,7 +65,7 @@ class Messages {
       Trap(routine, [&] { (owner->*handler)(args...); });
     };
   }
-  /// What the trap does about an error. While one such question is open, further errors are passed over.
+  /// What the trap does about an error. While one such question is open, further errors are passed over, its own too.
   void ReportBug(std::wstring_view routine);
 
  private:
