@@ -1,5 +1,7 @@
 #include "win32/ButtonWindow.h"
 
+#include <windowsx.h>
+
 #include <algorithm>
 #include <string>
 
@@ -138,9 +140,13 @@ LRESULT ButtonWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return 0;
       }
       break;
-    case WM_MOUSEMOVE:
-      SetHot(true);
+    case WM_MOUSEMOVE: {
+      // A button that is held is told of the mouse wherever that is, and not of its leaving.
+      RECT inside;
+      GetClientRect(Hwnd(), &inside);
+      SetHot(PtInRect(&inside, {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}) != FALSE);
       break;
+    }
     case WM_MOUSELEAVE:
       SetHot(false);
       break;

@@ -147,9 +147,9 @@ void ComboWindow::FitWidth() {
   screen.cbSize = sizeof screen;
   GetMonitorInfoW(MonitorFromWindow(Hwnd(), MONITOR_DEFAULTTONEAREST), &screen);
   width += 2 * LineMargin(Scale()) + GetSystemMetrics(SM_CXVSCROLL) + 2 * GetSystemMetrics(SM_CXBORDER);
-  width = std::min(width, (screen.rcWork.right - screen.rcWork.left) / 2);
   RECT window;
   GetWindowRect(Hwnd(), &window);
+  width = std::min({width, (screen.rcWork.right - screen.rcWork.left) / 2, screen.rcWork.right - window.left});
   Default(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(std::max(width, window.right - window.left)));
 }
 

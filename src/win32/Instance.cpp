@@ -83,7 +83,10 @@ Activation ActivateBar(std::wstring_view title) {
   AllowSetForegroundWindow(ProcessOf(application));
   if (IsIconic(bar)) OpenIcon(bar);
   // While a dialog is open the bar takes no input; the dialog is what the user has to see.
-  SetForegroundWindow(IsWindowEnabled(bar) ? bar : GetLastActivePopup(bar));
+  const HWND front = IsWindowEnabled(bar) ? bar : GetLastActivePopup(bar);
+  SetForegroundWindow(front);
+  // Wine leaves it behind other windows then.
+  SetWindowPos(front, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_ASYNCWINDOWPOS);
   return Activation::Done;
 }
 

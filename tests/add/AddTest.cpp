@@ -50,7 +50,7 @@ TEST_CASE("the box opens on its first useful control, whatever had the focus whe
     CAPTURE(again);
     adding.Desktop.Press(form::Key::F2);
     if (!again) adding.Desktop.Press(form::Key::F2);
-    CHECK(adding.Box.ActiveControl() == &adding.Box.OptionBrowse[0]);
+    CHECK(adding.Box.ActiveControl() == &adding.Box.OptionBrowse.front());
     adding.Desktop.Press(form::Key::F3);
     CHECK(adding.Box.ActiveControl() == &adding.Box.DriveWork);
     adding.Desktop.Click(adding.Box.CommandAddCancel);
@@ -224,8 +224,8 @@ TEST_CASE("a drag that is broken off changes nothing, and the next one works") {
 TEST_CASE("the computer is known again by its disk C:, and what can't be read is asked about") {
   enum class Expected { Unknown, Remembered, Other, Asked };
   const struct {
-    const char* File;  // null: none
-    Expected Result;
+    const char* File = nullptr;  // none
+    Expected Result = Expected::Unknown;
     Outcome Identity = Outcome::Works;
   } cases[] = {
       {nullptr, Expected::Unknown},

@@ -183,7 +183,7 @@ TEST_CASE("Windows ends while a panel or a message is open: all is saved, and in
 
 TEST_CASE("a second copy hands over to the first, minimised or covered; of two at one moment one stays") {
   const Folder folder;
-  folder.WriteSettings({.WebUpper = 0, .Left = 600, .Top = 600});
+  folder.WriteSettings({.OptionMask = 0, .WebUpper = 0, .Left = 600, .Top = 600});
   folder.WriteData("ListWeb", ListBytes({{"One", "http://one"}}));
   const Program one(folder);
   const Program two(folder);
@@ -195,11 +195,17 @@ TEST_CASE("a second copy hands over to the first, minimised or covered; of two a
     CAPTURE(minimised);
     if (minimised) input::Press(VK_F9);
     CHECK_BECOMES(window::IsMinimised(bar), minimised);
+    HWND const cover = CreateWindowExW(0, L"STATIC", L"cover", WS_POPUP | WS_VISIBLE, 0, 0, 700, 300, nullptr, nullptr,
+                                       GetModuleHandleW(nullptr), nullptr);
+    SetForegroundWindow(cover);
+    CHECK_BECOMES(GetForegroundWindow(), cover);
     const Program second(folder);
     CHECK(second.AwaitEnd() == 0);
     CHECK_BECOMES(window::IsMinimised(bar), false);
     CHECK(first.AwaitBar() == bar);
     CHECK(first.Line() == "kept");
+    CHECK_BECOMES(window::IsAbove(bar, cover), true);
+    DestroyWindow(cover);
   }
   first.Exit();
   CHECK(folder.Data("ListWeb") == ListBytes({{"One", "http://one"}}));

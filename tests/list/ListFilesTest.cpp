@@ -73,7 +73,7 @@ TEST_CASE("a damaged settings file gives what could be read of it") {
 
 TEST_CASE("files cut at any byte give the items before the cut, whatever the upper index says") {
   constexpr std::string_view whole = "\"one\",\"http://1\"\r\n\"two, 2\",\"http://2\"\r\nthree , http://3\r\n";
-  constexpr std::size_t ends[] = {whole.find("\r"), whole.find("\r\nthree"), whole.size() - 2};
+  constexpr std::size_t ends[] = {whole.find('\r'), whole.find("\r\nthree"), whole.size() - 2};
   const Texts all{L"one>http://1", L"two, 2>http://2", L"three>http://3"};
   for (std::size_t length = 0; length <= whole.size(); ++length) {
     for (const int upper : {-32768, -1, 0, 1, 2, 32767}) {
