@@ -357,9 +357,9 @@ TEST_CASE("a list on a stick goes with it, and what lies on a computer waits for
         {"MachineFile", ListBytes({{"Disk File", disk.Path("notes.txt")}})},
         {"MachineFold", ListBytes({{"Disk Folder", disk.Path()}})},
         {"MachineProg", ListBytes({{"Disk Program", disk.Path("tool.exe")}})}};
-    for (const auto& [name, bytes] : files) {
-      CAPTURE(name);
-      CHECK(stick.Data(name) == bytes);
+    for (const auto& file : files) {
+      CAPTURE(file.first);
+      CHECK(stick.Data(file.first) == file.second);
     }
   };
   checkSaved(machine);
@@ -374,9 +374,9 @@ TEST_CASE("a list on a stick goes with it, and what lies on a computer waits for
     program.AwaitBar();
     for (const auto& [option, name, code] : Kinds) {
       program.TypeLine(code + "di");
-      CHECK_BECOMES(program.Line(), code + (home ? "Disk " + name : "di"));
+      CHECK_BECOMES(program.Line(), home ? std::string(code).append("Disk ").append(name) : code + "di");
       program.TypeLine(code + "o");
-      CHECK_BECOMES(program.Line(), code + "Own " + name);
+      CHECK_BECOMES(program.Line(), std::string(code).append("Own ").append(name));
     }
     program.Enter("p-o");
     CHECK(recorder.Next() == '"' + stick.Path("own.exe") + '"');

@@ -131,12 +131,13 @@ TEST_CASE("each panel opens below the bar, shows it on its button, and closes ea
 
 TEST_CASE("near the screen's edges a panel opens where it fits, and never under the bar") {
   const RECT screen{0, 0, 800, 600};
-  for (const auto& [left, top] : {std::pair(4200, 0), std::pair(0, 8400), std::pair(5000, 4000)}) {
-    const ListedFolder folder({.Left = left, .Top = top});
+  const struct { int Left, Top; } places[] = {{4200, 0}, {0, 8400}, {5000, 4000}};
+  for (const auto& at : places) {
+    const ListedFolder folder({.Left = at.Left, .Top = at.Top});
     const Program program(folder);
     const RECT bar = window::Bounds(program.AwaitBar());
     for (const auto& row : Rows) {
-      CAPTURE(row.Title + std::to_string(top));
+      CAPTURE(row.Title + std::to_string(at.Top));
       const Panel panel(program, row.Key, row.Title);
       panel.Open();
       const RECT place = window::Bounds(panel.Find());

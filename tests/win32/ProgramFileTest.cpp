@@ -52,7 +52,7 @@ TEST_CASE("the program file asks for the mitigations that its tool chain can giv
   CHECK((image.Headers->FileHeader.Characteristics & IMAGE_FILE_RELOCS_STRIPPED) == 0);
   CHECK(image.Directory(IMAGE_DIRECTORY_ENTRY_BASERELOC).Size > 1000);
   CHECK(optional.MajorSubsystemVersion * 100 + optional.MinorSubsystemVersion == 601);
-  const IMAGE_SECTION_HEADER* section = IMAGE_FIRST_SECTION(image.Headers);
+  const auto* section = reinterpret_cast<const IMAGE_SECTION_HEADER*>(image.Headers + 1);
   for (int i = 0; i < image.Headers->FileHeader.NumberOfSections; ++i, ++section) {
     const DWORD both = IMAGE_SCN_MEM_EXECUTE | IMAGE_SCN_MEM_WRITE;
     CHECK((section->Characteristics & both) != both);
