@@ -91,7 +91,7 @@ inline DWORD Run(const std::string& commandLine) {
 /// The value becomes the expected one within the limit. A failure shows what it was instead.
 #define CHECK_BECOMES(value, expected)                                     \
   do {                                                                     \
-    const auto& awaited = (expected);                                      \
+    const auto awaited = (expected);                                       \
     (void)vantor::desktop::Eventually([&] { return (value) == awaited; }); \
     CHECK((value) == awaited);                                             \
   } while (false)
