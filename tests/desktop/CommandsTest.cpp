@@ -41,6 +41,17 @@ class ListedFolder : public Folder {
   }
 };
 
+void PutOnClipboard(const std::wstring& text) {
+  Await("the clipboard", [] { return OpenClipboard(nullptr) != FALSE; });
+  EmptyClipboard();
+  const std::size_t size = (text.size() + 1) * sizeof(wchar_t);
+  HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, size);
+  CopyMemory(GlobalLock(memory), text.c_str(), size);
+  GlobalUnlock(memory);
+  SetClipboardData(CF_UNICODETEXT, memory);
+  CloseClipboard();
+}
+
 }  // namespace
 
 TEST_CASE("every code starts its target, as it was typed or listed, once") {
@@ -140,16 +151,27 @@ TEST_CASE("what cannot be started is told, above all that stays on top, and the 
     CHECK(program.Line() == row.Left);
     CHECK_BECOMES(window::IsTopMost(bar), true);
   }
-  // A pasted line break is not started with what can't be seen, and what is typed behind a message is not for the bar.
-  program.TypeLine("p=no");
-  SendMessageW(program.TextMain(), EM_REPLACESEL, 0, reinterpret_cast<LPARAM>(L"\tsuch\x7f\r\nsecond line"));
-  const std::string pasted = program.Line();
-  input::Press(VK_RETURN);
-  program.AwaitMessage();
-  for (const WORD key : {WORD{'Q'}, WORD{VK_F4}, WORD{VK_F10}, WORD{VK_F9}}) input::Press(key);
-  program.ExpectMessage(runError);
-  program.AwaitBar();
-  CHECK(program.Line() == pasted);
+  // A pasted line ends at its first break; with what can't be seen, or longer than the shell bears, it starts nothing.
+  // What is typed behind a message is not for the bar.
+  const std::pair<std::wstring, std::string> pastes[] = {
+      {L"p=no\tsuch\x7f\r\nsecond line", runError},
+      {L"p=\x202E\x0378?*", runError},
+      {L"w=nosuchscheme:" + std::wstring(2000, L'x'), startError},
+  };
+  for (const auto& paste : pastes) {
+    PutOnClipboard(paste.first);
+    input::Press(VK_F12);
+    CHECK_BECOMES(program.Line(), "");
+    SendMessageW(program.TextMain(), WM_PASTE, 0, 0);
+    const std::string pasted = program.Line();
+    CHECK(pasted.find('\n') == std::string::npos);
+    input::Press(VK_RETURN);
+    program.AwaitMessage();
+    for (const WORD key : {WORD{'Q'}, WORD{VK_F4}, WORD{VK_F10}, WORD{VK_F9}}) input::Press(key);
+    program.ExpectMessage(paste.second);
+    program.AwaitBar();
+    CHECK(program.Line() == pasted);
+  }
   if (!UnderWine()) return;
   program.TypeLine("t=12");
   input::Type("a-3");
