@@ -21,14 +21,8 @@ struct Library {
 
   Library() {
     const HMODULE module = LoadSystemLibrary(L"oleacc.dll");
-    if (module == nullptr) return;
-    Standard = Find<MakeStandard>(module, "CreateStdAccessibleObject");
-    Answer = Find<MakeAnswer>(module, "LresultFromObject");
-  }
-
-  template <class Function>
-  static Function Find(HMODULE module, const char* name) {
-    return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(module, name)));
+    Standard = FindFunction<MakeStandard>(module, "CreateStdAccessibleObject");
+    Answer = FindFunction<MakeAnswer>(module, "LresultFromObject");
   }
 
   MakeStandard Standard = nullptr;

@@ -4,6 +4,8 @@
 #include <new>
 #include <vector>
 
+#include "win32/SystemLibrary.h"
+
 namespace vantor::win32 {
 
 namespace {
@@ -46,8 +48,7 @@ void KeepMultithreadedApartment() {
   // The call came with Windows 8.
   using Increment = HRESULT(WINAPI*)(HANDLE*);
   static const bool kept = [] {
-    const auto increment = reinterpret_cast<Increment>(
-        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ole32.dll"), "CoIncrementMTAUsage")));
+    const auto increment = FindFunction<Increment>(GetModuleHandleW(L"ole32.dll"), "CoIncrementMTAUsage");
     HANDLE usage = nullptr;  // kept to the end of the program
     return increment != nullptr && SUCCEEDED(increment(&usage));
   }();

@@ -4,6 +4,7 @@
 #include <exception>
 
 #include "start/Program.h"
+#include "win32/SystemLibrary.h"
 #include "win32/WindowsDesktop.h"
 #include "win32/WindowsServices.h"
 
@@ -21,8 +22,9 @@ void Harden() {
   // would inherit it.
   using SetDirectories = BOOL(WINAPI*)(DWORD);
   constexpr DWORD SystemFolderOnly = 0x800;  // LOAD_LIBRARY_SEARCH_SYSTEM32
-  const FARPROC found = GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "SetDefaultDllDirectories");
-  if (found != nullptr) reinterpret_cast<SetDirectories>(reinterpret_cast<void*>(found))(SystemFolderOnly);
+  const auto setDirectories =
+      FindFunction<SetDirectories>(GetModuleHandleW(L"kernel32.dll"), "SetDefaultDllDirectories");
+  if (setDirectories != nullptr) setDirectories(SystemFolderOnly);
 }
 
 void RunProgram() {

@@ -83,9 +83,8 @@ int Programs::RequestMakeCall(std::wstring_view number, std::wstring_view applic
 
   const LibraryHandle telephony(LoadSystemLibrary(L"TAPI32.DLL"));
   if (!telephony) return NoRequestRecipient;
-  const FARPROC found = GetProcAddress(telephony.Get(), "tapiRequestMakeCall");
-  if (found == nullptr) return NoRequestRecipient;
-  const auto makeCall = reinterpret_cast<MakeCall>(reinterpret_cast<void*>(found));
+  const auto makeCall = FindFunction<MakeCall>(telephony.Get(), "tapiRequestMakeCall");
+  if (makeCall == nullptr) return NoRequestRecipient;
   return makeCall(Ansi(number).c_str(), Ansi(applicationName).c_str(), "", "");
 }
 

@@ -65,11 +65,11 @@ void ReadKind(const ControlWindow& window, Reading& reading) {
     case ControlKind::CommandButton:
       return ReadButton(static_cast<const form::CommandButton&>(control), reading);
     case ControlKind::CheckBox: {
-      const bool checked = static_cast<const form::CheckBox&>(control).Value();
+      const bool checked = static_cast<const form::ChoiceButton&>(control).Value();
       return ReadChoice(checked, ROLE_SYSTEM_CHECKBUTTON, checked ? L"Uncheck" : L"Check", reading);
     }
     case ControlKind::OptionButton:
-      return ReadChoice(static_cast<const form::OptionButton&>(control).Value(), ROLE_SYSTEM_RADIOBUTTON, L"Check",
+      return ReadChoice(static_cast<const form::ChoiceButton&>(control).Value(), ROLE_SYSTEM_RADIOBUTTON, L"Check",
                         reading);
     case ControlKind::ComboBox:
     case ControlKind::DriveList:

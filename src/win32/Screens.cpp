@@ -14,10 +14,8 @@ namespace {
 
 /// A function that only newer systems have; null elsewhere.
 template <class Function>
-Function Find(const wchar_t* library, const char* name) {
-  const HMODULE module = GetModuleHandleW(library);
-  return module != nullptr ? reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(module, name)))
-                           : nullptr;
+Function FindInUser32(const char* name) {
+  return FindFunction<Function>(GetModuleHandleW(L"user32.dll"), name);
 }
 
 int PlainSystemDpi() {
@@ -34,10 +32,7 @@ int PlainSystemDpi() {
 int PlainDpiOf(HMONITOR monitor) {
   // Shcore.dll came with Windows 8.1.
   using GetDpi = HRESULT(WINAPI*)(HMONITOR, int, UINT*, UINT*);
-  static const GetDpi getDpi = [] {
-    LoadSystemLibrary(L"shcore.dll");
-    return Find<GetDpi>(L"shcore.dll", "GetDpiForMonitor");
-  }();
+  static const auto getDpi = FindFunction<GetDpi>(LoadSystemLibrary(L"shcore.dll"), "GetDpiForMonitor");
   UINT x = 0;
   UINT y = 0;
   return getDpi != nullptr && getDpi(monitor, 0, &x, &y) == S_OK && x != 0 ? static_cast<int>(x) : PlainSystemDpi();
@@ -56,7 +51,7 @@ LOGFONTW PlainMessageFont() {
   metrics.cbSize = sizeof metrics;
   // The call that knows resolutions came with Windows 10.
   using ParametersForDpi = BOOL(WINAPI*)(UINT, UINT, void*, UINT, UINT);
-  static const auto forDpi = Find<ParametersForDpi>(L"user32.dll", "SystemParametersInfoForDpi");
+  static const auto forDpi = FindInUser32<ParametersForDpi>("SystemParametersInfoForDpi");
   if (forDpi == nullptr || forDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, 96) == FALSE) {
     SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
     metrics.lfMessageFont.lfHeight = MulDiv(metrics.lfMessageFont.lfHeight, 96, PlainSystemDpi());
@@ -162,7 +157,7 @@ form::Screen ToScreen(const Place& place) {
 
 void Screens::DeclareAwareness() {
   using SetContext = BOOL(WINAPI*)(HANDLE);
-  const auto setContext = Find<SetContext>(L"user32.dll", "SetProcessDpiAwarenessContext");
+  const auto setContext = FindInUser32<SetContext>("SetProcessDpiAwarenessContext");
   const auto perMonitorV2 = reinterpret_cast<HANDLE>(-4);  // DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2
   if (setContext == nullptr || setContext(perMonitorV2) == FALSE) SetProcessDPIAware();
 }
@@ -205,7 +200,7 @@ form::Rect Screens::TwipsOf(const RECT& pixels) {
 void Screens::AddEdges(RECT& inside, DWORD style, DWORD extendedStyle, int dpi) {
   // The call that knows resolutions came with Windows 10.
   using AdjustForDpi = BOOL(WINAPI*)(RECT*, DWORD, BOOL, DWORD, UINT);
-  static const auto forDpi = Find<AdjustForDpi>(L"user32.dll", "AdjustWindowRectExForDpi");
+  static const auto forDpi = FindInUser32<AdjustForDpi>("AdjustWindowRectExForDpi");
   const long plainDpi = std::lround(dpi / UserTextSize().Scale);
   if (forDpi == nullptr || forDpi(&inside, style, FALSE, extendedStyle, static_cast<UINT>(plainDpi)) == FALSE) {
     AdjustWindowRectEx(&inside, style, FALSE, extendedStyle);

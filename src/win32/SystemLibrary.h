@@ -8,4 +8,12 @@ namespace vantor::win32 {
 /// the program or in the current folder. `name` is the bare file name. Returns null when there is no such library.
 HMODULE LoadSystemLibrary(const wchar_t* name);
 
+/// A function of a library, such as one that only newer systems have. Null when the library lacks it, or is null
+/// itself.
+template <class Function>
+Function FindFunction(HMODULE library, const char* name) {
+  return library != nullptr ? reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name)))
+                            : nullptr;
+}
+
 }  // namespace vantor::win32
