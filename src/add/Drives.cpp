@@ -5,9 +5,7 @@
 namespace vantor::add {
 
 std::int16_t DriveTypeOf(const service::Services& services, std::wstring_view path) {
-  const std::wstring_view drive = text::DriveName(path);
-  if (drive.empty()) return UnknownDrive;
-  return static_cast<std::int16_t>(services.FileSystem.DriveType(drive).value_or(UnknownDrive));
+  return static_cast<std::int16_t>(services.FileSystem.DriveType(path).value_or(UnknownDrive));
 }
 
 DriveInfo DriveOf(const service::Services& services, std::wstring_view path) {

@@ -13,6 +13,13 @@
 
 namespace vantor::command {
 
+namespace {
+
+/// Of an entry that is a text.
+std::wstring_view Itself(std::wstring_view entry) { return entry; }
+
+}  // namespace
+
 CommandLine::CommandLine(form::TextBox& textMain, const list::LaunchList& list, CommandState& state,
                          const Starters& starters, message::Messages& messages, const service::Services& services,
                          const start::Environment& environment)
@@ -143,44 +150,43 @@ void CommandLine::Escape() {
 }
 
 void CommandLine::Complete(const CommandCode& code, std::wstring_view prefix, std::wstring_view typed) {
-  const auto itself = [](std::wstring_view entry) { return entry; };
   const auto offered = [](const ControlPanelWord& entry) { return entry.Offered ? entry.Word : L""; };
   const auto named = [](const start::Companion& entry) { return std::wstring_view(entry.Name); };
-  const auto index = [](int found) { return text::ToInt16(found); };
   switch (code.Argument) {
     case Argument::ControlPanelPage:
       CompleteFromTable(prefix, typed, ControlPanelNames, offered);
       return;
     case Argument::SpecialFolder:
-      CompleteFromTable(prefix, typed, SpecialFolderNames, itself);
+      CompleteFromTable(prefix, typed, SpecialFolderNames, Itself);
       return;
     case Argument::MakerAddress:
-      state_.MailTargetIndex = index(CompleteFromTable(prefix, typed, MailAddresses, itself));
+      state_.MailTargetIndex = CompleteFromTable(prefix, typed, MailAddresses, Itself);
       return;
     case Argument::CompanionName:
-      state_.MatchedItemIndex = index(CompleteFromTable(prefix, typed, environment_.Companions, named));
+      state_.MatchedItemIndex = CompleteFromTable(prefix, typed, environment_.Companions, named);
       return;
     case Argument::ItemName:
-      state_.MatchedItemIndex = index(CompleteFromGroup(prefix, typed, list_.Of(code.Group).Name));
+      state_.MatchedItemIndex = CompleteFromGroup(prefix, typed, list_.Of(code.Group).Name);
       return;
     case Argument::Typed:
       return;
   }
 }
 
-int CommandLine::CompleteFromGroup(std::wstring_view prefix, std::wstring_view typed, const form::ComboBox& names) {
-  return CompleteFromTable(prefix, typed, names.Entries(), [](std::wstring_view entry) { return entry; });
+std::int16_t CommandLine::CompleteFromGroup(std::wstring_view prefix, std::wstring_view typed,
+                                            const form::ComboBox& names) {
+  return CompleteFromTable(prefix, typed, names.Entries(), Itself);
 }
 
 template <class Entries, class TextOf>
-int CommandLine::CompleteFromTable(std::wstring_view prefix, std::wstring_view typed, const Entries& table,
-                                   TextOf textOf) {
+std::int16_t CommandLine::CompleteFromTable(std::wstring_view prefix, std::wstring_view typed, const Entries& table,
+                                            TextOf textOf) {
   list::NameMatch match(services_.Language, typed);
   const auto found =
       std::find_if(table.begin(), table.end(), [&](const auto& entry) { return match.Begins(textOf(entry)); });
   if (found == table.end()) return NoIndex;
   PutCompletion(prefix, typed.size(), textOf(*found));
-  return static_cast<int>(found - table.begin());
+  return text::ToInt16(static_cast<int>(found - table.begin()));
 }
 
 void CommandLine::PutCompletion(std::wstring_view prefix, std::size_t typedLength, std::wstring_view entry) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 #include "command/CommandCodes.h"
@@ -52,8 +53,9 @@ class CommandLine {
   void Complete(const CommandCode& code, std::wstring_view prefix, std::wstring_view typed);
   // They complete to the first entry that begins with `typed`, and return its index, -1 for none.
   template <class Entries, class TextOf>
-  int CompleteFromTable(std::wstring_view prefix, std::wstring_view typed, const Entries& table, TextOf textOf);
-  int CompleteFromGroup(std::wstring_view prefix, std::wstring_view typed, const form::ComboBox& names);
+  std::int16_t CompleteFromTable(std::wstring_view prefix, std::wstring_view typed, const Entries& table,
+                                 TextOf textOf);
+  std::int16_t CompleteFromGroup(std::wstring_view prefix, std::wstring_view typed, const form::ComboBox& names);
   void PutCompletion(std::wstring_view prefix, std::size_t typedLength, std::wstring_view entry);
 
   form::TextBox& textMain_;

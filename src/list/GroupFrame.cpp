@@ -140,7 +140,7 @@ void GroupFrame::EnableByCount() {
 
 void GroupFrame::Open_Click() {
   if (Path.ListIndex() == -1) return;
-  Start(std::wstring(Path.Text()));  // a copy: the panel closes first
+  Start(Path.Text());
 }
 
 void GroupFrame::Rename_Click() {

@@ -21,9 +21,9 @@ class FileSystem {
   /// Whether the object is there. The program does not start without it; where it goes missing later, the plain
   /// Windows calls answer.
   [[nodiscard]] virtual bool Available() { return true; }
-  /// The type of the drive of `root` ("C:", "C:\", "\\server\share\"): 0 unknown, 1 removable, 2 fixed,
+  /// The type of the drive that a path begins with ("C:", "C:\x", "\\server\share\"): 0 unknown, 1 removable, 2 fixed,
   /// 3 network, 4 CD, 5 RAM disk. Nothing when there is no such drive or it can't be examined.
-  [[nodiscard]] virtual std::optional<int> DriveType(std::wstring_view root) = 0;
+  [[nodiscard]] virtual std::optional<int> DriveType(std::wstring_view path) = 0;
   [[nodiscard]] virtual bool FileExists(std::wstring_view path) = 0;
   [[nodiscard]] virtual bool FolderExists(std::wstring_view path) = 0;
   /// What follows the last dot of the file name, in its own letter case; "" without a dot.
