@@ -1,9 +1,10 @@
 // Long use: whether what the program holds of the system levels off. tools/soak runs it.
 //
-//   Soak.exe PERCENT
+//   Soak.exe PERCENT [KIND]
 //
-// Does so many hundredths of the long run with the Vantor.exe beside it. Prints what was held before and after each
-// kind of use, a line each. Exit code 1 when it did not level off, or the program did not do what it should.
+// Does so many hundredths of the long run, or of one kind of use (commands, panels, messages, drags), with the
+// Vantor.exe beside it. Prints what was held before and after each kind of use, a line each. Exit code 1 when it did
+// not level off, or the program did not do what it should.
 
 #include <algorithm>
 #include <cstdio>

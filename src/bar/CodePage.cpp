@@ -32,8 +32,9 @@ std::wstring_view Itself(std::wstring_view word) { return word; }
 
 }  // namespace
 
-CodePage::CodePage(form::Form& form)
+CodePage::CodePage(form::Form& form, const start::Environment& environment)
     : FrameCode(form, L"FrameCode"),
+      environment_(environment),
       first_{text_.Add(FrameCode, L"1st Character of Code :\r\nIndicates Item Of Command", true),
              text_.Add(FrameCode, Letters), text_.Add(FrameCode, Items)},
       second_{
@@ -59,7 +60,7 @@ CodePage::CodePage(form::Form& form)
 }
 
 void CodePage::Prepare() {
-  const bool companions = CompanionsPresent && CompanionsPresent();
+  const bool companions = !environment_.Companions.empty();  // which have a letter of their own
   first_.Left.SetCaption(std::wstring(Letters).append(companions ? CompanionLetter : L""));
   first_.Right.SetCaption(std::wstring(Items).append(companions ? CompanionItem : L""));
 }

@@ -1,21 +1,18 @@
 #pragma once
 
-#include <functional>
 #include <string_view>
 
 #include "bar/PageText.h"
 #include "form/Static.h"
 #include "list/ChoosePage.h"
+#include "start/Environment.h"
 
 namespace vantor::bar {
 
 /// The chart of the command language.
 class CodePage : public list::ChoosePage {
  public:
-  explicit CodePage(form::Form& form);
-
-  /// Whether any of the maker's other programs is present, which have a letter of their own.
-  std::function<bool()> CompanionsPresent;
+  CodePage(form::Form& form, const start::Environment& environment);
 
   form::Frame FrameCode;
   form::Frame FrameSubstitute{FrameCode, L"FrameSubstitute"};
@@ -27,6 +24,7 @@ class CodePage : public list::ChoosePage {
   void Prepare() override;
 
  private:
+  const start::Environment& environment_;
   PageText text_;
   TextTable first_;
   TextTable second_;

@@ -68,7 +68,6 @@ class frmMain : public form::Form {
 
   /// The panel that CommandMenu(index) opens; null for none. A button without a panel is not shown.
   void SetPanel(std::size_t index, Panel* panel);
-  [[nodiscard]] bool HasPanel(std::size_t index) const { return panels_.at(index) != nullptr; }
   /// Closes the open panel, if there is one, and goes back to an empty command line.
   void ClosePanel();
   /// Goes back to an empty command line.

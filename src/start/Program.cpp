@@ -32,7 +32,7 @@ void Program::ConnectMessages() {
     return Starters.SendMailTo(address, subject, body);
   };
   hooks.EnableRemember = [this] { OptionsPage.EnableRemember(); };
-  hooks.CompanionsPresent = [this] { return frmMain.HasPanel(bar::menu::Companions); };
+  hooks.CompanionsPresent = [this] { return !Environment.Companions.empty(); };
 }
 
 void Program::ConnectBrowse() {
@@ -59,7 +59,6 @@ void Program::ConnectChoose() {
   frmMain.SetPanel(bar::menu::Options, &OptionsPanel);
   frmMain.SetPanel(bar::menu::Help, &HelpPanel);
   frmMain.SetPanel(bar::menu::Code, &CodePanel);
-  CodePage.CompanionsPresent = [this] { return frmMain.HasPanel(bar::menu::Companions); };
   list::ChooseHooks& hooks = frmChoose.Hooks;
   hooks.ClosePanel = [this] { frmMain.ClosePanel(); };
   hooks.RunProgram = [this](std::wstring_view target) { Messages.ShowList(Starters.RunProgramCommand(target)); };

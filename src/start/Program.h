@@ -51,7 +51,7 @@ class Program {
   options::OptionsPage OptionsPage{frmChoose, {Services.ScriptShell, Environment, Messages, Settings, Options}};
   bar::CompanionPage CompanionPage{frmChoose, Environment, Messages};
   bar::HelpPage HelpPage{frmChoose, Environment};
-  bar::CodePage CodePage{frmChoose};
+  bar::CodePage CodePage{frmChoose, Environment};
   bar::ListPanel ListPanel{frmChoose};
   bar::ChoosePanel CompanionPanel{frmChoose, CompanionPage};  // the bar's when there are any
   bar::ChoosePanel OptionsPanel{frmChoose, OptionsPage};
