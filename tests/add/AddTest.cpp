@@ -166,13 +166,6 @@ TEST_CASE("a drag that is broken off changes nothing, and the next one works") {
     adding.Box.CommandAddCancel.DoClick();
     adding.Desktop.Press(form::Key::F2);
   }
-  SUBCASE("by a place beyond the screen's numbers, which is asked about") {
-    adding.Expect();
-    computer.Cursor.X = 40000;
-    adding.Desktop.Advance(100);
-    CHECK(adding.Told.at(0).find(L"Bug-Vantor-FindExecutable") != std::wstring::npos);
-    computer.Cursor.X = 0;
-  }
   CHECK((!computer.Target && computer.Captured == WindowId::None && computer.Marked == WindowId::None));
   CHECK_FALSE(adding.Box.TimerFindPath.Enabled());
   adding.Release();
@@ -191,7 +184,6 @@ TEST_CASE("the computer is known again by its disk C:, and what can't be read is
   } cases[] = {
       {nullptr, Expected::Unknown},
       {OwnIdentity, Expected::Remembered},
-      {"2\r\n\"1A2B3C4D\"\r\n80023715840\r\n", Expected::Other},
       {"3\r\n\"1A2B3C4D\"\r\n80023715841\r\n", Expected::Other},
       {"\"3\"\r\n\"1A2B3C4D\"\r\n80023715840\r\n", Expected::Other},
       {"x\r\n\"1A2B3C4D\"\r\n80023715840\r\n", Expected::Other},

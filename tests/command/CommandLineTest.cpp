@@ -24,10 +24,8 @@ struct Line : test::StartedProgram {
 TEST_CASE("every code starts its target and empties the line") {
   const std::pair<std::wstring_view, std::wstring_view> rows[] = {
       {L"p= calc", L"run  calc"},
-      {L"d.SENDTO", L"run C:\\WINDOWS\\explorer.exe C:\\Send"},
       {L"d.nosuch", L"run C:\\WINDOWS\\explorer.exe C:\\Documents"},
       {L"d.nethood", L"run C:\\WINDOWS\\explorer.exe C:\\Documents"},
-      {L"e.b", L"mail mailto:bugs@orbel.example?subject=Vantor - Found Bug"},
       {L"t=12a3 4", L"call 1234|Vantor"},
       {L"w;x.example", L"shell http://www.x.example"},
       {L"p-N", L"run C:\\Program Files\\Note, pad.exe"},
@@ -74,7 +72,6 @@ TEST_CASE("typing completes to the first entry that begins so") {
   } rows[] = {
       {L"c.add", L"c.AddNewPrinter", 5},
       {L"c.t", L"c.t", 3},
-      {L"c.di", L"c.Di", 4},
       {L"d.myd", L"d.MyDocuments", 5},
       {L"e.s", L"e.suggestions@orbel.example", 3, NoIndex, 1},
       {L"p-N", L"p-notepad", 3, 0},
