@@ -154,7 +154,6 @@ TEST_CASE("a drag that is broken off changes nothing, and the next one works") {
   AddBox adding;
   fake::Computer& computer = adding.Computer;
   adding.DragTo(WindowId{1});
-  SUBCASE("by Escape") { adding.Desktop.Press(form::Key::Escape); }
   SUBCASE("by another program taking the mouse") {
     computer.Captured = WindowId{7};
     computer.ButtonDown = false;

@@ -26,8 +26,10 @@ TEST_CASE("the bar stands as it was left, and comes along when the screen or the
   const struct {
     const char* Saved;
     int Left, Top;
-  } rows[] = {
-      {"30000\r\n0", 15360 - 480 - 6960, 0}, {"0\r\n20000", 0, 10440}, {"-60\r\n0", -60, 0}, {"14000\r\n9", 14000, 9}};
+  } rows[] = {{"30000\r\n0", 15360 - 480 - 6960, 0},
+              {"-30000\r\n20000", 0, 10440},
+              {"-60\r\n0", -60, 0},
+              {"14000\r\n9", 14000, 9}};
   for (const auto& row : rows) {
     CAPTURE(row.Saved);
     StartedProgram program(row.Saved);
