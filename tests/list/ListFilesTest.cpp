@@ -26,6 +26,23 @@ TEST_CASE("a group that became empty is not loaded again, and a place beyond 16 
   CHECK(ItemsOf(second.Choose.List) == Texts{L"x>http://x"});
 }
 
+TEST_CASE("settings that lack a field, or have what is no number in one, are not whole") {
+  const std::pair<std::string_view, bool> rows[] = {
+      {"5\n3\n-1\n-1\n-1\n70\n80\n\"x\"\n0\n0\n9", true},
+      {"5\r\n3\r", false},
+      {"5\r\n99999\r\n0\r\nabc\r\n0\r\n7\r\n8\r\n\"\"\r\n1\r\n1\r\n1\r\nmore\r\n", false},
+      {"5\r\n0\r\n0\r\n0\r\n0\r\n7\r\n8\r\n\"not closed\r\n1\r\n1\r\n1\r\n", false},
+  };
+  for (const auto& row : rows) {
+    CAPTURE(row.first);
+    fake::Computer computer;
+    computer.Disk.AddFile(DataFile(L"Set"), row.first);
+    Settings settings;
+    CHECK(LoadSettings(computer, computer, DataFile(L"Set"), settings) == row.second);
+    CHECK(settings.OptionMask == 5);
+  }
+}
+
 TEST_CASE("files cut at any byte give the items before the cut, whatever the upper index says") {
   constexpr std::string_view whole = "\"one\",\"http://1\"\r\n\"two, 2\",\"http://2\"\r\nthree , http://3\r\n";
   constexpr std::size_t ends[] = {whole.find('\r'), whole.find("\r\nthree"), whole.size() - 2};
