@@ -1,6 +1,7 @@
 #include <doctest/doctest.h>
 
 #include "add/MachineIdentity.h"
+#include "add/clsActiveProcess.h"
 #include "fake/TestProgram.h"
 
 namespace vantor::add {
@@ -54,6 +55,26 @@ TEST_CASE("the box opens on its first useful control, whatever had the focus whe
     CHECK(adding.Box.ActiveControl() == &adding.Box.DriveWork);
     adding.Desktop.Click(adding.Box.CommandAddCancel);
   }
+}
+
+TEST_CASE("a name left over from another choice adds nothing while there is no path") {
+  AddBox adding;
+  frmBrowse& box = adding.Box;
+  adding.ChooseKind(AddKind::File);
+  adding.Pick(L"notes.txt");
+  adding.Desktop.Type(L"left");
+  adding.ChooseKind(AddKind::Program);
+  CHECK_FALSE(box.TextAddName.Enabled());
+  adding.Desktop.Click(box.CommandAddOK);
+  CHECK(adding.Added() == 0);
+  CHECK(box.TextAddName.Text() == L"left");
+  adding.ChooseKind(AddKind::File);
+  adding.Pick(L"notes.txt");  // has no default name
+  CHECK(box.TextAddName.Text().empty());
+  adding.ChooseKind(AddKind::Folder);
+  REQUIRE(box.DirWork.SetPath(L"C:\\"));
+  CHECK(box.TextAddPath.Text() == L"C:\\");
+  CHECK(box.State().BrowseFolder == L"C:\\");
 }
 
 TEST_CASE("where an item may come from, and which folder is kept for the next run") {
@@ -126,6 +147,16 @@ TEST_CASE("what is dropped on the program fills the add box as if browsed to") {
   }
 }
 
+TEST_CASE("a snapshot's records are kept in order, across the growth of the table") {
+  fake::Computer computer;
+  for (std::uint32_t index = 2; index <= 45; ++index) computer.AddProcess(index * 4, "p.exe");
+  clsActiveProcess active(computer, computer);
+  CHECK(active.GetActiveProcess() == 45);
+  for (const int index : {20, 21, 40, 45}) CHECK(active.th32ProcessID(index) == static_cast<std::uint32_t>(index) * 4);
+  CHECK(active.szExeFile(45) == std::wstring(L"p.exe").append(255, L'\0'));
+  CHECK_THROWS_AS((void)active.dwFlags(46), std::out_of_range);
+}
+
 TEST_CASE("the finder puts the program's path into the box, and its drive type counts once") {
   AddBox adding;
   adding.Computer.Managed[1].ExecutablePath = L"E:\\Work\\Tool.EXE";
@@ -144,6 +175,14 @@ TEST_CASE("the finder puts the program's path into the box, and its drive type c
   adding.Desktop.Type(L"Work\r");
   CHECK(adding.Added() == 2);
 
+  // Where no path is to be had the box stays as it was.
+  adding.Pick(L"Tool.EXE");
+  for (const WindowId window : {WindowId{2}, WindowId{3}, WindowId::None}) {
+    adding.Expect();
+    adding.Find(window);
+    CHECK(adding.Told.back() == L"Could not find the Executable Path. Reason undetermined.");
+    CHECK(adding.Box.TextAddPath.Text() == L"C:\\Work\\Tool.EXE");
+  }
   adding.Computer.Let("ManagedProcesses", Outcome::Fails);
   adding.Computer.ImagePath = L"D:\\plain.exe";
   adding.Find(WindowId{1});
@@ -154,6 +193,7 @@ TEST_CASE("a drag that is broken off changes nothing, and the next one works") {
   AddBox adding;
   fake::Computer& computer = adding.Computer;
   adding.DragTo(WindowId{1});
+  SUBCASE("by Escape") { adding.Desktop.Press(form::Key::Escape); }
   SUBCASE("by another program taking the mouse") {
     computer.Captured = WindowId{7};
     computer.ButtonDown = false;
@@ -164,6 +204,13 @@ TEST_CASE("a drag that is broken off changes nothing, and the next one works") {
   SUBCASE("by closing the box") {
     adding.Box.CommandAddCancel.DoClick();
     adding.Desktop.Press(form::Key::F2);
+  }
+  SUBCASE("by a place beyond the screen's numbers, which is asked about") {
+    adding.Expect();
+    computer.Cursor.X = 40000;
+    adding.Desktop.Advance(100);
+    CHECK(adding.Told.at(0).find(L"Bug-Vantor-FindExecutable") != std::wstring::npos);
+    computer.Cursor.X = 0;
   }
   CHECK((!computer.Target && computer.Captured == WindowId::None && computer.Marked == WindowId::None));
   CHECK_FALSE(adding.Box.TimerFindPath.Enabled());
@@ -183,7 +230,9 @@ TEST_CASE("the computer is known again by its disk C:, and what can't be read is
   } cases[] = {
       {nullptr, Expected::Unknown},
       {OwnIdentity, Expected::Remembered},
+      {"2\r\n\"1A2B3C4D\"\r\n80023715840\r\n", Expected::Other},
       {"3\r\n\"1A2B3C4D\"\r\n80023715841\r\n", Expected::Other},
+      {"3\r\n\"1A2B3C4E\"\r\n80023715840\r\n", Expected::Other},
       {"\"3\"\r\n\"1A2B3C4D\"\r\n80023715840\r\n", Expected::Other},
       {"x\r\n\"1A2B3C4D\"\r\n80023715840\r\n", Expected::Other},
       {"3\r\n\"1A2B3C4D\"\r\n", Expected::Asked},
@@ -205,6 +254,20 @@ TEST_CASE("the computer is known again by its disk C:, and what can't be read is
       CHECK(program.Told.at(0).find(L"Bug-Vantor-DeclareOwnerOnMedia") != std::wstring::npos);
     CHECK(environment.MachineUnknown == (c.Result == Expected::Unknown));
     CHECK(environment.MachineRemembered == (c.Result == Expected::Remembered));
+    if (c.Result != Expected::Unknown) continue;
+
+    // It can't be remembered in silence while the service does not answer, otherwise with a message.
+    program.Computer.Let("ReadDiskIdentity", Outcome::Fails);
+    CHECK_FALSE(RememberMyComputer(services, program.Program.Messages, environment));
+    program.Computer.Let("ReadDiskIdentity", Outcome::Throws);
+    program.Expect();
+    CHECK_FALSE(RememberMyComputer(services, program.Program.Messages, environment));
+    CHECK(program.Told == Texts{L"Could not save data for identifying this machine. Reason undetermined"});
+    CHECK((environment.MachineUnknown && !environment.MachineRemembered));
+    program.Computer.Decide = {};
+    CHECK(RememberMyComputer(services, program.Program.Messages, environment));
+    CHECK((!environment.MachineUnknown && environment.MachineRemembered));
+    CHECK(program.Computer.Disk.Bytes(L"E:\\Machine.Orbel") == OwnIdentity);
   }
 }
 

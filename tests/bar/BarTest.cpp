@@ -1,5 +1,6 @@
 #include <doctest/doctest.h>
 
+#include "bar/PanelPlace.h"
 #include "fake/TestProgram.h"
 #include "start/Places.h"
 
@@ -9,10 +10,33 @@ namespace {
 using form::Key;
 using test::StartedProgram;
 
-TEST_CASE("a drag leaves room for what unfolds") {
+TEST_CASE("a button without a panel is not there, and leaves no gap") {
+  StartedProgram program;
+  frmMain& bar = program.Main;
+  const form::CommandButton& button = bar.CommandMenu[menu::Companions];
+  const int narrow = bar.Bounds().Width;
+  for (int time = 0; time < 2; ++time) {
+    CHECK_FALSE(button.Visible());
+    CHECK(bar.Bounds().Width == narrow);
+    bar.SetPanel(menu::Companions, &program.Program.HelpPanel);
+    CHECK(button.Visible());
+    CHECK(bar.Bounds().Width == narrow + button.Width() + 60);
+    CHECK(bar.Bounds().Width == bar.CommandExit.Right());
+    // Unfolded it still leaves its margin free on the smallest screen.
+    CHECK(bar.Web.FrameWeb.Right() + 480 <= 12000);
+    bar.SetPanel(menu::Companions, nullptr);
+  }
+}
+
+TEST_CASE("dragging ends within the screen, and leaves room for what unfolds") {
   StartedProgram program;
   frmMain& bar = program.Main;
   const form::Rect screen = program.Desktop.Desktop.Bounds;
+  program.Desktop.DragBy(bar, 99999, 99999);
+  CHECK(bar.Bounds().Left == screen.Width - bar.Bounds().Width - 480);
+  CHECK(bar.Bounds().Top == screen.Height - bar.Bounds().Height - 600);
+  program.Desktop.DragBy(bar, -99999, -99999);
+  CHECK((bar.Bounds().Left == 0 && bar.Bounds().Top == 0));
   program.Desktop.Press(Key::F1);
   program.Desktop.DragBy(bar, 99999, 0);
   CHECK(bar.Bounds().Left == screen.Width - bar.Web.FrameWeb.Right() - 480);
@@ -27,7 +51,8 @@ TEST_CASE("the bar stands as it was left, and comes along when the screen or the
     const char* Saved;
     int Left, Top;
   } rows[] = {{"30000\r\n0", 15360 - 480 - 6960, 0},
-              {"-30000\r\n20000", 0, 10440},
+              {"-30000\r\n0", 0, 0},
+              {"0\r\n20000", 0, 10440},
               {"-60\r\n0", -60, 0},
               {"14000\r\n9", 14000, 9}};
   for (const auto& row : rows) {
@@ -108,6 +133,22 @@ TEST_CASE("leaving before the list was read keeps the list") {
   program.Main.Show();
   program.Desktop.Click(program.Main.CommandExit);
   CHECK(program.Computer.Disk.Bytes(L"C:\\Vantor\\Vantor\\Set.Orbel").starts_with("2\r\n-1\r\n-1\r\n-1\r\n0\r\n"));
+}
+
+TEST_CASE("a panel stands by the bar, and on the screen") {
+  const form::Rect area{0, 0, 12000, 8600};
+  const struct {
+    form::Rect Bar, Place;
+  } cases[] = {
+      {{0, 0, 6000, 480}, {0, 480, 5040, 7700}},
+      {{9000, 0, 6000, 480}, {6960, 480, 5040, 7700}},     // off the right edge
+      {{300, 8100, 6000, 480}, {300, 400, 5040, 7700}},    // above
+      {{300, 4000, 6000, 480}, {6300, 900, 5040, 7700}},   // no room but beside
+      {{5900, 4000, 6000, 480}, {860, 900, 5040, 7700}},   // on the other side
+      {{3000, 4000, 6000, 480}, {3000, 900, 5040, 7700}},  // over it
+      {{0, 0, 6000, 480}, {6000, 0, 5040, 9000}},          // taller than the screen: from its top
+  };
+  for (const auto& c : cases) CHECK(PlacePanel(c.Bar, {c.Place.Width, c.Place.Height}, area) == c.Place);
 }
 
 TEST_CASE("the help and code pages fit the smallest screen, with their texts whole and apart") {

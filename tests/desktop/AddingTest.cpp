@@ -1,4 +1,4 @@
-// desktop: --drive d:=hd --drive e:=floppy --drive f:=floppy --drive n:=network --drive q:=cdrom --drive r:=ramdisk
+// desktop: --drive e:=floppy --drive f:=floppy --drive n:=network --drive q:=cdrom
 // Adding by browsing, by pointing at a window, and by typing; from a fixed disk, and from a stick that travels.
 
 #include <doctest/doctest.h>
@@ -7,8 +7,6 @@
 
 namespace vantor::desktop {
 namespace {
-
-const std::string NotReady = "The Drive you are trying to select is not ready.\n";
 
 /// A program that runs, with its add box open at a folder.
 struct Adding {
@@ -20,12 +18,6 @@ struct Adding {
   Program Running;
   AddBox Box{Running};
 };
-
-/// Puts the medium into a drive of the test desktop, or takes it out.
-void PutIn(char drive, bool in) {
-  const std::string medium = std::string(R"(Z:\prefix\drives\)") + drive;
-  std::filesystem::rename(in ? medium + ".out" : medium, in ? medium : medium + ".out");
-}
 
 /// The box that unfolds from the bar of a running program.
 struct WebBox {
@@ -120,39 +112,22 @@ TEST_CASE("what is added by browsing goes to the group of its extension, once, a
 }
 
 TEST_CASE("only what lies on a fixed disk is added, and a drive that is not ready is told") {
-  SKIP_UNLESS(UnderWine(), "a test desktop with all kinds of drives");
+  SKIP_UNLESS(UnderWine(), "a test desktop with removable drives");
   const Folder folder;
   const Adding adding(folder);
   const AddBox& box = adding.Box;
-  for (const char letter : {'D', 'E', 'N', 'Q', 'R'}) {
-    const std::string root = std::string(1, letter) + ":\\";
-    CAPTURE(root);
-    std::ofstream(root + "tool.exe").close();
-    box.ChooseDrive(letter);
-    box.Pick("tool.exe");
-    CHECK_BECOMES(box.Path(), root + "tool.exe");
-    box.Add("Tool");
-    if (letter == 'D') {
-      box.AwaitBanner("Program");
-      continue;
-    }
-    adding.Running.ExpectMessage("You can add Program, File and Folder to Launch List only if those are in a fixed");
-    CHECK(box.Path() == root + "tool.exe");
-    CHECK(box.Name() == "Tool");
-  }
-  PutIn('q', false);
-  box.ChooseDrive('Q');
-  adding.Running.ExpectMessage(NotReady);
-  CHECK_BECOMES(box.Drive(), "r:");
-
-  std::filesystem::create_directory("E:\\Folder");
+  std::ofstream("E:\\tool.exe").close();
   box.ChooseDrive('E');
+  box.Pick("tool.exe");
+  CHECK_BECOMES(box.Path(), "E:\\tool.exe");
+  box.Add("Tool");
+  adding.Running.ExpectMessage("You can add Program, File and Folder to Launch List only if those are in a fixed");
+  CHECK(box.Path() == "E:\\tool.exe");
+  CHECK(box.Name() == "Tool");
+  std::filesystem::rename(R"(Z:\prefix\drives\q)", R"(Z:\prefix\drives\q.out)");
+  box.ChooseDrive('Q');
+  adding.Running.ExpectMessage("The Drive you are trying to select is not ready.\n");
   CHECK_BECOMES(box.Drive(), "e:");
-  PutIn('e', false);
-  box.Enter("Folder");
-  adding.Running.ExpectMessage(NotReady);
-  CHECK_BECOMES(box.Drive(), "e:");
-  PutIn('e', true);
 }
 
 TEST_CASE("the finder takes the program behind a window, its own too, unless Escape breaks it off") {
@@ -271,24 +246,6 @@ TEST_CASE("sites are added with their addresses as typed; what is listed is refu
                                                               {"A, 'quoted'", "http://a.example/?q=a b,%22c%22"},
                                                               {"Foreign", foreign},
                                                               {"x", "x"}}));
-}
-
-TEST_CASE("the box unfolds to the right, and pulls the bar left at the screen's edge") {
-  const Folder folder;
-  const int screen = GetSystemMetrics(SM_CXSCREEN);
-  folder.WriteSettings({.Left = 15 * (screen - 500)});
-  const Program program(folder);
-  HWND const bar = program.AwaitBar();
-  const RECT folded = window::Bounds(bar);
-  input::Click(program.Button("Show | Hide Add URL"));
-  CHECK_BECOMES(window::Bounds(bar).right, screen);
-  const LONG left = window::Bounds(bar).left;
-  CHECK(left < folded.left);
-  CHECK_BECOMES(window::Focus(bar), program.TextMain());
-  CHECK(program.Line().empty());
-  input::Press(VK_F1);
-  CHECK_BECOMES(window::Bounds(bar).right, left + folded.right - folded.left);
-  CHECK(window::Bounds(bar).left == left);
 }
 
 TEST_CASE("a list on a stick goes with it, and what lies on a computer waits for that computer") {

@@ -34,10 +34,7 @@ class Computer : public service::DataFiles,
     for (const auto* root : {L"C:", L"D:", L"E:", L"N:"}) Disk.AddFile(root + std::wstring(L"\\Work\\Tool.EXE"));
     Disk.AddFile(L"C:\\Work\\notes.txt");
     Disk.AddFolder(Home);
-    Process.dwSize = service::ProcessEntrySize;
-    Process.th32ProcessID = 7;
-    constexpr std::string_view name = "tool.exe";
-    std::copy(name.begin(), name.end(), Process.szExeFile.begin());
+    AddProcess(7, "tool.exe");
   }
 
   [[nodiscard]] service::Services Services() { return {*this, *this, *this, *this, *this, *this, *this, *this, *this}; }
@@ -59,7 +56,7 @@ class Computer : public service::DataFiles,
   int CallError = -9;  // of a telephone call that fails
   Texts Asked;  // "run …", "shell …", "mail …", "call …", "write …", "delete …", "shortcut …", "title …"
 
-  service::ProcessEntry Process;
+  std::vector<service::ProcessEntry> Entries;
   std::vector<service::ManagedProcess> Managed{{0, std::nullopt}, {7, L"C:\\Work\\Tool.EXE"}, {8, std::nullopt}};
   std::wstring ImagePath;  // of process 7, as Windows tells it
   service::WindowId UnderCursor{1};
@@ -69,6 +66,13 @@ class Computer : public service::DataFiles,
   service::WindowId Marked{};
   bool Target = false;
   int Open = 0;  // objects and snapshots
+
+  void AddProcess(std::uint32_t id, std::string_view name) {
+    service::ProcessEntry& entry = Entries.emplace_back();
+    entry.dwSize = service::ProcessEntrySize;
+    entry.th32ProcessID = id;
+    std::copy(name.begin(), name.end(), entry.szExeFile.begin());
+  }
 
   // --- files
 
@@ -175,16 +179,15 @@ class Computer : public service::DataFiles,
   service::SnapshotId CreateSnapshot(std::uint32_t /*flags*/, std::uint32_t /*processId*/) override {
     if (Fails(__func__)) return service::SnapshotId::None;
     ++Open;
-    listed_ = false;
+    next_ = 0;
     return service::SnapshotId{77};
   }
   bool First(service::SnapshotId id, service::ProcessEntry& entry) override {
     return !Fails(__func__) && Next(id, entry);
   }
   bool Next(service::SnapshotId /*snapshot*/, service::ProcessEntry& entry) override {
-    if (Fails(__func__) || listed_ || entry.dwSize != service::ProcessEntrySize) return false;
-    entry = Process;
-    listed_ = true;
+    if (Fails(__func__) || next_ == Entries.size() || entry.dwSize != service::ProcessEntrySize) return false;
+    entry = Entries[next_++];
     return true;
   }
   void CloseSnapshot(service::SnapshotId /*snapshot*/) override { --Open; }
@@ -230,7 +233,7 @@ class Computer : public service::DataFiles,
     return names;
   }
 
-  bool listed_ = false;
+  std::size_t next_ = 0;
 };
 
 }  // namespace vantor::fake

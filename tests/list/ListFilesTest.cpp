@@ -11,35 +11,63 @@ using test::Texts;
 
 std::wstring DataFile(std::wstring_view name) { return L"C:\\Vantor\\Vantor\\" + std::wstring(name) + L".Orbel"; }
 
-TEST_CASE("a group that became empty is not loaded again, and a place beyond 16 bits is saved as the nearest") {
+TEST_CASE("a save writes exact bytes, and the next run has the same list") {
   fake::Computer computer;
   StoredList first(computer);
+  first.Settings.OptionMask = 6;
+  first.Settings.Folder = L"C:\\Docs, old";
   first.Add(LaunchGroup::File, L"A, b", L"C:\\Work\\notes.txt");
-  first.Add(LaunchGroup::Web, L"x", L"http://x");
+  first.Add(LaunchGroup::Fold, L" Fold ", L"C:\\Work");
+  first.Add(LaunchGroup::Prog, L"caf\u00E9", L"C:\\Work\\Tool.EXE");
+  first.Add(LaunchGroup::Prog, L"gone", L"C:\\gone.exe");
+  first.Add(LaunchGroup::Web, L"the \"best\"", L"http://x");
+  first.Add(LaunchGroup::Web, L"next", L"http://y/?q=\"a\"");
   first.Save();
-  first.RemoveFirst(LaunchGroup::File);
-  first.Files.SaveLaunchList(first.Choose.List, 40000, -40000);
-  CHECK(computer.Disk.Bytes(DataFile(L"Set")).starts_with("2\r\n-1\r\n-1\r\n-1\r\n0\r\n32767\r\n-32768\r\n"));
-  CHECK(computer.Disk.Bytes(DataFile(L"ListFile")) == "\"A, b\",\"C:\\Work\\notes.txt\"\r\n");
+  CHECK(computer.Disk.Bytes(DataFile(L"ListProg")) ==
+        "\"caf\xE9\",\"C:\\Work\\Tool.EXE\"\r\n\"gone\",\"C:\\gone.exe\"\r\n");
+  const std::string& settings = computer.Disk.Bytes(DataFile(L"Set"));
+  CHECK(settings == "6\r\n0\r\n0\r\n1\r\n1\r\n150\r\n300\r\n\"C:\\Docs, old\"\r\n-1\r\n-1\r\n-1\r\n");
+
   StoredList second(computer);
   second.Load();
-  CHECK(ItemsOf(second.Choose.List) == Texts{L"x>http://x"});
+  // Double quotes are written so that the item and those after it are read again.
+  CHECK(ItemsOf(second.Choose.List) == Texts{L"A, b>C:\\Work\\notes.txt", L" Fold >C:\\Work",
+                                             L"caf\u00E9>C:\\Work\\Tool.EXE", L"the 'best'>http://x",
+                                             L"next>http://y/?q=%22a%22"});
+  // A group that became empty is no longer loaded, and its file stays; a place beyond 16 bits is saved as the nearest.
+  second.RemoveFirst(LaunchGroup::File);
+  second.Files.SaveLaunchList(second.Choose.List, 40000, -40000);
+  CHECK(settings == "6\r\n-1\r\n0\r\n0\r\n1\r\n32767\r\n-32768\r\n\"C:\\Docs, old\"\r\n-1\r\n-1\r\n-1\r\n");
+  CHECK(computer.Disk.Bytes(DataFile(L"ListFile")) == "\"A, b\",\"C:\\Work\\notes.txt\"\r\n");
+  StoredList third(computer);
+  third.Load();
+  CHECK(ItemsOf(third.Choose.List).size() == 4);
 }
 
-TEST_CASE("settings that lack a field, or have what is no number in one, are not whole") {
-  const std::pair<std::string_view, bool> rows[] = {
-      {"5\n3\n-1\n-1\n-1\n70\n80\n\"x\"\n0\n0\n9", true},
-      {"5\r\n3\r", false},
-      {"5\r\n99999\r\n0\r\nabc\r\n0\r\n7\r\n8\r\n\"\"\r\n1\r\n1\r\n1\r\nmore\r\n", false},
-      {"5\r\n0\r\n0\r\n0\r\n0\r\n7\r\n8\r\n\"not closed\r\n1\r\n1\r\n1\r\n", false},
+TEST_CASE("a damaged settings file gives what could be read of it") {
+  const struct {
+    std::string_view Bytes;
+    int OptionMask, FileUpper, Left, MachineProgUpper;
+    bool Whole = false;
+  } rows[] = {
+      {"", 2, -1, 0, -1},
+      {"5", 5, -1, 0, -1},
+      {"5\r\n3\r", 5, 3, 0, -1},
+      {"5\n3\n-1\n-1\n-1\n70\n80\n\"x\"\n0\n0\n9", 5, 3, 70, 9, true},
+      {"5\r\n99999\r\n0\r\nabc\r\n0\r\n7\r\n8\r\n\"\"\r\n1\r\n1\r\n1\r\nmore\r\n", 5, -1, 7, 1},
+      {"5\r\n0\r\n0\r\n0\r\n0\r\n7\r\n8\r\n\"not closed\r\n1\r\n1\r\n1\r\n", 5, 0, 7, -1},
   };
   for (const auto& row : rows) {
-    CAPTURE(row.first);
+    CAPTURE(row.Bytes);
     fake::Computer computer;
-    computer.Disk.AddFile(DataFile(L"Set"), row.first);
+    computer.Disk.AddFile(DataFile(L"Set"), row.Bytes);
     Settings settings;
-    CHECK(LoadSettings(computer, computer, DataFile(L"Set"), settings) == row.second);
-    CHECK(settings.OptionMask == 5);
+    CHECK(LoadSettings(computer, computer, DataFile(L"Set"), settings) == row.Whole);
+    CHECK(settings.OptionMask == row.OptionMask);
+    CHECK(settings.FileUpper == row.FileUpper);
+    CHECK(settings.Left == row.Left);
+    CHECK(settings.MachineProgUpper == row.MachineProgUpper);
+    CHECK_FALSE(LoadSettings(computer, computer, DataFile(L"none"), settings));
   }
 }
 
@@ -63,6 +91,30 @@ TEST_CASE("files cut at any byte give the items before the cut, whatever the upp
       const auto expected = std::min<std::ptrdiff_t>(kept, std::max(upper + 1, 0));
       CHECK(items == Texts(all.begin(), all.begin() + expected));
     }
+  }
+}
+
+TEST_CASE("four groups of 32,767 items come back whole, and the last of them is completed") {
+  constexpr int Count = 32767;
+  test::TestProgram program;
+  fake::Computer& computer = program.Computer;
+  {
+    StoredList run(computer);
+    for (int i = 0; i < Count; ++i) {
+      for (const LaunchGroup group : LaunchGroups)
+        run.Add(group, L"Item " + std::to_wstring(i), group == LaunchGroup::Fold ? L"C:\\Work" : L"C:\\Work\\Tool.EXE");
+    }
+    run.Save();
+  }
+  program.Start();
+  CHECK(program.Program.Settings.WebUpper == Count - 1);
+  for (const auto* code : {L"p-", L"f-", L"d-", L"w-"}) {
+    program.Type(code);
+    program.Desktop.Type(L"item 3276");
+    CHECK(program.Main.TextMain.Text() == code + std::wstring(L"Item 3276"));
+    program.Desktop.Type(L"6");
+    CHECK(program.Main.TextMain.Text() == code + std::wstring(L"Item 32766"));
+    CHECK(program.Program.CommandState.MatchedItemIndex == Count - 1);
   }
 }
 

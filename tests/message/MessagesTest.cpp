@@ -9,6 +9,8 @@
 namespace vantor::message {
 namespace {
 
+using test::Texts;
+
 /// Messages of a program that runs.
 struct Desk : test::StartedProgram {
   MessageState& State = Program.MessageState;
@@ -18,6 +20,10 @@ struct Desk : test::StartedProgram {
     State.CurrentMessageKey = std::move(key);
     Shown.ShowUserMessage();
   }
+  void ShowStop(MessageKey key) {
+    State.CurrentMessageKey = std::move(key);
+    Shown.ShowStopMessage();
+  }
   /// All messages came, and left nothing behind.
   [[nodiscard]] bool Done() const {
     return Desktop.ModalScriptsDone() && !State.BugReportPending &&
@@ -26,6 +32,27 @@ struct Desk : test::StartedProgram {
                .empty();
   }
 };
+
+TEST_CASE("a message addresses the user, and a key that the routine does not hold shows nothing") {
+  for (const std::wstring name : {L"", L"myFriend", L"Bob"}) {
+    Desk desk;
+    desk.State.UserName = name;
+    desk.Expect([&](frmMessage& dialog) {
+      CHECK(dialog.Caption() == (name == L"Bob" ? L"Message For - Bob" : L"myMessage"));
+      CHECK(dialog.LabelHead.Caption() == (name.empty() ? NoUserName : name));
+      CHECK((dialog.CommandCancel.Visible() && !dialog.CommandCancel.Enabled()));
+      desk.Desktop.Press(form::Key::Enter);
+    });
+    desk.Shown.ShowList(L"MessageAddNotFound");
+    CHECK(desk.Told == Texts{L"Seleted item doesn't exist.\r\nFailed to add."});
+    CHECK(desk.Done());
+    desk.ShowStop(L"MessageProgInSystem");
+    desk.Shown.ShowList(L"MessagePanelOpenError");
+    desk.Shown.ShowList(L"MessageSmallScreen");
+    desk.Shown.ShowText(L"");
+    CHECK_FALSE((desk.State.EndAfterMessage || desk.Desktop.Ended()));
+  }
+}
 
 TEST_CASE("the name prompt takes letters, and every answer to it is stored as it should be") {
   const struct {
@@ -95,6 +122,26 @@ TEST_CASE("messages that open over others take nothing from them, and errors do 
   CHECK(desk.State.UserName == L"Eve");
   CHECK(desk.Told.size() == 2);
   CHECK(desk.Done());
+}
+
+TEST_CASE("the first-start help tells of the missing button, and has room on the smallest screen") {
+  for (const bool present : {false, true}) {
+    Desk desk;
+    const form::Rect screen{0, 0, 640 * 15, 450 * 15};
+    desk.Desktop.Desktop = {screen, screen};
+    desk.Shown.Hooks.CompanionsPresent = [=] { return present; };
+    desk.Expect([&](frmMessage& dialog) {
+      const std::wstring line = present ? L"\r\n\r\n\r\n\r\nYou will" : L"#5 button is not visible.\r\n\r\nYou will";
+      CHECK(desk.Told.back().find(line) != std::wstring::npos);
+      const form::Label& text = dialog.LabelMessage;
+      CHECK(text.Height() >= desk.Desktop.MeasureText(text.Caption(), false, text.Width()).Height);
+      CHECK(text.Bottom() < dialog.CommandOK.Top());
+      CHECK(dialog.CommandOK.Right() < dialog.CommandCancel.Left());
+      CHECK(dialog.CommandCancel.Bottom() < dialog.Bounds().Height);
+      CHECK((dialog.Bounds().Right() < screen.Width && dialog.Bounds().Bottom() < screen.Height));
+    });
+    desk.Shown.ShowList(L"MessageFisrtStart");
+  }
 }
 
 }  // namespace

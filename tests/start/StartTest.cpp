@@ -43,6 +43,9 @@ TEST_CASE("the maker's programs are found beside this one and in the drive's roo
     Texts Expected;  // the paths; each one's name is that of its file
   } rows[] = {
       {L"C:\\Vantor", {L"C:\\Orbel\\Draw\\Other.exe", L"C:\\Orbel\\Draw.exe", L"C:\\Orbels\\Draw\\Draw.exe"}, {}},
+      {L"C:\\Vantor",
+       {L"C:\\Vantor\\VantorHelp.exe", L"C:\\ORBEL\\Write\\write.EXE", L"C:\\Orbel\\Draw it\\Draw it.exe"},
+       {L"C:\\Orbel\\Draw it\\Draw it.exe", L"C:\\Orbel\\Write\\Write.exe", L"C:\\Vantor\\VantorHelp.exe"}},
       // The same folder by both ways, and this program in it.
       {L"C:\\oRBEL\\Vantor",
        {L"C:\\oRBEL\\Vantor\\Vantor.exe", L"C:\\oRBEL\\Draw\\Draw.exe"},
@@ -112,7 +115,14 @@ TEST_CASE("a second copy hands over to the first, or goes on when that has no wi
   }
 }
 
-TEST_CASE("what can't be written does not keep the program from starting, a bug in its start does") {
+TEST_CASE("what can't be read or written does not keep the program from starting, nor is it a first start") {
+  TestProgram damaged;
+  std::string& settings = damaged.Computer.Disk.Bytes(L"C:\\Vantor\\Vantor\\Set.Orbel");
+  settings = "7\r\n-1";
+  REQUIRE(damaged.Start());
+  CHECK(damaged.Program.Settings.OptionMask == 7);
+  CHECK(settings == "7\r\n-1");
+
   TestProgram readOnly;
   readOnly.Computer.Home = L"D:\\Work";
   readOnly.Computer.Disk.Drives[L'D'].WriteProtected = true;
@@ -153,7 +163,13 @@ TEST_CASE("a first run from a medium that can't write is refused, and told apart
   }
 }
 
-TEST_CASE("a medium without options starts as for the first time") {
+TEST_CASE("a medium with lists needs its own settings, and one without options starts as for the first time") {
+  OnMedium foreign;
+  foreign.Computer.Disk.AddFile(L"E:\\Work\\Vantor\\ListWeb.Orbel");
+  foreign.Expect();
+  CHECK_FALSE(foreign.Start());
+  CHECK(foreign.Told.at(0).starts_with(L"To run the Program from this Media"));
+
   OnMedium own;
   own.Computer.Disk.AddFile(L"E:\\Work\\Vantor\\MediaSet.Orbel", "\"Vantor Media 1\"\r\n\"Ready\"\r\n\"Ada\"\r\n");
   own.Expect();
