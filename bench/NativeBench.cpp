@@ -143,7 +143,7 @@ struct Bench {
   fake::Computer Rest;  // what is not measured
   service::Services Services{DataFiles, FileSystem, Language, Rest, Rest, Rest, Rest, Rest, Rest};
   form::Headless Desktop;
-  start::Environment Environment;
+  state::Environment Environment;
   std::wstring Folder;
   list::Settings Settings;
   options::OptionFlags Options;

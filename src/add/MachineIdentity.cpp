@@ -58,14 +58,14 @@ bool MachineMatches(const service::Services& services, message::Messages& messag
   return matches;
 }
 
-void IdentifyMachine(const service::Services& services, message::Messages& messages, start::Environment& environment) {
+void IdentifyMachine(const service::Services& services, message::Messages& messages, state::Environment& environment) {
   environment.MachineUnknown = !services.FileSystem.FileExists(environment.Files.Machine);
   environment.MachineRemembered =
       !environment.MachineUnknown && MachineMatches(services, messages, environment.Files.Machine);
 }
 
 bool RememberMyComputer(const service::Services& services, message::Messages& messages,
-                        start::Environment& environment) {
+                        state::Environment& environment) {
   bool failed = false;
   try {
     if (!SaveIdentity(services, environment.Files.Machine)) return false;

@@ -4,7 +4,7 @@
 
 #include "message/Messages.h"
 #include "service/Services.h"
-#include "start/Environment.h"
+#include "state/Environment.h"
 
 namespace vantor::add {
 
@@ -14,11 +14,11 @@ namespace vantor::add {
                                   std::wstring_view path);
 
 /// Part of the start in removable-media mode: sets MachineUnknown and MachineRemembered.
-void IdentifyMachine(const service::Services& services, message::Messages& messages, start::Environment& environment);
+void IdentifyMachine(const service::Services& services, message::Messages& messages, state::Environment& environment);
 
 /// Makes this computer the remembered one. False, with nothing changed, when its identity is not to be had in
 /// time, and after a message when it can't be read or saved.
 [[nodiscard]] bool RememberMyComputer(const service::Services& services, message::Messages& messages,
-                                      start::Environment& environment);
+                                      state::Environment& environment);
 
 }  // namespace vantor::add

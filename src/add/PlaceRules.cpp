@@ -46,7 +46,7 @@ std::wstring_view FixedDiskRule(BrowseState& browse) {
   return TakeDriveType(browse) == FixedDrive ? std::wstring_view() : NotFixed;
 }
 
-std::wstring_view RemovableMediaRule(BrowseState& browse, const start::Environment& environment) {
+std::wstring_view RemovableMediaRule(BrowseState& browse, const state::Environment& environment) {
   const std::int16_t driveType = TakeDriveType(browse);
   if (environment.MachineUnknown) return NoMachineYet;
   if (!environment.MachineRemembered) return OtherMachine;

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "add/BrowseState.h"
-#include "start/Environment.h"
+#include "state/Environment.h"
 
 namespace vantor::add {
 
@@ -15,6 +15,6 @@ namespace vantor::add {
 [[nodiscard]] std::wstring_view FixedDiskRule(BrowseState& browse);
 
 /// In removable-media mode: a computer must be remembered, be this one, and it must lie on a fixed disk.
-[[nodiscard]] std::wstring_view RemovableMediaRule(BrowseState& browse, const start::Environment& environment);
+[[nodiscard]] std::wstring_view RemovableMediaRule(BrowseState& browse, const state::Environment& environment);
 
 }  // namespace vantor::add

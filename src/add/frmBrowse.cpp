@@ -253,7 +253,7 @@ void frmBrowse::CommandAddOK_Click() {
 }
 
 bool frmBrowse::RefusedByPlace(std::wstring_view path) {
-  const start::Environment& environment = parts_.Environment;
+  const state::Environment& environment = parts_.Environment;
   if (parts_.Services.Language.Upper(path.substr(0, 1)) == environment.MediaDriveLetter) return false;
   const std::wstring_view refusal =
       environment.RunMode ? RemovableMediaRule(state_, environment) : FixedDiskRule(state_);

@@ -23,14 +23,14 @@
 #include "list/Settings.h"
 #include "message/Messages.h"
 #include "service/Services.h"
-#include "start/Environment.h"
+#include "state/Environment.h"
 
 namespace vantor::add {
 
 /// What the box works with. All of it outlives the box.
 struct BrowseParts {
   service::Services Services;
-  const start::Environment& Environment;
+  const state::Environment& Environment;
   message::Messages& Messages;
   list::Settings& Settings;
   const list::LaunchList& List;

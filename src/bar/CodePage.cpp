@@ -32,7 +32,7 @@ std::wstring_view Itself(std::wstring_view word) { return word; }
 
 }  // namespace
 
-CodePage::CodePage(form::Form& form, const start::Environment& environment)
+CodePage::CodePage(form::Form& form, const state::Environment& environment)
     : FrameCode(form, L"FrameCode"),
       environment_(environment),
       first_{text_.Add(FrameCode, L"1st Character of Code :\r\nIndicates Item Of Command", true),

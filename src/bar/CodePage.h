@@ -5,14 +5,14 @@
 #include "bar/PageText.h"
 #include "form/Static.h"
 #include "list/ChoosePage.h"
-#include "start/Environment.h"
+#include "state/Environment.h"
 
 namespace vantor::bar {
 
 /// The chart of the command language.
 class CodePage : public list::ChoosePage {
  public:
-  CodePage(form::Form& form, const start::Environment& environment);
+  CodePage(form::Form& form, const state::Environment& environment);
 
   form::Frame FrameCode;
   form::Frame FrameSubstitute{FrameCode, L"FrameSubstitute"};
@@ -24,7 +24,7 @@ class CodePage : public list::ChoosePage {
   void Prepare() override;
 
  private:
-  const start::Environment& environment_;
+  const state::Environment& environment_;
   PageText text_;
   TextTable first_;
   TextTable second_;

@@ -22,7 +22,7 @@ constexpr Twips ListHeight = 1920;
 
 }  // namespace
 
-CompanionPage::CompanionPage(form::Form& form, const start::Environment& environment, message::Messages& messages)
+CompanionPage::CompanionPage(form::Form& form, const state::Environment& environment, message::Messages& messages)
     : FrameRun(form, L"FrameRun"),
       environment_(environment),
       title_(std::wstring(product::Publisher).append(L"'s Programs")) {
@@ -37,7 +37,7 @@ CompanionPage::CompanionPage(form::Form& form, const start::Environment& environ
 void CompanionPage::Prepare() {
   if (ListRunName.ListIndex() != -1) return;  // they were found at the start, and the choice stays
   std::vector<std::wstring> names;
-  for (const start::Companion& companion : environment_.Companions) names.push_back(companion.Name);
+  for (const state::Companion& companion : environment_.Companions) names.push_back(companion.Name);
   ListRunName.SetEntries(std::move(names));
   if (ListRunName.ListCount() > 0) ListRunName.SetListIndex(0);
 }

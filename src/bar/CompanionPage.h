@@ -9,14 +9,14 @@
 #include "form/Static.h"
 #include "list/ChoosePage.h"
 #include "message/Messages.h"
-#include "start/Environment.h"
+#include "state/Environment.h"
 
 namespace vantor::bar {
 
 /// The maker's other programs, to be opened from a list.
 class CompanionPage : public list::ChoosePage {
  public:
-  CompanionPage(form::Form& form, const start::Environment& environment, message::Messages& messages);
+  CompanionPage(form::Form& form, const state::Environment& environment, message::Messages& messages);
 
   /// Closes the panel and starts a program; a failure is told there.
   form::Event<std::wstring_view /*target*/> Start;
@@ -36,7 +36,7 @@ class CompanionPage : public list::ChoosePage {
  private:
   void CommandRunOpen_Click();
 
-  const start::Environment& environment_;
+  const state::Environment& environment_;
   std::wstring title_;
 };
 

@@ -57,7 +57,7 @@ std::wstring Lines(std::span<const Row> rows, std::wstring_view Row::*side, bool
 
 }  // namespace
 
-HelpPage::HelpPage(form::Form& form, const start::Environment& environment)
+HelpPage::HelpPage(form::Form& form, const state::Environment& environment)
     : FrameHelp(form, L"FrameHelp"),
       environment_(environment),
       typing_{text_.Add(FrameHelp, L"Type a code and what it is about, then press Enter", true),

@@ -6,14 +6,14 @@
 #include "form/Static.h"
 #include "form/TextBox.h"
 #include "list/ChoosePage.h"
-#include "start/Environment.h"
+#include "state/Environment.h"
 
 namespace vantor::bar {
 
 /// All that a new user needs, on one page.
 class HelpPage : public list::ChoosePage {
  public:
-  HelpPage(form::Form& form, const start::Environment& environment);
+  HelpPage(form::Form& form, const state::Environment& environment);
 
   form::Frame FrameHelp;
   form::TextBox TextHelpFolder{FrameHelp, L"TextHelpFolder"};  // where the data is
@@ -25,7 +25,7 @@ class HelpPage : public list::ChoosePage {
   void Prepare() override;
 
  private:
-  const start::Environment& environment_;
+  const state::Environment& environment_;
   PageText text_;
   TextTable typing_;
   form::Label& completion_;

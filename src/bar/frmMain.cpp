@@ -45,7 +45,7 @@ frmMain::frmMain(form::UserInterface& ui, const BarParts& parts)
       parts_(parts),
       commandLine_(TextMain, parts.Choose.List, parts.CommandState, parts.Starters, parts.Messages, parts.Services,
                    parts.Environment) {
-  SetCaption(start::ProductName);
+  SetCaption(state::ProductName);
   FrameButtons.SetBorder(false);
   NameControls();
   HandleEvents();
@@ -59,7 +59,7 @@ void frmMain::NameControls() {
   }
   CommandMin.SetToolTip(L"Minimize---F9");
   CommandExit.SetToolTip(L"Exit---F10");
-  ImageLauncher.SetAccessibleName(start::ProductName);
+  ImageLauncher.SetAccessibleName(state::ProductName);
   TextMain.SetAccessibleName(L"Command Line");
 
   int tabIndex = 0;
@@ -120,7 +120,7 @@ void frmMain::Form_Load() {
     ShowWebFace();
     ShowMenuCaptions();
     Web.SetShown(addWebShown_);
-    TextMain.SetText(start::ProductName);
+    TextMain.SetText(state::ProductName);
     TextMain.SelectAll();
     TextMain.SetFocus();
     TimerOnTop.SetEnabled(StayOnTop());
@@ -229,7 +229,7 @@ void frmMain::TimerOnTop_Timer() {
     idleTicks_ = 0;
   } else if (++idleTicks_ > IdleTicksBeforeName) {
     idleTicks_ = 0;
-    TextMain.SetText(start::ProductName);
+    TextMain.SetText(state::ProductName);
     TextMain.SelectAll();
   }
 }

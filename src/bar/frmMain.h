@@ -20,14 +20,14 @@
 #include "message/Messages.h"
 #include "options/OptionFlags.h"
 #include "service/Services.h"
-#include "start/Environment.h"
+#include "state/Environment.h"
 
 namespace vantor::bar {
 
 /// What the bar works with. All of it outlives the bar.
 struct BarParts {
   service::Services Services;
-  const start::Environment& Environment;
+  const state::Environment& Environment;
   message::Messages& Messages;
   list::Settings& Settings;
   options::OptionFlags& Options;

@@ -4,7 +4,7 @@
 
 #include "command/CodeTables.h"
 #include "command/Starters.h"
-#include "start/Environment.h"
+#include "state/Environment.h"
 
 namespace vantor::command {
 
@@ -30,7 +30,7 @@ message::MessageKey OpenControlPanelApplet(const service::Services& services, st
 std::wstring DialNumber(const service::Services& services, std::wstring_view number) {
   constexpr std::wstring_view NotValid = L"The phone number is not valid.";
   if (!IsPlain(number)) return std::wstring(NotValid);
-  switch (services.Programs.RequestMakeCall(number, start::ProductName)) {
+  switch (services.Programs.RequestMakeCall(number, state::ProductName)) {
     case 0:
       return {};
     case -4:  // TAPIERR_INVALDESTADDRESS

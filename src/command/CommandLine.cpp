@@ -22,7 +22,7 @@ std::wstring_view Itself(std::wstring_view entry) { return entry; }
 
 CommandLine::CommandLine(form::TextBox& textMain, const list::LaunchList& list, CommandState& state,
                          const Starters& starters, message::Messages& messages, const service::Services& services,
-                         const start::Environment& environment)
+                         const state::Environment& environment)
     : textMain_(textMain),
       list_(list),
       state_(state),
@@ -151,7 +151,7 @@ void CommandLine::Escape() {
 
 void CommandLine::Complete(const CommandCode& code, std::wstring_view prefix, std::wstring_view typed) {
   const auto offered = [](const ControlPanelWord& entry) { return entry.Offered ? entry.Word : L""; };
-  const auto named = [](const start::Companion& entry) { return std::wstring_view(entry.Name); };
+  const auto named = [](const state::Companion& entry) { return std::wstring_view(entry.Name); };
   switch (code.Argument) {
     case Argument::ControlPanelPage:
       CompleteFromTable(prefix, typed, ControlPanelNames, offered);

@@ -11,7 +11,7 @@
 #include "list/LaunchList.h"
 #include "message/Messages.h"
 #include "service/Services.h"
-#include "start/Environment.h"
+#include "state/Environment.h"
 
 namespace vantor::command {
 
@@ -27,7 +27,7 @@ class CommandLine {
  public:
   /// All but the services are kept by reference.
   CommandLine(form::TextBox& textMain, const list::LaunchList& list, CommandState& state, const Starters& starters,
-              message::Messages& messages, const service::Services& services, const start::Environment& environment);
+              message::Messages& messages, const service::Services& services, const state::Environment& environment);
 
   CommandLineHooks Hooks;
 
@@ -64,7 +64,7 @@ class CommandLine {
   const Starters& starters_;
   message::Messages& messages_;
   service::Services services_;
-  const start::Environment& environment_;
+  const state::Environment& environment_;
   bool completing_ = false;  // the change under way is a completion being put into the box
 };
 

@@ -87,7 +87,7 @@ void Backup::Unmark() {
 }
 
 std::vector<std::wstring_view> Backup::Lists() const {
-  const start::DataFilePaths& files = environment_.Files;
+  const state::DataFilePaths& files = environment_.Files;
   std::vector<std::wstring_view> lists{files.ListFile, files.ListFold, files.ListProg, files.ListWeb};
   if (environment_.RunMode) lists.insert(lists.end(), {files.MachineFile, files.MachineFold, files.MachineProg});
   return lists;

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "service/Services.h"
-#include "start/Environment.h"
+#include "state/Environment.h"
 
 namespace vantor::list {
 
@@ -19,7 +19,7 @@ namespace vantor::list {
 /// generation back. What did not change is not written.
 class Backup final : public service::DataFiles {
  public:
-  Backup(const service::Services& services, const start::Environment& environment)
+  Backup(const service::Services& services, const state::Environment& environment)
       : files_(services.DataFiles), fileSystem_(services.FileSystem), environment_(environment) {}
 
   /// At start, before anything is read: puts the kept generation back if a save was broken off. Where that can't be
@@ -65,7 +65,7 @@ class Backup final : public service::DataFiles {
 
   service::DataFiles& files_;
   service::FileSystem& fileSystem_;
-  const start::Environment& environment_;
+  const state::Environment& environment_;
   bool whole_ = false;
   bool readKept_ = false;  // a restore is still due, and the mark with it
   Save save_;

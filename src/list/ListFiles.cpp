@@ -62,7 +62,7 @@ struct ListFiles::Group {
 };
 
 ListFiles::Group ListFiles::GroupOf(LaunchGroup group) const {
-  const start::DataFilePaths& files = environment_.Files;
+  const state::DataFilePaths& files = environment_.Files;
   Settings& settings = settings_;
   const bool removable = environment_.RunMode;
   const auto split = [&](const std::wstring& file, std::int16_t& upper, const std::wstring& machineFile,

@@ -8,7 +8,7 @@
 #include "list/LaunchList.h"
 #include "list/Settings.h"
 #include "service/Services.h"
-#include "start/Environment.h"
+#include "state/Environment.h"
 
 namespace vantor::list {
 
@@ -16,7 +16,7 @@ namespace vantor::list {
 /// the user of a failure; what could be read or written stays.
 class ListFiles {
  public:
-  ListFiles(const service::Services& services, const start::Environment& environment, Settings& settings)
+  ListFiles(const service::Services& services, const state::Environment& environment, Settings& settings)
       : services_(services), environment_(environment), settings_(settings), backup_(services, environment) {}
 
   /// The first of all: undoes a save that was broken off.
@@ -46,7 +46,7 @@ class ListFiles {
   [[nodiscard]] bool BelongsToMain(const Group& group, std::wstring_view target) const;
 
   service::Services services_;
-  const start::Environment& environment_;
+  const state::Environment& environment_;
   Settings& settings_;
   Backup backup_;
 };

@@ -133,7 +133,7 @@ void OptionsPage::SetStartWithWindows(bool start) {
 }
 
 void OptionsPage::CommandOptionShortcut_Click() {
-  const std::wstring name(start::ProductName);
+  const std::wstring name(state::ProductName);
   const std::wstring desktop = parts_.ScriptShell.SpecialFolder(L"Desktop");
   if (desktop.empty()) return;
   const bool saved = parts_.ScriptShell.SaveShortcut({.File = desktop + L"\\" + name + L".lnk",
@@ -151,7 +151,7 @@ void OptionsPage::CommandOptionRemember_Click() {
 }
 
 std::wstring OptionsPage::ProgramFile() const {
-  return (parts_.Environment.ProgramFolder + std::wstring(start::ProductName)).append(L".exe");
+  return (parts_.Environment.ProgramFolder + std::wstring(state::ProductName)).append(L".exe");
 }
 
 }  // namespace vantor::options

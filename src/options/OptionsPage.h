@@ -14,14 +14,14 @@
 #include "message/Messages.h"
 #include "options/OptionFlags.h"
 #include "service/ScriptShell.h"
-#include "start/Environment.h"
+#include "state/Environment.h"
 
 namespace vantor::options {
 
 /// What the page works with. All of it outlives the page.
 struct OptionsParts {
   service::ScriptShell& ScriptShell;
-  const start::Environment& Environment;
+  const state::Environment& Environment;
   message::Messages& Messages;
   list::Settings& Settings;
   OptionFlags& Options;

@@ -33,17 +33,17 @@ void ActiveStart::FindPreviousInstance() {
   // While it looks for the other copy, this one must not be found by the same title.
   constexpr std::wstring_view TitleMeanwhile = L"BypassThisInstance";
   service::System& system = program_.Services.System;
-  system.SetTitle(ApplicationTitle);
+  system.SetTitle(state::ApplicationTitle);
   if (!system.PreviousInstance()) return;
   system.SetTitle(TitleMeanwhile);
-  if (system.ActivateInstance(ApplicationTitle))
+  if (system.ActivateInstance(state::ApplicationTitle))
     program_.Ui.End();
   else
-    system.SetTitle(ApplicationTitle);
+    system.SetTitle(state::ApplicationTitle);
 }
 
 void ActiveStart::FindPlaces() {
-  Environment& environment = program_.Environment;
+  state::Environment& environment = program_.Environment;
   environment.Starting = true;
   program_.frmMove.Load();
   GetWindowsFolder(program_.Services.System, program_.Services.Language, environment);
@@ -55,7 +55,7 @@ void ActiveStart::FindPlaces() {
 }
 
 void ActiveStart::ChooseRunMode() {
-  Environment& environment = program_.Environment;
+  state::Environment& environment = program_.Environment;
   if (!program_.Services.FileSystem.Available()) {
     Stop(L"MessageNeedSriptRuntime");
     return;
@@ -68,7 +68,7 @@ void ActiveStart::ChooseRunMode() {
 }
 
 void ActiveStart::PrepareData() {
-  Environment& environment = program_.Environment;
+  state::Environment& environment = program_.Environment;
   SetDataFiles(environment);
   program_.ListFiles.Restore();
   if (!environment.RunMode) {
@@ -97,7 +97,7 @@ void ActiveStart::LoadState() {
 }
 
 void ActiveStart::LookForCompanions() {
-  Environment& environment = program_.Environment;
+  state::Environment& environment = program_.Environment;
   program_.Messages.Trap(L"FindCompanions",
                          [&] { environment.Companions = FindCompanions(program_.Services, environment); });
   if (!environment.Companions.empty()) program_.frmMain.SetPanel(bar::menu::Companions, &program_.CompanionPanel);

@@ -12,7 +12,7 @@ namespace vantor::start {
 namespace {
 
 /// The folders that may hold the maker's programs, each with its trailing backslash.
-std::vector<std::wstring> MakerFolders(const service::Language& language, const Environment& environment) {
+std::vector<std::wstring> MakerFolders(const service::Language& language, const state::Environment& environment) {
   const std::wstring ending = std::wstring(product::Publisher) + L'\\';
   std::vector<std::wstring> folders{environment.DriveRoot + ending};
   std::wstring_view holder = environment.ProgramFolder;
@@ -27,22 +27,22 @@ std::vector<std::wstring> MakerFolders(const service::Language& language, const 
 
 }  // namespace
 
-std::vector<Companion> FindCompanions(const service::Services& services, const Environment& environment) {
-  std::vector<Companion> companions;
+std::vector<state::Companion> FindCompanions(const service::Services& services, const state::Environment& environment) {
+  std::vector<state::Companion> companions;
   const service::ManyFileCalls many(services.FileSystem);
   const auto take = [&](const std::wstring& name, const std::wstring& folder) {
     list::NameMatch same(services.Language, name);
     const bool listed = std::any_of(companions.begin(), companions.end(),
-                                    [&](const Companion& companion) { return same.Equals(companion.Name); });
+                                    [&](const state::Companion& companion) { return same.Equals(companion.Name); });
     // This program is in such a folder too.
-    if (listed || same.Equals(ProductName)) return;
+    if (listed || same.Equals(state::ProductName)) return;
     std::wstring path = folder + name + L".exe";
     if (services.FileSystem.FileExists(path)) companions.push_back({name, std::move(path)});
   };
   for (const std::wstring& maker : MakerFolders(services.Language, environment)) {
     for (const std::wstring& name : services.FileSystem.Folders(maker)) take(name, maker + name + L'\\');
   }
-  take(std::wstring(ProductName) + L"Help", environment.ProgramFolder);
+  take(std::wstring(state::ProductName) + L"Help", environment.ProgramFolder);
   return companions;
 }
 

@@ -18,7 +18,7 @@ struct MediaSet {
   std::wstring UserName;
 };
 
-std::optional<MediaSet> ReadMediaSet(const service::Services& services, const Environment& environment) {
+std::optional<MediaSet> ReadMediaSet(const service::Services& services, const state::Environment& environment) {
   const auto text = text::ReadTextFile(services.DataFiles, services.Language, environment.Files.MediaSet);
   if (!text) return std::nullopt;
   text::SequentialReader reader(*text);
@@ -30,7 +30,7 @@ std::optional<MediaSet> ReadMediaSet(const service::Services& services, const En
   return MediaSet{std::wstring(state->Text), std::wstring(name ? name->Text : L"")};
 }
 
-bool WriteMediaSet(const service::Services& services, const Environment& environment, std::wstring_view state,
+bool WriteMediaSet(const service::Services& services, const state::Environment& environment, std::wstring_view state,
                    std::wstring_view userName) {
   text::SequentialWriter writer;
   writer.Write(MediaMark);
@@ -39,11 +39,11 @@ bool WriteMediaSet(const service::Services& services, const Environment& environ
   return text::WriteTextFile(services.DataFiles, services.Language, environment.Files.MediaSet, writer);
 }
 
-bool WriteFirstSettings(const service::Services& services, const Environment& environment) {
+bool WriteFirstSettings(const service::Services& services, const state::Environment& environment) {
   return list::SaveSettings(services.DataFiles, services.Language, environment.Files.Set, list::Settings{});
 }
 
-bool CreateMedia(const service::Services& services, const Environment& environment) {
+bool CreateMedia(const service::Services& services, const state::Environment& environment) {
   return services.DataFiles.MakeFolder(environment.DataFolder) &&
          WriteMediaSet(services, environment, MediaSetup, L"") && WriteFirstSettings(services, environment) &&
          WriteMediaSet(services, environment, MediaReady, L"");
@@ -51,7 +51,7 @@ bool CreateMedia(const service::Services& services, const Environment& environme
 
 }  // namespace
 
-void PrepareDataFolder(const service::Services& services, Environment& environment) {
+void PrepareDataFolder(const service::Services& services, state::Environment& environment) {
   // A settings file that is there but can't be read must not be taken for a first start, and be replaced.
   if (services.FileSystem.FileExists(environment.Files.Set)) return;
   environment.FirstStart = true;
@@ -60,7 +60,7 @@ void PrepareDataFolder(const service::Services& services, Environment& environme
   }
 }
 
-message::MessageKey PrepareMedia(const service::Services& services, Environment& environment) {
+message::MessageKey PrepareMedia(const service::Services& services, state::Environment& environment) {
   if (services.DataFiles.FolderIsEmpty(environment.DataFolder)) {
     environment.FirstStart = true;
     return CreateMedia(services, environment) ? L"" : L"MessageMediaCreateError";
@@ -73,7 +73,7 @@ message::MessageKey PrepareMedia(const service::Services& services, Environment&
   return WriteFirstSettings(services, environment) ? L"" : L"MessageMediaCreateError";
 }
 
-std::wstring LoadUserName(const service::Services& services, const Environment& environment) {
+std::wstring LoadUserName(const service::Services& services, const state::Environment& environment) {
   if (environment.RunMode) {
     const auto media = ReadMediaSet(services, environment);
     return media ? media->UserName : L"";
@@ -84,7 +84,7 @@ std::wstring LoadUserName(const service::Services& services, const Environment& 
   return std::wstring(name ? name->Text : L"");
 }
 
-void SaveUserName(const service::Services& services, const Environment& environment, std::wstring_view name) {
+void SaveUserName(const service::Services& services, const state::Environment& environment, std::wstring_view name) {
   if (environment.RunMode) {
     static_cast<void>(WriteMediaSet(services, environment, MediaReady, name));
     return;

@@ -12,7 +12,7 @@ std::wstring GetDriveTypeText(service::FileSystem& files, std::wstring_view driv
   return std::wstring(type >= 0 && type < static_cast<int>(std::size(Texts)) ? Texts[type] : L"");
 }
 
-void GetWindowsFolder(service::System& system, const service::Language& language, Environment& environment) {
+void GetWindowsFolder(service::System& system, const service::Language& language, state::Environment& environment) {
   constexpr std::size_t MaxLength = 254;
   std::wstring folder = system.WindowsDirectory();
   if (folder.empty() || folder.size() > MaxLength) return;
@@ -24,11 +24,11 @@ void GetWindowsFolder(service::System& system, const service::Language& language
 
 std::wstring DriveRootOf(std::wstring_view folder) { return std::wstring(text::DriveName(folder)) + L'\\'; }
 
-void SetDataFiles(Environment& environment) {
+void SetDataFiles(state::Environment& environment) {
   environment.DataFolder = environment.ProgramFolder;
-  environment.DataFolder += ProductName;
+  environment.DataFolder += state::ProductName;
   const auto path = [&](std::wstring_view name) { return environment.DataFolder + std::wstring(name); };
-  DataFilePaths& files = environment.Files;
+  state::DataFilePaths& files = environment.Files;
   files.Set = path(L"\\Set.Orbel");
   files.ListFile = path(L"\\ListFile.Orbel");
   files.ListFold = path(L"\\ListFold.Orbel");

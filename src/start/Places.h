@@ -6,7 +6,7 @@
 #include "service/FileSystem.h"
 #include "service/Language.h"
 #include "service/System.h"
-#include "start/Environment.h"
+#include "state/Environment.h"
 
 namespace vantor::start {
 
@@ -16,12 +16,12 @@ namespace vantor::start {
 
 /// Finds the Windows folder, its upper-case form and its drive letter. All stay "" when the system does not tell
 /// it, or in more than 254 characters.
-void GetWindowsFolder(service::System& system, const service::Language& language, Environment& environment);
+void GetWindowsFolder(service::System& system, const service::Language& language, state::Environment& environment);
 
 /// The drive of a folder: all up to and including its first backslash, or the share of a network path.
 [[nodiscard]] std::wstring DriveRootOf(std::wstring_view folder);
 
 /// Sets the data folder below the program's folder, and the paths of the data files that the run mode has.
-void SetDataFiles(Environment& environment);
+void SetDataFiles(state::Environment& environment);
 
 }  // namespace vantor::start

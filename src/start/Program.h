@@ -17,8 +17,8 @@
 #include "options/OptionFlags.h"
 #include "options/OptionsPage.h"
 #include "service/Services.h"
-#include "start/Environment.h"
 #include "start/frmMove.h"
+#include "state/Environment.h"
 
 namespace vantor::start {
 
@@ -36,7 +36,7 @@ class Program {
   form::UserInterface& Ui;
   service::Services Services;
 
-  start::Environment Environment;
+  state::Environment Environment;
   list::Settings Settings;
   options::OptionFlags Options;
   message::MessageState MessageState;

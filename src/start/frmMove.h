@@ -2,15 +2,15 @@
 
 #include "form/Form.h"
 #include "service/Services.h"
-#include "start/Environment.h"
 #include "start/Places.h"
+#include "state/Environment.h"
 
 namespace vantor::start {
 
 /// A form that is never shown. Loading it finds out where the program runs.
 class frmMove : public form::Form {
  public:
-  frmMove(form::UserInterface& ui, const service::Services& services, Environment& environment)
+  frmMove(form::UserInterface& ui, const service::Services& services, state::Environment& environment)
       : Form(ui, L"frmMove"), services_(services), environment_(environment) {}
 
  protected:
@@ -25,7 +25,7 @@ class frmMove : public form::Form {
 
  private:
   service::Services services_;
-  Environment& environment_;
+  state::Environment& environment_;
 };
 
 }  // namespace vantor::start

@@ -4,9 +4,9 @@
 #include <exception>
 
 #include "start/Program.h"
-#include "win32/SystemLibrary.h"
-#include "win32/WindowsDesktop.h"
-#include "win32/WindowsServices.h"
+#include "win32/base/SystemLibrary.h"
+#include "win32/service/WindowsServices.h"
+#include "win32/window/WindowsDesktop.h"
 
 namespace vantor::win32 {
 
@@ -29,7 +29,7 @@ void Harden() {
 
 void RunProgram() {
   Desktop desktop;
-  WindowsServices services(start::ApplicationTitle,
+  WindowsServices services(state::ApplicationTitle,
                            [&desktop](std::wstring_view title) { desktop.SetApplicationTitle(title); });
   start::Program program(desktop, services.All());
   desktop.OnError = [&program](const std::exception_ptr&) { program.Messages.ReportBug(L"Desktop"); };

@@ -95,7 +95,7 @@ TEST_CASE("where an item may come from, and which folder is kept for the next ru
   for (const auto& c : cases) {
     CAPTURE(&c - cases);
     AddBox adding;
-    start::Environment& environment = adding.Program.Environment;
+    state::Environment& environment = adding.Program.Environment;
     environment.RunMode = c.Media;
     environment.MachineUnknown = c.Unknown;
     environment.MachineRemembered = c.Remembered;
@@ -243,7 +243,7 @@ TEST_CASE("the computer is known again by its disk C:, and what can't be read is
   for (const auto& c : cases) {
     CAPTURE(&c - cases);
     test::TestProgram program;
-    start::Environment& environment = program.Program.Environment;
+    state::Environment& environment = program.Program.Environment;
     const service::Services services = program.Computer.Services();
     environment.Files.Machine = L"E:\\Machine.Orbel";
     program.Computer.Let("ReadDiskIdentity", c.Identity);

@@ -31,7 +31,7 @@ struct StoredList {
   }
 
   form::Headless Desktop;
-  start::Environment Environment;
+  state::Environment Environment;
   list::Settings Settings;
   list::ListFiles Files;
   message::MessageState MessageState;

@@ -41,7 +41,7 @@ void FuzzList(Bytes bytes) {
   const std::string content = choices.Rest();
   fake::Computer computer;
   StoredList first(computer, onMedium);
-  const start::DataFilePaths& files = first.Environment.Files;
+  const state::DataFilePaths& files = first.Environment.Files;
   for (const std::wstring& path : {files.ListFile, files.ListFold, files.ListProg, files.ListWeb, files.MachineProg})
     computer.Disk.AddFile(path, content);
   list::Settings& settings = first.Settings;

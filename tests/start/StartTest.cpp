@@ -28,7 +28,7 @@ TEST_CASE("folders have a root, and the Windows folder ends in one backslash") {
       {L"C:\\Windows", L"C:\\Windows\\"}, {L"D:\\", L"D:\\"}, {longest, longest + L"\\"}, {longest + L"w", L""}};
   for (const Texts& folder : folders) {
     computer.Windows = folder[0];
-    Environment environment;
+    state::Environment environment;
     GetWindowsFolder(computer, computer, environment);
     CHECK(environment.WindowsFolder == folder[1]);
     CHECK(environment.WindowsFolderUpper == computer.Upper(folder[1]));
@@ -63,7 +63,7 @@ TEST_CASE("the maker's programs are found beside this one and in the drive's roo
     for (const std::wstring& file : row.Files) program.Computer.Disk.AddFile(file);
     program.Program.frmMove.Load();
     Texts paths;
-    for (const Companion& companion : FindCompanions(program.Computer.Services(), program.Program.Environment)) {
+    for (const state::Companion& companion : FindCompanions(program.Computer.Services(), program.Program.Environment)) {
       paths.push_back(companion.Path);
       CHECK(companion.Path.ends_with(L'\\' + companion.Name + L".exe"));
     }

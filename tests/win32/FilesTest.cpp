@@ -4,9 +4,9 @@
 #include <algorithm>
 
 #include "TestFolder.h"
-#include "win32/DataFiles.h"
-#include "win32/FileSystem.h"
-#include "win32/Handle.h"
+#include "win32/base/Handle.h"
+#include "win32/service/DataFiles.h"
+#include "win32/service/FileSystem.h"
 
 using namespace vantor::win32;
 using Names = std::vector<std::wstring>;

@@ -3,9 +3,9 @@
 #include <cwchar>
 
 #include "TestFolder.h"
-#include "win32/FileSystem.h"
-#include "win32/Management.h"
-#include "win32/ScriptShell.h"
+#include "win32/service/FileSystem.h"
+#include "win32/service/Management.h"
+#include "win32/service/ScriptShell.h"
 
 using namespace vantor::win32;
 

@@ -9,10 +9,10 @@
 #include <vector>
 
 #include "product/Product.rc.h"
-#include "start/Environment.h"
-#include "win32/DataFiles.h"
-#include "win32/System.h"
-#include "win32/SystemLibrary.h"
+#include "state/Environment.h"
+#include "win32/base/SystemLibrary.h"
+#include "win32/service/DataFiles.h"
+#include "win32/service/System.h"
 
 namespace {
 
@@ -124,7 +124,7 @@ TEST_CASE("the version is one and the same, and the icon has every size that Win
     REQUIRE(VerQueryValueW(block.data(), key.c_str(), &text, &length) != FALSE);
     return std::wstring(static_cast<const wchar_t*>(text));
   };
-  CHECK(L"Version " + value(L"ProductVersion") == vantor::start::VersionText);
+  CHECK(L"Version " + value(L"ProductVersion") == vantor::state::VersionText);
   CHECK(value(L"FileVersion").starts_with(value(L"ProductVersion") + L"."));
 
   const std::string group = Image().Resource(1, RT_GROUP_ICON);

@@ -7,9 +7,9 @@
 #include "form/ListControl.h"
 #include "form/Static.h"
 #include "form/TextBox.h"
-#include "win32/ControlWindow.h"
-#include "win32/Screens.h"
-#include "win32/WindowsDesktop.h"
+#include "win32/draw/Screens.h"
+#include "win32/window/ControlWindow.h"
+#include "win32/window/WindowsDesktop.h"
 
 using namespace vantor;
 using win32::Screens;

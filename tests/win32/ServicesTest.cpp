@@ -5,18 +5,18 @@
 #include <memory>
 
 #include "TestFolder.h"
-#include "win32/Com.h"
-#include "win32/DropTarget.h"
-#include "win32/Handle.h"
-#include "win32/Language.h"
-#include "win32/Patience.h"
-#include "win32/Processes.h"
-#include "win32/RegistryValue.h"
-#include "win32/ScriptShell.h"
-#include "win32/ShortcutFile.h"
-#include "win32/SpecialFolders.h"
-#include "win32/WindowPicker.h"
-#include "win32/WindowsServices.h"
+#include "win32/base/Com.h"
+#include "win32/base/Handle.h"
+#include "win32/base/Patience.h"
+#include "win32/service/Language.h"
+#include "win32/service/Processes.h"
+#include "win32/service/RegistryValue.h"
+#include "win32/service/ScriptShell.h"
+#include "win32/service/ShortcutFile.h"
+#include "win32/service/SpecialFolders.h"
+#include "win32/service/WindowPicker.h"
+#include "win32/service/WindowsServices.h"
+#include "win32/window/DropTarget.h"
 
 using namespace vantor::win32;
 using vantor::service::WindowId;

@@ -1,12 +1,12 @@
 #include <doctest/doctest.h>
 
 #include "TestFolder.h"
-#include "win32/CommandLine.h"
-#include "win32/DataFiles.h"
-#include "win32/Handle.h"
-#include "win32/Programs.h"
-#include "win32/ScriptShell.h"
-#include "win32/WindowsServices.h"
+#include "win32/base/CommandLine.h"
+#include "win32/base/Handle.h"
+#include "win32/service/DataFiles.h"
+#include "win32/service/Programs.h"
+#include "win32/service/ScriptShell.h"
+#include "win32/service/WindowsServices.h"
 
 using namespace vantor::win32;
 

@@ -8,8 +8,8 @@
 #include "contract/Person.h"
 #include "desktop/Desktop.h"
 #include "form/Control.h"
-#include "win32/ControlWindow.h"
-#include "win32/WindowsDesktop.h"
+#include "win32/window/ControlWindow.h"
+#include "win32/window/WindowsDesktop.h"
 
 namespace vantor::contract {
 

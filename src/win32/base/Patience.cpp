@@ -1,0 +1,60 @@
+#include "win32/base/Patience.h"
+
+#include <windows.h>
+
+#include <memory>
+
+#include "win32/base/Handle.h"
+
+namespace vantor::win32 {
+
+namespace {
+
+constexpr DWORD Time = 5000;  // milliseconds
+
+/// What the two threads share. Whichever lets go last frees it.
+struct Task {
+  std::function<void()> Work;
+  KernelHandle Done;
+};
+
+DWORD WINAPI WorkAndTell(void* shared) {
+  const std::unique_ptr<std::shared_ptr<Task>> task(static_cast<std::shared_ptr<Task>*>(shared));
+  (*task)->Work();
+  SetEvent((*task)->Done.Get());
+  return 0;
+}
+
+/// False when the time was up first.
+bool WaitWhilePainting(HANDLE event, DWORD milliseconds) {
+  const DWORD begin = GetTickCount();
+  for (;;) {
+    const DWORD gone = GetTickCount() - begin;
+    if (gone >= milliseconds) return WaitForSingleObject(event, 0) == WAIT_OBJECT_0;
+    const DWORD woken =
+        MsgWaitForMultipleObjectsEx(1, &event, milliseconds - gone, QS_PAINT | QS_SENDMESSAGE, MWMO_INPUTAVAILABLE);
+    if (woken != WAIT_OBJECT_0 + 1) return woken == WAIT_OBJECT_0;
+    // One at a time, with a look at the clock between: a window may ask to be painted again and again. What other
+    // programs send is handled inside this call.
+    MSG message;
+    if (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE | PM_QS_PAINT | PM_QS_SENDMESSAGE)) DispatchMessageW(&message);
+  }
+}
+
+}  // namespace
+
+bool Patience::EndsInTime(std::function<void()> work) {
+  if (!left_.expired()) return false;
+  auto task = std::make_shared<Task>();
+  task->Work = std::move(work);
+  task->Done.Reset(CreateEventW(nullptr, TRUE, FALSE, nullptr));
+  auto theirs = std::make_unique<std::shared_ptr<Task>>(task);
+  const KernelHandle thread(CreateThread(nullptr, 0, WorkAndTell, theirs.get(), 0, nullptr));
+  if (!thread) return false;
+  (void)theirs.release();  // the thread's own now
+  if (WaitWhilePainting(task->Done.Get(), Time)) return true;
+  left_ = task;
+  return false;
+}
+
+}  // namespace vantor::win32

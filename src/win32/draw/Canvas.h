@@ -1,0 +1,75 @@
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <initializer_list>
+#include <string_view>
+#include <vector>
+
+#include "win32/base/Handle.h"
+
+namespace vantor::win32 {
+
+struct Point {
+  double X = 0;
+  double Y = 0;
+};
+
+/// A box in pixels, which may lie between them.
+struct Box {
+  double Left = 0;
+  double Top = 0;
+  double Width = 0;
+  double Height = 0;
+
+  [[nodiscard]] Box Inset(double by) const { return {Left + by, Top + by, Width - 2 * by, Height - 2 * by}; }
+  /// The point at a share (0 to 1) of the width and height.
+  [[nodiscard]] Point At(double x, double y) const { return {Left + x * Width, Top + y * Height}; }
+  /// The largest square in the middle.
+  [[nodiscard]] Box Square() const;
+};
+
+/// A picture in memory, drawn with smooth edges and then shown at once, so that nothing flickers.
+class Canvas {
+ public:
+  /// Size in pixels, at least 1 by 1. Throws std::bad_alloc when the system gives no memory for it.
+  Canvas(int width, int height);
+  ~Canvas();
+  Canvas(const Canvas&) = delete;
+  Canvas& operator=(const Canvas&) = delete;
+
+  /// For what the system draws into the picture.
+  [[nodiscard]] HDC Dc() const { return dc_.Get(); }
+  [[nodiscard]] int Width() const { return width_; }
+  [[nodiscard]] int Height() const { return height_; }
+  [[nodiscard]] Box Whole() const { return {0, 0, double(width_), double(height_)}; }
+
+  void Clear(COLORREF color);
+  /// Fills between two colours, from top to bottom.
+  void Shade(const Box& box, COLORREF top, COLORREF bottom);
+  void Polygon(const std::vector<Point>& points, COLORREF color);
+  void RoundedBox(const Box& box, double radius, COLORREF color);
+  /// A box with an edge of the given thickness inside it.
+  void EdgedBox(const Box& box, double radius, double thickness, COLORREF edge, COLORREF fill);
+  /// A line through the points, with round corners and ends.
+  void Line(std::initializer_list<Point> points, double thickness, COLORREF color);
+  void Disc(Point center, double radius, COLORREF color);
+  /// Text as DrawText does it; ampersands are plain characters.
+  void Text(std::wstring_view text, RECT area, HFONT font, COLORREF color, UINT format);
+
+  /// Copies the picture to (x, y).
+  void Show(HDC target, int x = 0, int y = 0) const;
+
+ private:
+  void Blend(int x, int y, double share, COLORREF color);
+
+  int width_;
+  int height_;
+  MemoryDcHandle dc_;
+  BitmapHandle bitmap_;
+  HGDIOBJ oldBitmap_ = nullptr;
+  std::uint32_t* pixels_ = nullptr;  // 0x00RRGGBB, top row first
+};
+
+}  // namespace vantor::win32

@@ -1,0 +1,106 @@
+#include "win32/draw/Theme.h"
+
+#include <utility>
+
+#include "win32/draw/Screens.h"
+
+namespace vantor::win32 {
+
+namespace {
+
+bool HighContrastIsOn() {
+  HIGHCONTRASTW settings{};
+  settings.cbSize = sizeof settings;
+  return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof settings, &settings, 0) != FALSE &&
+         (settings.dwFlags & HCF_HIGHCONTRASTON) != 0;
+}
+
+Palette BluePalette() {
+  Palette palette{};
+  palette.HighContrast = false;
+  palette.Normal = {RGB(243, 247, 255), RGB(150, 174, 236), RGB(28, 44, 96)};
+  palette.Hot = {RGB(224, 234, 255), RGB(104, 136, 220), RGB(20, 34, 86)};
+  palette.Pressed = {RGB(150, 176, 246), RGB(66, 96, 190), RGB(12, 24, 70)};
+  palette.Open = {RGB(180, 200, 255), RGB(66, 96, 190), RGB(12, 24, 70)};
+  palette.Disabled = {RGB(240, 241, 244), RGB(208, 212, 222), RGB(122, 127, 140)};
+  palette.Line = RGB(150, 174, 236);
+  palette.Focus = RGB(44, 84, 200);
+  palette.Accent = RGB(180, 200, 255);
+  palette.Deep = RGB(44, 72, 168);
+  palette.AccentFoot = RGB(158, 182, 248);
+  return palette;
+}
+
+Palette SystemPalette() {
+  Palette palette{};
+  const COLORREF face = GetSysColor(COLOR_BTNFACE);
+  const COLORREF text = GetSysColor(COLOR_BTNTEXT);
+  const COLORREF gray = GetSysColor(COLOR_GRAYTEXT);
+  const COLORREF highlight = GetSysColor(COLOR_HIGHLIGHT);
+  const COLORREF highlightText = GetSysColor(COLOR_HIGHLIGHTTEXT);
+  palette.HighContrast = true;
+  palette.Normal = {face, text, text};
+  palette.Hot = {face, highlight, text};
+  palette.Pressed = {highlight, text, highlightText};
+  palette.Open = {highlight, text, highlightText};
+  palette.Disabled = {face, gray, gray};
+  palette.Line = GetSysColor(COLOR_WINDOWTEXT);
+  palette.Focus = highlight;
+  palette.Accent = highlight;
+  palette.Deep = text;
+  palette.AccentFoot = highlight;
+  return palette;
+}
+
+constexpr bool IsSystemColor(form::Color color) { return (static_cast<std::uint32_t>(color) & 0x80000000U) != 0; }
+
+COLORREF Plain(form::Color color) {
+  const auto value = static_cast<std::uint32_t>(color);
+  return IsSystemColor(color) ? GetSysColor(static_cast<int>(value & 0xFFU)) : value & 0xFFFFFFU;
+}
+
+}  // namespace
+
+void Theme::Forget() {
+  known_ = false;
+  oldFonts_ = std::exchange(fonts_, {});
+}
+
+const Palette& Theme::Colors() {
+  if (!known_) {
+    palette_ = HighContrastIsOn() ? SystemPalette() : BluePalette();
+    known_ = true;
+  }
+  return palette_;
+}
+
+COLORREF Theme::Background(form::Color color) {
+  if (!Colors().HighContrast || IsSystemColor(color)) return Plain(color);
+  return GetSysColor(color == form::Color::Silver ? COLOR_BTNFACE : COLOR_WINDOW);
+}
+
+COLORREF Theme::Ink(form::Color color, bool enabled) {
+  if (!enabled) return Colors().HighContrast ? GetSysColor(COLOR_GRAYTEXT) : Colors().Disabled.Ink;
+  if (!Colors().HighContrast || IsSystemColor(color)) return Plain(color);
+  return GetSysColor(COLOR_WINDOWTEXT);
+}
+
+HBRUSH Theme::Brush(COLORREF color) {
+  for (const ColoredBrush& brush : brushes_) {
+    if (brush.Color == color) return brush.Brush.Get();
+  }
+  brushes_.push_back({color, BrushHandle(CreateSolidBrush(color))});
+  return brushes_.back().Brush.Get();
+}
+
+HFONT Theme::Font(int dpi, bool bold) {
+  for (const SizedFont& font : fonts_) {
+    if (font.Dpi == dpi && font.Bold == bold) return font.Font.Get();
+  }
+  LOGFONTW description = Screens::MessageFont(dpi);
+  if (bold) description.lfWeight = FW_BOLD;
+  fonts_.push_back({dpi, bold, FontHandle(CreateFontIndirectW(&description))});
+  return fonts_.back().Font.Get();
+}
+
+}  // namespace vantor::win32

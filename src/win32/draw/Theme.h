@@ -1,0 +1,66 @@
+#pragma once
+
+#include <windows.h>
+
+#include <vector>
+
+#include "form/Geometry.h"
+#include "win32/base/Handle.h"
+
+namespace vantor::win32 {
+
+/// The colours of what the program draws itself: one light blue line of thought, or the system's colours alone
+/// where the user has asked for high contrast.
+struct Palette {
+  struct Face {
+    COLORREF Fill;
+    COLORREF Edge;
+    COLORREF Ink;
+  };
+
+  bool HighContrast;
+  Face Normal;
+  Face Hot;
+  Face Pressed;
+  Face Open;
+  Face Disabled;
+  COLORREF Line;        // edges of frames and boxes
+  COLORREF Focus;       // the edge of what has the focus
+  COLORREF Accent;      // the product's light blue
+  COLORREF AccentFoot;  // what it deepens to at the foot of a large area
+  COLORREF Deep;        // its dark companion, in the product's mark
+};
+
+/// Colours, brushes and fonts as the user's settings have them, looked up when first needed.
+class Theme {
+ public:
+  /// Settings have changed: everything is looked up anew.
+  void Forget();
+
+  [[nodiscard]] const Palette& Colors();
+  /// A form's colours on the screen. With high contrast on, only the system's own come through.
+  [[nodiscard]] COLORREF Background(form::Color color);
+  [[nodiscard]] COLORREF Ink(form::Color color, bool enabled);
+  /// Lives as long as the theme.
+  [[nodiscard]] HBRUSH Brush(COLORREF color);
+  [[nodiscard]] HFONT Font(int dpi, bool bold);
+
+ private:
+  struct ColoredBrush {
+    COLORREF Color;
+    BrushHandle Brush;
+  };
+  struct SizedFont {
+    int Dpi;
+    bool Bold;
+    FontHandle Font;
+  };
+
+  bool known_ = false;
+  Palette palette_{};
+  std::vector<ColoredBrush> brushes_;
+  std::vector<SizedFont> fonts_;
+  std::vector<SizedFont> oldFonts_;  // windows may hold them until they are given new ones
+};
+
+}  // namespace vantor::win32

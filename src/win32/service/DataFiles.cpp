@@ -1,0 +1,136 @@
+#include "win32/service/DataFiles.h"
+
+#include <windows.h>
+
+#include "win32/base/Handle.h"
+#include "win32/base/LongPath.h"
+
+namespace vantor::win32 {
+
+namespace {
+
+// Far above any data file; whatever is larger is none of ours.
+constexpr LONGLONG LargestFile = 256LL * 1024 * 1024;
+
+bool WriteAll(HANDLE file, std::string_view bytes) {
+  DWORD written = 0;
+  return WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) && written == bytes.size();
+}
+
+/// The new file, with the attributes of the one that it is to replace.
+FileHandle MakeFile(const std::wstring& path, DWORD oldAttributes) {
+  const DWORD attributes = oldAttributes == INVALID_FILE_ATTRIBUTES
+                               ? FILE_ATTRIBUTE_NORMAL
+                               : oldAttributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
+  return FileHandle(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, attributes, nullptr));
+}
+
+/// Does what fails while somebody else holds a file, for which whoever looks through new files, such as a virus
+/// scanner, needs a moment. Returns the error code.
+template <class Attempt>
+DWORD Patiently(Attempt attempt) {
+  constexpr int Attempts = 10;
+  constexpr DWORD Pause = 20;  // milliseconds
+  for (int count = 1;; ++count) {
+    if (attempt()) return ERROR_SUCCESS;
+    const DWORD error = GetLastError();
+    const bool mayPass = error == ERROR_SHARING_VIOLATION || error == ERROR_ACCESS_DENIED;
+    if (!mayPass || count == Attempts) return error;
+    Sleep(Pause);
+  }
+}
+
+DWORD MoveOver(const std::wstring& from, const std::wstring& to) {
+  return Patiently([&] {
+    return MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
+  });
+}
+
+/// What a write is refused for at once: waiting would not help.
+bool IsRefused(DWORD attributes) {
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY));
+}
+
+/// For a folder whose files may be changed but not added to or taken away. The new bytes go over the old ones
+/// and the rest is cut off last, so that a full disk finds most of either.
+bool WriteOver(const std::wstring& path, std::string_view bytes) {
+  const FileHandle file(CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr));
+  return file && WriteAll(file.Get(), bytes) && SetEndOfFile(file.Get()) && FlushFileBuffers(file.Get());
+}
+
+}  // namespace
+
+std::optional<std::string> DataFiles::Read(std::wstring_view path) {
+  const std::wstring place = CallPath(path);
+  FileHandle file;
+  const DWORD error = Patiently([&] {
+    file = FileHandle(CreateFileW(place.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                  nullptr, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    return static_cast<bool>(file);
+  });
+  LARGE_INTEGER size = {};
+  if (error != ERROR_SUCCESS || !GetFileSizeEx(file.Get(), &size) || size.QuadPart > LargestFile) return std::nullopt;
+  std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
+  DWORD read = 0;
+  if (!ReadFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr)) return std::nullopt;
+  bytes.resize(read);
+  return bytes;
+}
+
+bool DataFiles::Write(std::wstring_view path, std::string_view bytes) {
+  if (bytes.size() > LargestFile) return false;
+  const std::wstring place = CallPath(path);
+  const DWORD attributes = GetFileAttributesW(place.c_str());
+  if (IsRefused(attributes)) return false;  // a replacement would not ask
+
+  const std::wstring beside = CallPath(std::wstring(path) + L"~");
+  FileHandle file = MakeFile(beside, attributes);
+  if (!file) return GetLastError() == ERROR_ACCESS_DENIED && WriteOver(place, bytes);
+  const bool written = WriteAll(file.Get(), bytes) && FlushFileBuffers(file.Get());
+  file.Reset();
+  const DWORD error = written ? MoveOver(beside, place) : ERROR_WRITE_FAULT;
+  if (error == ERROR_SUCCESS) return true;
+  const bool writtenInPlace = error == ERROR_ACCESS_DENIED && WriteOver(place, bytes);
+  DeleteFileW(beside.c_str());
+  return writtenInPlace;
+}
+
+bool DataFiles::WriteInPlace(std::wstring_view path, std::string_view bytes) {
+  if (bytes.size() > LargestFile) return false;
+  const std::wstring place = CallPath(path);
+  const DWORD attributes = GetFileAttributesW(place.c_str());
+  if (IsRefused(attributes)) return false;
+  FileHandle file;
+  const DWORD error = Patiently([&] {
+    file = MakeFile(place, attributes);
+    return static_cast<bool>(file);
+  });
+  return error == ERROR_SUCCESS && WriteAll(file.Get(), bytes) && FlushFileBuffers(file.Get());
+}
+
+bool DataFiles::Remove(std::wstring_view path) {
+  const std::wstring place = CallPath(path);
+  if (DeleteFileW(place.c_str())) return true;
+  const DWORD error = GetLastError();
+  return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
+}
+
+bool DataFiles::MakeFolder(std::wstring_view path) {
+  return CreateDirectoryW(CallPath(path).c_str(), nullptr) || IsFolder(path);
+}
+
+bool DataFiles::FolderIsEmpty(std::wstring_view path) {
+  WIN32_FIND_DATAW entry;
+  const FindHandle found(FindFirstFileExW(CallPath(std::wstring(path) + L"\\*").c_str(), FindExInfoBasic, &entry,
+                                          FindExSearchNameMatch, nullptr, 0));
+  // What is there but may not be looked into is not empty.
+  if (!found) return !IsFolder(path);
+  do {
+    const std::wstring_view name = entry.cFileName;
+    if (name != L"." && name != L"..") return false;
+  } while (FindNextFileW(found.Get(), &entry));
+  return true;
+}
+
+}  // namespace vantor::win32

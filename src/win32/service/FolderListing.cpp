@@ -1,0 +1,55 @@
+#include "win32/service/FolderListing.h"
+
+#include <windows.h>
+
+#include <shlwapi.h>
+
+#include <algorithm>
+
+#include "win32/base/Handle.h"
+#include "win32/base/LongPath.h"
+
+namespace vantor::win32 {
+
+namespace {
+
+bool Wanted(const WIN32_FIND_DATAW& entry, EntryKind kind, const std::wstring& pattern) {
+  // As Explorer does by default: what is marked as the system's alone, such as the folder of the fonts, is shown.
+  if ((entry.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) != 0) return false;
+  const bool folder = (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+  if (folder != (kind == EntryKind::Folders)) return false;
+  const std::wstring_view name = entry.cFileName;
+  if (folder && (name == L"." || name == L"..")) return false;
+  // The system's own search also takes names whose short form fits: "a.exe1" is A12345~1.EXE there.
+  return PathMatchSpecW(entry.cFileName, pattern.c_str()) != FALSE;
+}
+
+bool ComesBefore(const std::wstring& left, const std::wstring& right) {
+  const int order = CompareStringW(LOCALE_USER_DEFAULT, NORM_IGNORECASE | SORT_STRINGSORT, left.data(),
+                                   static_cast<int>(left.size()), right.data(), static_cast<int>(right.size()));
+  // Names that differ in letter case alone keep one order too.
+  return order == CSTR_EQUAL ? left < right : order == CSTR_LESS_THAN;
+}
+
+}  // namespace
+
+std::vector<std::wstring> ListFolder(std::wstring_view folder, EntryKind kind, std::wstring_view pattern) {
+  std::vector<std::wstring> names;
+  if (folder.empty()) return names;
+  std::wstring search(folder);
+  if (search.back() != L'\\' && search.back() != L'/') search += L'\\';
+  search += L'*';
+
+  WIN32_FIND_DATAW entry;
+  const FindHandle found(FindFirstFileExW(CallPath(search).c_str(), FindExInfoBasic, &entry, FindExSearchNameMatch,
+                                          nullptr, FIND_FIRST_EX_LARGE_FETCH));
+  if (!found) return names;
+  const std::wstring fits(pattern);
+  do {
+    if (Wanted(entry, kind, fits)) names.emplace_back(entry.cFileName);
+  } while (FindNextFileW(found.Get(), &entry));
+  std::sort(names.begin(), names.end(), ComesBefore);
+  return names;
+}
+
+}  // namespace vantor::win32

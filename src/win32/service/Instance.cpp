@@ -1,0 +1,93 @@
+#include "win32/service/Instance.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "win32/service/Language.h"
+
+namespace vantor::win32 {
+
+namespace {
+
+std::wstring UserName() {
+  wchar_t name[257] = L"";  // 256 is the longest user name there can be
+  DWORD length = 257;
+  if (!GetUserNameW(name, &length)) return {};
+  std::wstring plain(name);
+  std::replace(plain.begin(), plain.end(), L'\\', L'/');
+  return plain;
+}
+
+DWORD ProcessOf(HWND window) {
+  DWORD process = 0;
+  GetWindowThreadProcessId(window, &process);
+  return process;
+}
+
+bool IsShown(HWND window) {
+  RECT place = {};
+  return IsWindowVisible(window) && (IsIconic(window) || (GetWindowRect(window, &place) && !IsRectEmpty(&place)));
+}
+
+BOOL CALLBACK Collect(HWND window, LPARAM windows) {
+  reinterpret_cast<std::vector<HWND>*>(windows)->push_back(window);
+  return TRUE;
+}
+
+/// The shown window of the application window's process that stands closest before it in the order of windows,
+/// else the closest behind.
+HWND ShownWindowNear(HWND application) {
+  std::vector<HWND> windows;
+  EnumWindows(Collect, reinterpret_cast<LPARAM>(&windows));
+  const DWORD process = ProcessOf(application);
+  const auto ours = [process](HWND window) { return ProcessOf(window) == process && IsShown(window); };
+  const auto at = std::find(windows.begin(), windows.end(), application);
+  const auto before = std::find_if(std::make_reverse_iterator(at), windows.rend(), ours);
+  if (before != windows.rend()) return *before;
+  const auto behind = std::find_if(at, windows.end(), ours);
+  return behind == windows.end() ? nullptr : *behind;
+}
+
+HWND BarOf(HWND application) {
+  const HWND before = GetWindow(application, GW_HWNDPREV);
+  // An input method keeps windows of its own beside the application's.
+  if (before != nullptr && ProcessOf(before) == ProcessOf(application) && IsShown(before)) return before;
+  return ShownWindowNear(application);
+}
+
+}  // namespace
+
+Instance::~Instance() {
+  if (owned_) ReleaseMutex(mutex_.Get());
+}
+
+bool Instance::OtherRuns() {
+  if (owned_) return false;
+  if (!mutex_) {
+    const std::wstring name = L"Local\\" + name_ + L" " + UserName();
+    mutex_.Reset(CreateMutexW(nullptr, FALSE, name.c_str()));
+    // A copy with an administrator's rights lets others wait only.
+    if (!mutex_) mutex_.Reset(OpenMutexW(SYNCHRONIZE, FALSE, name.c_str()));
+    if (!mutex_) return false;
+  }
+  const DWORD waited = WaitForSingleObject(mutex_.Get(), 0);
+  owned_ = waited == WAIT_OBJECT_0 || waited == WAIT_ABANDONED;
+  return !owned_;
+}
+
+Activation ActivateBar(std::wstring_view title) {
+  const HWND application = FindWindowA("ThunderRT6Main", Language().ToCodePage(title).value_or("").c_str());
+  if (application == nullptr) return Activation::NoWindow;
+  const HWND bar = BarOf(application);
+  if (bar == nullptr) return Activation::NoBar;
+  AllowSetForegroundWindow(ProcessOf(application));
+  if (IsIconic(bar)) OpenIcon(bar);
+  // While a dialog is open the bar takes no input; the dialog is what the user has to see.
+  const HWND front = IsWindowEnabled(bar) ? bar : GetLastActivePopup(bar);
+  SetForegroundWindow(front);
+  // Wine leaves it behind other windows then.
+  SetWindowPos(front, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_ASYNCWINDOWPOS);
+  return Activation::Done;
+}
+
+}  // namespace vantor::win32

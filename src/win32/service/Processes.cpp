@@ -1,0 +1,109 @@
+#include "win32/service/Processes.h"
+
+#include <windows.h>
+
+// The records are wanted in their ANSI form, which this header has only by its unmarked names.
+#undef UNICODE
+#include <tlhelp32.h>
+
+#include <bit>
+#include <memory>
+#include <utility>
+
+#include "win32/base/Com.h"
+#include "win32/base/Handle.h"
+
+namespace vantor::win32 {
+
+namespace {
+
+HANDLE HandleOf(service::SnapshotId snapshot) {
+  return reinterpret_cast<HANDLE>(static_cast<std::uintptr_t>(snapshot));
+}
+
+/// Hands the record to one of the enumeration calls in the system's own type and back.
+template <class Call>
+bool Fill(Call call, service::SnapshotId snapshot, service::ProcessEntry& entry) {
+  static_assert(sizeof(PROCESSENTRY32) == service::ProcessEntrySize);
+  auto record = std::bit_cast<PROCESSENTRY32>(entry);
+  const bool filled = call(HandleOf(snapshot), &record) != FALSE;
+  if (filled) entry = std::bit_cast<service::ProcessEntry>(record);
+  return filled;
+}
+
+struct Question {
+  std::optional<std::vector<service::ManagedProcess>> Answer;
+};
+
+std::vector<service::ManagedProcess> AskService() {
+  ComPointer<IDispatch> services;
+  Check(CoGetObject(L"winmgmts:", nullptr, IID_IDispatch, services.PutVoid()));
+  const Variant className(L"Win32_Process");
+  const LateBound instances = LateBound(std::move(services)).Object(L"InstancesOf", {className});
+  const Variant all = instances.Get(L"_NewEnum");
+  if (all.vt != VT_UNKNOWN && all.vt != VT_DISPATCH) throw ComError(false);
+  ComPointer<IEnumVARIANT> walk;
+  Check(all.punkVal->QueryInterface(IID_IEnumVARIANT, walk.PutVoid()));
+
+  std::vector<service::ManagedProcess> processes;
+  for (;;) {
+    Variant next;
+    ULONG fetched = 0;
+    if (walk->Next(1, &next, &fetched) != S_OK || fetched == 0) return processes;
+    if (next.vt != VT_DISPATCH) continue;
+    const LateBound process(ComPointer<IDispatch>(std::exchange(next.pdispVal, nullptr)));
+    next.vt = VT_EMPTY;
+    const auto id = process.Get(L"ProcessId").Number();
+    if (id) processes.push_back({static_cast<std::uint32_t>(*id), process.Get(L"ExecutablePath").Text()});
+  }
+}
+
+void Ask(Question& question) noexcept {
+  try {
+    Apartment apartment(COINIT_MULTITHREADED);
+    apartment.Enter();
+    question.Answer = AskService();
+  } catch (...) {
+    question.Answer.reset();
+  }
+}
+
+}  // namespace
+
+service::SnapshotId Processes::CreateSnapshot(std::uint32_t flags, std::uint32_t processId) {
+  return service::SnapshotId{reinterpret_cast<std::uintptr_t>(CreateToolhelp32Snapshot(flags, processId))};
+}
+
+bool Processes::First(service::SnapshotId snapshot, service::ProcessEntry& entry) {
+  return Fill(Process32First, snapshot, entry);
+}
+
+bool Processes::Next(service::SnapshotId snapshot, service::ProcessEntry& entry) {
+  return Fill(Process32Next, snapshot, entry);
+}
+
+void Processes::CloseSnapshot(service::SnapshotId snapshot) { CloseHandle(HandleOf(snapshot)); }
+
+std::optional<std::vector<service::ManagedProcess>> Processes::ManagedProcesses() {
+  const auto question = std::make_shared<Question>();
+  if (!patience_.EndsInTime([question] { Ask(*question); })) return std::nullopt;
+  return std::move(question->Answer);
+}
+
+std::wstring Processes::ImageName(std::uint32_t processId) {
+  const KernelHandle process(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, processId));
+  if (!process) return {};
+  std::wstring path(MAX_PATH, L'\0');
+  for (;;) {
+    auto length = static_cast<DWORD>(path.size());
+    if (QueryFullProcessImageNameW(process.Get(), 0, path.data(), &length)) {
+      path.resize(length);
+      return path;
+    }
+    constexpr std::size_t LongestPath = 32768;
+    if (GetLastError() != ERROR_INSUFFICIENT_BUFFER || path.size() >= LongestPath) return {};
+    path.resize(LongestPath);
+  }
+}
+
+}  // namespace vantor::win32

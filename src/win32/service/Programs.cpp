@@ -1,0 +1,91 @@
+#include "win32/service/Programs.h"
+
+#include <windows.h>
+
+#include <shellapi.h>
+
+#include <string>
+
+#include "win32/base/CommandLine.h"
+#include "win32/base/Handle.h"
+#include "win32/base/LongPath.h"
+#include "win32/base/ShellFunction.h"
+#include "win32/base/SystemLibrary.h"
+
+namespace vantor::win32 {
+
+namespace {
+
+constexpr DWORD ElevationRequired = 740;           // ERROR_ELEVATION_REQUIRED, which not all headers have
+constexpr std::size_t LongestCommandLine = 32766;  // CreateProcess's own limit
+
+/// Whether the whole text is one file's name. A bare word is rather a program to be searched for, even where a
+/// file of that name lies in the current folder.
+bool NamesOneFile(std::wstring_view text) {
+  return text.find_first_of(L".\\/:") != std::wstring_view::npos && text.find(L'"') == std::wstring_view::npos &&
+         IsFile(text);
+}
+
+/// Starts `program` exactly, or the first word of the command line when that is null. Returns the error code.
+DWORD Start(const wchar_t* program, std::wstring commandLine) {
+  STARTUPINFOW startup = {};
+  startup.cb = sizeof startup;
+  startup.dwFlags = STARTF_USESHOWWINDOW;
+  startup.wShowWindow = SW_SHOWNORMAL;
+  PROCESS_INFORMATION started = {};
+  // Our own error mode, without Windows' boxes, is not for others.
+  if (!CreateProcessW(program, commandLine.data(), nullptr, nullptr, FALSE, CREATE_DEFAULT_ERROR_MODE, nullptr, nullptr,
+                      &startup, &started)) {
+    return GetLastError();
+  }
+  const KernelHandle process(started.hProcess);
+  const KernelHandle thread(started.hThread);
+  AllowSetForegroundWindow(started.dwProcessId);
+  return ERROR_SUCCESS;
+}
+
+std::string Ansi(std::wstring_view text) {
+  std::string bytes(text.size() * 3 + 1, '\0');
+  const int size = WideCharToMultiByte(CP_ACP, 0, text.data(), static_cast<int>(text.size()), bytes.data(),
+                                       static_cast<int>(bytes.size()), nullptr, nullptr);
+  bytes.resize(static_cast<std::size_t>(size));
+  return bytes;
+}
+
+}  // namespace
+
+bool Programs::StartCommandLine(std::wstring_view commandLine) {
+  if (commandLine.empty() || commandLine.size() > LongestCommandLine) return false;
+  const bool wholeFile = NamesOneFile(commandLine);
+  const std::wstring text(commandLine);
+  const DWORD error = wholeFile ? Start(CallPath(FullPath(text)).c_str(), L'"' + text + L'"') : Start(nullptr, text);
+  if (error != ElevationRequired) return error == ERROR_SUCCESS;
+  // Only the shell can give a program the administrator's rights.
+  apartment_.Enter();
+  if (wholeFile) return OpenByShell(FullPath(text), {});
+  const CommandLine parts = SplitCommandLine(text);
+  return OpenByShell(parts.Program, parts.Arguments);
+}
+
+int Programs::ShellOpen(std::wstring_view file) {
+  if (!FitsShell(file)) return ERROR_FILE_NOT_FOUND;
+  apartment_.Enter();
+  // What opens it may be running already and has to come to the front.
+  AllowSetForegroundWindow(ASFW_ANY);
+  const HINSTANCE result = ShellFunction<decltype(ShellExecuteW)>("ShellExecuteW")(
+      nullptr, L"open", std::wstring(file).c_str(), nullptr, nullptr, SW_SHOW);
+  return static_cast<int>(reinterpret_cast<INT_PTR>(result));
+}
+
+int Programs::RequestMakeCall(std::wstring_view number, std::wstring_view applicationName) {
+  constexpr LONG NoRequestRecipient = -2;  // TAPIERR_NOREQUESTRECIPIENT
+  using MakeCall = LONG(WINAPI*)(LPCSTR address, LPCSTR application, LPCSTR calledParty, LPCSTR comment);
+
+  const LibraryHandle telephony(LoadSystemLibrary(L"TAPI32.DLL"));
+  if (!telephony) return NoRequestRecipient;
+  const auto makeCall = FindFunction<MakeCall>(telephony.Get(), "tapiRequestMakeCall");
+  if (makeCall == nullptr) return NoRequestRecipient;
+  return makeCall(Ansi(number).c_str(), Ansi(applicationName).c_str(), "", "");
+}
+
+}  // namespace vantor::win32

@@ -1,0 +1,123 @@
+#include "win32/service/ScriptShell.h"
+
+#include <windows.h>
+
+#include "win32/base/CommandLine.h"
+#include "win32/base/LongPath.h"
+#include "win32/base/ShellFunction.h"
+#include "win32/service/Language.h"
+#include "win32/service/RegistryValue.h"
+#include "win32/service/ShortcutFile.h"
+#include "win32/service/SpecialFolders.h"
+
+namespace vantor::win32 {
+
+namespace {
+
+constexpr short NormalWindow = 1;
+
+/// The target as `Run` takes it, which cuts a command line at its blanks.
+std::wstring Quoted(std::wstring_view target) {
+  if (!IsFile(target) && !IsFolder(target)) return std::wstring(target);
+  // A backslash before the closing quote would make it part of the name. That of a drive's root has to stay.
+  if (target.size() > 3 && target.back() == L'\\') target.remove_suffix(1);
+  return L'"' + std::wstring(target) + L'"';
+}
+
+bool PlainRun(std::wstring_view target) {
+  if (IsFile(target) || IsFolder(target)) return OpenByShell(std::wstring(target), {});
+  const CommandLine parts = SplitCommandLine(target);
+  return OpenByShell(parts.Program, parts.Arguments);
+}
+
+/// Whether the scripting object, which thinks in the code page, keeps all of a shortcut's texts.
+bool FitsCodePage(const service::Shortcut& shortcut) {
+  const std::wstring all =
+      shortcut.File + shortcut.TargetPath + shortcut.IconLocation + shortcut.Description + shortcut.WorkingDirectory;
+  return Language().ToCodePage(all).has_value();
+}
+
+}  // namespace
+
+bool ScriptShell::Run(std::wstring_view target) {
+  if (!FitsShell(target)) return false;
+  // What opens it may be running already and has to come to the front.
+  AllowSetForegroundWindow(ASFW_ANY);
+  try {
+    const LateBound shell = Make();
+    const Variant result = shell.Call(L"Run", {Variant(Quoted(target)), Variant(NormalWindow)});
+    // Without waiting there is no exit code: anything but 0 is an error that was not raised as one.
+    return result.Number().value_or(0) == 0;
+  } catch (const ComError& error) {
+    // After a refusal a second way might start it a second time.
+    return error.Lacking() && PlainRun(target);
+  }
+}
+
+std::wstring ScriptShell::SpecialFolder(std::wstring_view name) {
+  try {
+    return Make().Object(L"SpecialFolders").Get(L"Item", {Variant(name)}).Text().value_or(L"");
+  } catch (const ComError& error) {
+    return error.Lacking() ? PlainSpecialFolder(name) : std::wstring();
+  }
+}
+
+std::wstring ScriptShell::RegistryRead(std::wstring_view name) {
+  try {
+    return Make().Call(L"RegRead", {Variant(name)}).Text().value_or(L"");
+  } catch (const ComError& error) {
+    return error.Lacking() ? PlainRegistryRead(name) : std::wstring();
+  }
+}
+
+void ScriptShell::RegistryWrite(std::wstring_view name, std::wstring_view value) {
+  try {
+    Make().Call(L"RegWrite", {Variant(name), Variant(value)});
+  } catch (const ComError& error) {
+    if (error.Lacking()) PlainRegistryWrite(name, value);
+  }
+}
+
+void ScriptShell::RegistryDelete(std::wstring_view name) {
+  try {
+    Make().Call(L"RegDelete", {Variant(name)});
+  } catch (const ComError& error) {
+    if (error.Lacking()) PlainRegistryDelete(name);
+  }
+}
+
+bool ScriptShell::SaveShortcut(const service::Shortcut& shortcut) {
+  apartment_.Enter();
+  try {
+    if (FitsCodePage(shortcut)) {
+      SaveByObject(shortcut);
+      return true;
+    }
+  } catch (const ComError&) {
+    // Written anew below: a shortcut saved twice is still one.
+  }
+  try {
+    WriteShortcutFile(shortcut);
+    return true;
+  } catch (const ComError&) {
+    return false;
+  }
+}
+
+LateBound ScriptShell::Make() {
+  apartment_.Enter();
+  return LateBound::Create(L"WScript.Shell");
+}
+
+void ScriptShell::SaveByObject(const service::Shortcut& shortcut) {
+  const LateBound link = Make().Object(L"CreateShortcut", {Variant(shortcut.File)});
+  link.Put(L"TargetPath", Variant(shortcut.TargetPath));
+  link.Put(L"WindowStyle", Variant(shortcut.WindowStyle));
+  link.Put(L"Hotkey", Variant(shortcut.Hotkey));
+  link.Put(L"IconLocation", Variant(shortcut.IconLocation));
+  link.Put(L"Description", Variant(shortcut.Description));
+  link.Put(L"WorkingDirectory", Variant(shortcut.WorkingDirectory));
+  link.Call(L"Save");
+}
+
+}  // namespace vantor::win32

@@ -1,0 +1,50 @@
+#include "win32/service/System.h"
+
+#include <windows.h>
+
+namespace vantor::win32 {
+
+std::wstring System::WindowsDirectory() {
+  constexpr UINT Size = 255;  // a longer name counts as none, as of a folder that can't be found
+  wchar_t folder[Size + 1] = L"";
+  const UINT length = GetWindowsDirectoryW(folder, Size);
+  return length < Size ? std::wstring(folder, length) : std::wstring();
+}
+
+std::wstring System::ProgramFolder() {
+  std::wstring file(MAX_PATH, L'\0');
+  for (;;) {
+    const DWORD length = GetModuleFileNameW(nullptr, file.data(), static_cast<DWORD>(file.size()));
+    if (length == 0) return {};
+    const bool fits = length < file.size();
+    if (fits) {
+      file.resize(length);
+      break;
+    }
+    file.resize(file.size() * 2);
+  }
+  // Started by such a path, the program is told so; everything else of it wants the usual form.
+  if (file.starts_with(L"\\\\?\\UNC\\"))
+    file.erase(2, 6);
+  else if (file.starts_with(L"\\\\?\\"))
+    file.erase(0, 4);
+  const std::size_t end = file.rfind(L'\\');
+  const bool root = end == 2 && file[1] == L':';
+  return file.substr(0, root ? end + 1 : end);
+}
+
+bool System::ActivateInstance(std::wstring_view title) {
+  constexpr DWORD Patience = 3000;  // milliseconds: the time that a cold start from a slow stick takes
+  constexpr DWORD Pause = 25;
+  const DWORD begin = GetTickCount();
+  for (;;) {
+    const Activation activation = ActivateBar(title);
+    if (activation == Activation::Done) return true;
+    const bool waited = GetTickCount() - begin >= Patience;
+    // It may be ending instead of starting; then this copy takes its place.
+    if (waited || !instance_.OtherRuns()) return activation == Activation::NoBar && waited;
+    Sleep(Pause);
+  }
+}
+
+}  // namespace vantor::win32

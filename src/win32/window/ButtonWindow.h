@@ -1,0 +1,43 @@
+#pragma once
+
+#include "form/Button.h"
+#include "win32/window/ControlWindow.h"
+
+namespace vantor::win32 {
+
+/// A push button. With pictures it draws itself, else it is the system's own.
+class ButtonWindow final : public ControlWindow {
+ public:
+  ButtonWindow(FormWindow& owner, form::CommandButton& button);
+
+  /// Whether a button of the form draws this control on its face, so that it needs no window of its own.
+  [[nodiscard]] static bool IsOnFace(const form::Control& control);
+
+  void OnCommand(WORD notification) override;
+  void OnDraw(const DRAWITEMSTRUCT& item) override;
+
+ protected:
+  LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+  void Show(form::Property property) override;
+
+ private:
+  /// Stands for the window of the label on the face.
+  class FaceLabel final : public form::ControlWindow {
+   public:
+    explicit FaceLabel(ButtonWindow& button) : button_(button) {}
+    void Changed(form::Property /*property*/) override { button_.Show(form::Property::Caption); }
+    void TakeFocus() override {}
+
+   private:
+    ButtonWindow& button_;
+  };
+
+  void SetHot(bool hot);
+  LRESULT OnMouseButton(form::MouseButton button, bool down, UINT message, WPARAM wParam, LPARAM lParam);
+
+  form::CommandButton& button_;
+  FaceLabel faceLabel_{*this};
+  bool hot_ = false;  // the mouse is over it
+};
+
+}  // namespace vantor::win32

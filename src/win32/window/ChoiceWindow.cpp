@@ -1,0 +1,97 @@
+#include "win32/window/ChoiceWindow.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace vantor::win32 {
+
+ChoiceWindow::ChoiceWindow(FormWindow& owner, form::ChoiceButton& button, DWORD style)
+    : ControlWindow(owner, button, {L"BUTTON", WS_TABSTOP | style, {}, true}), button_(button) {}
+
+void ChoiceWindow::Refresh() {
+  ControlWindow::Refresh();
+  Show(form::Property::Caption);
+  Show(form::Property::Value);
+}
+
+void ChoiceWindow::Show(form::Property property) {
+  if (property == form::Property::Caption) {
+    std::wstring text = button_.Caption();
+    // An ampersand would underline the letter behind it.
+    for (std::size_t at = text.find(L'&'); at != std::wstring::npos; at = text.find(L'&', at + 2))
+      text.insert(at, 1, L'&');
+    ShowWindowText(text);
+  } else if (property == form::Property::Value) {
+    SendMessageW(Hwnd(), BM_SETCHECK, button_.Value() ? BST_CHECKED : BST_UNCHECKED, 0);
+  }
+}
+
+void ChoiceWindow::OnCommand(WORD notification) {
+  if (notification == BN_CLICKED && !focusing_) button_.InputClick();
+}
+
+HBRUSH ChoiceWindow::OnColor(HDC dc) {
+  ControlWindow::OnColor(dc);
+  SetBkMode(dc, TRANSPARENT);
+  // What is behind the window may be a picture.
+  const SIZE size = ClientSize();
+  Canvas canvas(size.cx, size.cy);
+  DrawBackdrop(canvas);
+  HDC screen = GetDC(nullptr);
+  BitmapHandle copy(CreateCompatibleBitmap(screen, canvas.Width(), canvas.Height()));
+  ReleaseDC(nullptr, screen);
+  MemoryDcHandle memory(CreateCompatibleDC(nullptr));
+  const HGDIOBJ old = SelectObject(memory.Get(), copy.Get());
+  canvas.Show(memory.Get());
+  SelectObject(memory.Get(), old);
+  backdrop_.Reset(CreatePatternBrush(copy.Get()));
+  return backdrop_.Get();
+}
+
+LRESULT ChoiceWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_SETFOCUS: {
+      focusing_ = true;
+      const LRESULT result = ControlWindow::OnMessage(message, wParam, lParam);
+      focusing_ = false;
+      return result;
+    }
+    case WM_LBUTTONDBLCLK:
+      message = WM_LBUTTONDOWN;  // a second click like the first
+      break;
+    default:
+      break;
+  }
+  return ControlWindow::OnMessage(message, wParam, lParam);
+}
+
+LRESULT OptionWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_KEYDOWN) {
+    const bool backwards = wParam == VK_UP || wParam == VK_LEFT;
+    if (backwards || wParam == VK_DOWN || wParam == VK_RIGHT) {
+      ChooseNeighbour(backwards);
+      return 0;
+    }
+  }
+  return ChoiceWindow::OnMessage(message, wParam, lParam);
+}
+
+void OptionWindow::ChooseNeighbour(bool backwards) {
+  std::vector<form::OptionButton*> group;
+  for (form::Control* control : Owner().Form().Controls()) {
+    if (control->Kind() == form::ControlKind::OptionButton && control->Container() == button_.Container() &&
+        control->AcceptsInput()) {
+      group.push_back(static_cast<form::OptionButton*>(control));
+    }
+  }
+  const auto here = std::find(group.begin(), group.end(), &button_);
+  if (here == group.end()) return;
+  const std::size_t count = group.size();
+  const std::size_t next = (static_cast<std::size_t>(here - group.begin()) + (backwards ? count - 1 : 1)) % count;
+  form::OptionButton& button = *group[next];
+  button.SetFocus();
+  if (!Retired()) button.InputClick();
+}
+
+}  // namespace vantor::win32

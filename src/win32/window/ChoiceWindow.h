@@ -1,0 +1,48 @@
+#pragma once
+
+#include "form/Button.h"
+#include "win32/window/ControlWindow.h"
+
+namespace vantor::win32 {
+
+/// A check box or an option button: the system draws it, and only the control ticks it.
+class ChoiceWindow : public ControlWindow {
+ public:
+  void Refresh() override;
+  [[nodiscard]] std::wstring SpokenName() const override { return button_.Caption(); }
+  void OnCommand(WORD notification) override;
+  HBRUSH OnColor(HDC dc) override;
+
+ protected:
+  ChoiceWindow(FormWindow& owner, form::ChoiceButton& button, DWORD style);
+
+  LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+  void Show(form::Property property) override;
+
+ private:
+  form::ChoiceButton& button_;
+  bool focusing_ = false;  // a button that gets the focus may say that it was clicked
+  BrushHandle backdrop_;
+};
+
+class CheckWindow final : public ChoiceWindow {
+ public:
+  CheckWindow(FormWindow& owner, form::CheckBox& box) : ChoiceWindow(owner, box, BS_CHECKBOX) {}
+};
+
+class OptionWindow final : public ChoiceWindow {
+ public:
+  OptionWindow(FormWindow& owner, form::OptionButton& button)
+      : ChoiceWindow(owner, button, BS_RADIOBUTTON), button_(button) {}
+
+ protected:
+  LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  /// Chooses the option button of the same container that comes next, or before.
+  void ChooseNeighbour(bool backwards);
+
+  form::OptionButton& button_;
+};
+
+}  // namespace vantor::win32

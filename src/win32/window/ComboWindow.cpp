@@ -1,0 +1,295 @@
+#include "win32/window/ComboWindow.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "win32/draw/Lines.h"
+#include "win32/draw/Screens.h"
+
+namespace vantor::win32 {
+
+namespace {
+
+/// Lines that the dropped list shows at once, and that PageUp and PageDown go by.
+constexpr int ShownLines = 12;
+/// Of this many entries, those with most characters, the width is measured.
+constexpr std::size_t MeasuredEntries = 24;
+/// Keys that follow each other faster spell one beginning; milliseconds.
+constexpr DWORD SpellingTime = 1000;
+
+bool BeginsWith(const std::wstring& text, const std::wstring& beginning) {
+  if (text.size() < beginning.size()) return false;
+  const int count = static_cast<int>(beginning.size());
+  return CompareStringW(LOCALE_USER_DEFAULT, NORM_IGNORECASE, text.c_str(), count, beginning.c_str(), count) ==
+         CSTR_EQUAL;
+}
+
+}  // namespace
+
+ComboWindow::ComboWindow(FormWindow& owner, form::ListControl& list)
+    : ControlWindow(
+          owner, list,
+          {L"COMBOBOX", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_HASSTRINGS | CBS_OWNERDRAWFIXED, {}, true}),
+      list_(list) {
+  COMBOBOXINFO info{};
+  info.cbSize = sizeof info;
+  if (GetComboBoxInfo(Hwnd(), &info) == FALSE || info.hwndList == nullptr) return;
+  SetWindowLongPtrW(info.hwndList, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  listProcedure_ = reinterpret_cast<WNDPROC>(
+      SetWindowLongPtrW(info.hwndList, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ListProcedure)));
+}
+
+void ComboWindow::Place() {
+  // The height that the system is given is that of the dropped list; the window's own follows from its line's.
+  const form::Rect& bounds = Control().Bounds();
+  const int dpi = Owner().Dpi();
+  const int wanted = Screens::ToPixels(bounds.Height, dpi);
+  const int line = LineHeight(Hwnd(), Font(), Scale());
+  Default(CB_SETITEMHEIGHT, 0, line);
+  SetWindowPos(Hwnd(), nullptr, Screens::ToPixels(bounds.Left, dpi), Screens::ToPixels(bounds.Top, dpi),
+               Screens::ToPixels(bounds.Width, dpi), wanted + ShownLines * line + 2, SWP_NOZORDER | SWP_NOACTIVATE);
+  // What is set as the line's height may come out as a little more: then once again, by that much less.
+  int height = static_cast<int>(Default(CB_GETITEMHEIGHT, static_cast<WPARAM>(-1)));
+  for (int i = 0; i < 2; ++i) {
+    RECT shown;
+    GetWindowRect(Hwnd(), &shown);
+    const int missing = wanted - (shown.bottom - shown.top);
+    if (missing == 0 || height + missing <= 0) break;
+    height += missing;
+    Default(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), height);
+  }
+}
+
+void ComboWindow::Show(form::Property property) {
+  if (IsDropped()) {
+    if (property == form::Property::List) FitList();
+    Default(CB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()));
+  }
+  Redraw();
+  Announce(EVENT_OBJECT_VALUECHANGE);
+}
+
+std::wstring ComboWindow::TipText() const {
+  if (!list_.ToolTip().empty()) return list_.ToolTip();
+  const std::wstring text = list_.Text();
+  COMBOBOXINFO info{};
+  info.cbSize = sizeof info;
+  if (text.empty() || GetComboBoxInfo(Hwnd(), &info) == FALSE) return {};
+  const HDC dc = GetDC(Hwnd());
+  const HGDIOBJ oldFont = SelectObject(dc, Font());
+  SIZE size{};
+  GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
+  SelectObject(dc, oldFont);
+  ReleaseDC(Hwnd(), dc);
+  // Only what does not fit is told.
+  return size.cx > info.rcItem.right - info.rcItem.left - 2 * LineMargin(Scale()) ? text : std::wstring();
+}
+
+void ComboWindow::OnCommand(WORD notification) {
+  switch (notification) {
+    case CBN_DROPDOWN:
+      FitList();
+      FitWidth();
+      Default(CB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()));
+      break;
+    case CBN_SELCHANGE:
+      list_.InputSelect(static_cast<int>(Default(CB_GETCURSEL)));
+      break;
+    case CBN_CLOSEUP:
+      typed_.clear();  // what is typed next begins anew
+      Redraw();
+      break;
+    default:
+      break;
+  }
+}
+
+/// Gives the window's list as many entries as the control has. They are empty: what is drawn comes from the control.
+void ComboWindow::FitList() {
+  const int count = list_.ListCount();
+  COMBOBOXINFO info{};
+  info.cbSize = sizeof info;
+  if (count == shownCount_ || GetComboBoxInfo(Hwnd(), &info) == FALSE) return;
+  const HWND list = info.hwndList;
+  SendMessageW(list, WM_SETREDRAW, FALSE, 0);
+  if (count == 0) {
+    SendMessageW(list, LB_RESETCONTENT, 0, 0);
+  } else {
+    if (count > shownCount_) SendMessageW(list, LB_INITSTORAGE, static_cast<WPARAM>(count - shownCount_), 0);
+    for (int i = shownCount_; i < count; ++i) SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L""));
+    for (int i = shownCount_; i > count; --i) SendMessageW(list, LB_DELETESTRING, static_cast<WPARAM>(i - 1), 0);
+  }
+  shownCount_ = count;
+  SendMessageW(list, WM_SETREDRAW, TRUE, 0);
+}
+
+void ComboWindow::FitWidth() {
+  const auto& entries = list_.Entries();
+  std::vector<const std::wstring*> longest;
+  longest.reserve(entries.size());
+  for (const std::wstring& entry : entries) longest.push_back(&entry);
+  const std::size_t count = std::min(longest.size(), MeasuredEntries);
+  std::partial_sort(longest.begin(), longest.begin() + static_cast<std::ptrdiff_t>(count), longest.end(),
+                    [](const auto* a, const auto* b) { return a->size() > b->size(); });
+  longest.resize(count);
+  const HDC dc = GetDC(Hwnd());
+  const HGDIOBJ oldFont = SelectObject(dc, Font());
+  LONG width = 0;
+  for (const std::wstring* entry : longest) {
+    SIZE size{};
+    GetTextExtentPoint32W(dc, entry->c_str(), static_cast<int>(entry->size()), &size);
+    width = std::max(width, size.cx);
+  }
+  SelectObject(dc, oldFont);
+  ReleaseDC(Hwnd(), dc);
+  MONITORINFO screen{};
+  screen.cbSize = sizeof screen;
+  GetMonitorInfoW(MonitorFromWindow(Hwnd(), MONITOR_DEFAULTTONEAREST), &screen);
+  width += 2 * LineMargin(Scale()) + GetSystemMetrics(SM_CXVSCROLL) + 2 * GetSystemMetrics(SM_CXBORDER);
+  RECT window;
+  GetWindowRect(Hwnd(), &window);
+  width = std::min({width, (screen.rcWork.right - screen.rcWork.left) / 2, screen.rcWork.right - window.left});
+  Default(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(std::max(width, window.right - window.left)));
+}
+
+void ComboWindow::OnDraw(const DRAWITEMSTRUCT& item) {
+  const bool field = (item.itemState & ODS_COMBOBOXEDIT) != 0;
+  const int index = field ? list_.ListIndex() : static_cast<int>(item.itemID);
+  std::wstring_view text;
+  if (index >= 0 && index < list_.ListCount()) text = list_.List(index);
+  DRAWITEMSTRUCT drawn = item;
+  // The field shows that it has the focus, not that its entry is chosen.
+  if (field && (item.itemState & ODS_FOCUS) == 0) drawn.itemState &= ~static_cast<UINT>(ODS_SELECTED);
+  DrawLine(drawn, {text, 0, list_.Enabled(), list_.ForeColor()}, Ground(), Font(), Look(), Scale());
+}
+
+const std::wstring* ComboWindow::Asked(WPARAM index) const {
+  return index < list_.Entries().size() ? &list_.Entries()[index] : nullptr;
+}
+
+/// Answers, for screen readers and other programs, what the window's list does not know.
+bool ComboWindow::Answer(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) const {
+  switch (message) {
+    case CB_GETCOUNT:
+      result = list_.ListCount();
+      return true;
+    case CB_GETCURSEL:
+      result = list_.ListIndex();
+      return true;
+    case CB_GETLBTEXTLEN:
+    case CB_GETLBTEXT: {
+      const std::wstring* const text = Asked(wParam);
+      result = text != nullptr ? static_cast<LRESULT>(text->size()) : CB_ERR;
+      if (text != nullptr && message == CB_GETLBTEXT) {
+        std::copy_n(text->c_str(), text->size() + 1, reinterpret_cast<wchar_t*>(lParam));
+      }
+      return true;
+    }
+    case WM_GETTEXTLENGTH:
+      result = static_cast<LRESULT>(list_.Text().size());
+      return true;
+    case WM_GETTEXT: {
+      if (wParam == 0) return false;
+      const std::wstring text = list_.Text();
+      const std::size_t count = std::min<std::size_t>(text.size(), wParam - 1);
+      auto* const target = reinterpret_cast<wchar_t*>(lParam);
+      std::copy_n(text.c_str(), count, target);
+      target[count] = L'\0';
+      result = static_cast<LRESULT>(count);
+      return true;
+    }
+    default:
+      return false;
+  }
+}
+
+LRESULT CALLBACK ComboWindow::ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam) {
+  const auto& window = *reinterpret_cast<const ComboWindow*>(GetWindowLongPtrW(list, GWLP_USERDATA));
+  LRESULT result = 0;
+  const bool asksText = message == LB_GETTEXT || message == LB_GETTEXTLEN;
+  if (asksText && !window.Retired() &&
+      window.Answer(message == LB_GETTEXT ? CB_GETLBTEXT : CB_GETLBTEXTLEN, wParam, lParam, result)) {
+    return result;
+  }
+  return CallWindowProcW(window.listProcedure_, list, message, wParam, lParam);
+}
+
+void ComboWindow::Choose(int index) {
+  if (list_.ListCount() > 0) list_.InputSelect(std::clamp(index, 0, list_.ListCount() - 1));
+}
+
+/// The keys that choose an entry while the list is not dropped.
+bool ComboWindow::OnKey(WPARAM key) {
+  const int index = list_.ListIndex();
+  switch (key) {
+    case VK_UP:
+    case VK_LEFT:
+      Choose(index - 1);
+      return true;
+    case VK_DOWN:
+    case VK_RIGHT:
+      Choose(index + 1);
+      return true;
+    case VK_PRIOR:
+      Choose(index - ShownLines);
+      return true;
+    case VK_NEXT:
+      Choose(index + ShownLines);
+      return true;
+    case VK_HOME:
+      Choose(0);
+      return true;
+    case VK_END:
+      Choose(list_.ListCount() - 1);
+      return true;
+    default:
+      return false;
+  }
+}
+
+/// Chooses the next entry that begins with what is being typed.
+bool ComboWindow::OnCharacter(wchar_t character) {
+  if (character < L' ') return false;
+  const DWORD now = GetTickCount();
+  if (now - typedAt_ > SpellingTime) typed_.clear();
+  typedAt_ = now;
+  const bool again = typed_.size() == 1 && typed_[0] == character;  // the same key walks on
+  if (!again) typed_ += character;
+  const int count = list_.ListCount();
+  const int from = list_.ListIndex() + (typed_.size() == 1 ? 1 : 0);
+  for (int i = 0; i < count; ++i) {
+    const int index = (std::max(from, 0) + i) % count;
+    if (!BeginsWith(list_.List(index), typed_)) continue;
+    Choose(index);
+    if (!Retired() && IsDropped()) Default(CB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()));
+    break;
+  }
+  return true;
+}
+
+LRESULT ComboWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  LRESULT result = 0;
+  if (Answer(message, wParam, lParam, result)) return result;
+  switch (message) {
+    case WM_KEYDOWN:
+      if (wParam == VK_F4) return 0;  // it would drop the list, but belongs to the form; Alt and Down do so as well
+      if (!IsDropped() && OnKey(wParam)) return 0;
+      break;
+    case WM_CHAR:
+      if (OnCharacter(static_cast<wchar_t>(wParam))) return 0;
+      break;
+    case WM_MOUSEWHEEL:
+      if (IsDropped()) break;
+      Choose(list_.ListIndex() + (static_cast<short>(HIWORD(wParam)) > 0 ? -1 : 1));
+      return 0;
+    case WM_CTLCOLORLISTBOX:
+    case WM_CTLCOLOREDIT:
+      return reinterpret_cast<LRESULT>(OnColor(reinterpret_cast<HDC>(wParam)));
+    default:
+      break;
+  }
+  return OnMessageWithEdge(message, wParam, lParam, std::max(static_cast<int>(Scale()), 1));
+}
+
+}  // namespace vantor::win32

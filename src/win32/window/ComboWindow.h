@@ -1,0 +1,44 @@
+#pragma once
+
+#include "form/ListControl.h"
+#include "win32/window/ControlWindow.h"
+
+namespace vantor::win32 {
+
+/// A drop-down list. The entries stay with the control: the window's list only has their number, and not before
+/// it is first dropped, so that lists of many thousand entries cost nothing until then.
+class ComboWindow final : public ControlWindow {
+ public:
+  ComboWindow(FormWindow& owner, form::ListControl& list);
+
+  [[nodiscard]] std::wstring TipText() const override;
+  [[nodiscard]] bool KeepsKeys() const override { return IsDropped(); }
+  void OnCommand(WORD notification) override;
+  void OnDraw(const DRAWITEMSTRUCT& item) override;
+
+ protected:
+  LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+  void Show(form::Property property) override;
+  void Place() override;
+
+ private:
+  [[nodiscard]] bool IsDropped() const { return Default(CB_GETDROPPEDSTATE) != 0; }
+  /// The entry that a question about the window's list is about; null for none.
+  [[nodiscard]] const std::wstring* Asked(WPARAM index) const;
+  bool Answer(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) const;
+  /// Sees the messages of the window's list before it does.
+  static LRESULT CALLBACK ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam);
+  bool OnKey(WPARAM key);
+  bool OnCharacter(wchar_t character);
+  void Choose(int index);
+  void FitList();
+  void FitWidth();
+
+  form::ListControl& list_;
+  WNDPROC listProcedure_ = nullptr;
+  int shownCount_ = 0;  // entries of the window's list
+  std::wstring typed_;  // the beginning of the entry that is looked for by keys
+  DWORD typedAt_ = 0;
+};
+
+}  // namespace vantor::win32

@@ -1,0 +1,278 @@
+#include "win32/window/ControlWindow.h"
+
+#include <optional>
+
+#include "form/Static.h"
+#include "win32/draw/Pictures.h"
+#include "win32/draw/Screens.h"
+#include "win32/window/Accessible.h"
+#include "win32/window/ButtonWindow.h"
+#include "win32/window/ChoiceWindow.h"
+#include "win32/window/ComboWindow.h"
+#include "win32/window/CommonControls.h"
+#include "win32/window/EditWindow.h"
+#include "win32/window/ListWindow.h"
+#include "win32/window/StaticWindow.h"
+#include "win32/window/WindowsDesktop.h"
+
+namespace vantor::win32 {
+
+namespace {
+
+HWND ParentOf(const FormWindow& owner, const form::Control& control) {
+  const ControlWindow* const container = ControlWindow::Of(control.Container());
+  return container != nullptr ? container->Hwnd() : owner.Hwnd();
+}
+
+}  // namespace
+
+std::unique_ptr<ControlWindow> ControlWindow::Make(FormWindow& owner, form::Control& control) {
+  const auto make = [&]() -> std::unique_ptr<ControlWindow> {
+    switch (control.Kind()) {
+      case form::ControlKind::TextBox:
+        return std::make_unique<EditWindow>(owner, static_cast<form::TextBox&>(control));
+      case form::ControlKind::CommandButton:
+        return std::make_unique<ButtonWindow>(owner, static_cast<form::CommandButton&>(control));
+      case form::ControlKind::CheckBox:
+        return std::make_unique<CheckWindow>(owner, static_cast<form::CheckBox&>(control));
+      case form::ControlKind::OptionButton:
+        return std::make_unique<OptionWindow>(owner, static_cast<form::OptionButton&>(control));
+      case form::ControlKind::ComboBox:
+      case form::ControlKind::DriveList:
+        return std::make_unique<ComboWindow>(owner, static_cast<form::ListControl&>(control));
+      case form::ControlKind::ListBox:
+      case form::ControlKind::FolderList:
+      case form::ControlKind::FileList:
+        return std::make_unique<ListWindow>(owner, static_cast<form::ListControl&>(control));
+      case form::ControlKind::Frame:
+        return std::make_unique<FrameWindow>(owner, static_cast<form::Frame&>(control));
+      default:
+        return std::make_unique<StaticWindow>(owner, control);
+    }
+  };
+  auto window = make();
+  control.AttachWindow(window.get());
+  window->Refresh();
+  return window;
+}
+
+ControlWindow::ControlWindow(FormWindow& owner, form::Control& control, const Kind& kind)
+    : owner_(owner), control_(control), placed_(PlaceInPixels()), shownText_(kind.Text) {
+  const DWORD state = WS_VISIBLE | (control_.Enabled() ? 0 : WS_DISABLED);
+  std::optional<CommonControls> version6;
+  if (kind.Themed) version6.emplace();
+  handle_ = CreateWindowExW(0, kind.ClassName, kind.Text.c_str(), WS_CHILD | WS_CLIPSIBLINGS | state | kind.Style,
+                            placed_.left, placed_.top, placed_.right, placed_.bottom, ParentOf(owner, control), nullptr,
+                            GetModuleHandleW(nullptr), nullptr);
+  SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  classProcedure_ =
+      reinterpret_cast<WNDPROC>(SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure)));
+}
+
+const ControlWindow* ControlWindow::Of(const form::Control* control) {
+  const bool has = control != nullptr && control->Window() != nullptr && control->Window()->Handle() != 0;
+  return has ? static_cast<const ControlWindow*>(control->Window()) : nullptr;
+}
+
+ControlWindow* ControlWindow::From(HWND handle) {
+  if (handle == nullptr) return nullptr;
+  // Mostly nobody has put another procedure before this one, and the answer is at hand.
+  if (reinterpret_cast<WNDPROC>(GetWindowLongPtrW(handle, GWLP_WNDPROC)) == Procedure) {
+    return reinterpret_cast<ControlWindow*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
+  }
+  const FormWindow* const form = FormWindow::From(GetAncestor(handle, GA_ROOT));
+  return form != nullptr ? form->Find(handle) : nullptr;
+}
+
+form::Picture ControlWindow::ShownPicture() const {
+  switch (control_.Kind()) {
+    case form::ControlKind::Image:
+      return static_cast<const form::Image&>(control_).Picture();
+    case form::ControlKind::PictureBox:
+      return static_cast<const form::PictureBox&>(control_).Picture();
+    default:
+      return form::Picture::None;
+  }
+}
+
+LRESULT CALLBACK ControlWindow::Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
+  auto& window = *reinterpret_cast<ControlWindow*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
+  if (message == WM_NCDESTROY) {
+    window.handle_ = nullptr;
+    return CallWindowProcW(window.classProcedure_, handle, message, wParam, lParam);
+  }
+  if (window.Retired()) return window.Default(message, wParam, lParam);
+  const FormWindow::Handling handling(window.owner_);
+  LRESULT result = 0;
+  window.owner_.Desktop().Guard([&] { result = window.OnMessage(message, wParam, lParam); });
+  return result;
+}
+
+LRESULT ControlWindow::Default(UINT message, WPARAM wParam, LPARAM lParam) const {
+  return CallWindowProcW(classProcedure_, handle_, message, wParam, lParam);
+}
+
+LRESULT ControlWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  LRESULT result = 0;
+  if (FormWindow::Reflect(message, wParam, lParam, result)) return result;
+  switch (message) {
+    case WM_SETFOCUS:
+      result = Default(message, wParam, lParam);
+      if (!Retired()) owner_.Form().InputFocus(&control_);
+      return result;
+    case WM_GETOBJECT:
+      if (const auto answer = AnswerReader(handle_, owner_.Desktop().Com(), wParam, lParam)) return *answer;
+      break;
+    default:
+      break;
+  }
+  return Default(message, wParam, lParam);
+}
+
+void ControlWindow::Changed(form::Property property) {
+  switch (property) {
+    case form::Property::Bounds:
+      Place();
+      break;
+    case form::Property::Visible:
+      if (!control_.Visible()) LeaveFocus();
+      ShowWindow(handle_, control_.Visible() ? SW_SHOWNA : SW_HIDE);
+      break;
+    case form::Property::Enabled:
+      EnableWindow(handle_, control_.Enabled());
+      if (!control_.Enabled()) LeaveFocus();
+      Redraw();
+      break;
+    case form::Property::Colors:
+      RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+      break;
+    default:
+      Show(property);
+      break;
+  }
+}
+
+/// The keyboard must not stay with a window that can't take it.
+void ControlWindow::LeaveFocus() const {
+  const HWND focus = GetFocus();
+  if (focus == handle_ || IsChild(handle_, focus) != FALSE) ::SetFocus(owner_.Hwnd());
+}
+
+void ControlWindow::TakeFocus() {
+  if (IsWindowVisible(handle_) != FALSE && GetFocus() != handle_) ::SetFocus(handle_);
+}
+
+void ControlWindow::Refresh() {
+  SendMessageW(handle_, WM_SETFONT, reinterpret_cast<WPARAM>(Font()), FALSE);
+  Place();
+}
+
+RECT ControlWindow::PlaceInPixels() const {
+  const form::Rect& bounds = control_.Bounds();
+  const int dpi = owner_.Dpi();
+  return {Screens::ToPixels(bounds.Left, dpi), Screens::ToPixels(bounds.Top, dpi), Screens::ToPixels(bounds.Width, dpi),
+          Screens::ToPixels(bounds.Height, dpi)};
+}
+
+void ControlWindow::Place() {
+  const RECT place = PlaceInPixels();
+  if (EqualRect(&place, &placed_) != FALSE) return;
+  placed_ = place;
+  SetWindowPos(handle_, nullptr, place.left, place.top, place.right, place.bottom, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+HBRUSH ControlWindow::OnColor(HDC dc) {
+  SetTextColor(dc, Look().Ink(control_.ForeColor(), control_.Enabled()));
+  const COLORREF ground = Ground();
+  SetBkColor(dc, ground);
+  return Look().Brush(ground);
+}
+
+Theme& ControlWindow::Look() const { return owner_.Desktop().Look(); }
+
+SIZE ControlWindow::ClientSize() const {
+  RECT area;
+  GetClientRect(handle_, &area);
+  return {area.right, area.bottom};
+}
+
+HFONT ControlWindow::Font(bool bold) const { return Look().Font(owner_.Dpi(), bold); }
+
+void ControlWindow::ShowWindowText(const std::wstring& text) {
+  if (text == shownText_) return;
+  shownText_ = text;
+  SetWindowTextW(handle_, text.c_str());
+}
+
+void ControlWindow::Announce(DWORD event) const { NotifyWinEvent(event, handle_, OBJID_CLIENT, CHILDID_SELF); }
+
+void ControlWindow::Redraw() const { InvalidateRect(handle_, nullptr, TRUE); }
+
+void ControlWindow::PaintWindow() {
+  PAINTSTRUCT paint;
+  const HDC dc = BeginPaint(handle_, &paint);
+  const SIZE size = ClientSize();
+  if (size.cx > 0 && size.cy > 0) {
+    Canvas canvas(size.cx, size.cy);
+    Paint(canvas);
+    canvas.Show(dc);
+  }
+  EndPaint(handle_, &paint);
+}
+
+COLORREF ControlWindow::Ground() const {
+  for (const form::Control* control = &control_; control != nullptr; control = control->Container()) {
+    // A face that nobody chose takes on what it stands on.
+    if (control->BackColor() != form::Color::ButtonFace) return Look().Background(control->BackColor());
+  }
+  return Look().Background(owner_.Form().BackColor());
+}
+
+COLORREF ControlWindow::EdgeColor() const {
+  const Palette& colors = Look().Colors();
+  if (!control_.Enabled()) return colors.Disabled.Edge;
+  return GetFocus() == handle_ ? colors.Focus : colors.Line;
+}
+
+LRESULT ControlWindow::OnMessageWithEdge(UINT message, WPARAM wParam, LPARAM lParam, int thickness) {
+  const LRESULT result = ControlWindow::OnMessage(message, wParam, lParam);
+  const bool drawn = message == WM_PAINT || message == WM_NCPAINT || message == WM_ENABLE || message == WM_SETFOCUS ||
+                     message == WM_KILLFOCUS;
+  if (!drawn || Retired()) return result;
+  RECT edge;
+  GetWindowRect(handle_, &edge);
+  OffsetRect(&edge, -edge.left, -edge.top);
+  const HDC dc = GetWindowDC(handle_);
+  const HBRUSH brush = Look().Brush(EdgeColor());
+  for (; thickness > 0; --thickness) {
+    FrameRect(dc, &edge, brush);
+    InflateRect(&edge, -1, -1);
+  }
+  ReleaseDC(handle_, dc);
+  return result;
+}
+
+void ControlWindow::DrawBackdrop(Canvas& canvas) const {
+  const form::Control* const container = control_.Container();
+  COLORREF ground = Look().Background(owner_.Form().BackColor());
+  if (const ControlWindow* window = Of(container)) ground = window->Ground();
+  canvas.Clear(ground);
+  RECT here;
+  GetWindowRect(handle_, &here);
+  for (const form::Control* other : owner_.Form().Controls()) {
+    if (other == &control_) break;  // those after it stand before it
+    const bool below = other == container || (other->Container() == container && other->Visible());
+    const ControlWindow* const window = Of(other);
+    if (!below || window == nullptr) continue;
+    const form::Picture picture = window->ShownPicture();
+    if (picture == form::Picture::None) continue;
+    RECT there;
+    GetWindowRect(window->Hwnd(), &there);
+    DrawPicture(canvas, picture,
+                {double(there.left - here.left), double(there.top - here.top), double(there.right - there.left),
+                 double(there.bottom - there.top)},
+                Look().Colors(), Scale());
+  }
+}
+
+}  // namespace vantor::win32

@@ -1,0 +1,208 @@
+#include "win32/window/EditWindow.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <utility>
+
+namespace vantor::win32 {
+
+namespace {
+
+constexpr WPARAM LongestText = 0x7FFFFFFE;
+constexpr WPARAM CharSelectAll = 1;       // Ctrl and A
+constexpr WPARAM CharControlBack = 0x7F;  // Ctrl and Backspace, which the edit would show as a box
+
+struct Selection {
+  DWORD Start = 0;
+  DWORD End = 0;
+};
+
+/// Whether a message may change what is selected.
+bool MaySelect(UINT message) {
+  return (message >= WM_KEYFIRST && message <= WM_KEYLAST) || (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) ||
+         message == EM_SETSEL || message == WM_SETFOCUS || message == WM_UNDO || message == EM_UNDO ||
+         (message >= WM_CUT && message <= WM_CLEAR) || message == WM_COMMAND || message == WM_CONTEXTMENU;
+}
+
+}  // namespace
+
+EditWindow::EditWindow(FormWindow& owner, form::TextBox& box)
+    : ControlWindow(owner, box, {L"EDIT", WS_TABSTOP | ES_AUTOHSCROLL, box.Text()}), box_(box) {
+  SendMessageW(Hwnd(), EM_SETLIMITTEXT, LongestText, 0);
+  SendMessageW(Hwnd(), EM_SETREADONLY, box_.Locked() ? TRUE : FALSE, 0);
+}
+
+void EditWindow::Refresh() {
+  ControlWindow::Refresh();
+  // The room around the text follows the font.
+  SetWindowPos(Hwnd(), nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+  SendMessageW(Hwnd(), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
+  if (ShownText() != box_.Text()) ShowText();
+  ShowSelection();
+}
+
+void EditWindow::Show(form::Property property) {
+  if (property == form::Property::Text) ShowText();
+  if (property == form::Property::Selection) ShowSelection();
+}
+
+void EditWindow::ShowText() {
+  showing_ = true;
+  edited_ = false;
+  SetWindowTextW(Hwnd(), box_.Text().c_str());
+  showing_ = false;
+}
+
+void EditWindow::ShowSelection() {
+  showing_ = true;
+  SendMessageW(Hwnd(), EM_SETSEL, static_cast<WPARAM>(box_.SelStart()), box_.SelStart() + box_.SelLength());
+  SendMessageW(Hwnd(), EM_SCROLLCARET, 0, 0);
+  showing_ = false;
+  Announce(EVENT_OBJECT_TEXTSELECTIONCHANGED);  // a completion, say
+}
+
+void EditWindow::OnCommand(WORD notification) {
+  // Told in the middle of the edit's work, and perhaps more than once: the control hears of it afterwards.
+  if (notification == EN_CHANGE && !showing_) edited_ = true;
+}
+
+LRESULT EditWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  ++depth_;
+  LRESULT result = 0;
+  try {
+    result = Process(message, wParam, lParam);
+  } catch (...) {
+    --depth_;
+    throw;
+  }
+  --depth_;
+  if (depth_ > 0 || showing_ || Retired()) return result;
+  if (edited_ || MaySelect(message)) Report();
+  if (std::exchange(composed_, false) && !Retired()) box_.InputComposing(false);
+  return result;
+}
+
+/// Tells the control what the user left in the window. Whatever the control's handlers then do is shown by them.
+void EditWindow::Report() {
+  const bool edited = std::exchange(edited_, false);
+  Selection selection;
+  Default(EM_GETSEL, reinterpret_cast<WPARAM>(&selection.Start), reinterpret_cast<LPARAM>(&selection.End));
+  const int start = static_cast<int>(selection.Start);
+  const int length = static_cast<int>(selection.End - selection.Start);
+  if (!edited) {
+    if (start != box_.SelStart() || length != box_.SelLength()) box_.InputSelection(start, length);
+    return;
+  }
+  box_.InputEdited(ShownText(), start, length);
+  if (Retired() || box_.Text() == ShownText()) return;
+  // The control would not have it.
+  ShowText();
+  ShowSelection();
+}
+
+std::wstring EditWindow::ShownText() const {
+  std::wstring text(static_cast<std::size_t>(Default(WM_GETTEXTLENGTH)), L'\0');
+  Default(WM_GETTEXT, text.size() + 1, reinterpret_cast<LPARAM>(text.data()));
+  return text;
+}
+
+LRESULT EditWindow::Process(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_CHAR:
+      return OnCharacter(wParam, lParam);
+    case WM_LBUTTONDBLCLK: {
+      const LRESULT result = Default(message, wParam, lParam);
+      box_.InputDblClick();
+      return result;
+    }
+    case WM_IME_STARTCOMPOSITION:
+      composed_ = false;
+      box_.InputComposing(true);
+      break;
+    case WM_IME_ENDCOMPOSITION:
+      composed_ = true;  // told after the text that it leaves
+      break;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS: {
+      const LRESULT result = ControlWindow::OnMessage(message, wParam, lParam);
+      if (!Retired()) PaintEdge();
+      return result;
+    }
+    case WM_NCCALCSIZE:
+      // In both forms of the message the window's rectangle comes first, and is replaced by its inside.
+      LayOut(*reinterpret_cast<RECT*>(lParam));
+      return 0;
+    case WM_NCPAINT:
+      PaintEdge();
+      return 0;
+    case WM_NCHITTEST: {
+      // The room around the text belongs to it.
+      const LRESULT hit = Default(message, wParam, lParam);
+      return hit == HTTRANSPARENT || hit == HTERROR ? hit : HTCLIENT;
+    }
+    case WM_ENABLE: {
+      const LRESULT result = Default(message, wParam, lParam);
+      PaintEdge();
+      return result;
+    }
+    default:
+      break;
+  }
+  return ControlWindow::OnMessage(message, wParam, lParam);
+}
+
+LRESULT EditWindow::OnCharacter(WPARAM character, LPARAM lParam) {
+  const wchar_t typed = box_.InputKeyPress(static_cast<wchar_t>(character));
+  if (Retired()) return 0;
+  switch (typed) {
+    case 0:
+    case L'\t':
+    case L'\n':
+    case form::CharEnter:
+    case form::CharEscape:
+    case CharControlBack:
+      return 0;  // the edit would only beep
+    case CharSelectAll:
+      return SendMessageW(Hwnd(), EM_SETSEL, 0, -1);
+    default:
+      return Default(WM_CHAR, typed, lParam);
+  }
+}
+
+/// Leaves room for the edge, and puts the one line of text in the middle of the height.
+void EditWindow::LayOut(RECT& inside) const {
+  const HDC dc = GetDC(Hwnd());
+  const HGDIOBJ oldFont = SelectObject(dc, Font());
+  TEXTMETRICW metrics{};
+  GetTextMetricsW(dc, &metrics);
+  SelectObject(dc, oldFont);
+  ReleaseDC(Hwnd(), dc);
+  const auto scaled = [&](int pixels) { return std::lround(pixels * Scale()); };
+  const LONG height = inside.bottom - inside.top;
+  const LONG line = std::min<LONG>(metrics.tmHeight, std::max<LONG>(height - scaled(2), 0));
+  const LONG side = std::min(scaled(5), (inside.right - inside.left) / 2);
+  InflateRect(&inside, -side, 0);
+  inside.top += (height - line) / 2;
+  inside.bottom = inside.top + line;
+}
+
+void EditWindow::PaintEdge() {
+  RECT whole;
+  GetWindowRect(Hwnd(), &whole);
+  RECT inside;
+  GetClientRect(Hwnd(), &inside);
+  MapWindowPoints(Hwnd(), nullptr, reinterpret_cast<POINT*>(&inside), 2);
+  OffsetRect(&inside, -whole.left, -whole.top);
+  OffsetRect(&whole, -whole.left, -whole.top);
+  const HDC dc = GetWindowDC(Hwnd());
+  ExcludeClipRect(dc, inside.left, inside.top, inside.right, inside.bottom);
+  Theme& look = Look();
+  FillRect(dc, &whole, look.Brush(EdgeColor()));
+  const int thickness = std::max(static_cast<int>(Scale()), 1);
+  InflateRect(&whole, -thickness, -thickness);
+  FillRect(dc, &whole, look.Brush(Ground()));
+  ReleaseDC(Hwnd(), dc);
+}
+
+}  // namespace vantor::win32

@@ -1,0 +1,99 @@
+#include "win32/window/ListWindow.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+#include "form/FileLists.h"
+#include "win32/draw/Lines.h"
+
+namespace vantor::win32 {
+
+namespace {
+
+/// How far a folder stands in from the one that holds it, in pixels at 96 dots per inch.
+constexpr int Indentation = 10;
+
+/// A folder's indentation in pixels. In a deep folder the steps are smaller, so that half of the width is left.
+int IndentOf(const form::FolderList& folders, int index, LONG width, double scale) {
+  const int deepest = folders.LevelOf(folders.ListCount() - 1);
+  const double step = std::min(Indentation * scale, width / 2.0 / std::max(deepest, 1));
+  return static_cast<int>(std::lround(folders.LevelOf(index) * step));
+}
+
+}  // namespace
+
+ListWindow::ListWindow(FormWindow& owner, form::ListControl& list)
+    : ControlWindow(owner, list,
+                    {L"LISTBOX",
+                     WS_TABSTOP | WS_VSCROLL | WS_BORDER | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_HASSTRINGS |
+                         LBS_OWNERDRAWFIXED,
+                     {},
+                     true}),
+      list_(list) {}
+
+void ListWindow::Refresh() {
+  ControlWindow::Refresh();
+  SendMessageW(Hwnd(), LB_SETITEMHEIGHT, 0, LineHeight(Hwnd(), Font(), Scale()));
+  Fill();
+}
+
+void ListWindow::Show(form::Property property) {
+  if (property == form::Property::List) Fill();
+  if (property == form::Property::ListIndex) ShowIndex();
+}
+
+void ListWindow::Fill() {
+  SendMessageW(Hwnd(), WM_SETREDRAW, FALSE, 0);
+  SendMessageW(Hwnd(), LB_RESETCONTENT, 0, 0);
+  const auto& entries = list_.Entries();
+  std::size_t bytes = 0;
+  for (const std::wstring& entry : entries) bytes += (entry.size() + 1) * sizeof(wchar_t);
+  SendMessageW(Hwnd(), LB_INITSTORAGE, entries.size(), static_cast<LPARAM>(bytes));
+  for (const std::wstring& entry : entries) {
+    SendMessageW(Hwnd(), LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry.c_str()));
+  }
+  ShowIndex();
+  SendMessageW(Hwnd(), WM_SETREDRAW, TRUE, 0);
+  RedrawWindow(Hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
+}
+
+void ListWindow::ShowIndex() {
+  if (SendMessageW(Hwnd(), LB_GETCURSEL, 0, 0) == list_.ListIndex()) return;
+  SendMessageW(Hwnd(), LB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()), 0);
+  if (list_.Kind() != form::ControlKind::FolderList) return;
+  // Below a folder stands what is in it, which should be seen as well.
+  const auto shown = static_cast<int>(ClientSize().cy / SendMessageW(Hwnd(), LB_GETITEMHEIGHT, 0, 0));
+  SendMessageW(Hwnd(), LB_SETTOPINDEX, static_cast<WPARAM>(std::max(list_.ListIndex() - shown / 3, 0)), 0);
+}
+
+void ListWindow::OnCommand(WORD notification) {
+  if (notification == LBN_SELCHANGE) {
+    list_.InputSelect(static_cast<int>(SendMessageW(Hwnd(), LB_GETCURSEL, 0, 0)));
+  } else if (notification == LBN_DBLCLK) {
+    list_.InputDblClick();
+  }
+}
+
+LRESULT ListWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_KEYDOWN && wParam == VK_RETURN) {
+    list_.InputDblClick();
+    return 0;
+  }
+  if (message == WM_CHAR && wParam == VK_RETURN) return 0;  // no entry begins with it
+  return OnMessageWithEdge(message, wParam, lParam, 1);     // as thick as the border that the window has
+}
+
+void ListWindow::OnDraw(const DRAWITEMSTRUCT& item) {
+  const int index = static_cast<int>(item.itemID);
+  if (index < 0 || index >= list_.ListCount()) return;
+  int indent = 0;
+  if (list_.Kind() == form::ControlKind::FolderList) {
+    indent =
+        IndentOf(static_cast<const form::FolderList&>(list_), index, item.rcItem.right - item.rcItem.left, Scale());
+  }
+  const Line line{list_.List(index), indent, list_.Enabled(), list_.ForeColor()};
+  DrawLine(item, line, Ground(), Font(), Look(), Scale());
+}
+
+}  // namespace vantor::win32

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "form/ListControl.h"
+#include "win32/window/ControlWindow.h"
+
+namespace vantor::win32 {
+
+/// A list box, a folder list or a file list.
+class ListWindow final : public ControlWindow {
+ public:
+  ListWindow(FormWindow& owner, form::ListControl& list);
+
+  void Refresh() override;
+  void OnCommand(WORD notification) override;
+  void OnDraw(const DRAWITEMSTRUCT& item) override;
+
+ protected:
+  LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+  void Show(form::Property property) override;
+
+ private:
+  void Fill();
+  void ShowIndex();
+
+  form::ListControl& list_;
+};
+
+}  // namespace vantor::win32

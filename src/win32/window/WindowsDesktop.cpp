@@ -1,0 +1,235 @@
+#include "win32/window/WindowsDesktop.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "form/Timer.h"
+#include "win32/draw/Screens.h"
+
+namespace vantor::win32 {
+
+namespace {
+
+/// The class that the run time of such programs gives its hidden window; other copies look for it.
+constexpr wchar_t ApplicationClass[] = L"ThunderRT6Main";
+
+}  // namespace
+
+Desktop::Desktop() {
+  Screens::DeclareAwareness();
+  WNDCLASSW description{};
+  description.lpfnWndProc = Procedure;
+  description.hInstance = GetModuleHandleW(nullptr);
+  description.lpszClassName = ApplicationClass;
+  RegisterClassW(&description);
+  application_.Reset(CreateWindowExW(0, ApplicationClass, L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr,
+                                     description.hInstance, nullptr));
+  SetWindowLongPtrW(application_.Get(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+}
+
+Desktop::~Desktop() {
+  discarded_.clear();
+  SetWindowLongPtrW(application_.Get(), GWLP_USERDATA, 0);
+}
+
+void Desktop::SetApplicationTitle(std::wstring_view title) {
+  SetWindowTextW(application_.Get(), std::wstring(title).c_str());
+}
+
+form::Screen Desktop::ScreenAt(const form::Rect& place) const { return Screens::At(place); }
+
+form::Screen Desktop::PrimaryScreen() const { return Screens::Primary(); }
+
+form::Size Desktop::MeasureText(std::wstring_view text, bool bold, form::Twips width) const {
+  const int dpi = Screens::SystemDpi();
+  MemoryDcHandle dc(CreateCompatibleDC(nullptr));
+  const HGDIOBJ oldFont = SelectObject(dc.Get(), theme_.Font(dpi, bold));
+  RECT area{0, 0, std::max(Screens::ToPixels(width, dpi), 1), 0};
+  DrawTextW(dc.Get(), text.data(), static_cast<int>(text.size()), &area, DT_CALCRECT | DT_NOPREFIX | DT_WORDBREAK);
+  SelectObject(dc.Get(), oldFont);
+  // A little more, for screens of another scale, where the font comes out wider.
+  return {Screens::ToTwips(area.right + area.right / 20 + 1, dpi), Screens::ToTwips(area.bottom + 1, dpi)};
+}
+
+void Desktop::RunModal(form::Form& form) {
+  while (!Ended() && form.Visible()) HandleNext();
+}
+
+void Desktop::Run() {
+  while (!Ended()) HandleNext();
+}
+
+void Desktop::HandleNext() {
+  MSG message;
+  if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
+    End();
+  } else {
+    Handle(message);
+  }
+}
+
+void Desktop::HandlePending() {
+  MSG message;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) Handle(message);
+}
+
+void Desktop::Handle(MSG& message) {
+  FormWindow* const window = message.hwnd != nullptr ? FormWindow::From(GetAncestor(message.hwnd, GA_ROOT)) : nullptr;
+  bool done = false;
+  if (window != nullptr && !window->Retired()) {
+    const FormWindow::Handling handling(*window);
+    Guard([&] { done = window->Preview(message); });
+  }
+  if (!done) {
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+  Sweep();
+}
+
+void Desktop::ReportError() const {
+  try {
+    if (OnError) OnError(std::current_exception());
+  } catch (...) {
+    // Not even the question could be asked. Nothing may go on into the system's frames.
+  }
+}
+
+void Desktop::StartTimer(form::Timer& timer) {
+  StopTimer(timer);
+  if (timer.Interval() <= 0) return;
+  // Each start has its own id, so that a tick of an earlier start that still waits counts for nothing.
+  timers_.push_back({++lastTimerId_, &timer});
+  SetTimer(application_.Get(), lastTimerId_, static_cast<UINT>(timer.Interval()), nullptr);
+}
+
+void Desktop::StopTimer(form::Timer& timer) {
+  const auto found = std::find_if(timers_.begin(), timers_.end(),
+                                  [&](const RunningTimer& running) { return running.Timer == &timer; });
+  if (found == timers_.end()) return;
+  KillTimer(application_.Get(), found->Id);
+  timers_.erase(found);
+}
+
+void Desktop::Tick(UINT_PTR id) {
+  const auto found =
+      std::find_if(timers_.begin(), timers_.end(), [&](const RunningTimer& running) { return running.Id == id; });
+  if (found == timers_.end() || Ended()) return;
+  form::Timer& timer = *found->Timer;
+  Guard([&] { timer.InputTick(); });
+}
+
+LRESULT CALLBACK Desktop::Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
+  auto* const desktop = reinterpret_cast<Desktop*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
+  if (desktop != nullptr) {
+    switch (message) {
+      case WM_TIMER:
+        desktop->Tick(wParam);
+        return 0;
+      case WM_QUERYENDSESSION:
+        return TRUE;
+      case WM_ENDSESSION:
+        if (wParam != 0) desktop->SessionEnds();
+        return 0;
+      case WM_SETTINGCHANGE:
+      case WM_SYSCOLORCHANGE:
+      case WM_THEMECHANGED:
+      case WM_DISPLAYCHANGE:
+        desktop->SettingsChanged();
+        break;
+      case WM_CLOSE:
+        return 0;
+      default:
+        break;
+    }
+  }
+  return DefWindowProcW(handle, message, wParam, lParam);
+}
+
+void Desktop::WakeUp() { PostMessageW(application_.Get(), WM_NULL, 0, 0); }
+
+void Desktop::SessionEnds() {
+  if (main_ == nullptr || Ended()) return;
+  FormWindow& window = *main_;
+  const FormWindow::Handling handling(window);
+  Guard([&] { window.Form().InputClose(); });
+}
+
+void Desktop::SettingsChanged() {
+  theme_.Forget();
+  Screens::Forget();
+  // By index, because what this causes may unload forms.
+  std::size_t next = 0;
+  while (next < windows_.size()) {
+    FormWindow& window = *windows_[next++];
+    const FormWindow::Handling handling(window);
+    Guard([&] { window.ScreensChanged(); });
+  }
+}
+
+std::unique_ptr<form::FormWindow> Desktop::MakeWindow(form::Form& form) {
+  const bool modal = ModalForm() == &form;
+  auto window = std::make_unique<FormWindow>(*this, form, main_ == nullptr);
+  if (!modal && main_ == nullptr) main_ = window.get();
+  windows_.push_back(window.get());
+  window->ShowEnabled();
+  return window;
+}
+
+void Desktop::Discard(std::unique_ptr<form::FormWindow> window) {
+  std::unique_ptr<FormWindow> gone(static_cast<FormWindow*>(window.release()));
+  std::erase(windows_, gone.get());
+  if (main_ == gone.get()) main_ = nullptr;
+  if (active_ == gone.get()) active_ = nullptr;
+  // Windows destroys what a window owns along with it.
+  for (FormWindow* other : windows_) {
+    if (other->OwnerWindow() == gone->Hwnd()) other->SetOwnerWindow(application_.Get());
+  }
+  gone->Retire();
+  discarded_.push_back(std::move(gone));
+  if (!Ended()) WakeUp();
+}
+
+void Desktop::Sweep() {
+  const auto gone = std::stable_partition(discarded_.begin(), discarded_.end(),
+                                          [](const auto& window) { return window->IsHandling(); });
+  if (gone == discarded_.end()) return;
+  // Destroying a window may make others act, which may discard more.
+  std::vector<std::unique_ptr<FormWindow>> doomed(std::make_move_iterator(gone),
+                                                  std::make_move_iterator(discarded_.end()));
+  discarded_.erase(gone, discarded_.end());
+}
+
+void Desktop::ModalChanged() {
+  for (FormWindow* window : windows_) window->ShowEnabled();
+}
+
+HWND Desktop::OwnerFor(const FormWindow& window) const {
+  // Wine does not let a window out of the topmost band while its owner stands directly behind it.
+  if (IsMain(window)) return nullptr;
+  const FormWindow* owner = main_;
+  if (ModalForm() == &window.Form() && active_ != nullptr && active_ != &window) owner = active_;
+  // What a minimised or hidden window owns can't be seen.
+  const bool useful = owner != nullptr && IsWindowVisible(owner->Hwnd()) != FALSE && IsIconic(owner->Hwnd()) == FALSE;
+  return useful ? owner->Hwnd() : application_.Get();
+}
+
+void Desktop::StandBehind(const FormWindow& window) const {
+  if (!IsMain(window) || GetWindow(window.Hwnd(), GW_HWNDNEXT) == application_.Get()) return;
+  SetWindowPos(application_.Get(), window.Hwnd(), 0, 0, 0, 0,
+               SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+}
+
+FormWindow* Desktop::SuccessorOf(const FormWindow& window) const {
+  const auto suits = [&](const FormWindow* other) {
+    return other != nullptr && other != &window && IsWindowVisible(other->Hwnd()) != FALSE &&
+           IsWindowEnabled(other->Hwnd()) != FALSE && IsIconic(other->Hwnd()) == FALSE;
+  };
+  FormWindow* const owner = FormWindow::From(window.OwnerWindow());
+  if (suits(owner)) return owner;
+  const auto found = std::find_if(windows_.rbegin(), windows_.rend(), suits);
+  return found != windows_.rend() ? *found : nullptr;
+}
+
+}  // namespace vantor::win32

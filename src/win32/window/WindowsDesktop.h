@@ -1,0 +1,102 @@
+#pragma once
+
+#include <windows.h>
+
+#include <exception>
+#include <functional>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "form/UserInterface.h"
+#include "win32/base/Com.h"
+#include "win32/base/Handle.h"
+#include "win32/draw/Theme.h"
+#include "win32/window/FormWindow.h"
+
+namespace vantor::win32 {
+
+/// Forms as real windows. One for a program, on the thread that uses it.
+class Desktop final : public form::UserInterface {
+ public:
+  Desktop();
+  ~Desktop() override;
+
+  /// Told of exceptions that reach a window procedure or the message loop; they end there. The loop goes on.
+  std::function<void(std::exception_ptr)> OnError;
+
+  /// Names the hidden application window, by which another copy of the program finds this one.
+  void SetApplicationTitle(std::wstring_view title);
+  /// The hidden window (class "ThunderRT6Main") that owns the forms' windows.
+  [[nodiscard]] HWND ApplicationWindow() const { return application_.Get(); }
+
+  /// Handles the messages that wait, and returns when there are none.
+  void HandlePending();
+
+  [[nodiscard]] form::Screen ScreenAt(const form::Rect& place) const override;
+  [[nodiscard]] form::Screen PrimaryScreen() const override;
+  [[nodiscard]] form::Size MeasureText(std::wstring_view text, bool bold, form::Twips width) const override;
+  void RunModal(form::Form& form) override;
+  void Run() override;
+  void StartTimer(form::Timer& timer) override;
+  void StopTimer(form::Timer& timer) override;
+
+  // For the windows.
+
+  [[nodiscard]] Theme& Look() const { return theme_; }
+  /// Entered by those who need it.
+  [[nodiscard]] Apartment& Com() { return com_; }
+  /// Runs a window's work and hands what it throws to OnError.
+  template <class Work>
+  void Guard(const Work& work) const {
+    try {
+      work();
+    } catch (...) {
+      ReportError();
+    }
+  }
+  [[nodiscard]] bool IsMain(const FormWindow& window) const { return &window == main_; }
+  /// The window to stand above: the bar for a panel, the one in use for a modal form.
+  [[nodiscard]] HWND OwnerFor(const FormWindow& window) const;
+  /// Puts the application window directly behind the main form, where another copy of the program expects it.
+  void StandBehind(const FormWindow& window) const;
+  /// The window that comes to the front when this one goes; null for none.
+  [[nodiscard]] FormWindow* SuccessorOf(const FormWindow& window) const;
+  void Activated(FormWindow& window) { active_ = &window; }
+  /// Has the loops look again whether they are to end.
+  void WakeUp() override;
+  /// Windows ends: the main form closes, once.
+  void SessionEnds();
+  void SettingsChanged();
+
+ protected:
+  std::unique_ptr<form::FormWindow> MakeWindow(form::Form& form) override;
+  void Discard(std::unique_ptr<form::FormWindow> window) override;
+  void ModalChanged() override;
+
+ private:
+  struct RunningTimer {
+    UINT_PTR Id;
+    form::Timer* Timer;
+  };
+
+  static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
+  void ReportError() const;
+  void HandleNext();
+  void Handle(MSG& message);
+  void Tick(UINT_PTR id);
+  /// Destroys the discarded windows that handle no message any more.
+  void Sweep();
+
+  mutable Theme theme_;
+  Apartment com_;
+  WindowHandle application_;
+  std::vector<FormWindow*> windows_;
+  std::vector<std::unique_ptr<FormWindow>> discarded_;
+  FormWindow* main_ = nullptr;    // the first form that was shown, if not modally: the bar
+  FormWindow* active_ = nullptr;  // the one activated last
+  std::vector<RunningTimer> timers_;
+  UINT_PTR lastTimerId_ = 0;
+};
+
+}  // namespace vantor::win32
