@@ -194,6 +194,13 @@ Function un.RemoveDesktopShortcut
   ${IfThen} $2 == "$INSTDIR\Vantor.exe" ${|} Delete "$DESKTOP\Vantor.lnk" ${|}
 FunctionEnd
 
+!macro RemoveRunValue ROOT
+  ReadRegStr $0 ${ROOT} "Software\Microsoft\Windows\CurrentVersion\Run" "OrbelsLauncher"
+  ${If} $0 == "$INSTDIR\Vantor.exe"
+    DeleteRegValue ${ROOT} "Software\Microsoft\Windows\CurrentVersion\Run" "OrbelsLauncher"
+  ${EndIf}
+!macroend
+
 Section "un.Vantor"
   SectionIn RO
   StrCpy $WasRunning 0
@@ -212,11 +219,9 @@ Section "un.Vantor"
     Abort "Vantor.exe is in use."
   ${EndIf}
 
-  ; "Start With Windows" of this copy.
-  ReadRegStr $0 HKLM "Software\Microsoft\Windows\CurrentVersion\Run" "OrbelsLauncher"
-  ${If} $0 == "$INSTDIR\Vantor.exe"
-    DeleteRegValue HKLM "Software\Microsoft\Windows\CurrentVersion\Run" "OrbelsLauncher"
-  ${EndIf}
+  ; "Start With Windows" of this copy, for all users or for this one.
+  !insertmacro RemoveRunValue HKLM
+  !insertmacro RemoveRunValue HKCU
   Call un.RemoveDesktopShortcut
 
   Delete "$INSTDIR\Guide.html"

@@ -23,8 +23,10 @@ constexpr Twips LeastWidth = 3600;
 
 constexpr std::array<std::wstring_view, OptionsPage::Count> Captions{L"Start With Windows", L"Always On Top",
                                                                      L"Show Add URL Box At Start"};
-constexpr std::wstring_view RunValue =
+constexpr std::wstring_view MachineRunValue =
     L"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run\\OrbelsLauncher";
+constexpr std::wstring_view UserRunValue =
+    L"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run\\OrbelsLauncher";
 constexpr int NormalWindow = 1;
 
 }  // namespace
@@ -124,11 +126,22 @@ void OptionsPage::CommandOptionOK_Click() {
 void OptionsPage::CommandOptionCancel_Click() { Hooks.ClosePanel(); }
 
 void OptionsPage::SetStartWithWindows(bool start) {
-  const std::wstring current = parts_.ScriptShell.RegistryRead(RunValue);
+  service::ScriptShell& shell = parts_.ScriptShell;
+  const std::wstring machines = shell.RegistryRead(MachineRunValue);
+  const std::wstring users = shell.RegistryRead(UserRunValue);
   if (!start) {
-    if (!current.empty()) parts_.ScriptShell.RegistryDelete(RunValue);
-  } else if (const std::wstring command = ProgramFile(); command != current) {
-    parts_.ScriptShell.RegistryWrite(RunValue, command);
+    if (!machines.empty()) shell.RegistryDelete(MachineRunValue);
+    if (!users.empty()) shell.RegistryDelete(UserRunValue);
+    return;
+  }
+  const std::wstring command = ProgramFile();
+  if (command == (machines.empty() ? users : machines)) return;
+  shell.RegistryWrite(MachineRunValue, command);
+  // Only an administrator may write there. For anybody else the bar opens at their own sign-in.
+  if (shell.RegistryRead(MachineRunValue) != command) {
+    if (users != command) shell.RegistryWrite(UserRunValue, command);
+  } else if (!users.empty()) {
+    shell.RegistryDelete(UserRunValue);
   }
 }
 

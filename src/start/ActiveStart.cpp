@@ -1,5 +1,7 @@
 #include "start/ActiveStart.h"
 
+#include <cmath>
+
 #include "add/MachineIdentity.h"
 #include "command/CodeTables.h"
 #include "start/Companions.h"
@@ -22,11 +24,14 @@ void ActiveStart::Run() {
 }
 
 void ActiveStart::CheckScreen() {
-  // 800 by 600 pixels of 15 twips. The message names another size; both are as they are meant to be.
-  constexpr form::Twips MinWidth = 12000;
-  constexpr form::Twips MinHeight = 9000;
-  const form::Rect screen = program_.Ui.PrimaryScreen().Bounds;
-  if (screen.Width < MinWidth || screen.Height < MinHeight) Stop(L"MessageSmallScreen");
+  // 800 by 600 pixels, at whatever scale. The message names another size; both are as they are meant to be.
+  constexpr long MinWidth = 800;
+  constexpr long MinHeight = 600;
+  const form::Screen screen = program_.Ui.PrimaryScreen();
+  if (std::lround(screen.Bounds.Width / screen.TwipsPerPixelX) < MinWidth ||
+      std::lround(screen.Bounds.Height / screen.TwipsPerPixelY) < MinHeight) {
+    Stop(L"MessageSmallScreen");
+  }
 }
 
 void ActiveStart::FindPreviousInstance() {

@@ -139,13 +139,15 @@ TEST_CASE("nothing asked for, the folder is one that its user may write to; what
 
   const std::string desktop = SystemFolder(CSIDL_DESKTOPDIRECTORY) + "\\Vantor.lnk";
   REQUIRE(CopyFileW(Wide(it.StartMenu).c_str(), Wide(desktop).c_str(), FALSE));
-  RegSetKeyValueW(HKEY_LOCAL_MACHINE, RunKey, RunValue, REG_SZ, program.c_str(),
-                  static_cast<DWORD>(program.size() + 1) * sizeof(wchar_t));
+  for (HKEY root : {HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER}) {
+    RegSetKeyValueW(root, RunKey, RunValue, REG_SZ, program.c_str(),
+                    static_cast<DWORD>(program.size() + 1) * sizeof(wchar_t));
+  }
   Run('"' + folder + "\\Uninstall.exe\" /S");
   CHECK_BECOMES(Exists(folder), false);
   CHECK_FALSE(Exists(desktop));
   CHECK_FALSE(Exists(it.StartMenu));
-  CHECK(RegistryText(HKEY_LOCAL_MACHINE, RunKey, RunValue) == "(none)");
+  for (HKEY root : {HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER}) CHECK(RegistryText(root, RunKey, RunValue) == "(none)");
 }
 
 }  // namespace vantor::desktop

@@ -53,7 +53,8 @@ class Computer : public service::DataFiles,
   service::DiskIdentity Identity{3, L"1A2B3C4D", 80023715840.0};
   Values Specials{{L"MyDocuments", L"C:\\Documents"}, {L"SendTo", L"C:\\Send"}, {L"Desktop", L"C:\\Work"}};
   Values Registry;
-  int CallError = -9;  // of a telephone call that fails
+  bool Administrator = true;  // who may write the machine's values
+  int CallError = -9;         // of a telephone call that fails
   Texts Asked;  // "run …", "shell …", "mail …", "call …", "write …", "delete …", "shortcut …", "title …"
 
   std::vector<service::ProcessEntry> Entries;
@@ -165,10 +166,10 @@ class Computer : public service::DataFiles,
   std::wstring SpecialFolder(Text name) override { return Fails(__func__) ? L"" : Specials[std::wstring(name)]; }
   std::wstring RegistryRead(Text name) override { return Fails(__func__) ? L"" : Registry[std::wstring(name)]; }
   void RegistryWrite(Text name, Text value) override {
-    if (Note(L"write ", value) && !Fails(__func__)) Registry[std::wstring(name)] = value;
+    if (Note(L"write ", value) && !Fails(__func__) && MayWrite(name)) Registry[std::wstring(name)] = value;
   }
   void RegistryDelete(Text name) override {
-    if (Note(L"delete ", name) && !Fails(__func__)) Registry.erase(std::wstring(name));
+    if (Note(L"delete ", name) && !Fails(__func__) && MayWrite(name)) Registry.erase(std::wstring(name));
   }
   bool SaveShortcut(const service::Shortcut& shortcut) override {
     return Note(L"shortcut ", shortcut.File) && !Fails(__func__);
@@ -221,6 +222,7 @@ class Computer : public service::DataFiles,
     Asked.push_back(std::wstring(how).append(what));
     return true;
   }
+  bool MayWrite(Text value) const { return Administrator || !value.starts_with(L"HKEY_LOCAL_MACHINE"); }
   static bool IsUpper(int c) {
     return (c >= L'A' && c <= L'Z') || (c >= 0xC0 && c <= 0xDE && c != 0xD7) || (c >= 0x410 && c <= 0x42F);
   }

@@ -75,10 +75,13 @@ TEST_CASE("the program refuses where it can't run, before anything is loaded or 
   const struct {
     int Width, Height, DriveType;
     std::wstring_view Text;  // "" for none
+    double TwipsPerPixel = 15;
   } cases[] = {
       {12000, 9000, 2, L""},
       {11985, 9000, 2, L"Screen resolution must be"},
       {12000, 8985, 2, L"Screen resolution must be"},
+      {5333, 4000, 2, L"", 1440 / 216.0},
+      {6000, 4493, 2, L"Screen resolution must be", 7.5},
       {15360, 11520, 0, L"The Program encountered a problem"},
       {15360, 11520, 3, L"The Program encountered a problem"},
       {15360, 11520, 4, L"This Program runs from Removable Media, such as"},
@@ -86,7 +89,7 @@ TEST_CASE("the program refuses where it can't run, before anything is loaded or 
   for (const auto& c : cases) {
     CAPTURE(&c - cases);
     TestProgram program;
-    program.Desktop.Desktop.Bounds = {0, 0, c.Width, c.Height};
+    program.Desktop.Desktop = {{0, 0, c.Width, c.Height}, {0, 0, c.Width, c.Height}, c.TwipsPerPixel, c.TwipsPerPixel};
     program.Computer.Disk.Drives[L'C'].Type = c.DriveType;
     if (!c.Text.empty()) program.Expect();
     CHECK(program.Start() == c.Text.empty());
