@@ -45,7 +45,8 @@ endfunction()
 
 # One CTest test for each source file: a failure names its file, and files can run side by side.
 # A filter that matches nothing is a failure too. A line "// desktop: OPTIONS" in a file sets options of the command that
-# runs it: the desktop that its tests need. A file with several such lines runs on each of these desktops.
+# runs it: the desktop that its tests need, a 64-bit Windows, say ("--root win64"). A file with several such lines runs on
+# each of these desktops.
 function(vantor_add_tests label sources)
   cmake_parse_arguments(arg "" "TIMEOUT;PREFIX" "RUNNER;COMMAND" ${ARGN})
   foreach(source IN LISTS ${sources})

@@ -119,6 +119,15 @@ if(VANTOR_RECORDER_SOURCES)
   target_link_libraries(recorder PRIVATE vantor_flags ${VANTOR_WINDOWS_LIBRARIES})
   target_include_directories(recorder PRIVATE "${PROJECT_SOURCE_DIR}/tests")
   target_link_options(recorder PRIVATE -municode -s)
+  # As a program of a 64-bit Windows too, which this build's compiler can't make.
+  set(recorder64 "${PROJECT_BINARY_DIR}/recorder64.exe")
+  add_custom_command(
+    OUTPUT "${recorder64}"
+    COMMAND "${VANTOR_MINGW64_CXX}" -std=c++20 -Os -s -static -municode -mwindows -DUNICODE -DWIN32_LEAN_AND_MEAN
+            -DNOMINMAX "-I${PROJECT_SOURCE_DIR}/tests" ${VANTOR_RECORDER_SOURCES} -o "${recorder64}"
+    DEPENDS ${VANTOR_RECORDER_SOURCES} tests/desktop/Desktop.h
+    VERBATIM)
+  add_custom_target(recorder64 DEPENDS "${recorder64}")
 endif()
 
 if(VANTOR_DESKTOP_SOURCES)
@@ -128,7 +137,7 @@ if(VANTOR_DESKTOP_SOURCES)
   endif()
   add_executable(desktop_tests ${main} ${VANTOR_DESKTOP_SOURCES})
   target_link_libraries(desktop_tests PRIVATE vantor_flags vantor_doctest ${VANTOR_WINDOWS_LIBRARIES} oleacc)
-  foreach(program IN ITEMS Vantor recorder installer)
+  foreach(program IN ITEMS Vantor recorder recorder64 installer)
     if(TARGET ${program})
       add_dependencies(desktop_tests ${program})
     endif()

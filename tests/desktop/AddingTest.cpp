@@ -1,4 +1,5 @@
 // desktop: --drive e:=floppy --drive f:=floppy --drive n:=network --drive q:=cdrom
+// desktop: --root win64 --drive e:=floppy --drive f:=floppy --drive n:=network --drive q:=cdrom
 // Adding by browsing, by pointing at a window, and by typing; from a fixed disk, and from a stick that travels.
 
 #include <doctest/doctest.h>

@@ -1,3 +1,5 @@
+// desktop: --root win32
+// desktop: --root win64
 // Every code of the command language, typed into the bar, and what the recorder saw started; what fails is told.
 
 #include <doctest/doctest.h>

@@ -32,6 +32,12 @@ inline std::string Utf16(const std::string& text) {
 /// Whether this runs under Wine, in an installation that is the test's alone: its system files may be replaced.
 inline bool UnderWine() { return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr; }
 
+/// Whether Windows is a 64-bit one, on which the program and its tests are guests.
+inline bool On64Bit() {
+  BOOL guest = FALSE;
+  return IsWow64Process(GetCurrentProcess(), &guest) && guest;
+}
+
 inline bool Exists(const std::string& path) {
   return GetFileAttributesW(Wide(path).c_str()) != INVALID_FILE_ATTRIBUTES;
 }

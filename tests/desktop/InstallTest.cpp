@@ -1,3 +1,5 @@
+// desktop: --root win32
+// desktop: --root win64
 // The installer and the uninstaller, quietly, with and without a running copy. What a person had entered stays.
 
 #include <doctest/doctest.h>

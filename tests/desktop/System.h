@@ -33,8 +33,10 @@ class Recorder {
   /// Wine only: puts it in the place of Explorer and rundll32, and behind web and mail addresses.
   void ReplaceSystem() const {
     RemoveSystemPrograms();
+    const std::string built = On64Bit() ? "recorder64.exe" : "recorder.exe";
+    folder_.CopyProgram(built, built);
     for (const std::wstring& program : SystemPrograms()) {
-      std::filesystem::copy_file(Wide(folder_.Path("recorder.exe")), program);
+      std::filesystem::copy_file(Wide(folder_.Path(built)), program);
     }
     for (const std::wstring scheme : {L"http", L"https", L"mailto"}) {
       RegDeleteTreeW(HKEY_CLASSES_ROOT, (scheme + L"\\shell").c_str());  // how Wine opens them by itself

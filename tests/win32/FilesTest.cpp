@@ -1,4 +1,5 @@
 // desktop: --drive e:=floppy --drive j:=hd:unreadable
+// desktop: --root win64 --drive e:=floppy --drive j:=hd:unreadable
 #include <doctest/doctest.h>
 
 #include <algorithm>

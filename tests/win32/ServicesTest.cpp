@@ -1,3 +1,6 @@
+// desktop: --root win32
+// desktop: --root win64
+
 #include <doctest/doctest.h>
 
 #include <shlobj.h>
