@@ -23,6 +23,13 @@ else()
 endif()
 vantor_add_tests(native VANTOR_UNIT_TEST_SOURCES PREFIX ${prefix} TIMEOUT 120 COMMAND vantor_tests)
 
+# All flows in one run; the program also plays single ones.
+add_executable(flows ${VANTOR_FLOW_PLAYER} ${VANTOR_NATIVE_WORLD})
+target_link_libraries(flows PRIVATE vantor_core)
+target_include_directories(flows PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+add_test(NAME ${prefix}flows COMMAND flows ${VANTOR_FLOWS})
+set_tests_properties(${prefix}flows PROPERTIES LABELS native TIMEOUT 120)
+
 # A fixed piece of what the fuzzer does.
 if(VANTOR_SANITIZE)
   add_executable(fixed_fuzz ${VANTOR_FIXED_FUZZ} ${VANTOR_FUZZ_SOURCES})

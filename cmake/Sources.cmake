@@ -26,6 +26,12 @@ foreach(folder IN LISTS VANTOR_UNIT_TEST_FOLDERS)
   list(APPEND VANTOR_UNIT_TEST_SOURCES ${found})
 endforeach()
 
+# Flows: users' stories, and what plays them in each of two worlds.
+vantor_glob(VANTOR_FLOWS tests/flows/*.txt)
+set(VANTOR_FLOW_PLAYER "${PROJECT_SOURCE_DIR}/tests/flows/Main.cpp" "${PROJECT_SOURCE_DIR}/tests/flows/Player.cpp")
+set(VANTOR_NATIVE_WORLD "${PROJECT_SOURCE_DIR}/tests/flows/NativeWorld.cpp")
+set(VANTOR_REAL_WORLD "${PROJECT_SOURCE_DIR}/tests/flows/RealWorld.cpp")
+
 vantor_glob(VANTOR_FAKE_SOURCES tests/fake/*.cpp)
 vantor_glob(VANTOR_WIN32_TEST_SOURCES tests/win32/*.cpp)
 vantor_glob(VANTOR_CONTRACT_SOURCES tests/contract/*.cpp)

@@ -44,6 +44,8 @@ class UserInterface {
 
  protected:
   UserInterface() = default;
+  /// All forms that there are, the oldest first.
+  [[nodiscard]] const std::vector<Form*>& Forms() const { return forms_; }
   /// Makes the windows of a form and its controls, hidden; null when the back end has no windows.
   virtual std::unique_ptr<FormWindow> MakeWindow(Form& form) = 0;
   /// Destroys a form's windows, perhaps only once no message of theirs is being handled any more. From this call
