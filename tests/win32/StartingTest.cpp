@@ -47,6 +47,12 @@ TEST_CASE("what can't be started is told, and nothing is started in its place") 
   Starts starts;
   const std::wstring text = starts.Folder.Make(L"my tool.unknown", "no program");
   starts.Folder.Make(L"my.cmd", Leaves);
+  // Where Windows itself would look for a program first.
+  const std::wstring planted = System({}, {}).ProgramFolder() + L"\\vantor-planted.exe";
+  REQUIRE(CopyFileW(L"C:\\windows\\system32\\attrib.exe", planted.c_str(), FALSE) != FALSE);
+  CHECK_FALSE(starts.Plain.StartCommandLine(L"vantor-planted"));
+  CHECK(SplitCommandLine(planted.substr(0, planted.size() - 4)).Path == planted);
+  DeleteFileW(planted.c_str());
   for (const std::wstring& line :
        {std::wstring(), std::wstring(L"nosuchprogram x y"), std::wstring(L"nosuch:address"), text, starts.Folder.Path,
         starts.Folder / L"none.exe", std::wstring(2000, L'x'), std::wstring(40000, L'x')}) {

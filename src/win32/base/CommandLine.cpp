@@ -2,12 +2,53 @@
 
 #include <windows.h>
 
+#include <algorithm>
+#include <utility>
+
+#include "text/Path.h"
+#include "win32/base/LongPath.h"
+#include "win32/base/SystemLibrary.h"
+
 namespace vantor::win32 {
 
 namespace {
 
-bool IsProgram(std::wstring_view name) {
-  return SearchPathW(nullptr, std::wstring(name).c_str(), L".exe", 0, nullptr, nullptr) != 0;
+constexpr wchar_t ProgramEnding[] = L".exe";
+
+/// Where a name without a folder is looked for, in CreateProcess's order.
+std::wstring SearchFolders() {
+  const std::wstring windows = WindowsFolder();
+  std::wstring folders = SystemFolder() + L';' + windows + L"\\System;" + windows + L';';
+  std::wstring path(GetEnvironmentVariableW(L"PATH", nullptr, 0), L'\0');
+  path.resize(GetEnvironmentVariableW(L"PATH", path.data(), static_cast<DWORD>(path.size())));
+  return folders + path;
+}
+
+std::wstring FindOnPath(const std::wstring& name) {
+  const std::wstring folders = SearchFolders();
+  std::wstring found(MAX_PATH, L'\0');
+  for (;;) {
+    const DWORD length = SearchPathW(folders.c_str(), name.c_str(), ProgramEnding, static_cast<DWORD>(found.size()),
+                                     found.data(), nullptr);
+    const bool fits = length < found.size();
+    found.resize(length);
+    if (fits) return IsFile(found) ? found : std::wstring();
+  }
+}
+
+bool NamesFolder(std::wstring_view name) {
+  return !text::DriveName(name).empty() || name.starts_with(L'\\') || name.starts_with(L'/');
+}
+
+/// The full path of a program; "" when there is none of this name.
+std::wstring FindProgram(std::wstring_view name) {
+  std::wstring given(name);
+  if (given.empty()) return {};
+  if (!NamesFolder(name)) return FindOnPath(given);
+  if (IsFile(given)) return FullPath(given);
+  if (name.find(L'.', name.find_last_of(L"\\/:")) != std::wstring_view::npos) return {};
+  given += ProgramEnding;
+  return IsFile(given) ? FullPath(given) : std::wstring();
 }
 
 CommandLine PartedAt(std::wstring_view text, std::size_t programEnd, std::size_t argumentsBegin) {
@@ -17,21 +58,36 @@ CommandLine PartedAt(std::wstring_view text, std::size_t programEnd, std::size_t
   return parted;
 }
 
+CommandLine PartQuoted(std::wstring_view text) {
+  text.remove_prefix(1);
+  const std::size_t quote = text.find(L'"');
+  CommandLine parted = quote == std::wstring_view::npos
+                           ? PartedAt(text, text.size(), text.size())
+                           : PartedAt(text, quote, text.find_first_not_of(L' ', quote + 1));
+  parted.Path = FindProgram(parted.Program);
+  return parted;
+}
+
 }  // namespace
 
 CommandLine SplitCommandLine(std::wstring_view text) {
-  if (text.starts_with(L'"')) {
-    text.remove_prefix(1);
-    const std::size_t quote = text.find(L'"');
-    if (quote == std::wstring_view::npos) return PartedAt(text, text.size(), text.size());
-    return PartedAt(text, quote, text.find_first_not_of(L' ', quote + 1));
+  if (text.starts_with(L'"')) return PartQuoted(text);
+  if (NamesFolder(text) && IsFile(text)) {
+    CommandLine whole = PartedAt(text, text.size(), text.size());
+    whole.Path = FullPath(text);
+    return whole;
   }
-  for (std::size_t blank = text.find(L' '); blank != std::wstring_view::npos; blank = text.find(L' ', blank + 1)) {
-    if (IsProgram(text.substr(0, blank))) return PartedAt(text, blank, blank + 1);
+  for (std::size_t blank = text.find(L' ');; blank = text.find(L' ', blank + 1)) {
+    const std::size_t end = std::min(blank, text.size());
+    if (std::wstring path = FindProgram(text.substr(0, end)); !path.empty()) {
+      CommandLine parted = PartedAt(text, end, end + 1);
+      parted.Path = std::move(path);
+      return parted;
+    }
+    if (blank == std::wstring_view::npos) break;
   }
-  if (IsProgram(text)) return PartedAt(text, text.size(), text.size());
-  const std::size_t word = text.find(L' ');
-  return word == std::wstring_view::npos ? PartedAt(text, text.size(), text.size()) : PartedAt(text, word, word + 1);
+  const std::size_t word = std::min(text.find(L' '), text.size());
+  return PartedAt(text, word, word + 1);
 }
 
 }  // namespace vantor::win32

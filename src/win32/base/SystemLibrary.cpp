@@ -1,8 +1,20 @@
 #include "win32/base/SystemLibrary.h"
 
-#include <string>
-
 namespace vantor::win32 {
+
+namespace {
+
+std::wstring Ask(UINT(WINAPI* call)(LPWSTR, UINT)) {
+  wchar_t folder[MAX_PATH] = L"";
+  const UINT length = call(folder, MAX_PATH);
+  return length < MAX_PATH ? std::wstring(folder, length) : std::wstring();
+}
+
+}  // namespace
+
+std::wstring SystemFolder() { return Ask(GetSystemDirectoryW); }
+
+std::wstring WindowsFolder() { return Ask(GetWindowsDirectoryW); }
 
 HMODULE LoadSystemLibrary(const wchar_t* name) {
   constexpr DWORD SystemFolderOnly = 0x800;  // LOAD_LIBRARY_SEARCH_SYSTEM32
@@ -11,11 +23,9 @@ HMODULE LoadSystemLibrary(const wchar_t* name) {
 
   // A Windows 7 without the update that brought the flag. By its full path the library is the right one, and so that
   // what it stands on is looked for beside it first.
-  wchar_t folder[MAX_PATH] = L"";
-  const UINT length = GetSystemDirectoryW(folder, MAX_PATH);
-  if (length == 0 || length >= MAX_PATH) return nullptr;
-  const std::wstring path = std::wstring(folder, length) + L'\\' + name;
-  return LoadLibraryExW(path.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
+  const std::wstring folder = SystemFolder();
+  if (folder.empty()) return nullptr;
+  return LoadLibraryExW((folder + L'\\' + name).c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
 }
 
 }  // namespace vantor::win32

@@ -2,7 +2,14 @@
 
 #include <windows.h>
 
+#include <string>
+
 namespace vantor::win32 {
+
+/// The folder of the system's own programs and libraries, and Windows' own, without a trailing backslash; "" when the
+/// system does not tell.
+[[nodiscard]] std::wstring SystemFolder();
+[[nodiscard]] std::wstring WindowsFolder();
 
 /// Loads one of Windows' own libraries, and what that one stands on, from Windows' folder alone, whatever lies beside
 /// the program or in the current folder. `name` is the bare file name. Returns null when there is no such library.

@@ -5,6 +5,7 @@
 #include <shellapi.h>
 
 #include <string>
+#include <utility>
 
 #include "win32/base/CommandLine.h"
 #include "win32/base/Handle.h"
@@ -19,23 +20,16 @@ namespace {
 constexpr DWORD ElevationRequired = 740;           // ERROR_ELEVATION_REQUIRED, which not all headers have
 constexpr std::size_t LongestCommandLine = 32766;  // CreateProcess's own limit
 
-/// Whether the whole text is one file's name. A bare word is rather a program to be searched for, even where a
-/// file of that name lies in the current folder.
-bool NamesOneFile(std::wstring_view text) {
-  return text.find_first_of(L".\\/:") != std::wstring_view::npos && text.find(L'"') == std::wstring_view::npos &&
-         IsFile(text);
-}
-
-/// Starts `program` exactly, or the first word of the command line when that is null. Returns the error code.
-DWORD Start(const wchar_t* program, std::wstring commandLine) {
+/// Starts exactly this program. Returns the error code.
+DWORD Start(const std::wstring& program, std::wstring commandLine) {
   STARTUPINFOW startup = {};
   startup.cb = sizeof startup;
   startup.dwFlags = STARTF_USESHOWWINDOW;
   startup.wShowWindow = SW_SHOWNORMAL;
   PROCESS_INFORMATION started = {};
   // Our own error mode, without Windows' boxes, is not for others.
-  if (!CreateProcessW(program, commandLine.data(), nullptr, nullptr, FALSE, CREATE_DEFAULT_ERROR_MODE, nullptr, nullptr,
-                      &startup, &started)) {
+  if (!CreateProcessW(CallPath(program).c_str(), commandLine.data(), nullptr, nullptr, FALSE, CREATE_DEFAULT_ERROR_MODE,
+                      nullptr, nullptr, &startup, &started)) {
     return GetLastError();
   }
   const KernelHandle process(started.hProcess);
@@ -56,15 +50,18 @@ std::string Ansi(std::wstring_view text) {
 
 bool Programs::StartCommandLine(std::wstring_view commandLine) {
   if (commandLine.empty() || commandLine.size() > LongestCommandLine) return false;
-  const bool wholeFile = NamesOneFile(commandLine);
-  const std::wstring text(commandLine);
-  const DWORD error = wholeFile ? Start(CallPath(FullPath(text)).c_str(), L'"' + text + L'"') : Start(nullptr, text);
+  // Named to Windows by its full path: a bare name would be looked for beside this program and in the current folder
+  // before the system's own.
+  const CommandLine parts = SplitCommandLine(commandLine);
+  if (parts.Path.empty()) return false;
+  std::wstring text(commandLine);
+  const bool blankInName = parts.Program == text && text.find(L' ') != std::wstring::npos;
+  if (blankInName) text = L'"' + text + L'"';
+  const DWORD error = Start(parts.Path, std::move(text));
   if (error != ElevationRequired) return error == ERROR_SUCCESS;
   // Only the shell can give a program the administrator's rights.
   apartment_.Enter();
-  if (wholeFile) return OpenByShell(FullPath(text), {});
-  const CommandLine parts = SplitCommandLine(text);
-  return OpenByShell(parts.Program, parts.Arguments);
+  return OpenByShell(parts.Path, parts.Arguments);
 }
 
 int Programs::ShellOpen(std::wstring_view file) {

@@ -27,7 +27,7 @@ std::wstring Quoted(std::wstring_view target) {
 bool PlainRun(std::wstring_view target) {
   if (IsFile(target) || IsFolder(target)) return OpenByShell(std::wstring(target), {});
   const CommandLine parts = SplitCommandLine(target);
-  return OpenByShell(parts.Program, parts.Arguments);
+  return OpenByShell(parts.Path.empty() ? parts.Program : parts.Path, parts.Arguments);
 }
 
 /// Whether the scripting object, which thinks in the code page, keeps all of a shortcut's texts.
