@@ -150,7 +150,7 @@ struct Bench {
   message::MessageState MessageState;
   message::Messages Messages{Desktop, MessageState};
   command::CommandState State;
-  command::Starters Starters{Rest, Rest};
+  command::Starters Starters{Services};
   list::ListFiles ListFiles{Services, Environment, Settings};
   list::frmChoose Choose{Desktop, ListFiles, Language, Messages};
   bar::frmMain Main{Desktop, {Services, Environment, Messages, Settings, Options, Choose, ListFiles, State, Starters}};

@@ -273,7 +273,7 @@ void frmBrowse::CommandSelectOK_Click() {
   const std::wstring path = state_.BrowseFolder + FileWork.Text();
   Hooks.ClosePanel();  // which also takes the selection away
   const bool run = panel == bar::menu::List || IsProgram(parts_.Services, path);
-  parts_.Messages.ShowList(run ? parts_.Starters.RunProgramCommand(path) : parts_.Starters.OpenWithShell(path));
+  parts_.Messages.ShowList(run ? parts_.Starters.RunProgramFile(path) : parts_.Starters.OpenWithShell(path));
 }
 
 // --- the finder

@@ -17,7 +17,7 @@ enum class Argument {
   CompanionName,     // a name of the maker's other programs; only a completed one is acted on
 };
 
-enum class Starter { Program, Explorer, Shell, ControlPanel, MakerMail, Telephone };
+enum class Starter { Program, Explorer, Shell, Web, ControlPanel, MakerMail, Telephone };
 
 /// One code of the command language: its argument, and how Enter turns that into something started.
 struct CommandCode {
@@ -40,19 +40,19 @@ inline constexpr std::array<CommandCode, 22> CommandCodes{{
     {L"e=", Argument::Typed, Starter::Shell, L"mailto:"},
     {L"e.", Argument::MakerAddress, Starter::MakerMail},
     {L"t=", Argument::Typed, Starter::Telephone},
-    {L"w=", Argument::Typed, Starter::Shell},
-    {L"w:", Argument::Typed, Starter::Shell, L"http://"},
-    {L"w;", Argument::Typed, Starter::Shell, L"http://www."},
-    {L"c/", Argument::Typed, Starter::Shell, L"http://www.", L".com"},
-    {L"g/", Argument::Typed, Starter::Shell, L"http://www.", L".gov"},
-    {L"i/", Argument::Typed, Starter::Shell, L"http://www.", L".info"},
-    {L"n/", Argument::Typed, Starter::Shell, L"http://www.", L".net"},
-    {L"o/", Argument::Typed, Starter::Shell, L"http://www.", L".org"},
-    {L"t/", Argument::Typed, Starter::Shell, L"http://www.", L".tv"},
+    {L"w=", Argument::Typed, Starter::Web},
+    {L"w:", Argument::Typed, Starter::Web, L"http://"},
+    {L"w;", Argument::Typed, Starter::Web, L"http://www."},
+    {L"c/", Argument::Typed, Starter::Web, L"http://www.", L".com"},
+    {L"g/", Argument::Typed, Starter::Web, L"http://www.", L".gov"},
+    {L"i/", Argument::Typed, Starter::Web, L"http://www.", L".info"},
+    {L"n/", Argument::Typed, Starter::Web, L"http://www.", L".net"},
+    {L"o/", Argument::Typed, Starter::Web, L"http://www.", L".org"},
+    {L"t/", Argument::Typed, Starter::Web, L"http://www.", L".tv"},
     {L"p-", Argument::ItemName, Starter::Program, {}, {}, list::LaunchGroup::Prog},
     {L"f-", Argument::ItemName, Starter::Shell, {}, {}, list::LaunchGroup::File},
     {L"d-", Argument::ItemName, Starter::Explorer, {}, {}, list::LaunchGroup::Fold},
-    {L"w-", Argument::ItemName, Starter::Shell, {}, {}, list::LaunchGroup::Web},
+    {L"w-", Argument::ItemName, Starter::Web, {}, {}, list::LaunchGroup::Web},
     {L"r-", Argument::CompanionName, Starter::Program},
 }};
 

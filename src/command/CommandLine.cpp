@@ -100,7 +100,7 @@ void CommandLine::SendMakerMail(std::size_t index) {
 void CommandLine::StartTyped(const CommandCode& code, std::wstring_view argument) {
   const std::wstring word =
       code.Argument == Argument::SpecialFolder ? GetSpecialFolderPath(services_, argument) : std::wstring(argument);
-  messages_.ShowList(Start(code.Starter, std::wstring(code.Before).append(word).append(code.After)));
+  messages_.ShowList(Start(code, std::wstring(code.Before).append(word).append(code.After)));
 }
 
 void CommandLine::StartItem(const CommandCode& code, std::wstring_view name) {
@@ -108,13 +108,13 @@ void CommandLine::StartItem(const CommandCode& code, std::wstring_view name) {
   const list::GroupBoxes& boxes = list_.Of(code.Group);
   // The list may have changed since the name was completed.
   if (index == NoIndex || index >= boxes.Name.ListCount() || boxes.Name.List(index) != name) return;
-  messages_.ShowList(Start(code.Starter, boxes.Path.List(index)));
+  messages_.ShowList(Start(code, boxes.Path.List(index)));
 }
 
 void CommandLine::StartCompanion(const CommandCode& code) {
   const int index = state_.MatchedItemIndex;
   if (index == NoIndex) return;
-  messages_.ShowList(Start(code.Starter, environment_.Companions.at(static_cast<std::size_t>(index)).Path));
+  messages_.ShowList(Start(code, environment_.Companions.at(static_cast<std::size_t>(index)).Path));
 }
 
 void CommandLine::Dial(std::wstring_view number) {
@@ -123,14 +123,17 @@ void CommandLine::Dial(std::wstring_view number) {
   textMain_.SetFocus();
 }
 
-message::MessageKey CommandLine::Start(command::Starter starter, const std::wstring& target) const {
-  switch (starter) {
+message::MessageKey CommandLine::Start(const CommandCode& code, const std::wstring& target) const {
+  const bool listed = code.Argument == Argument::ItemName || code.Argument == Argument::CompanionName;
+  switch (code.Starter) {
     case Starter::Program:
-      return starters_.RunProgramCommand(target);
+      return listed ? starters_.RunProgramFile(target) : starters_.RunProgramCommand(target);
     case Starter::Explorer:
       return starters_.RunExplorerCommand(environment_.WindowsFolder + L"explorer.exe " + target);
     case Starter::Shell:
       return starters_.OpenWithShell(target);
+    case Starter::Web:
+      return listed ? starters_.OpenWebItem(target) : starters_.OpenWebAddress(target);
     case Starter::ControlPanel:
       return OpenControlPanelApplet(services_, target);
     case Starter::MakerMail:

@@ -42,7 +42,7 @@ class CommandLine {
   void StartItem(const CommandCode& code, std::wstring_view name);
   void StartCompanion(const CommandCode& code);
   void Dial(std::wstring_view number);
-  [[nodiscard]] message::MessageKey Start(command::Starter starter, const std::wstring& target) const;
+  [[nodiscard]] message::MessageKey Start(const CommandCode& code, const std::wstring& target) const;
 
   void Escape();
 

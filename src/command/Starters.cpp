@@ -3,23 +3,64 @@
 #include <algorithm>
 #include <string>
 
+#include "text/DirectionMarks.h"
+
 namespace vantor::command {
 
+namespace {
+
+constexpr std::wstring_view StartError = L"MessageProgramStartError";
+
+/// A target as the shell takes it in whole. A double quote would end it.
+std::wstring Quoted(std::wstring_view target) {
+  // A backslash before the closing quote would make it part of the name. That of a drive's root has to stay.
+  if (target.size() > 3 && target.back() == L'\\') target.remove_suffix(1);
+  std::wstring quoted = L"\"";
+  for (const wchar_t c : target) quoted += c == L'"' ? std::wstring(L"%22") : std::wstring(1, c);
+  return quoted += L'"';
+}
+
+}  // namespace
+
 bool IsPlain(std::wstring_view text) {
-  return std::none_of(text.begin(), text.end(),
-                      [](wchar_t c) { return c < L' ' || (c >= 0x7F && c <= 0x9F) || c == 0x2028 || c == 0x2029; });
+  return std::none_of(text.begin(), text.end(), [](wchar_t c) {
+    return c < L' ' || (c >= 0x7F && c <= 0x9F) || c == 0x2028 || c == 0x2029 || text::IsDirectionMark(c);
+  });
 }
 
 message::MessageKey Starters::RunProgramCommand(std::wstring_view commandLine) const {
-  return Outcome(IsPlain(commandLine) && programs_.StartCommandLine(commandLine), L"MessageProgramRunError");
+  return Outcome(IsPlain(commandLine) && services_.Programs.StartCommandLine(commandLine), L"MessageProgramRunError");
+}
+
+message::MessageKey Starters::RunProgramFile(std::wstring_view path) const {
+  // No path has a double quote. What stands behind one would be taken for the program's arguments.
+  if (path.find(L'"') != path.npos) return Outcome(false, L"MessageProgramRunError");
+  return RunProgramCommand(L'"' + std::wstring(path) + L'"');
 }
 
 message::MessageKey Starters::RunExplorerCommand(std::wstring_view commandLine) const {
-  return Outcome(IsPlain(commandLine) && programs_.StartCommandLine(commandLine), L"MessageProgramExplorerError");
+  return Outcome(IsPlain(commandLine) && services_.Programs.StartCommandLine(commandLine),
+                 L"MessageProgramExplorerError");
 }
 
 message::MessageKey Starters::OpenWithShell(std::wstring_view target) const {
-  return Outcome(IsPlain(target) && shell_.Run(target), L"MessageProgramStartError");
+  service::FileSystem& files = services_.FileSystem;
+  if (!IsPlain(target)) return Outcome(false, StartError);
+  const bool isPath = files.FileExists(target) || files.FolderExists(target);
+  return Outcome(isPath ? OpenExactly(target) : services_.ScriptShell.Run(target), StartError);
+}
+
+message::MessageKey Starters::OpenWebAddress(std::wstring_view address) const {
+  return Outcome(IsPlain(address) && services_.ScriptShell.Run(Quoted(address)), StartError);
+}
+
+message::MessageKey Starters::OpenWebItem(std::wstring_view address) const {
+  return Outcome(IsPlain(address) && OpenExactly(address), StartError);
+}
+
+bool Starters::OpenExactly(std::wstring_view target) const {
+  service::ScriptShell& shell = services_.ScriptShell;
+  return shell.ExpandVariables(target) == target ? shell.Run(Quoted(target)) : shell.Open(target);
 }
 
 message::MessageKey Starters::Outcome(bool started, std::wstring_view failure) const {
@@ -41,7 +82,8 @@ message::MessageKey Starters::SendMailTo(std::wstring_view address, std::wstring
   if (!std::equal(Scheme.begin(), Scheme.end(), start.begin(), start.end(), sameLetter)) link.insert(0, Scheme);
   if (!subject.empty()) link.append(L"?subject=").append(subject);
   if (!body.empty()) link.append(subject.empty() ? L"?body=" : L"&body=").append(body);
-  return IsPlain(link) && programs_.ShellOpen(link) > GreatestShellError ? L"" : L"MessageProgramStartError";
+  return IsPlain(link) && services_.Programs.ShellOpen(link) > GreatestShellError ? message::MessageKey()
+                                                                                  : message::MessageKey(StartError);
 }
 
 }  // namespace vantor::command

@@ -4,27 +4,33 @@
 
 #include "form/Event.h"
 #include "message/MessageState.h"
-#include "service/Programs.h"
-#include "service/ScriptShell.h"
+#include "service/Services.h"
 
 namespace vantor::command {
 
-/// Line breaks and other control characters stand in no path, no address and no number. Where the clipboard or a file
-/// that somebody else wrote brings them, the system is not to see them.
+/// Line breaks, other control characters and marks of text direction stand in no path, no address and no number that
+/// somebody types. Where the clipboard or a file that somebody else wrote brings them, the system is not to see them.
 [[nodiscard]] bool IsPlain(std::wstring_view text);
 
 /// The routines that start what a target names. Each returns "" when it was started, else the key of the message
-/// that says what failed. A target with a control character in it is not started.
+/// that says what failed. A target that is not plain is not started.
 class Starters {
  public:
-  Starters(service::Programs& programs, service::ScriptShell& shell) : programs_(programs), shell_(shell) {}
+  explicit Starters(const service::Services& services) : services_(services) {}
 
-  /// Runs when something was started by one of the three below; the bar empties its command line then.
+  /// Runs when something was started by one of those below, mails apart; the bar empties its command line then.
   form::Event<> Started;
 
   message::MessageKey RunProgramCommand(std::wstring_view commandLine) const;
+  /// Hands the path of one program to RunProgramCommand, in double quotes: where it is gone, nothing else is to run
+  /// whose name a part of it is.
+  message::MessageKey RunProgramFile(std::wstring_view path) const;
   message::MessageKey RunExplorerCommand(std::wstring_view commandLine) const;
   message::MessageKey OpenWithShell(std::wstring_view target) const;
+  /// OpenWithShell for a web address as it is typed, and for one of the launch list, which stands for itself: a
+  /// variable's value is not to get into it.
+  message::MessageKey OpenWebAddress(std::wstring_view address) const;
+  message::MessageKey OpenWebItem(std::wstring_view address) const;
 
   /// Opens a mail to `address`, with or without "mailto:". Subject and body are appended as they are. Does not
   /// count as started, so the command line stays.
@@ -32,10 +38,10 @@ class Starters {
                                                std::wstring_view body) const;
 
  private:
+  [[nodiscard]] bool OpenExactly(std::wstring_view target) const;
   [[nodiscard]] message::MessageKey Outcome(bool started, std::wstring_view failure) const;
 
-  service::Programs& programs_;
-  service::ScriptShell& shell_;
+  service::Services services_;
 };
 
 }  // namespace vantor::command

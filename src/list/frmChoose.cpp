@@ -59,7 +59,14 @@ void frmChoose::CommandListCancel_Click() { Hooks.ClosePanel(); }
 
 void frmChoose::Start(LaunchGroup group, std::wstring_view target) {
   CommandListCancel_Click();
-  (group == LaunchGroup::Prog ? Hooks.RunProgram : Hooks.OpenWithShell)(target);
+  switch (group) {
+    case LaunchGroup::Prog:
+      return Hooks.RunProgram(target);
+    case LaunchGroup::Web:
+      return Hooks.OpenWebItem(target);
+    default:
+      return Hooks.OpenWithShell(target);
+  }
 }
 
 void frmChoose::Form_KeyUp(form::Key key) {

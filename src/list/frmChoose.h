@@ -22,6 +22,7 @@ struct ChooseHooks {
   form::Event<> ClosePanel;
   /// Start a target; a failure is told there.
   form::Event<std::wstring_view /*target*/> RunProgram;
+  form::Event<std::wstring_view /*target*/> OpenWebItem;
   form::Event<std::wstring_view /*target*/> OpenWithShell;
   /// A function key was let go.
   form::Event<form::Key /*key*/> HotKey;

@@ -20,9 +20,15 @@ class ScriptShell {
  public:
   virtual ~ScriptShell() = default;
 
-  /// Opens a target by the shell's default action, window style 1. A target that is an existing file or folder
-  /// is passed in double quotes. False when nothing was started.
+  /// Opens a target by the shell's default action, window style 1. The target is a command line: it is cut at its
+  /// blanks unless they stand in double quotes, and its variables in percent signs are replaced. False when nothing was
+  /// started.
   [[nodiscard]] virtual bool Run(std::wstring_view target) = 0;
+  /// A text with its variables replaced as by Run.
+  [[nodiscard]] virtual std::wstring ExpandVariables(std::wstring_view text) = 0;
+  /// Opens a file, a folder or an address by the shell's default action exactly as it is named, by the plain Windows
+  /// call. False when nothing was started.
+  [[nodiscard]] virtual bool Open(std::wstring_view target) = 0;
   /// The path of a special folder by its name, such as "SendTo"; "" when it is unknown.
   [[nodiscard]] virtual std::wstring SpecialFolder(std::wstring_view name) = 0;
 

@@ -61,13 +61,14 @@ void Program::ConnectChoose() {
   frmMain.SetPanel(bar::menu::Code, &CodePanel);
   list::ChooseHooks& hooks = frmChoose.Hooks;
   hooks.ClosePanel = [this] { frmMain.ClosePanel(); };
-  hooks.RunProgram = [this](std::wstring_view target) { Messages.ShowList(Starters.RunProgramCommand(target)); };
+  hooks.RunProgram = [this](std::wstring_view target) { Messages.ShowList(Starters.RunProgramFile(target)); };
+  hooks.OpenWebItem = [this](std::wstring_view target) { Messages.ShowList(Starters.OpenWebItem(target)); };
   hooks.OpenWithShell = [this](std::wstring_view target) { Messages.ShowList(Starters.OpenWithShell(target)); };
   hooks.HotKey = [this](form::Key key) { frmMain.HotKey(key); };
   hooks.Place = [this](form::Size size) { return PlaceByBar(size); };
   CompanionPage.Start = [this](std::wstring_view target) {
     frmMain.ClosePanel();
-    Messages.ShowList(Starters.RunProgramCommand(target));
+    Messages.ShowList(Starters.RunProgramFile(target));
   };
   OptionsPage.Hooks.ClosePanel = [this] { frmMain.ClosePanel(); };
   OptionsPage.Hooks.RememberMyComputer = [this] { return add::RememberMyComputer(Services, Messages, Environment); };

@@ -43,7 +43,7 @@ class Program {
   command::CommandState CommandState;
 
   message::Messages Messages{Ui, MessageState};
-  command::Starters Starters{Services.Programs, Services.ScriptShell};
+  command::Starters Starters{Services};
   list::ListFiles ListFiles{Services, Environment, Settings};
 
   start::frmMove frmMove{Ui, Services, Environment};

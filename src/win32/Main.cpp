@@ -13,8 +13,9 @@ namespace vantor::win32 {
 namespace {
 
 /// Nothing that lies beside the program or in the current folder is to be taken for a part of Windows, and no
-/// drive without a disk makes Windows ask for one. What this program starts inherits the current folder, which the shell
-/// too looks into for names without a folder: a file of the name "www.site.com" there would be run in a site's place.
+/// drive without a disk makes Windows ask for one. What this program starts inherits the current folder, which the
+/// shell too looks into for names without a folder: a file of the name "www.site.com" there would be run in a site's
+/// place.
 void Harden() {
   HeapSetInformation(nullptr, HeapEnableTerminationOnCorruption, nullptr, 0);
   SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);

@@ -16,7 +16,12 @@ struct Line : test::StartedProgram {
     Add(LaunchGroup::Prog, L"\u041F\u0440\u043E\u0435\u043A\u0442", L"C:\\p.exe");
     Add(LaunchGroup::File, L"Letter", L"C:\\My docs\\letter.doc");
     Add(LaunchGroup::Fold, L"Pictures", L"C:\\My pictures");
-    Add(LaunchGroup::Web, L"News", L"http://news.example/a?b=c");
+    Add(LaunchGroup::File, L"Percent", L"C:\\Work\\%TEMP%.txt");
+    Add(LaunchGroup::File, L"Work", L"C:\\Work\\");
+    Add(LaunchGroup::Web, L"News", L"http://news.example/?\"%TEMP\"");
+    Add(LaunchGroup::Web, L"Value", L"http://news.example/%TEMP%");
+    Add(LaunchGroup::Web, L"Turned", L"http://news.example/\x202Egpj.exe");
+    Computer.Disk.AddFile(L"C:\\Work\\%TEMP%.txt");
   }
   form::TextBox& Box = Main.TextMain;
 };
@@ -27,9 +32,18 @@ TEST_CASE("every code starts its target and empties the line") {
       {L"d.nosuch", L"run C:\\WINDOWS\\explorer.exe C:\\Documents"},
       {L"d.nethood", L"run C:\\WINDOWS\\explorer.exe C:\\Documents"},
       {L"t=12a3 4", L"call 1234|Vantor"},
-      {L"w;x.example", L"shell http://www.x.example"},
-      {L"p-N", L"run C:\\Program Files\\Note, pad.exe"},
-      {L"p-ne", L"run C:\\net.exe"},
+      {L"w;x.example", L"shell \"http://www.x.example\""},
+      {L"w=%TEMP%", L"shell \"%TEMP%\""},
+      {L"w-N", L"shell \"http://news.example/?%22%TEMP%22\""},
+      {L"w-v", L"open http://news.example/%TEMP%"},
+      {L"f=C:\\Work\\notes.txt", L"shell \"C:\\Work\\notes.txt\""},
+      {L"f=edit C:\\Work\\%TEMP%.txt", L"shell edit C:\\Work\\%TEMP%.txt"},
+      {L"f-l", L"shell C:\\My docs\\letter.doc"},
+      {L"f-p", L"open C:\\Work\\%TEMP%.txt"},
+      {L"f-w", L"shell \"C:\\Work\""},
+      {L"p-N", L"run \"C:\\Program Files\\Note, pad.exe\""},
+      {L"p-ne", L"run \"C:\\net.exe\""},
+      {L"d-p", L"run C:\\WINDOWS\\explorer.exe C:\\My pictures"},
   };
   Line line;
   for (const auto& row : rows) {
@@ -41,12 +55,18 @@ TEST_CASE("every code starts its target and empties the line") {
     CHECK(line.Computer.Asked == Texts{std::wstring(started)});
     CHECK(line.Box.Text().empty());
   }
+  // What can't be seen in a target is not handed on.
+  line.Computer.Asked.clear();
+  line.Type(L"w-t");
+  line.Expect();
+  line.Desktop.Type(L"\r");
+  CHECK(line.Told.at(0) == L"There was some error. Could not start the required program.");
   // What was renamed or removed since it was completed is not started.
   line.Type(L"p-notepad");
   line.Choose.ComboListProgName.RemoveItem(0);
   line.Choose.ComboListProgPath.RemoveItem(0);
   line.Desktop.Type(L"\r");
-  CHECK(line.Computer.Asked.size() == 1);
+  CHECK(line.Computer.Asked.empty());
 }
 
 TEST_CASE("a settings page that can't be shown is not told, a number that can't be dialled is and leaves the line") {

@@ -55,7 +55,7 @@ class Computer : public service::DataFiles,
   Values Registry;
   bool Administrator = true;  // who may write the machine's values
   int CallError = -9;         // of a telephone call that fails
-  Texts Asked;  // "run …", "shell …", "mail …", "call …", "write …", "delete …", "shortcut …", "title …"
+  Texts Asked;  // "run …", "shell …", "open …", "mail …", "call …", "write …", "delete …", "shortcut …", "title …"
 
   std::vector<service::ProcessEntry> Entries;
   std::vector<service::ManagedProcess> Managed{{0, std::nullopt}, {7, L"C:\\Work\\Tool.EXE"}, {8, std::nullopt}};
@@ -66,7 +66,7 @@ class Computer : public service::DataFiles,
   service::WindowId Captured{};
   service::WindowId Marked{};
   bool Target = false;
-  int Open = 0;  // objects and snapshots
+  int Held = 0;  // objects and snapshots
 
   void AddProcess(std::uint32_t id, std::string_view name) {
     service::ProcessEntry& entry = Entries.emplace_back();
@@ -114,8 +114,8 @@ class Computer : public service::DataFiles,
   Texts Files(Text path, Text pattern) override {
     return Fails(__func__) ? Texts() : Names(path, false, pattern == L"*.*" ? L"" : Lower(pattern.substr(1)));
   }
-  void BeginMany() override { ++Open; }
-  void EndMany() override { --Open; }
+  void BeginMany() override { ++Held; }
+  void EndMany() override { --Held; }
 
   // --- letters: those of Latin-1 and Russian; a code page of Latin-1 and the euro
 
@@ -162,6 +162,12 @@ class Computer : public service::DataFiles,
   int RequestMakeCall(Text number, Text application) override {
     return Note(L"call ", std::wstring(number).append(L"|").append(application)) && Fails(__func__) ? CallError : 0;
   }
+  std::wstring ExpandVariables(Text text) override {
+    const auto at = text.find(L"%TEMP%");
+    if (Fails(__func__) || at == text.npos) return std::wstring(text);
+    return std::wstring(text).replace(at, 6, L"C:\\Temp");
+  }
+  bool Open(Text target) override { return Note(L"open ", target) && !Fails(__func__); }
   bool Run(Text target) override { return Note(L"shell ", target) && !Fails(__func__); }
   std::wstring SpecialFolder(Text name) override { return Fails(__func__) ? L"" : Specials[std::wstring(name)]; }
   std::wstring RegistryRead(Text name) override { return Fails(__func__) ? L"" : Registry[std::wstring(name)]; }
@@ -179,7 +185,7 @@ class Computer : public service::DataFiles,
 
   service::SnapshotId CreateSnapshot(std::uint32_t /*flags*/, std::uint32_t /*processId*/) override {
     if (Fails(__func__)) return service::SnapshotId::None;
-    ++Open;
+    ++Held;
     next_ = 0;
     return service::SnapshotId{77};
   }
@@ -191,7 +197,7 @@ class Computer : public service::DataFiles,
     entry = Entries[next_++];
     return true;
   }
-  void CloseSnapshot(service::SnapshotId /*snapshot*/) override { --Open; }
+  void CloseSnapshot(service::SnapshotId /*snapshot*/) override { --Held; }
   std::optional<std::vector<service::ManagedProcess>> ManagedProcesses() override {
     return Fails(__func__) ? std::nullopt : std::optional(Managed);
   }

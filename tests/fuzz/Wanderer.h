@@ -207,7 +207,7 @@ struct Wandering {
     Require(open >= command::NoIndex && open < static_cast<int>(bar::menu::Count),
             "the open panel is one of the panels");
     Require(Desktop.Ended() || Program.MessageState.MessageBody.empty(), "a message leaves nothing behind");
-    Require(Computer.Open == 0, "every object is released");
+    Require(Computer.Held == 0, "every object is released");
     for (const std::wstring& target : Computer.Asked) {
       const auto isControl = [](wchar_t c) { return c < L' ' || (c >= 0x7F && c < 0xA0); };
       Require(std::none_of(target.begin(), target.end(), isControl), "a target has no control character");

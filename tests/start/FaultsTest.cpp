@@ -162,7 +162,7 @@ TEST_CASE("each call of a service that goes wrong gives its message, and the pro
         CAPTURE(walk.WrongCall);
         CAPTURE(wrong);
         CHECK(walk.Desktop.Ended());
-        CHECK(walk.Computer.Open == 0);
+        CHECK(walk.Computer.Held == 0);
         // What the interfaces speak of has its message, or none; what nobody expected is asked about, once.
         const bool expected = how == Outcome::Fails;
         CHECK(walk.BugQuestions() <= (expected ? 0 : 1));

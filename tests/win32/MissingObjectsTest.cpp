@@ -66,7 +66,9 @@ TEST_CASE("without the scripting shell Windows does the same") {
   ScriptShell shell(com);
   TestFolder folder;
   const std::wstring ran = folder / L"ran.txt";
-  SUBCASE("a document") { CHECK(shell.Run(folder.Make(L"my tool.cmd", "@echo ran>\"%~dp0ran.txt\"\r\n"))); }
+  SUBCASE("a document") {
+    CHECK(shell.Run(L'"' + folder.Make(L"my tool.cmd", "@echo ran>\"%~dp0ran.txt\"\r\n") + L'"'));
+  }
   SUBCASE("a command line") { CHECK(shell.Run(L"cmd /c echo ran>\"" + ran + L"\"")); }
   CHECK(Eventually([&] { return std::filesystem::exists(ran); }));
   CHECK_FALSE(shell.Run(L"nosuchprogram"));

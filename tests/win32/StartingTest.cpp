@@ -35,12 +35,21 @@ TEST_CASE("a text that names a file starts exactly that file; a command line the
   CopyFileW(L"C:\\windows\\system32\\attrib.exe", (starts.Folder / L"my.exe").c_str(), FALSE);
   const std::wstring arguments = L" /c echo ran>\"" + starts.Ran + L"\"";
   SUBCASE("as a command line") { CHECK(starts.Plain.StartCommandLine(program)); }
-  SUBCASE("through the scripting shell") { CHECK(starts.Shell.Run(program)); }
+  SUBCASE("through the scripting shell") { CHECK(starts.Shell.Run(L'"' + program + L'"')); }
   SUBCASE("by the shell") { CHECK(starts.Plain.ShellOpen(program) > 32); }
   SUBCASE("on the search path") { CHECK(starts.Plain.StartCommandLine(L"cmd" + arguments)); }
   SUBCASE("in quotes") { CHECK(starts.Plain.StartCommandLine(L"\"C:\\windows\\system32\\cmd.exe\"" + arguments)); }
   SUBCASE("on the path, by the scripting shell") { CHECK(starts.Shell.Run(L"cmd.exe" + arguments)); }
   CHECK(Eventually([&] { return DataFiles().Read(starts.Ran).value_or("").starts_with("ran"); }));
+}
+
+TEST_CASE("a file that has a variable in its name is opened all the same") {
+  Starts starts;
+  const std::wstring program = starts.Folder / L"my %TEMP%.exe";
+  CopyFileW(L"C:\\windows\\system32\\attrib.exe", program.c_str(), FALSE);
+  CHECK(starts.Shell.ExpandVariables(program) != program);
+  CHECK_FALSE(starts.Shell.Run(L'"' + program + L'"'));
+  CHECK(starts.Shell.Open(program));
 }
 
 TEST_CASE("what can't be started is told, and nothing is started in its place") {
@@ -60,7 +69,8 @@ TEST_CASE("what can't be started is told, and nothing is started in its place") 
     CHECK_FALSE(starts.Plain.StartCommandLine(line));
     if (line.empty() || line == starts.Folder.Path) continue;
     CHECK(starts.Plain.ShellOpen(line) <= 32);
-    CHECK_FALSE(starts.Shell.Run(line));
+    CHECK_FALSE(starts.Shell.Run(L'"' + line + L'"'));
+    CHECK_FALSE(starts.Shell.Open(line));
   }
   CHECK(GetFileAttributesW(starts.Ran.c_str()) == INVALID_FILE_ATTRIBUTES);
   CHECK(starts.Plain.RequestMakeCall(L"", L"Vantor") <= 0);

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "text/DirectionMarks.h"
+
 namespace vantor::win32 {
 
 int LineHeight(HWND window, HFONT font, double scale) {
@@ -32,7 +34,8 @@ void DrawLine(const DRAWITEMSTRUCT& item, const Line& line, COLORREF ground, HFO
   const HGDIOBJ oldFont = SelectObject(item.hDC, font);
   SetBkMode(item.hDC, TRANSPARENT);
   SetTextColor(item.hDC, ink);
-  DrawTextW(item.hDC, line.Text.data(), static_cast<int>(line.Text.size()), &area,
+  const std::wstring text = text::WithSignsForMarks(line.Text);
+  DrawTextW(item.hDC, text.data(), static_cast<int>(text.size()), &area,
             DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | static_cast<UINT>(isPath ? DT_PATH_ELLIPSIS : DT_END_ELLIPSIS));
   SelectObject(item.hDC, oldFont);
   if ((item.itemState & ODS_FOCUS) != 0 && (item.itemState & ODS_NOFOCUSRECT) == 0) {

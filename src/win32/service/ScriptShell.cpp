@@ -3,7 +3,6 @@
 #include <windows.h>
 
 #include "win32/base/CommandLine.h"
-#include "win32/base/LongPath.h"
 #include "win32/base/ShellFunction.h"
 #include "win32/service/Language.h"
 #include "win32/service/RegistryValue.h"
@@ -16,16 +15,7 @@ namespace {
 
 constexpr short NormalWindow = 1;
 
-/// The target as `Run` takes it, which cuts a command line at its blanks.
-std::wstring Quoted(std::wstring_view target) {
-  if (!IsFile(target) && !IsFolder(target)) return std::wstring(target);
-  // A backslash before the closing quote would make it part of the name. That of a drive's root has to stay.
-  if (target.size() > 3 && target.back() == L'\\') target.remove_suffix(1);
-  return L'"' + std::wstring(target) + L'"';
-}
-
 bool PlainRun(std::wstring_view target) {
-  if (IsFile(target) || IsFolder(target)) return OpenByShell(std::wstring(target), {});
   const CommandLine parts = SplitCommandLine(target);
   return OpenByShell(parts.Path.empty() ? parts.Program : parts.Path, parts.Arguments);
 }
@@ -45,13 +35,31 @@ bool ScriptShell::Run(std::wstring_view target) {
   AllowSetForegroundWindow(ASFW_ANY);
   try {
     const LateBound shell = Make();
-    const Variant result = shell.Call(L"Run", {Variant(Quoted(target)), Variant(NormalWindow)});
+    const Variant result = shell.Call(L"Run", {Variant(target), Variant(NormalWindow)});
     // Without waiting there is no exit code: anything but 0 is an error that was not raised as one.
     return result.Number().value_or(0) == 0;
   } catch (const ComError& error) {
     // After a refusal a second way might start it a second time.
     return error.Lacking() && PlainRun(target);
   }
+}
+
+std::wstring ScriptShell::ExpandVariables(std::wstring_view text) {
+  const std::wstring given(text);
+  std::wstring expanded(given.size() + 1, L'\0');
+  for (;;) {
+    const DWORD length = ExpandEnvironmentStringsW(given.c_str(), expanded.data(), static_cast<DWORD>(expanded.size()));
+    if (length == 0) return given;
+    const bool fits = length <= expanded.size();
+    expanded.resize(fits ? length - 1 : length);  // the length has the ending null in it
+    if (fits) return expanded;
+  }
+}
+
+bool ScriptShell::Open(std::wstring_view target) {
+  apartment_.Enter();
+  AllowSetForegroundWindow(ASFW_ANY);
+  return OpenByShell(std::wstring(target), {});
 }
 
 std::wstring ScriptShell::SpecialFolder(std::wstring_view name) {

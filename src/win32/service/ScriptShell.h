@@ -14,6 +14,8 @@ class ScriptShell final : public service::ScriptShell {
   explicit ScriptShell(Apartment& apartment) : apartment_(apartment) {}
 
   [[nodiscard]] bool Run(std::wstring_view target) override;
+  [[nodiscard]] std::wstring ExpandVariables(std::wstring_view text) override;
+  [[nodiscard]] bool Open(std::wstring_view target) override;
   [[nodiscard]] std::wstring SpecialFolder(std::wstring_view name) override;
   [[nodiscard]] std::wstring RegistryRead(std::wstring_view name) override;
   void RegistryWrite(std::wstring_view name, std::wstring_view value) override;

@@ -2,6 +2,7 @@
 
 #include <commctrl.h>
 
+#include "text/DirectionMarks.h"
 #include "win32/window/CommonControls.h"
 #include "win32/window/ControlWindow.h"
 #include "win32/window/WindowsDesktop.h"
@@ -48,7 +49,7 @@ void ToolTips::Raise() {
 bool ToolTips::OnNotify(NMHDR& notification) {
   if (!window_ || notification.hwndFrom != window_.Get() || notification.code != TTN_GETDISPINFOW) return false;
   const ControlWindow* const control = ControlWindow::From(reinterpret_cast<HWND>(notification.idFrom));
-  text_ = control != nullptr ? control->TipText() : std::wstring();
+  text_ = control != nullptr ? text::WithSignsForMarks(control->TipText()) : std::wstring();
   reinterpret_cast<NMTTDISPINFOW&>(notification).lpszText = text_.data();
   return true;
 }
