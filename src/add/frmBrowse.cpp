@@ -87,7 +87,7 @@ void frmBrowse::Open() {
     showedOpenUse_ = Opening();
     CommandSelectOK.SetEnabled(false);
     LayOut();
-    if (Hooks.Place) SetBounds(Hooks.Place({Bounds().Width, Bounds().Height}));
+    Hooks.Place(*this);
     Show();
     FirstControl().SetFocus();
   });

@@ -48,8 +48,8 @@ struct BrowseHooks {
   form::Event<> ItemAdded;
   /// A function key was let go.
   form::Event<form::Key /*key*/> HotKey;
-  /// Where a box of this size stands by the bar.
-  std::function<form::Rect(form::Size size)> Place;
+  /// Moves the box to where it stands best beside the bar.
+  form::Event<form::Form&> Place;
 };
 
 /// The browse box, in two uses that OpenPanelIndex tells apart: "Add To List" (0) and "Open" (1).

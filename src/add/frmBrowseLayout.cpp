@@ -112,7 +112,7 @@ void frmBrowse::LayOut() {
 
   FrameBrowseBack.SetBounds({0, 0, BoxWidth, FrameAddCancel.Bottom() + Margin});
   PictureNo.SetBounds({Margin, FrameAddCancel.Top(), Gap / 4, Gap / 4});
-  SetBounds({Bounds().Left, Bounds().Top, FrameBrowseBack.Width(), FrameBrowseBack.Height()});
+  SetInside({FrameBrowseBack.Width(), FrameBrowseBack.Height()});
 }
 
 void frmBrowse::LayOutLists(Twips top, Twips bottom) {

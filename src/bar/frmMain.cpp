@@ -106,15 +106,15 @@ void frmMain::Form_Load() {
     const list::Settings& settings = parts_.Settings;
     const form::Rect place{settings.Left, settings.Top, BarHeight, BarHeight};
     twipsPerPixelX_ = Ui().ScreenAt(place).TwipsPerPixelX;
-    SetBounds(place);
+    MoveTo(place.Left, place.Top);
     LayOut();
     ShowWidth();
     // The screens may be others than when the place was saved: part of the bar must be there to take hold of.
     const form::Rect& bar = Bounds();
     screen_ = Ui().ScreenAt(bar);
     const form::Rect& screen = screen_.Bounds;
-    if (form::Overlap(bar.Left, bar.Right(), screen.Left, screen.Right()) < BarHeight ||
-        form::Overlap(bar.Top, bar.Bottom(), screen.Top, screen.Bottom()) < BarHeight / 2) {
+    if (form::Overlap(bar.Left, bar.Right(), screen.Left, screen.Right()) < bar.Height ||
+        form::Overlap(bar.Top, bar.Bottom(), screen.Top, screen.Bottom()) < bar.Height / 2) {
       KeepOnScreen();
     }
     ShowWebFace();
@@ -192,21 +192,17 @@ void frmMain::Form_ScreensChanged() {
   });
 }
 
-void frmMain::ShowWidth() {
-  form::Rect place = Bounds();
-  place.Width = BarWidth();
-  SetBounds(place);
-}
+void frmMain::ShowWidth() { SetInside({addWebShown_ ? wideWidth_ : narrowWidth_, BarHeight}); }
+
+form::Size frmMain::RoomNeeded() const { return {wideWidth_ + RightMargin, BarHeight + BottomMargin}; }
 
 void frmMain::KeepOnScreen() {
-  form::Rect place = Bounds();
-  screen_ = Ui().ScreenAt(place);
+  screen_ = Ui().ScreenAt(Bounds());
   const form::Rect& screen = screen_.Bounds;
-  place.Left = std::max(place.Left, screen.Left);
-  place.Left = std::min(place.Left, screen.Right() - (BarWidth() + RightMargin));
-  place.Top = std::max(place.Top, screen.Top);
-  place.Top = std::min(place.Top, screen.Bottom() - (place.Height + BottomMargin));
-  SetBounds(place);
+  const auto shown = [this](Twips length) { return static_cast<Twips>(std::ceil(length * Scale())); };
+  const Twips right = screen.Right() - Bounds().Width - shown(RightMargin);
+  const Twips bottom = screen.Bottom() - Bounds().Height - shown(BottomMargin);
+  MoveTo(std::min(std::max(Bounds().Left, screen.Left), right), std::min(std::max(Bounds().Top, screen.Top), bottom));
 }
 
 // --- staying on top
@@ -308,9 +304,8 @@ void frmMain::CommandWeb_Click() {
   ShowWidth();
   ShowWebFace();
   if (addWebShown_) {
-    form::Rect place = Bounds();
-    place.Left = std::min(place.Left, Ui().ScreenAt(place).Bounds.Right() - place.Width);
-    SetBounds(place);
+    const form::Rect& bar = Bounds();
+    MoveTo(std::min(bar.Left, Ui().ScreenAt(bar).Bounds.Right() - bar.Width), bar.Top);
   }
   ClearTextMain();
 }

@@ -91,6 +91,8 @@ class frmMain : public form::Form {
   void Form_MouseMove(form::MouseButton held) override;
   void Form_Moved() override;
   void Form_ScreensChanged() override;
+  /// Wide enough for the unfolded box at all times, so that folding it changes no size.
+  [[nodiscard]] form::Size RoomNeeded() const override;
 
  private:
   void NameControls();
@@ -100,7 +102,6 @@ class frmMain : public form::Form {
   void LayOut();
   void ShowWidth();
   void KeepOnScreen();
-  [[nodiscard]] form::Twips BarWidth() const { return addWebShown_ ? wideWidth_ : narrowWidth_; }
 
   void CommandWeb_Click();
   void CommandMenu_Click(std::size_t index);

@@ -1,6 +1,7 @@
 #include "form/Form.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "form/Scoped.h"
@@ -91,10 +92,40 @@ void Form::SetBackColor(Color color) {
   if (window_ != nullptr) window_->Changed(Property::Colors);
 }
 
-void Form::SetBounds(const Rect& bounds) {
-  if (bounds_ == bounds) return;
-  bounds_ = bounds;
+void Form::MoveTo(Twips left, Twips top) {
+  if (bounds_.Left == left && bounds_.Top == top) return;
+  bounds_.Left = left;
+  bounds_.Top = top;
+  Fit();
   if (window_ != nullptr) window_->Changed(Property::Bounds);
+}
+
+void Form::SetInside(Size inside) {
+  if (inside_ == inside) return;
+  inside_ = inside;
+  Fit();
+  if (window_ != nullptr) window_->Changed(Property::Bounds);
+}
+
+Size Form::RoomNeeded() const {
+  // As high as it usually is, and as wide as the edges below it.
+  constexpr Size TitleBar{240, 600};
+  const Size more = borderStyle_ == BorderStyle::Dialog ? TitleBar : Size{};
+  return {inside_.Width + more.Width, inside_.Height + more.Height};
+}
+
+void Form::Fit() {
+  const Screen screen = ui_.ScreenAt(bounds_);
+  const Size room = RoomNeeded();
+  const double share = std::min(double(screen.WorkArea.Width) / std::max(room.Width, 1),
+                                double(screen.WorkArea.Height) / std::max(room.Height, 1));
+  const double dotsPerInch = TwipsPerInch / screen.TwipsPerPixelX;
+  const double scale = share < 1 ? std::max(std::floor(dotsPerInch * share), 1.0) / dotsPerInch : 1;
+  const bool changed = scale != scale_;
+  scale_ = scale;
+  bounds_.Width = static_cast<Twips>(inside_.Width * scale);
+  bounds_.Height = static_cast<Twips>(inside_.Height * scale);
+  if (changed && window_ != nullptr) window_->Changed(Property::Bounds);
 }
 
 void Form::SetWindowState(form::WindowState state) {
@@ -109,10 +140,8 @@ void Form::SetTopMost(bool topMost) {
 }
 
 void Form::MoveInto(const Rect& area) {
-  Rect place = bounds_;
-  place.Left = std::max(std::min(place.Left, area.Right() - place.Width), area.Left);
-  place.Top = std::max(std::min(place.Top, area.Bottom() - place.Height), area.Top);
-  SetBounds(place);
+  MoveTo(std::max(std::min(bounds_.Left, area.Right() - bounds_.Width), area.Left),
+         std::max(std::min(bounds_.Top, area.Bottom() - bounds_.Height), area.Top));
 }
 
 void Form::Drag() {
@@ -153,12 +182,15 @@ void Form::InputMouseMove(MouseButton held) {
   if (AcceptsInput()) Form_MouseMove(held);
 }
 
-void Form::InputMoved(const Rect& bounds) {
-  bounds_ = bounds;
+void Form::InputMoved(Twips left, Twips top) {
+  bounds_.Left = left;
+  bounds_.Top = top;
+  Fit();
   if (!dragging_) Form_Moved();
 }
 
 void Form::InputScreensChanged() {
+  Fit();
   if (visible_) Form_ScreensChanged();
 }
 

@@ -77,15 +77,22 @@ class Form {
   [[nodiscard]] form::BorderStyle BorderStyle() const { return borderStyle_; }
   void SetBorderStyle(form::BorderStyle style) { borderStyle_ = style; }  // before the form is shown
 
-  /// Place of the window on the desktop and size of its inside, in twips; a dialog's title bar comes on top.
+  /// What the form covers of the desktop, in twips; a dialog's title bar comes on top.
   [[nodiscard]] const Rect& Bounds() const { return bounds_; }
-  void SetBounds(const Rect& bounds);
+  /// Moves the form's top left corner to a place on the desktop.
+  void MoveTo(Twips left, Twips top);
+  /// The size of the form's inside, in the twips of its controls.
+  [[nodiscard]] Size Inside() const { return inside_; }
+  void SetInside(Size inside);
+  /// How large the form is shown, with all that is in it: 1, or the largest share of that at which what it needs fits
+  /// the work area of its screen. It is a whole number of dots per inch there.
+  [[nodiscard]] double Scale() const { return scale_; }
   [[nodiscard]] form::WindowState WindowState() const { return windowState_; }
   void SetWindowState(form::WindowState state);
   /// Whether the window is to stand above all windows that are not topmost. Setting it again asserts it anew.
   [[nodiscard]] bool TopMost() const { return topMost_; }
   void SetTopMost(bool topMost);
-  /// Moves the form as little as brings it into an area; to the area's start where it is larger.
+  /// Moves the form as little as brings it into an area.
   void MoveInto(const Rect& area);
   /// Lets the user move the form with the mouse button that is held; Bounds are the new ones on return.
   void Drag();
@@ -107,7 +114,9 @@ class Form {
   /// A key let go, seen by the form whichever control has the focus.
   void InputKeyUp(Key key);
   void InputMouseMove(MouseButton held);
-  void InputMoved(const Rect& bounds);
+  void InputMoved(Twips left, Twips top);
+  /// The screen that the form is on has another resolution now, or its texts another size.
+  void InputResolution() { Fit(); }
   void InputScreensChanged();
   void InputWindowState(form::WindowState state) { windowState_ = state; }
   /// The user closes the window, or Windows ends.
@@ -126,6 +135,8 @@ class Form {
   virtual void Form_Moved() {}
   /// The screens or the room on them changed: a visible form comes into the room that is left.
   virtual void Form_ScreensChanged();
+  /// What has to fit the screen's work area, in the twips of the controls: the inside, with a dialog's title bar.
+  [[nodiscard]] virtual Size RoomNeeded() const;
   /// The mouse moves over a free spot: no control is there, or only frames, labels and images, which let it through.
   virtual void Form_MouseMove(MouseButton /*held*/) {}
   /// What closing the window does: an unload unless the form does otherwise.
@@ -141,11 +152,15 @@ class Form {
   /// Moves the focus on when the control that has it was just hidden or disabled.
   void LeaveUnreachable();
   void LeaveModal();
+  /// Shows the form at the scale that fits the screen it is on.
+  void Fit();
 
   UserInterface& ui_;
   std::wstring name_;
   std::wstring caption_;
   Rect bounds_;
+  Size inside_;
+  double scale_ = 1;
   Color backColor_ = Color::ButtonFace;
   form::BorderStyle borderStyle_ = form::BorderStyle::None;
   form::WindowState windowState_ = form::WindowState::Normal;

@@ -30,6 +30,8 @@ struct Rect {
 struct Size {
   Twips Width = 0;
   Twips Height = 0;
+
+  friend bool operator==(const Size&, const Size&) = default;
 };
 
 /// One screen of the desktop. Twips per pixel may be fractional (7.5 at 192 dots per inch).

@@ -20,10 +20,8 @@ class Headless::Window : public FormWindow {
   void Changed(Property /*property*/) override {}
   void SetTopMost(bool /*topMost*/) override {}
   void Drag() override {
-    Rect bounds = form_.Bounds();
-    bounds.Left += std::exchange(desktop_.dragX_, 0);
-    bounds.Top += std::exchange(desktop_.dragY_, 0);
-    form_.InputMoved(bounds);
+    const Rect& bounds = form_.Bounds();
+    form_.InputMoved(bounds.Left + std::exchange(desktop_.dragX_, 0), bounds.Top + std::exchange(desktop_.dragY_, 0));
   }
   void Activate() override {
     desktop_.FormGone(form_);

@@ -48,8 +48,8 @@ void frmChoose::ShowPage(ChoosePage& page) {
     form::PlaceButton(CommandListCancel, LabelListCancel, {0, 0, width, form::ButtonHeight});
     height += form::ButtonHeight + Margin;
   }
-  SetBounds(Hooks.Place ? Hooks.Place({size.Width, height})
-                        : form::Rect{Bounds().Left, Bounds().Top, size.Width, height});
+  SetInside({size.Width, height});
+  Hooks.Place(*this);
   form::Control* const first = page.First();
   Show();
   (first != nullptr ? *first : CommandListCancel).SetFocus();

@@ -26,8 +26,8 @@ struct ChooseHooks {
   form::Event<std::wstring_view /*target*/> OpenWithShell;
   /// A function key was let go.
   form::Event<form::Key /*key*/> HotKey;
-  /// Where a box of this size stands by the bar.
-  std::function<form::Rect(form::Size size)> Place;
+  /// Moves the box to where it stands best beside the bar.
+  form::Event<form::Form&> Place;
 };
 
 /// The list dialog. Its eight boxes are the launch list for the length of the run; loading the form fills them.

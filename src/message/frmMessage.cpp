@@ -115,8 +115,10 @@ void frmMessage::Arrange(const form::Screen& screen) {
   const form::Twips formHeight = top + form::ButtonHeight + Margin;
   PictureMessage.SetBounds({0, 0, BandWidth, formHeight});
   const form::Rect& area = screen.WorkArea;
-  SetBounds({area.Left + std::max((area.Width - formWidth) / 2, 0),
-             area.Top + std::max((area.Height - TitleBarHeight - formHeight) / 2, 0), formWidth, formHeight});
+  MoveTo(area.Left, area.Top);  // so that it is fitted to that screen
+  SetInside({formWidth, formHeight});
+  MoveTo(area.Left + std::max((area.Width - Bounds().Width) / 2, 0),
+         area.Top + std::max((area.Height - TitleBarHeight - Bounds().Height) / 2, 0));
 }
 
 void frmMessage::Form_KeyUp(form::Key key) {

@@ -51,7 +51,7 @@ void Program::ConnectBrowse() {
     if (frmMain.Visible() && frmMain.WindowState() != form::WindowState::Minimized) frmMain.ClearTextMain();
   };
   hooks.HotKey = [this](form::Key key) { frmMain.HotKey(key); };
-  hooks.Place = [this](form::Size size) { return PlaceByBar(size); };
+  hooks.Place = [this](form::Form& panel) { PlaceByBar(panel); };
 }
 
 void Program::ConnectChoose() {
@@ -65,7 +65,7 @@ void Program::ConnectChoose() {
   hooks.OpenWebItem = [this](std::wstring_view target) { Messages.ShowList(Starters.OpenWebItem(target)); };
   hooks.OpenWithShell = [this](std::wstring_view target) { Messages.ShowList(Starters.OpenWithShell(target)); };
   hooks.HotKey = [this](form::Key key) { frmMain.HotKey(key); };
-  hooks.Place = [this](form::Size size) { return PlaceByBar(size); };
+  hooks.Place = [this](form::Form& panel) { PlaceByBar(panel); };
   CompanionPage.Start = [this](std::wstring_view target) {
     frmMain.ClosePanel();
     Messages.ShowList(Starters.RunProgramFile(target));
@@ -74,9 +74,12 @@ void Program::ConnectChoose() {
   OptionsPage.Hooks.RememberMyComputer = [this] { return add::RememberMyComputer(Services, Messages, Environment); };
 }
 
-form::Rect Program::PlaceByBar(form::Size size) const {
-  const form::Rect bar = frmMain.Bounds();
-  return bar::PlacePanel(bar, size, Ui.ScreenAt(bar).WorkArea);
+void Program::PlaceByBar(form::Form& panel) const {
+  const form::Rect& bar = frmMain.Bounds();
+  panel.MoveTo(bar.Left, bar.Bottom());  // so that it is fitted to the bar's screen
+  const form::Rect place =
+      bar::PlacePanel(bar, {panel.Bounds().Width, panel.Bounds().Height}, Ui.ScreenAt(bar).WorkArea);
+  panel.MoveTo(place.Left, place.Top);
 }
 
 void Program::Take(const form::DroppedItems& items) {

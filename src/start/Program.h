@@ -67,8 +67,8 @@ class Program {
   void ConnectBrowse();
   void Take(const form::DroppedItems& items);
   void ConnectChoose();
-  /// Where a panel of this size stands.
-  [[nodiscard]] form::Rect PlaceByBar(form::Size size) const;
+  /// Moves a panel to where it stands best beside the bar.
+  void PlaceByBar(form::Form& panel) const;
 };
 
 }  // namespace vantor::start

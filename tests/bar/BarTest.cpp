@@ -42,7 +42,7 @@ TEST_CASE("dragging ends within the screen, and leaves room for what unfolds") {
   CHECK(bar.Bounds().Left == screen.Width - bar.Web.FrameWeb.Right() - 480);
   bar.InputMouseMove(form::MouseButton::None);
   // A window manager may tell of the drag's end after the drag.
-  bar.InputMoved({-900, 300, bar.Bounds().Width, bar.Bounds().Height});
+  bar.InputMoved(-900, 300);
   CHECK((bar.Bounds().Left == 0 && bar.Bounds().Top == 300));
 }
 
@@ -68,9 +68,15 @@ TEST_CASE("the bar stands as it was left, and comes along when the screen or the
     CHECK(program.Choose.Bounds().Bottom() <= 9000);
     // A taskbar along the top, and a screen that is narrower than the bar.
     program.Desktop.Desktop = {{0, 0, 6000, 8400}, {0, 600, 6000, 8400}};
-    bar.SetBounds({bar.Bounds().Left, 0, bar.Bounds().Width, bar.Bounds().Height});
+    bar.MoveTo(bar.Bounds().Left, 0);
     bar.InputScreensChanged();
-    CHECK((bar.Bounds().Left == 0 && bar.Bounds().Top == 600));
+    CHECK(bar.Bounds().Top == 600);
+    const int room = bar.Web.FrameWeb.Right() + 480;
+    CHECK((bar.Scale() * room <= 6000 && bar.Scale() * room > 5900));
+    CHECK(bar.Bounds().Width == static_cast<int>(bar.Inside().Width * bar.Scale()));
+    program.Desktop.Desktop = {{0, 0, 12000, 9000}, {0, 0, 12000, 9000}};
+    bar.InputScreensChanged();
+    CHECK((bar.Scale() == 1 && bar.Bounds().Width == bar.Inside().Width));
   }
 }
 
@@ -151,16 +157,44 @@ TEST_CASE("a panel stands by the bar, and on the screen") {
   for (const auto& c : cases) CHECK(PlacePanel(c.Bar, {c.Place.Width, c.Place.Height}, area) == c.Place);
 }
 
-TEST_CASE("the help and code pages fit the smallest screen, with their texts whole and apart") {
+TEST_CASE("no panel is larger than the work area; where there is room it has its own size") {
+  const struct {
+    int Width, Height;  // of the work area, in pixels
+    double DotsPerInch;
+    bool Whole;
+  } screens[] = {{800, 570, 96, true},
+                 {738, 600, 96, false},
+                 {1366, 728, 144, false},
+                 {1920, 1040, 192, true},
+                 {800, 570, 216, false}};
+  for (const auto& screen : screens) {
+    CAPTURE(screen.DotsPerInch);
+    test::StartedProgram program;
+    program.Add(list::LaunchGroup::Web, L"a", L"b");
+    const double twips = 1440 / screen.DotsPerInch;
+    const form::Rect area{0, 0, int(screen.Width * twips), int(screen.Height * twips)};
+    program.Desktop.Desktop = {area, area, twips, twips};
+    program.Main.InputScreensChanged();
+    bool whole = true;
+    for (const Key key : {Key::F2, Key::F3, Key::F4, Key::F6, Key::F7, Key::F8}) {
+      program.Desktop.Press(key);
+      const form::Form& panel = *program.Desktop.ActiveForm();
+      CHECK((panel.Bounds().Right() <= area.Width && panel.Bounds().Bottom() <= area.Height));
+      whole = whole && panel.Scale() == 1;
+    }
+    CHECK(whole == screen.Whole);
+    CHECK(program.Main.Scale() * (program.Main.Web.FrameWeb.Right() + 480) <= area.Width);
+  }
+}
+
+TEST_CASE("the help and code pages have their texts whole and apart") {
   test::TestProgram program;
   program.Computer.Disk.AddFile(L"C:\\Vantor\\VantorHelp.exe");  // of which there are lines too
   program.Start();
-  program.Desktop.Desktop = {{0, 0, 12000, 9000}, {0, 0, 12000, 8550}};
   const list::frmChoose& panel = program.Choose;
   for (const auto& [key, frame] : {std::pair(Key::F7, &program.Program.HelpPage.FrameHelp),
                                    std::pair(Key::F8, &program.Program.CodePage.FrameCode)}) {
     program.Desktop.Press(key);
-    CHECK((panel.Bounds().Right() <= 12000 && panel.Bounds().Bottom() <= 8550));
     std::vector<const form::Control*> texts;
     for (const form::Control* text : panel.Controls()) {
       if (text->Container() != frame) continue;

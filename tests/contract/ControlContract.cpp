@@ -19,7 +19,8 @@ namespace {
 class TestForm : public Form {
  public:
   explicit TestForm(UserInterface& ui) : Form(ui, L"TestForm") {
-    SetBounds({1500, 1500, 6000, 5100});
+    MoveTo(1500, 1500);
+    SetInside({6000, 5100});
     int top = 150;
     for (Control* control : Controls()) {
       if (control->Container() != nullptr) continue;
@@ -115,7 +116,8 @@ TEST_CASE("a locked text box takes text from the program only") {
   TextBox box(form, L"Box");
   box.SetBounds({150, 150, 4500, 450});
   box.SetLocked(true);
-  form.SetBounds({1500, 1500, 6000, 4500});
+  form.MoveTo(1500, 1500);
+  form.SetInside({6000, 4500});
   form.Show();
   REQUIRE(someone->WaitUntil([&] { return someone->IsShownFocused(box); }));
   box.SetText(L"C:\\Tools");

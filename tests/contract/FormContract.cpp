@@ -16,7 +16,8 @@ namespace {
 class RecordingForm : public Form {
  public:
   RecordingForm(UserInterface& ui, std::string& told) : Form(ui, L"RecordingForm"), told_(told) {
-    SetBounds({1500, 1500, 4500, 1500});
+    MoveTo(1500, 1500);
+    SetInside({4500, 1500});
     Text.SetBounds({150, 150, 4200, 450});
     Close.SetBounds({150, 750, 1500, 450});
     List.SetBounds({1800, 750, 1500, 315});
@@ -87,7 +88,8 @@ TEST_CASE("a modal form keeps the user from the others until it goes, also when 
   int behindClicks = 0;
   behind.Close.Click = [&] { ++behindClicks; };
   modal.Close.Click = [&] { modal.Unload(); };
-  modal.SetBounds({1500, 4500, 4500, 1500});
+  modal.MoveTo(1500, 4500);
+  modal.SetInside({4500, 1500});
   behind.Show();
   stage.AwaitFocus(behind.Text);
   stage.Someone->WhenModal([&](Form& open) {

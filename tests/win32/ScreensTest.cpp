@@ -1,6 +1,8 @@
 #include <doctest/doctest.h>
 #include <windows.h>
 
+#include <cmath>
+
 #include "desktop/Desktop.h"
 #include "form/Button.h"
 #include "form/Form.h"
@@ -20,7 +22,8 @@ class SampleForm : public form::Form {
  public:
   SampleForm(form::UserInterface& ui, form::BorderStyle border) : Form(ui, L"SampleForm") {
     SetBorderStyle(border);
-    SetBounds({1500, 1200, 4500, 1500});
+    MoveTo(1500, 1200);
+    SetInside({4500, 1500});
     Frame.SetBounds({150, 150, 4200, 1200});
     Button.SetBounds({300, 75, 1215, 390});
     Text.SetBounds({300, 600, 1500, 315});
@@ -41,8 +44,8 @@ void CheckPixels(const SampleForm& sample, int dpi) {
   const auto pixels = [dpi](form::Twips twips) { return MulDiv(twips, dpi, 1440); };
   RECT inside;
   GetClientRect(WindowOf(sample), &inside);
-  CHECK(inside.right == pixels(sample.Bounds().Width));
-  CHECK(inside.bottom == pixels(sample.Bounds().Height));
+  CHECK(inside.right == pixels(sample.Inside().Width));
+  CHECK(inside.bottom == pixels(sample.Inside().Height));
   LOGFONTW font{};
   for (const form::Control* control : sample.Controls()) {
     CAPTURE(dpi);
@@ -76,7 +79,7 @@ TEST_CASE("a form that comes to a screen of another scale is laid out for it, wi
   }
 }
 
-TEST_CASE("larger texts enlarge what holds them, as far as the screen allows, and the font with it") {
+TEST_CASE("larger texts enlarge what holds them, as far as it fits the screen, and the font with it") {
   win32::Desktop desktop;
   SampleForm sample(desktop, form::BorderStyle::None);
   sample.Show();
@@ -93,10 +96,12 @@ TEST_CASE("larger texts enlarge what holds them, as far as the screen allows, an
   CheckPixels(sample, 144);
   CHECK(Screens::MessageFont(144).lfHeight == -18);
   CHECK(desktop.PrimaryScreen().Bounds.Width == MulDiv(GetSystemMetrics(SM_CXSCREEN), 1440, 144));
-  ask(-200);
-  const form::Rect smallest = desktop.PrimaryScreen().Bounds;
-  CHECK(smallest.Width >= 12000);
-  CHECK(smallest.Height >= 9000);
+  ask(-200);  // the form as large as fits, and its texts with it
+  const form::Screen screen = desktop.PrimaryScreen();
+  CHECK(sample.Scale() < 1);
+  CHECK(sample.Bounds().Width > screen.WorkArea.Width * 9 / 10);
+  CHECK(sample.Bounds().Right() <= screen.WorkArea.Right());
+  CheckPixels(sample, static_cast<int>(std::lround(1440 / screen.TwipsPerPixelX * sample.Scale())));
   ask(usual.lfMessageFont.lfHeight);
   CheckPixels(sample, 96);
   sample.Unload();

@@ -68,15 +68,11 @@ const TextSize& UserTextSize() {
   std::optional<TextSize>& known = RememberedTextSize();
   if (known) return *known;
   constexpr double UsualHeight = 12;  // pixels: 9 points
-  constexpr double SmallestScreen[] = {800, 600};
   TextSize size;
   size.Font = PlainMessageFont();
   const double wanted = std::abs(size.Font.lfHeight) / UsualHeight;
-  const double room =
-      std::min(GetSystemMetrics(SM_CXSCREEN) / SmallestScreen[0], GetSystemMetrics(SM_CYSCREEN) / SmallestScreen[1]) *
-      96 / PlainDpiOf(PrimaryMonitor());
   if (wanted > 1) {
-    size.Scale = std::clamp(room, 1.0, wanted);
+    size.Scale = wanted;
     size.Font.lfHeight = std::lround(size.Font.lfHeight / wanted);  // the scale makes up for it
   }
   known = size;
@@ -166,7 +162,6 @@ void Screens::Forget() { RememberedTextSize().reset(); }
 
 int Screens::WithTextScale(int dpi) {
   constexpr double Inexactness = 0.01;  // of the scale, which may stand for a whole number
-  // Rounded up, the main screen would be smaller than the smallest.
   return static_cast<int>(dpi * UserTextSize().Scale + Inexactness);
 }
 
@@ -213,7 +208,7 @@ form::Screen Screens::Primary() { return ToScreen(Describe(PrimaryMonitor())); }
 
 LOGFONTW Screens::MessageFont(int dpi) {
   LOGFONTW font = UserTextSize().Font;
-  font.lfHeight = MulDiv(font.lfHeight, dpi, 96);
+  font.lfHeight = font.lfHeight * dpi / 96;  // rounded down, so that texts need no more room than was measured
   return font;
 }
 

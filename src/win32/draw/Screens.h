@@ -13,7 +13,7 @@ namespace vantor::win32 {
 /// that is nearer to the main screen lies where the system's resolution puts it, and the rest is counted from there.
 ///
 /// Where the user has asked for larger texts, all resolutions here are raised by as much, so that whatever holds a text
-/// grows with it; but only as far as the smallest screen that the program runs on still fits the main screen.
+/// grows with it.
 class Screens {
  public:
   /// Tells Windows that the program scales itself on every screen. Does nothing when the manifest has said so.

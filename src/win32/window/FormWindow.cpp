@@ -1,6 +1,7 @@
 #include "win32/window/FormWindow.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "win32/draw/Screens.h"
@@ -48,6 +49,8 @@ Styles StylesOf(const form::Form& form) {
   return {WS_POPUP | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN, 0};
 }
 
+int Scaled(int screenDpi, const form::Form& form) { return static_cast<int>(std::lround(screenDpi * form.Scale())); }
+
 form::MouseButton HeldButton(WPARAM buttons) {
   if ((buttons & MK_LBUTTON) != 0) return form::MouseButton::Left;
   if ((buttons & MK_RBUTTON) != 0) return form::MouseButton::Right;
@@ -60,7 +63,8 @@ form::MouseButton HeldButton(WPARAM buttons) {
 FormWindow::FormWindow(win32::Desktop& desktop, form::Form& form, bool onTaskbar)
     : desktop_(desktop),
       form_(form),
-      dpi_(Screens::DpiOf(Screens::PixelsOf(form.Bounds()))),
+      screenDpi_(Screens::DpiOf(Screens::PixelsOf(form.Bounds()))),
+      dpi_(Scaled(screenDpi_, form)),
       owner_(desktop.ApplicationWindow()),
       tips_(*this) {
   RegisterFormClass(Procedure);
@@ -134,6 +138,7 @@ void FormWindow::Retire() {
 void FormWindow::Changed(form::Property property) {
   switch (property) {
     case form::Property::Bounds:
+      TakeScale();
       Place();
       break;
     case form::Property::Visible:
@@ -177,7 +182,7 @@ void FormWindow::ShowVisible() {
   if (form_.Visible()) {
     SetOwnerWindow(desktop_.OwnerFor(*this));
     Place();
-    if (const int dpi = Screens::DpiOf(Hwnd()); dpi != dpi_) TakeDpi(dpi);  // a hidden window may not be told
+    if (const int dpi = Screens::DpiOf(Hwnd()); dpi != screenDpi_) TakeScreenDpi(dpi);  // one may not be told hidden
     SetWindowPos(Hwnd(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
     if (form_.WindowState() == form::WindowState::Minimized) {
       ShowWindow(Hwnd(), SW_MINIMIZE);
@@ -232,12 +237,12 @@ void FormWindow::Activate() {
 RECT FormWindow::PlaceInPixels() const {
   RECT place = Screens::PixelsOf(form_.Bounds());
   // While it is between two screens, its size is still that of its controls.
-  place.right = place.left + Screens::ToPixels(form_.Bounds().Width, dpi_);
-  place.bottom = place.top + Screens::ToPixels(form_.Bounds().Height, dpi_);
+  place.right = place.left + Screens::ToPixels(form_.Inside().Width, dpi_);
+  place.bottom = place.top + Screens::ToPixels(form_.Inside().Height, dpi_);
   const Styles styles = StylesOf(form_);
   if ((styles.Style & WS_CAPTION) == WS_CAPTION) {
     const POINT corner{place.left, place.top};
-    Screens::AddEdges(place, styles.Style, styles.Extended, dpi_);
+    Screens::AddEdges(place, styles.Style, styles.Extended, screenDpi_);
     OffsetRect(&place, corner.x - place.left, corner.y - place.top);
   }
   return place;
@@ -262,8 +267,8 @@ void FormWindow::FitInside() const {
   RECT whole;
   GetClientRect(Hwnd(), &inside);
   GetWindowRect(Hwnd(), &whole);
-  const LONG width = Screens::ToPixels(form_.Bounds().Width, dpi_);
-  const LONG height = Screens::ToPixels(form_.Bounds().Height, dpi_);
+  const LONG width = Screens::ToPixels(form_.Inside().Width, dpi_);
+  const LONG height = Screens::ToPixels(form_.Inside().Height, dpi_);
   if (inside.right == width && inside.bottom == height) return;
   SetWindowPos(Hwnd(), nullptr, 0, 0, whole.right - whole.left + width - inside.right,
                whole.bottom - whole.top + height - inside.bottom, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -275,10 +280,8 @@ void FormWindow::ReportPlace() {
   GetWindowRect(Hwnd(), &place);
   const RECT known = PlaceInPixels();
   if (place.left == known.left && place.top == known.top) return;
-  form::Rect bounds = Screens::TwipsOf(place);
-  bounds.Width = form_.Bounds().Width;
-  bounds.Height = form_.Bounds().Height;
-  form_.InputMoved(bounds);
+  const form::Rect bounds = Screens::TwipsOf(place);
+  form_.InputMoved(bounds.Left, bounds.Top);
 }
 
 void FormWindow::Refresh() {
@@ -287,28 +290,36 @@ void FormWindow::Refresh() {
 }
 
 void FormWindow::OnDpiChanged(int dpi, const RECT& suggested) {
-  dpi_ = dpi;
   placing_ = true;
   SetWindowPos(Hwnd(), nullptr, suggested.left, suggested.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   placing_ = false;
-  TakeDpi(dpi);
+  TakeScreenDpi(dpi);
 }
 
-void FormWindow::TakeDpi(int dpi) {
-  dpi_ = dpi;
+void FormWindow::TakeScreenDpi(int dpi) {
+  screenDpi_ = dpi;
   ReportPlace();
+  form_.InputResolution();
+  TakeScale();
+  Place();
+}
+
+void FormWindow::TakeScale() {
+  const int dpi = Scaled(screenDpi_, form_);
+  if (dpi == dpi_) return;
+  dpi_ = dpi;
   Place();
   tips_.Forget();
   Refresh();
 }
 
 void FormWindow::ScreensChanged() {
-  if (const int dpi = Screens::DpiOf(Hwnd()); dpi != dpi_) {
-    TakeDpi(dpi);
+  if (const int dpi = Screens::DpiOf(Hwnd()); dpi != screenDpi_) {
+    TakeScreenDpi(dpi);
   } else {
     ReportPlace();  // the same pixels may lie elsewhere on the desktop now
-    Refresh();
   }
+  Refresh();
   form_.InputScreensChanged();
 }
 

@@ -34,6 +34,7 @@ class FormWindow final : public form::FormWindow {
   [[nodiscard]] HWND Hwnd() const { return handle_.Get(); }
   [[nodiscard]] win32::Desktop& Desktop() const { return desktop_; }
   [[nodiscard]] form::Form& Form() const { return form_; }
+  /// Dots per inch that the form is shown at: its screen's, or less where the form would not fit.
   [[nodiscard]] int Dpi() const { return dpi_; }
 
   /// The control's window with this handle; null for any other handle.
@@ -95,8 +96,10 @@ class FormWindow final : public form::FormWindow {
   void OnSize(WPARAM kind);
   void GiveFocus() const;
   void OnDpiChanged(int dpi, const RECT& suggested);
-  /// Lays all out for the resolution.
-  void TakeDpi(int dpi);
+  /// The form is on a screen of this resolution now.
+  void TakeScreenDpi(int dpi);
+  /// Lays all out for the resolution that the form is to be shown at, if that is another one.
+  void TakeScale();
 
   void AcceptDrops();
   void TakeDrop();
@@ -109,6 +112,7 @@ class FormWindow final : public form::FormWindow {
 
   win32::Desktop& desktop_;
   form::Form& form_;
+  int screenDpi_;
   int dpi_;
   HWND owner_;
   bool retired_ = false;
