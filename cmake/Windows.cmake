@@ -147,6 +147,23 @@ if(VANTOR_DESKTOP_SOURCES)
     RUNNER ${on_desktop} COMMAND $<TARGET_FILE:desktop_tests>)
 endif()
 
+# All flows in one session, on a desktop with every kind of drive.
+add_executable(flows ${VANTOR_FLOW_PLAYER} ${VANTOR_REAL_WORLD})
+target_link_libraries(flows PRIVATE vantor_core vantor_stack_guard ${VANTOR_WINDOWS_LIBRARIES})
+target_include_directories(flows PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+target_link_options(flows PRIVATE ${VANTOR_PLAIN_LINK})
+add_dependencies(flows Vantor recorder)
+set(drives)
+foreach(drive IN ITEMS d:=hd e:=floppy f:=cdrom n:=network r:=cdrom:empty)
+  list(APPEND drives --drive ${drive})
+endforeach()
+set(flow_files ${VANTOR_FLOWS})
+if(on_desktop)
+  list(TRANSFORM flow_files PREPEND "Z:")
+endif()
+add_test(NAME flows COMMAND ${on_desktop} ${drives} $<TARGET_FILE:flows> ${flow_files})
+set_tests_properties(flows PROPERTIES LABELS desktop TIMEOUT 600)
+
 # The floor program, built as Vantor.exe is, and what measures both. Soak uses the program as the desktop tests do.
 foreach(source IN LISTS VANTOR_WIN32_BENCH_SOURCES)
   get_filename_component(name "${source}" NAME_WE)

@@ -208,12 +208,7 @@ class NativeWorld : public World {
     if (control == nullptr) return what == L"text" ? L"" : L"not shown";
     if (what == L"enabled") return yes(control->Enabled());
     if (what == L"ticked") return yes(dynamic_cast<const form::ChoiceButton&>(*control).Value());
-    if (what == L"entries") {
-      Text all;
-      for (const Text& entry : dynamic_cast<const form::ListControl&>(*control).Entries())
-        all += (all.empty() ? L"" : L" | ") + entry;
-      return all;
-    }
+    if (what == L"entries") return Joined(dynamic_cast<const form::ListControl&>(*control).Entries());
     return TextOf(*control);
   }
   [[nodiscard]] Texts Started() override { return computer_.Starts; }

@@ -24,6 +24,13 @@ struct Skip : std::runtime_error {
   using runtime_error::runtime_error;
 };
 
+/// A list's entries as flows write them.
+inline Text Joined(const Texts& texts) {
+  Text all;
+  for (const Text& text : texts) all += (all.empty() ? L"" : L" | ") + text;
+  return all;
+}
+
 /// A computer with the program on it, and somebody who uses it. Controls go by their names, files by full paths.
 class World {
  public:

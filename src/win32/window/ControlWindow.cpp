@@ -10,6 +10,7 @@
 #include "win32/window/ChoiceWindow.h"
 #include "win32/window/ComboWindow.h"
 #include "win32/window/CommonControls.h"
+#include "win32/window/ControlId.h"
 #include "win32/window/EditWindow.h"
 #include "win32/window/ListWindow.h"
 #include "win32/window/StaticWindow.h"
@@ -62,7 +63,8 @@ ControlWindow::ControlWindow(FormWindow& owner, form::Control& control, const Ki
   std::optional<CommonControls> version6;
   if (kind.Themed) version6.emplace();
   handle_ = CreateWindowExW(0, kind.ClassName, kind.Text.c_str(), WS_CHILD | WS_CLIPSIBLINGS | state | kind.Style,
-                            placed_.left, placed_.top, placed_.right, placed_.bottom, ParentOf(owner, control), nullptr,
+                            placed_.left, placed_.top, placed_.right, placed_.bottom, ParentOf(owner, control),
+                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(ControlId(control.Name()))),
                             GetModuleHandleW(nullptr), nullptr);
   SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   classProcedure_ =
