@@ -88,6 +88,7 @@ void frmMain::HandleEvents() {
   messages.Connect(CommandMin.Click, L"CommandMin_Click", this, &frmMain::CommandMin_Click);
   messages.Connect(CommandExit.Click, L"CommandExit_Click", this, &frmMain::CommandExit_Click);
   messages.Connect(TextMain.KeyPress, L"TextMain_KeyPress", this, &frmMain::TextMain_KeyPress);
+  messages.Connect(TextMain.KeyDown, L"TextMain_KeyDown", this, &frmMain::TextMain_KeyDown);
   messages.Connect(TextMain.Change, L"TextMain_Change", this, &frmMain::TextMain_Change);
   messages.Connect(TextMain.DblClick, L"TextMain_DblClick", this, &frmMain::EmptyTextMain);
   messages.Connect(TimerOnTop.Tick, L"TimerOnTop_Timer", this, &frmMain::TimerOnTop_Timer);

@@ -108,6 +108,7 @@ class frmMain : public form::Form {
   void CommandMin_Click();
   void CommandExit_Click() { Unload(); }
   void TextMain_KeyPress(wchar_t& character) { commandLine_.TextMain_KeyPress(character); }
+  void TextMain_KeyDown(form::Key& key) { commandLine_.TextMain_KeyDown(key); }
   void TextMain_Change() { commandLine_.TextMain_Change(); }
   void TimerOnTop_Timer();
   void TimerWatchOnTop_Timer();

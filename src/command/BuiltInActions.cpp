@@ -8,6 +8,19 @@
 
 namespace vantor::command {
 
+namespace {
+
+/// Null for a word that starts nothing.
+const ControlPanelWord* PageOf(const service::Services& services, std::wstring_view word) {
+  const std::wstring wanted = services.Language.Lower(word);
+  const auto page = std::find_if(ControlPanelNames.begin(), ControlPanelNames.end(), [&](const auto& entry) {
+    return !entry.CommandLine.empty() && services.Language.Lower(entry.Word) == wanted;
+  });
+  return page != ControlPanelNames.end() ? &*page : nullptr;
+}
+
+}  // namespace
+
 std::wstring GetSpecialFolderPath(const service::Services& services, std::wstring_view word) {
   constexpr std::wstring_view Fallback = L"MyDocuments";
   const std::wstring wanted = services.Language.Lower(word);
@@ -18,13 +31,13 @@ std::wstring GetSpecialFolderPath(const service::Services& services, std::wstrin
   return path.empty() ? services.ScriptShell.SpecialFolder(Fallback) : path;
 }
 
+bool IsControlPanelPage(const service::Services& services, std::wstring_view word) {
+  return PageOf(services, word) != nullptr;
+}
+
 message::MessageKey OpenControlPanelApplet(const service::Services& services, std::wstring_view word) {
-  const std::wstring wanted = services.Language.Lower(word);
-  for (const ControlPanelWord& entry : ControlPanelNames) {
-    if (entry.CommandLine.empty() || services.Language.Lower(entry.Word) != wanted) continue;
-    return services.Programs.StartCommandLine(entry.CommandLine) ? L"" : L"MessagePanelOpenError";
-  }
-  return {};
+  const ControlPanelWord* const page = PageOf(services, word);
+  return page == nullptr || services.Programs.StartCommandLine(page->CommandLine) ? L"" : L"MessagePanelOpenError";
 }
 
 std::wstring DialNumber(const service::Services& services, std::wstring_view number) {

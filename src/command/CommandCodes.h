@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "list/LaunchList.h"
+#include "service/Language.h"
 
 namespace vantor::command {
 
@@ -62,6 +63,16 @@ inline constexpr std::array<CommandCode, 22> CommandCodes{{
     if (entry.Code == code) return &entry;
   }
   return nullptr;
+}
+
+/// The entry of the code that a line begins with; null when there is no such code.
+[[nodiscard]] inline const CommandCode* CodeOf(std::wstring_view line, const service::Language& language) {
+  return line.size() < CodeLength ? nullptr : FindCode(language.Lower(line.substr(0, CodeLength)));
+}
+
+/// Whether only a completed entry of such an argument is acted on.
+[[nodiscard]] constexpr bool NamesEntry(Argument argument) {
+  return argument == Argument::MakerAddress || argument == Argument::ItemName || argument == Argument::CompanionName;
 }
 
 }  // namespace vantor::command

@@ -1,6 +1,5 @@
 #include "command/CommandLine.h"
 
-#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -9,16 +8,8 @@
 #include "form/Keys.h"
 #include "form/Scoped.h"
 #include "list/NameMatch.h"
-#include "text/Numbers.h"
 
 namespace vantor::command {
-
-namespace {
-
-/// Of an entry that is a text.
-std::wstring_view Itself(std::wstring_view entry) { return entry; }
-
-}  // namespace
 
 CommandLine::CommandLine(form::TextBox& textMain, const list::LaunchList& list, CommandState& state,
                          const Starters& starters, message::Messages& messages, const service::Services& services,
@@ -29,7 +20,8 @@ CommandLine::CommandLine(form::TextBox& textMain, const list::LaunchList& list, 
       starters_(starters),
       messages_(messages),
       services_(services),
-      environment_(environment) {}
+      environment_(environment),
+      recall_(textMain, state, list, services.Language, environment) {}
 
 void CommandLine::TextMain_KeyPress(wchar_t& character) {
   messages_.State.CurrentMessageKey.clear();
@@ -53,21 +45,23 @@ void CommandLine::TextMain_KeyPress(wchar_t& character) {
   }
 }
 
+void CommandLine::TextMain_KeyDown(form::Key& key) {
+  if (recall_.Walk(key)) key = form::Key::None;
+}
+
 void CommandLine::TextMain_Change() {
-  if (completing_) return;
+  if (state_.SettingLine) return;
   messages_.State.CurrentMessageKey.clear();
   state_.MatchedItemIndex = NoIndex;
   state_.MailTargetIndex = NoIndex;
+  recall_.Leave();
   if (std::exchange(state_.BackspaceFlag, false) || textMain_.Composing()) return;
   const std::wstring text = textMain_.Text();  // a copy: completing replaces the box's own
   if (text.size() <= CodeLength) return;
   const std::wstring_view line(text);
-  if (const CommandCode* code = CodeOf(line)) Complete(*code, line.substr(0, CodeLength), line.substr(CodeLength));
-}
-
-const CommandCode* CommandLine::CodeOf(std::wstring_view text) const {
-  if (text.size() < CodeLength) return nullptr;
-  return FindCode(services_.Language.Lower(text.substr(0, CodeLength)));
+  if (const CommandCode* code = CodeOf(line)) {
+    CompleteFromTable(line.substr(0, CodeLength), line.substr(CodeLength), {*code, list_, environment_});
+  }
 }
 
 void CommandLine::Enter() {
@@ -92,15 +86,19 @@ void CommandLine::Enter() {
 }
 
 void CommandLine::SendMakerMail(std::size_t index) {
+  const std::wstring line = textMain_.Text();
   const std::wstring address = L"mailto:" + std::wstring(MailAddresses.at(index));
-  messages_.ShowList(starters_.SendMailTo(address, MailSubjects.at(index), {}));
+  const message::MessageKey failure = starters_.SendMailTo(address, MailSubjects.at(index), {});
+  if (failure.empty()) recall_.Started(line);
+  messages_.ShowList(failure);
   textMain_.SetText({});
 }
 
 void CommandLine::StartTyped(const CommandCode& code, std::wstring_view argument) {
   const std::wstring word =
       code.Argument == Argument::SpecialFolder ? GetSpecialFolderPath(services_, argument) : std::wstring(argument);
-  messages_.ShowList(Start(code, std::wstring(code.Before).append(word).append(code.After)));
+  if (code.Argument == Argument::ControlPanelPage && !IsControlPanelPage(services_, word)) return;
+  Start(code, std::wstring(code.Before).append(word).append(code.After));
 }
 
 void CommandLine::StartItem(const CommandCode& code, std::wstring_view name) {
@@ -108,22 +106,30 @@ void CommandLine::StartItem(const CommandCode& code, std::wstring_view name) {
   const list::GroupBoxes& boxes = list_.Of(code.Group);
   // The list may have changed since the name was completed.
   if (index == NoIndex || index >= boxes.Name.ListCount() || boxes.Name.List(index) != name) return;
-  messages_.ShowList(Start(code, boxes.Path.List(index)));
+  Start(code, boxes.Path.List(index));
 }
 
 void CommandLine::StartCompanion(const CommandCode& code) {
   const int index = state_.MatchedItemIndex;
-  if (index == NoIndex) return;
-  messages_.ShowList(Start(code, environment_.Companions.at(static_cast<std::size_t>(index)).Path));
+  if (index != NoIndex) Start(code, environment_.Companions.at(static_cast<std::size_t>(index)).Path);
 }
 
 void CommandLine::Dial(std::wstring_view number) {
-  messages_.ShowText(DialNumber(services_, number));
+  const std::wstring failure = DialNumber(services_, number);
+  if (failure.empty()) recall_.Started(textMain_.Text());
+  messages_.ShowText(failure);
   textMain_.SetText({});
   textMain_.SetFocus();
 }
 
-message::MessageKey CommandLine::Start(const CommandCode& code, const std::wstring& target) const {
+void CommandLine::Start(const CommandCode& code, const std::wstring& target) {
+  const std::wstring line = textMain_.Text();  // the start empties the box
+  const message::MessageKey failure = StartBy(code, target);
+  if (failure.empty()) recall_.Started(line);
+  messages_.ShowList(failure);
+}
+
+message::MessageKey CommandLine::StartBy(const CommandCode& code, const std::wstring& target) const {
   const bool listed = code.Argument == Argument::ItemName || code.Argument == Argument::CompanionName;
   switch (code.Starter) {
     case Starter::Program:
@@ -152,51 +158,21 @@ void CommandLine::Escape() {
   textMain_.SetText({});
 }
 
-void CommandLine::Complete(const CommandCode& code, std::wstring_view prefix, std::wstring_view typed) {
-  const auto offered = [](const ControlPanelWord& entry) { return entry.Offered ? entry.Word : L""; };
-  const auto named = [](const state::Companion& entry) { return std::wstring_view(entry.Name); };
-  switch (code.Argument) {
-    case Argument::ControlPanelPage:
-      CompleteFromTable(prefix, typed, ControlPanelNames, offered);
-      return;
-    case Argument::SpecialFolder:
-      CompleteFromTable(prefix, typed, SpecialFolderNames, Itself);
-      return;
-    case Argument::MakerAddress:
-      state_.MailTargetIndex = CompleteFromTable(prefix, typed, MailAddresses, Itself);
-      return;
-    case Argument::CompanionName:
-      state_.MatchedItemIndex = CompleteFromTable(prefix, typed, environment_.Companions, named);
-      return;
-    case Argument::ItemName:
-      state_.MatchedItemIndex = CompleteFromGroup(prefix, typed, list_.Of(code.Group).Name);
-      return;
-    case Argument::Typed:
-      return;
+void CommandLine::CompleteFromTable(std::wstring_view prefix, std::wstring_view typed, const Candidates& table) {
+  const list::NameMatch match(services_.Language, typed);
+  for (int index = 0; index < table.Count(); ++index) {
+    if (!match.Begins(table.Name(index))) continue;
+    PutCompletion(prefix, typed.size(), table.Name(index));
+    static_cast<CompletedEntry&>(state_) = table.Record(index);
+    return;
   }
-}
-
-std::int16_t CommandLine::CompleteFromGroup(std::wstring_view prefix, std::wstring_view typed,
-                                            const form::ComboBox& names) {
-  return CompleteFromTable(prefix, typed, names.Entries(), Itself);
-}
-
-template <class Entries, class TextOf>
-std::int16_t CommandLine::CompleteFromTable(std::wstring_view prefix, std::wstring_view typed, const Entries& table,
-                                            TextOf textOf) {
-  list::NameMatch match(services_.Language, typed);
-  const auto found =
-      std::find_if(table.begin(), table.end(), [&](const auto& entry) { return match.Begins(textOf(entry)); });
-  if (found == table.end()) return NoIndex;
-  PutCompletion(prefix, typed.size(), textOf(*found));
-  return text::ToInt16(static_cast<int>(found - table.begin()));
 }
 
 void CommandLine::PutCompletion(std::wstring_view prefix, std::size_t typedLength, std::wstring_view entry) {
   const int caret = textMain_.SelStart();
   // Searching again in the change that this raises would only find the same entry.
   {
-    const form::Scoped completing(completing_, true);
+    const form::Scoped setting(state_.SettingLine, true);
     textMain_.SetText(std::wstring(prefix).append(entry));
   }
   const auto typedEnd = static_cast<int>(CodeLength + typedLength);

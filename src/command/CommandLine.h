@@ -1,10 +1,11 @@
 #pragma once
 
-#include <cstdint>
 #include <string_view>
 
+#include "command/Candidates.h"
 #include "command/CommandCodes.h"
 #include "command/CommandState.h"
+#include "command/Recall.h"
 #include "command/Starters.h"
 #include "form/Event.h"
 #include "form/TextBox.h"
@@ -32,6 +33,7 @@ class CommandLine {
   CommandLineHooks Hooks;
 
   void TextMain_KeyPress(wchar_t& character);
+  void TextMain_KeyDown(form::Key& key);
   void TextMain_Change();
 
  private:
@@ -42,20 +44,18 @@ class CommandLine {
   void StartItem(const CommandCode& code, std::wstring_view name);
   void StartCompanion(const CommandCode& code);
   void Dial(std::wstring_view number);
-  [[nodiscard]] message::MessageKey Start(const CommandCode& code, const std::wstring& target) const;
+  void Start(const CommandCode& code, const std::wstring& target);
+  [[nodiscard]] message::MessageKey StartBy(const CommandCode& code, const std::wstring& target) const;
 
   void Escape();
 
-  /// The code that a text begins with; null for none.
-  [[nodiscard]] const CommandCode* CodeOf(std::wstring_view text) const;
+  [[nodiscard]] const CommandCode* CodeOf(std::wstring_view text) const {
+    return command::CodeOf(text, services_.Language);
+  }
 
   // What type-ahead does.
-  void Complete(const CommandCode& code, std::wstring_view prefix, std::wstring_view typed);
-  // They complete to the first entry that begins with `typed`, and return its index, -1 for none.
-  template <class Entries, class TextOf>
-  std::int16_t CompleteFromTable(std::wstring_view prefix, std::wstring_view typed, const Entries& table,
-                                 TextOf textOf);
-  std::int16_t CompleteFromGroup(std::wstring_view prefix, std::wstring_view typed, const form::ComboBox& names);
+  /// Completes to the first entry that begins with `typed`, and records it.
+  void CompleteFromTable(std::wstring_view prefix, std::wstring_view typed, const Candidates& table);
   void PutCompletion(std::wstring_view prefix, std::size_t typedLength, std::wstring_view entry);
 
   form::TextBox& textMain_;
@@ -65,7 +65,7 @@ class CommandLine {
   message::Messages& messages_;
   service::Services services_;
   const state::Environment& environment_;
-  bool completing_ = false;  // the change under way is a completion being put into the box
+  Recall recall_;
 };
 
 }  // namespace vantor::command

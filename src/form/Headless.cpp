@@ -13,6 +13,28 @@
 
 namespace vantor::form {
 
+namespace {
+
+/// What the key does in a box of one line.
+void MoveCaret(TextBox& box, Key key) {
+  switch (key) {
+    case Key::Left:
+    case Key::Up:
+      return box.InputSelection(std::max(box.SelStart() - 1, 0), 0);
+    case Key::Right:
+    case Key::Down:
+      return box.InputSelection(std::min(box.SelStart() + box.SelLength() + 1, static_cast<int>(box.Text().size())), 0);
+    case Key::Home:
+      return box.InputSelection(0, 0);
+    case Key::End:
+      return box.InputSelection(static_cast<int>(box.Text().size()), 0);
+    default:
+      return;
+  }
+}
+
+}  // namespace
+
 class Headless::Window : public FormWindow {
  public:
   Window(Headless& desktop, Form& form) : desktop_(desktop), form_(form) {}
@@ -115,6 +137,8 @@ void Headless::Press(Key key) {
     if (form != nullptr && form->AcceptsInput()) form->MoveFocus(false);
   } else if (key == Key::Back || key == Key::Enter || key == Key::Escape || key == Key::Space) {
     TypeCharacter(static_cast<wchar_t>(key));
+  } else if (auto* box = dynamic_cast<TextBox*>(control); box != nullptr && box->AcceptsInput()) {
+    MoveCaret(*box, box->InputKeyDown(key));
   } else if (auto* list = dynamic_cast<ListControl*>(control);
              list != nullptr && (key == Key::Up || key == Key::Down)) {
     list->InputSelect(std::clamp(list->ListIndex() + (key == Key::Down ? 1 : -1), std::min(0, list->ListCount() - 1),

@@ -4,6 +4,7 @@ namespace vantor::form {
 
 /// Keys that handlers ask for by name. The values are Windows' virtual-key codes.
 enum class Key : int {
+  None = 0,
   Back = 0x08,
   Tab = 0x09,
   Enter = 0x0D,

@@ -26,6 +26,11 @@ wchar_t TextBox::InputKeyPress(wchar_t character) {
   return character;
 }
 
+Key TextBox::InputKeyDown(Key key) {
+  if (AcceptsInput() && !composing_) KeyDown(key);
+  return key;
+}
+
 void TextBox::InputEdited(std::wstring_view text, int selStart, int selLength) {
   if (!AcceptsInput() || locked_) return;
   InputSelection(selStart, selLength);

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "form/Control.h"
+#include "form/Keys.h"
 
 namespace vantor::form {
 
@@ -36,10 +37,15 @@ class TextBox : public Control {
 
   Event<> Change;
   Event<wchar_t&> KeyPress;  // before the character is applied; 0 swallows it
+  /// A key that moves the caret was pressed alone; None in its place swallows it. Not told while an input method
+  /// composes, whose keys they are then.
+  Event<Key&> KeyDown;
   Event<> DblClick;
 
   // The user's doings, reported by the back end.
 
+  /// A key that moves the caret. Returns the key to apply.
+  Key InputKeyDown(Key key);
   /// A character key. Returns the character to apply, 0 for none.
   wchar_t InputKeyPress(wchar_t character);
   /// The text as the user's editing left it.

@@ -7,7 +7,7 @@ namespace vantor::list {
 NameMatch::NameMatch(const service::Language& language, std::wstring_view text)
     : language_(language), lower_(language.Lower(text)) {}
 
-bool NameMatch::Begins(std::wstring_view name) {
+bool NameMatch::Begins(std::wstring_view name) const {
   if (name.size() < lower_.size()) return false;
   for (std::size_t i = 0; i < lower_.size(); ++i) {
     if (name[i] != lower_[i] && Lower(name[i]) != lower_[i]) return false;
@@ -15,7 +15,7 @@ bool NameMatch::Begins(std::wstring_view name) {
   return true;
 }
 
-wchar_t NameMatch::Lower(wchar_t character) {
+wchar_t NameMatch::Lower(wchar_t character) const {
   if (character < 128) return character >= L'A' && character <= L'Z' ? static_cast<wchar_t>(character + 32) : character;
   Remembered& remembered = remembered_[static_cast<std::size_t>(character) % remembered_.size()];
   if (remembered.Character != character) {

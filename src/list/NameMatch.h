@@ -17,9 +17,9 @@ class NameMatch {
   NameMatch(const service::Language& language, std::wstring_view text);
 
   /// The name's first characters are the text.
-  [[nodiscard]] bool Begins(std::wstring_view name);
+  [[nodiscard]] bool Begins(std::wstring_view name) const;
   /// The name is the text.
-  [[nodiscard]] bool Equals(std::wstring_view name) { return name.size() == lower_.size() && Begins(name); }
+  [[nodiscard]] bool Equals(std::wstring_view name) const { return name.size() == lower_.size() && Begins(name); }
 
  private:
   struct Remembered {
@@ -27,11 +27,11 @@ class NameMatch {
     wchar_t Lower = 0;
   };
 
-  [[nodiscard]] wchar_t Lower(wchar_t character);
+  [[nodiscard]] wchar_t Lower(wchar_t character) const;
 
   const service::Language& language_;
   std::wstring lower_;
-  std::array<Remembered, 256> remembered_{};
+  mutable std::array<Remembered, 256> remembered_{};
 };
 
 /// "MessageNameAlreadyListed" when a name of the box equals `name` apart from letter case, else "".

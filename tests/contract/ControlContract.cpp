@@ -110,6 +110,21 @@ TEST_CASE("KeyPress comes before the change, and may swallow the character or pu
   CHECK(doubleClicks == 1);
 }
 
+TEST_CASE("a key that moves the caret is told first, and may be swallowed") {
+  Stage stage;
+  TextBox& box = stage.Form.Text;
+  box.SetText(L"abc");
+  box.KeyDown = [](Key& key) {
+    if (key == Key::Home) key = Key::None;
+  };
+  std::vector<int> carets;
+  for (const Key key : {Key::End, Key::Home, Key::Up, Key::Left, Key::Down}) {
+    stage.Someone->Press(key);
+    carets.push_back(box.SelStart());
+  }
+  CHECK(carets == std::vector<int>{3, 3, 2, 1, 2});
+}
+
 TEST_CASE("a locked text box takes text from the program only") {
   const auto someone = MakePerson();
   Form form(someone->Ui(), L"LockedForm");

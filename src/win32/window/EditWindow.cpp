@@ -25,6 +25,11 @@ bool MaySelect(UINT message) {
          (message >= WM_CUT && message <= WM_CLEAR) || message == WM_COMMAND || message == WM_CONTEXTMENU;
 }
 
+/// Whether a key moves the caret, being pressed alone.
+bool MovesCaret(WPARAM key) {
+  return key >= VK_PRIOR && key <= VK_DOWN && GetKeyState(VK_SHIFT) >= 0 && GetKeyState(VK_CONTROL) >= 0;
+}
+
 }  // namespace
 
 EditWindow::EditWindow(FormWindow& owner, form::TextBox& box)
@@ -109,6 +114,9 @@ std::wstring EditWindow::ShownText() const {
 
 LRESULT EditWindow::Process(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
+    case WM_KEYDOWN:
+      if (MovesCaret(wParam) && box_.InputKeyDown(static_cast<form::Key>(wParam)) == form::Key::None) return 0;
+      break;
     case WM_CHAR:
       return OnCharacter(wParam, lParam);
     case WM_LBUTTONDBLCLK: {
