@@ -125,39 +125,5 @@ TEST_CASE("typing completes to the first entry that begins so") {
   CHECK(state.MatchedItemIndex == 0);
 }
 
-TEST_CASE("Up on the empty line brings back what was started, the newest first") {
-  Line line;
-  const auto lineAfter = [&](form::Key key) {
-    line.Desktop.Press(key);
-    return line.Box.Text();
-  };
-  line.Computer.Let("RequestMakeCall", fake::Outcome::Fails);
-  for (const auto* typed : {L"p=one", L"p-ne", L"e.s", L"c.Fonts", L"c.mo", L"p=one", L"p-not"}) {
-    line.Type(typed);
-    line.Desktop.Type(L"\r");
-  }
-  line.Type(L"");
-  line.Choose.ComboListProgName.RemoveItem(0);  // it is gone, and the others have moved up
-  line.Choose.ComboListProgPath.RemoveItem(0);
-  CHECK(lineAfter(form::Key::Down).empty());
-  CHECK(lineAfter(form::Key::Up) == L"p=one");
-  CHECK(lineAfter(form::Key::Up) == L"c.Modem");
-  CHECK(lineAfter(form::Key::Up) == L"e.suggestions@orbel.example");
-  CHECK(line.Program.CommandState.MailTargetIndex == 1);
-  CHECK(lineAfter(form::Key::Up) == L"p-Net tool");
-  CHECK(lineAfter(form::Key::Up) == L"p-Net tool");
-  CHECK(line.Program.CommandState.MatchedItemIndex == 0);
-  line.Computer.Asked.clear();
-  line.Desktop.Type(L"\r");
-  CHECK(line.Computer.Asked == Texts{L"run \"C:\\net.exe\""});
-  line.Box.SetText(state::ProductName);
-  CHECK(lineAfter(form::Key::Up) == L"p-Net tool");
-  CHECK(lineAfter(form::Key::Down).empty());
-  // What has been changed is a line like any other.
-  lineAfter(form::Key::Up);
-  line.Desktop.Type(L"x");
-  CHECK(lineAfter(form::Key::Up) == L"p-Net toolx");
-}
-
 }  // namespace
 }  // namespace vantor::command
