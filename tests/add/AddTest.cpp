@@ -20,7 +20,6 @@ struct AddBox : test::StartedProgram {
     Desktop.Press(form::Key::F2);
     REQUIRE(Box.DirWork.SetPath(L"C:\\Work"));
   }
-  void ChooseKind(AddKind kind) { Desktop.Click(Box.OptionBrowse[static_cast<std::size_t>(kind)]); }
   void Pick(std::wstring_view file) {
     const auto& files = Box.FileWork.Entries();
     const auto found = std::find(files.begin(), files.end(), file);
@@ -41,111 +40,6 @@ struct AddBox : test::StartedProgram {
 
   frmBrowse& Box = Program.frmBrowse;
 };
-
-TEST_CASE("the box opens on its first useful control, whatever had the focus when it closed") {
-  AddBox adding;
-  adding.Pick(L"Tool.EXE");
-  adding.Desktop.Type(L"Tool\r");
-  for (const bool again : {false, true}) {
-    CAPTURE(again);
-    adding.Desktop.Press(form::Key::F2);
-    if (!again) adding.Desktop.Press(form::Key::F2);
-    CHECK(adding.Box.ActiveControl() == &adding.Box.OptionBrowse.front());
-    adding.Desktop.Press(form::Key::F3);
-    CHECK(adding.Box.ActiveControl() == &adding.Box.DriveWork);
-    adding.Desktop.Click(adding.Box.CommandAddCancel);
-  }
-}
-
-TEST_CASE("a name left over from another choice adds nothing while there is no path") {
-  AddBox adding;
-  frmBrowse& box = adding.Box;
-  adding.ChooseKind(AddKind::File);
-  adding.Pick(L"notes.txt");
-  adding.Desktop.Type(L"left");
-  adding.ChooseKind(AddKind::Program);
-  CHECK_FALSE(box.TextAddName.Enabled());
-  adding.Desktop.Click(box.CommandAddOK);
-  CHECK(adding.Added() == 0);
-  CHECK(box.TextAddName.Text() == L"left");
-  adding.ChooseKind(AddKind::File);
-  adding.Pick(L"notes.txt");  // has no default name
-  CHECK(box.TextAddName.Text().empty());
-  adding.ChooseKind(AddKind::Folder);
-  REQUIRE(box.DirWork.SetPath(L"C:\\"));
-  CHECK(box.TextAddPath.Text() == L"C:\\");
-  CHECK(box.State().BrowseFolder == L"C:\\");
-}
-
-TEST_CASE("where an item may come from, and which folder is kept for the next run") {
-  constexpr std::wstring_view NoMachineYet = L"While Vantor runs from a Removable Media - it can add";
-  constexpr std::wstring_view NotFixedHere = L"From this machine you can add";
-  constexpr std::wstring_view OtherMachine = L"While Vantor runs from a Removable Media - Program File and Folder if";
-  const struct {
-    bool Media, Unknown, Remembered;
-    std::wstring Folder;
-    std::wstring_view Refusal;  // "" when it may be added
-  } cases[] = {
-      {false, false, false, L"D:\\Work", L""},         {false, false, false, L"E:\\Work", NotFixed},
-      {false, false, false, L"N:\\Work", NotFixed},    {true, true, false, L"E:\\Work", L""},
-      {true, true, false, L"D:\\Work", NoMachineYet},  {true, false, true, L"D:\\Work", L""},
-      {true, false, true, L"N:\\Work", NotFixedHere},  {true, false, true, L"E:\\Work", L""},
-      {true, false, false, L"D:\\Work", OtherMachine}, {true, false, false, L"E:\\Work", L""},
-  };
-  for (const auto& c : cases) {
-    CAPTURE(&c - cases);
-    AddBox adding;
-    state::Environment& environment = adding.Program.Environment;
-    environment.RunMode = c.Media;
-    environment.MachineUnknown = c.Unknown;
-    environment.MachineRemembered = c.Remembered;
-    if (c.Media) environment.MediaDriveLetter = L"E";
-    adding.Box.DriveWork.SetDrive(c.Folder);
-    REQUIRE(adding.Box.DirWork.SetPath(c.Folder));
-    if (!c.Media) CHECK(adding.Program.Settings.Folder == (c.Refusal.empty() ? c.Folder : L""));
-    adding.Pick(L"Tool.EXE");
-    const bool refused = !c.Refusal.empty();
-    if (refused) adding.Expect([](auto& dialog) { dialog.CommandOK.DoClick(); });
-    adding.Desktop.Type(L"Tool\r");
-    CHECK((adding.Added() == 1) != refused);
-    if (!refused) continue;
-    CHECK(adding.Told.at(0).starts_with(c.Refusal));
-    CHECK(adding.Box.TextAddName.Text() == L"Tool");
-    CHECK(adding.Program.OptionsPage.CommandOptionRemember.Enabled() == (c.Refusal == NoMachineYet));
-  }
-  // A folder that is gone at the next start gives way to the program's own.
-  test::TestProgram next;
-  next.Program.Settings.Folder = L"C:\\Gone";
-  next.Program.Environment.ProgramFolder = L"C:\\Vantor\\";
-  next.Program.frmBrowse.Load();
-  CHECK(next.Program.frmBrowse.DirWork.Path() == L"C:\\Vantor");
-}
-
-TEST_CASE("what is dropped on the program fills the add box as if browsed to") {
-  const std::wstring longFile =
-      L"D:\\" + std::wstring(200, L'\x436') + L"\\" + std::wstring(200, L'x') + L"\\a 'b'.txt";
-  const struct {
-    Texts Paths;
-    AddKind Kind;
-    std::wstring Path;
-  } cases[] = {
-      {{L"e:\\work\\TOOL.exe"}, AddKind::Program, L"E:\\work\\Tool.EXE"},
-      {{L"Z:\\no", L"C:\\Work\\notes.txt"}, AddKind::File, L"C:\\Work\\notes.txt"},
-      {{L"D:\\Work\\"}, AddKind::Folder, L"D:\\Work"},
-      {{longFile}, AddKind::File, longFile},
-  };
-  for (const auto& c : cases) {
-    CAPTURE(&c - cases);
-    AddBox adding;
-    adding.Computer.Disk.AddFile(longFile);
-    adding.Desktop.Press(form::Key::F3);
-    adding.Box.FillWith(c.Paths);
-    CHECK(adding.Program.CommandState.OpenPanelIndex == 0);
-    CHECK(adding.Box.State().WhatToAdd == c.Kind);
-    CHECK(adding.Box.TextAddPath.Text() == c.Path);
-    CHECK(adding.Box.TextAddName.HasFocus());
-  }
-}
 
 TEST_CASE("a snapshot's records are kept in order, across the growth of the table") {
   fake::Computer computer;

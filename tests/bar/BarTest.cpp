@@ -10,24 +10,6 @@ namespace {
 using form::Key;
 using test::StartedProgram;
 
-TEST_CASE("a button without a panel is not there, and leaves no gap") {
-  StartedProgram program;
-  frmMain& bar = program.Main;
-  const form::CommandButton& button = bar.CommandMenu[menu::Companions];
-  const int narrow = bar.Bounds().Width;
-  for (int time = 0; time < 2; ++time) {
-    CHECK_FALSE(button.Visible());
-    CHECK(bar.Bounds().Width == narrow);
-    bar.SetPanel(menu::Companions, &program.Program.HelpPanel);
-    CHECK(button.Visible());
-    CHECK(bar.Bounds().Width == narrow + button.Width() + 60);
-    CHECK(bar.Bounds().Width == bar.CommandExit.Right());
-    // Unfolded it still leaves its margin free on the smallest screen.
-    CHECK(bar.Web.FrameWeb.Right() + 480 <= 12000);
-    bar.SetPanel(menu::Companions, nullptr);
-  }
-}
-
 TEST_CASE("dragging ends within the screen, and leaves room for what unfolds") {
   StartedProgram program;
   frmMain& bar = program.Main;
@@ -87,6 +69,10 @@ TEST_CASE("a change of settings that are none of the bar's leaves it where it is
   CHECK(place.Right() == program.Desktop.Desktop.Bounds.Width);
   program.Main.InputScreensChanged();
   CHECK(program.Main.Bounds() == place);
+  // Nor does a form move that is not shown.
+  program.Choose.MoveTo(30000, 0);
+  program.Choose.InputScreensChanged();
+  CHECK(program.Choose.Bounds().Left == 30000);
 }
 
 TEST_CASE("the bar climbs on top each second, except while a message or a panel is open or the user does not want it") {
@@ -113,21 +99,6 @@ TEST_CASE("the bar climbs on top each second, except while a message or a panel 
   CHECK(climbs());
   program.Program.Options.AlwaysOnTop = 0;
   CHECK(!climbsAfterMessage());
-}
-
-TEST_CASE("an idle line shows the product's name again, ready to be typed over") {
-  StartedProgram program;
-  form::TextBox& line = program.Main.TextMain;
-  program.Desktop.Press(Key::F12);
-  program.Desktop.Advance(50000);
-  program.Desktop.Type(L"x");
-  program.Desktop.Advance(1000);
-  program.Desktop.DoubleClick(line);
-  program.Desktop.Advance(60000);
-  CHECK(line.Text().empty());
-  program.Desktop.Advance(1000);
-  CHECK(line.Text() == L"Vantor");
-  CHECK(line.SelLength() == 6);
 }
 
 TEST_CASE("leaving before the list was read keeps the list") {

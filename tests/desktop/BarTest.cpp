@@ -31,56 +31,6 @@ void DragTo(const Program& program, POINT to) {
 
 }  // namespace
 
-TEST_CASE("the line completes, clears and stays while the bar is minimised") {
-  const Folder folder;
-  folder.Write("a.exe");
-  folder.WriteSettings({.ProgUpper = 1});
-  folder.WriteData("ListProg", ListBytes({{"notepad", folder.Path("a.exe")}, {"Net tool", folder.Path("a.exe")}}));
-  const Program program(folder);
-  HWND bar = program.AwaitBar();
-  CHECK_BECOMES(program.LineWithSelection(), "[Vantor]");
-  input::Type("x");
-  CHECK_BECOMES(program.Line(), "x");
-
-  const std::pair<std::string, std::string> rows[] = {
-      {"P-ne", "P-Ne[t tool]"}, {"p-notex", "p-notex"}, {"w-n", "w-n"}, {"e.s", "e.s[uggestions@orbel.example]"},
-      {"d.s", "d.S[endTo]"},    {"c.di", "c.Di"},  // "c.d" has become "c.DateTime"
-      {"p-not", "p-not[epad]"}};
-  for (const auto& row : rows) {
-    program.TypeLine(row.first);
-    CHECK_BECOMES(program.LineWithSelection(), row.second);
-  }
-  // Backspace takes the proposal away and brings none back; the next letter does.
-  for (const char* shown : {"p-not", "p-no"}) {
-    input::Press(VK_BACK);
-    CHECK_BECOMES(program.LineWithSelection(), shown);
-  }
-  input::Type("t");
-  CHECK_BECOMES(program.LineWithSelection(), "p-not[epad]");
-  input::DoubleClick(window::Middle(program.TextMain()));
-  CHECK_BECOMES(program.Line(), "");
-
-  std::string line = "kept";
-  input::Type(line);
-  for (const int way : {0, 1, 2}) {
-    CAPTURE(way);
-    if (way == 0) input::Press(VK_ESCAPE);
-    if (way == 1) input::Press(VK_F9);
-    if (way == 2) input::Click(program.Button("Minimize"));
-    CHECK_BECOMES(window::IsMinimised(bar), true);
-    CHECK_FALSE(window::IsTopMost(bar));
-    OpenIcon(bar);
-    SetForegroundWindow(bar);
-    program.AwaitBar();
-    CHECK_BECOMES(window::IsTopMost(bar), true);
-    input::Press(VK_END);
-    input::Type("!");
-    CHECK_BECOMES(program.Line(), line += '!');
-  }
-  input::Click(program.Button("Exit"));
-  CHECK(program.AwaitEnd() == 0);
-}
-
 TEST_CASE("the bar is dragged, kept on the screen, saved where it would be restored, and there at the next start") {
   SKIP_UNLESS(UnderWine(), "a display that can be asked to drag");
   const Folder folder;

@@ -1,6 +1,4 @@
-// desktop: --drive e:=floppy
-// What lies in the data files afterwards: damaged ones, a save that is broken off, the end of the session, other
-// copies.
+// What lies in the data files afterwards: a save that is broken off, the end of the session, other copies.
 
 #include <doctest/doctest.h>
 
@@ -22,11 +20,11 @@ struct LongList {
     folder.WriteSettings({.WebUpper = Count - 1});
     folder.WriteData("ListWeb", Old);
   }
-  /// Whether all items are saved. On a medium no folder is kept.
-  void CheckSaved(const Folder& folder, bool onMedium = false) const {
+  /// Whether all items are saved.
+  void CheckSaved(const Folder& folder) const {
     CHECK((folder.Data("ListWeb") == New));
     const Settings settings{.WebUpper = Count - 1};
-    CHECK(folder.Data("Set") == (onMedium ? settings.Bytes() : folder.Saved(settings)));
+    CHECK(folder.Data("Set") == folder.Saved(settings));
     CHECK_FALSE(Exists(folder.Path("Vantor\\Saving.Orbel")));
   }
 
@@ -47,37 +45,6 @@ void StartAndClose(const Folder& folder) {
 }
 
 }  // namespace
-
-TEST_CASE("settings and lists are written whole at the exit, and what can be read of damaged ones is kept") {
-  const std::string lists = ListBytes({{"One", "http://one"}, {"Two", "http://two"}});
-  const Settings usual{.OptionMask = 3, .WebUpper = 1, .Left = 300, .Top = 450};
-  const struct {
-    std::string Settings, Web;
-    desktop::Settings SettingsAfter;
-    std::string WebAfter;
-  } rows[] = {
-      {usual.Bytes(), "\"One\" , \"http://one\"\nTwo,http://two", usual, lists},
-      // Cut in the second record; fewer than counted; a count out of range; not a settings file at all.
-      {Settings{.WebUpper = 1}.Bytes(),
-       lists.substr(0, lists.size() - 4),
-       {.WebUpper = 0},
-       ListBytes({{"One", "http://one"}})},
-      {Settings{.WebUpper = 9}.Bytes(), lists, {.WebUpper = 1}, lists},
-      {"2\r\n-1\r\n-1\r\n-1\r\n1\r\n99999999\r\n0\r\n", lists, {.WebUpper = 1}, lists},
-      {std::string("\0\xFF\"", 3), lists, {}, lists},
-  };
-  for (const auto& row : rows) {
-    CAPTURE(row.Settings);
-    const Folder folder;
-    folder.WriteSettings({});
-    folder.WriteData("Set", row.Settings);
-    folder.WriteData("ListWeb", row.Web);
-    StartAndClose(folder);
-    CHECK(folder.Data("Set") == folder.Saved(row.SettingsAfter));
-    CHECK(folder.Data("ListWeb") == row.WebAfter);
-    CHECK(folder.Data("User") == "\"Anna\"\r\n");
-  }
-}
 
 TEST_CASE("the program killed in the midst of a save has lost nothing at its next start") {
   const LongList list(32767);
@@ -120,34 +87,6 @@ TEST_CASE("on a full disk the old list or the new one stays, whole") {
     StartAndClose(folder);
     list.CheckSaved(folder);
   }
-}
-
-TEST_CASE("a list file that may not be written, and a medium that is pulled out") {
-  const LongList list(3);
-  const Folder folder;
-  list.PutInto(folder);
-  const std::wstring path = Wide(folder.Path("Vantor\\ListWeb.Orbel"));
-  SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY);
-  StartAndClose(folder);
-  SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
-  CHECK(folder.Data("ListWeb") == list.Old);
-  StartAndClose(folder);
-  list.CheckSaved(folder);
-
-  SKIP_UNLESS(UnderWine() && GetDriveTypeA("E:\\") == DRIVE_REMOVABLE, "a test desktop with a removable drive");
-  const Folder medium("E:\\");
-  list.PutInto(medium);
-  medium.WriteData("MediaSet", "\"Vantor Media 1\"\r\n\"Ready\"\r\n\"Anna\"\r\n");
-  {
-    const Program program(medium);
-    program.AwaitBar();
-    REQUIRE(MoveFileA("Z:\\prefix\\drives\\e", "Z:\\prefix\\drives\\gone"));
-    Close(program);
-    REQUIRE(MoveFileA("Z:\\prefix\\drives\\gone", "Z:\\prefix\\drives\\e"));
-  }
-  CHECK(medium.Data("ListWeb") == list.Old);
-  StartAndClose(medium);
-  list.CheckSaved(medium, true);
 }
 
 TEST_CASE("Windows ends while a panel or a message is open: all is saved, and in time") {

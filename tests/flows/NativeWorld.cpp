@@ -28,6 +28,7 @@ class Machine : public fake::Computer {
     Disk.AddFile(Windows + L"\\explorer.exe");
     Specials[L"Desktop"] = L"C:\\Desktop";
     Disk.AddFolder(L"C:\\Desktop");
+    Managed.push_back({1, L"C:\\system.exe"});
   }
 
   Texts Starts;
@@ -45,6 +46,10 @@ class Machine : public fake::Computer {
     const int result = fake::Computer::RequestMakeCall(number, application);
     if (result == 0) Note(L"call ", number);
     return result;
+  }
+  /// Window 3 is of process 1, which is none that could be started again.
+  std::uint32_t ProcessOfWindow(service::WindowId window) override {
+    return window == service::WindowId{3} ? 1 : fake::Computer::ProcessOfWindow(window);
   }
   bool SaveShortcut(const service::Shortcut& shortcut) override {
     return fake::Computer::SaveShortcut(shortcut) && Disk.Write(shortcut.File, "", false);
@@ -103,6 +108,7 @@ class NativeWorld : public World {
   [[nodiscard]] Text Place(const Text& word) override {
     if (word == L"f") return computer_.Home;
     if (word == L"w") return computer_.Windows + L'\\';
+    if (word == L"rest") return computer_.Home.substr(1);
     if (word == L"other") return L"C:\\Work\\Tool.EXE";
     return computer_.Specials[word];
   }
@@ -131,12 +137,16 @@ class NativeWorld : public World {
   void Press(form::Key key) override { desk_->Press(key); }
   void Type(const Text& text) override { desk_->Type(text); }
   void Paste(const Text& text) override {
-    form::Form* const form = desk_->ActiveForm();
-    auto* const box = form != nullptr ? dynamic_cast<form::TextBox*>(form->ActiveControl()) : nullptr;
-    if (box == nullptr || !box->AcceptsInput()) throw Failure("there is nothing to paste into");
-    Text edited = box->Text();
-    edited.replace(static_cast<std::size_t>(box->SelStart()), static_cast<std::size_t>(box->SelLength()), text);
-    box->InputEdited(edited, box->SelStart() + static_cast<int>(text.size()), 0);
+    form::TextBox& box = FocusedBox();
+    Text edited = box.Text();
+    edited.replace(static_cast<std::size_t>(box.SelStart()), static_cast<std::size_t>(box.SelLength()), text);
+    box.InputEdited(edited, box.SelStart() + static_cast<int>(text.size()), 0);
+  }
+  void Compose(bool begins, const Text& text) override {
+    form::TextBox& box = FocusedBox();
+    if (begins) box.InputComposing(true);
+    desk_->Type(text);
+    if (!begins) box.InputComposing(false);
   }
   void Click(const Text& name, const Text& entry, bool twice) override {
     form::Control& control = Reachable(name);
@@ -157,7 +167,9 @@ class NativeWorld : public World {
     held_ = control;
   }
   void MoveOver(const Text& window) override {
-    computer_.UnderCursor = service::WindowId{window == L"other" ? 1U : window == L"nothing" ? 0U : 2U};
+    constexpr std::wstring_view known[] = {L"nothing", L"other", L"", L"system"};
+    const auto* const found = std::ranges::find(known, window);
+    computer_.UnderCursor = service::WindowId{found != std::end(known) ? static_cast<unsigned>(found - known) : 2U};
     computer_.Managed[2].ExecutablePath = computer_.Home + L"\\Vantor.exe";
     desk_->Advance(100);
   }
@@ -167,7 +179,10 @@ class NativeWorld : public World {
     }
   }
   void Drag(int right, int down) override { desk_->DragBy(program_->frmMain, right * 15, down * 15); }
-  void Drop(const Texts& paths) override { program_->frmMain.InputDrop({paths, {}}); }
+  void Drop(const Texts& paths) override {
+    const bool isAddress = paths.at(0).find(L"://") != Text::npos;
+    program_->frmMain.InputDrop(isAddress ? form::DroppedItems{{}, paths[0]} : form::DroppedItems{paths, {}});
+  }
   void Restore() override {
     program_->frmMain.InputWindowState(form::WindowState::Normal);
     desk_->Advance(1000);
@@ -245,6 +260,12 @@ class NativeWorld : public World {
       }
     }
     return found;
+  }
+  [[nodiscard]] form::TextBox& FocusedBox() const {
+    const form::Form* const form = desk_->ActiveForm();
+    auto* const box = form != nullptr ? dynamic_cast<form::TextBox*>(form->ActiveControl()) : nullptr;
+    if (box == nullptr || !box->AcceptsInput()) throw Failure("there is nothing to type into");
+    return *box;
   }
   [[nodiscard]] form::Control& Reachable(const Text& name) const {
     form::Control* const control = Find(name);

@@ -244,7 +244,10 @@ class Player : public Steps {
       const std::size_t end = text.find(L'}', begin);
       if (end == text.npos) break;
       const Text word = text.substr(begin + 1, end - begin - 1);
-      const Text filled = word == L"space" ? L" " : world_->Place(word);
+      constexpr std::pair<std::wstring_view, wchar_t> characters[] = {
+          {L"space", L' '}, {L"tab", L'\t'}, {L"return", L'\r'}, {L"separator", L'\u2028'}};
+      const auto* const known = std::ranges::find(characters, word, &std::pair<std::wstring_view, wchar_t>::first);
+      const Text filled = known != std::end(characters) ? Text(1, known->second) : world_->Place(word);
       if (filled.empty()) throw Failure("nothing stands for {" + Narrow(word) + '}');
       text.replace(begin, end + 1 - begin, filled);
     }
@@ -298,6 +301,8 @@ std::span<const Player::Verb> Player::Verbs() {
     {L"press", [](Player& p, const Text& rest) { p.Press(rest); }},
     {L"type", [](Player& p, const Text& rest) { p.world_->Type(rest); }},
     {L"paste", [](Player& p, const Text& rest) { p.world_->Paste(rest); }},
+      {L"compose", [](Player& p, const Text& rest) { p.world_->Compose(true, rest); }},
+      {L"composed", [](Player& p, const Text& rest) { p.world_->Compose(false, rest); }},
     {L"line", [](Player& p, const Text& rest) { p.WriteLine(rest); }},
     {L"enter",
      [](Player& p, const Text& rest) {

@@ -57,6 +57,7 @@ class RealWorld : public World {
   }
   [[nodiscard]] Text Place(const Text& word) override {
     if (word == L"f") return Wide(folders_.back()->Path());
+    if (word == L"rest") return Wide(folders_.back()->Path()).substr(1);
     if (word == L"other") return OwnPath();
     wchar_t path[MAX_PATH];
     if (word == L"w") return Text(path, GetWindowsDirectoryW(path, MAX_PATH)) + L'\\';
@@ -107,6 +108,7 @@ class RealWorld : public World {
     input::Press('V');
     input::Key(VK_CONTROL, 0, KEYEVENTF_KEYUP);
   }
+  void Compose(bool /*begins*/, const Text& /*text*/) override { throw Failure("there is no input method here"); }
   void Click(const Text& control, const Text& entry, bool twice) override {
     Await("the control to be ready", [&] { return Find(control) != nullptr && window::IsEnabled(Find(control)); });
     HWND const window = Find(control);

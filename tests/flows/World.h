@@ -63,6 +63,8 @@ class World {
   virtual void Press(form::Key key) = 0;
   virtual void Type(const Text& text) = 0;
   virtual void Paste(const Text& text) = 0;
+  /// An input method begins and types, or types and ends.
+  virtual void Compose(bool begins, const Text& text) = 0;
   /// On an entry of a list, or in the control's middle for "".
   virtual void Click(const Text& control, const Text& entry, bool twice) = 0;
   /// The mouse button goes down on a control; then the mouse moves over a window: that of the other program
@@ -72,6 +74,7 @@ class World {
   virtual void Release() = 0;
   /// Drags the bar by pixels.
   virtual void Drag(int right, int down) = 0;
+  /// On the bar: files, or the address of a site.
   virtual void Drop(const Texts& paths) = 0;
   /// Brings the minimised bar back, and closes its window from outside.
   virtual void Restore() = 0;

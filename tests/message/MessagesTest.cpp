@@ -20,10 +20,6 @@ struct Desk : test::StartedProgram {
     State.CurrentMessageKey = std::move(key);
     Shown.ShowUserMessage();
   }
-  void ShowStop(MessageKey key) {
-    State.CurrentMessageKey = std::move(key);
-    Shown.ShowStopMessage();
-  }
   /// All messages came, and left nothing behind.
   [[nodiscard]] bool Done() const {
     return Desktop.ModalScriptsDone() && !State.BugReportPending &&
@@ -46,65 +42,12 @@ TEST_CASE("a message addresses the user, and a key that the routine does not hol
     desk.Shown.ShowList(L"MessageAddNotFound");
     CHECK(desk.Told == Texts{L"Seleted item doesn't exist.\r\nFailed to add."});
     CHECK(desk.Done());
-    desk.ShowStop(L"MessageProgInSystem");
+    desk.State.CurrentMessageKey = L"MessageProgInSystem";
+    desk.Shown.ShowStopMessage();
     desk.Shown.ShowList(L"MessagePanelOpenError");
     desk.Shown.ShowList(L"MessageSmallScreen");
     desk.Shown.ShowText(L"");
     CHECK_FALSE((desk.State.EndAfterMessage || desk.Desktop.Ended()));
-  }
-}
-
-TEST_CASE("the name prompt takes letters, and every answer to it is stored as it should be") {
-  const struct {
-    const wchar_t *Key, *Typed, *Name;
-    std::string Saved;
-  } cases[] = {
-      {L"MessageGetUserName", L"J0 o\u00F6-h\bhn\r", L"John", "John"},
-      {L"MessageGetUserName", L"\r", NoUserName, "myFriend"},
-      {L"MessageGetUserName", L"Bob\x1b", NoUserName, "myFriend"},
-      {L"MessageChangeUserName", L"Eve\r", L"Eve", "Eve"},
-      {L"MessageChangeUserName", L"\r", L"Old", "Ada"},
-      {L"MessageChangeUserName", L"X\x1b", L"Old", "Ada"},
-  };
-  for (const auto& c : cases) {
-    CAPTURE(&c - cases);
-    Desk desk;
-    desk.State.UserName = L"Old";
-    desk.ExpectTyping(c.Typed);
-    desk.ShowUser(c.Key);
-    CHECK(desk.State.UserName == c.Name);
-    CHECK(desk.Computer.Disk.Bytes(L"C:\\Vantor\\Vantor\\User.Orbel") == '"' + c.Saved + "\"\r\n");
-    CHECK(desk.Done());
-  }
-  // OK goes with the text in the box, and what is pasted is cleaned.
-  Desk desk;
-  desk.Expect([&](frmMessage& dialog) {
-    for (const std::wstring pasted : {L"A\"d1 a", L"", L"12"}) {
-      dialog.TextInput0.InputEdited(pasted, static_cast<int>(pasted.size()), 0);
-      const std::wstring name = pasted.size() == 6 ? L"Ada" : L"";
-      CHECK(dialog.TextInput0.Text() == name);
-      CHECK(dialog.TextInput0.SelStart() == static_cast<int>(name.size()));
-      CHECK(dialog.CommandOK.Enabled() == !name.empty());
-    }
-  });
-  desk.ShowUser(L"MessageGetUserName");
-}
-
-TEST_CASE("a bug is reported by mail, if the user wants it, and a mail that fails is told") {
-  for (int way = 0; way < 3; ++way) {
-    Desk desk;
-    if (way == 2) desk.Computer.Let("ShellOpen", fake::Outcome::Fails);
-    desk.Expect([&](frmMessage& dialog) {
-      CHECK(dialog.LabelOK.Caption() == L"Yes");
-      CHECK(desk.Told.back().find(L"\r\n    Bug-Vantor-Saving\r\n\r\nDo you") != std::wstring::npos);
-      desk.Desktop.Click(way == 0 ? dialog.CommandCancel : dialog.CommandOK);
-    });
-    if (way == 2) desk.Expect();
-    desk.Shown.Trap(L"Saving", [] { throw std::runtime_error("broken"); });
-    const std::wstring mail = L"mail mailto:bugs@orbel.example?subject=Vantor - Found Bug&body=Bug-Vantor-Saving";
-    CHECK((desk.Computer.Asked.back() == mail) == (way > 0));
-    CHECK(desk.Told.back().ends_with(L"Could not start the required program.") == (way == 2));
-    CHECK(desk.Done());
   }
 }
 
@@ -116,6 +59,8 @@ TEST_CASE("messages that open over others take nothing from them, and errors do 
       desk.Shown.Trap(L"Tick", [] { throw 2; });  // passed over: a question is open
     });
     desk.Shown.Trap(L"Tick", [] { throw 1; });
+    desk.Desktop.Advance(5000);
+    CHECK_FALSE(desk.Main.TopMost());
     desk.Desktop.Type(L"7\r");
   });
   desk.ShowUser(L"MessageGetUserName");

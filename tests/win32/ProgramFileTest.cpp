@@ -6,10 +6,7 @@
 #include <algorithm>
 #include <cstring>
 #include <string>
-#include <vector>
 
-#include "product/Product.rc.h"
-#include "state/Environment.h"
 #include "win32/base/SystemLibrary.h"
 #include "win32/service/DataFiles.h"
 #include "win32/service/System.h"
@@ -32,11 +29,6 @@ struct Image {
   }
   [[nodiscard]] const IMAGE_DATA_DIRECTORY& Directory(int index) const {
     return Headers->OptionalHeader.DataDirectory[index];
-  }
-  [[nodiscard]] std::string Resource(int id, LPWSTR type) const {
-    HRSRC const found = FindResourceW(Module, MAKEINTRESOURCEW(id), type);
-    REQUIRE(found != nullptr);
-    return {static_cast<const char*>(LockResource(LoadResource(Module, found))), SizeofResource(Module, found)};
   }
 };
 
@@ -62,6 +54,11 @@ TEST_CASE("the program file asks for the mitigations that its tool chain can giv
   CHECK(bytes.find(std::string("\xB9\x02\0\0\0\xCD\x29", 7)) != std::string::npos);
   CHECK(bytes.size() < 600 * 1024);
   CHECK(image.Headers->FileHeader.TimeDateStamp == 0);
+  HRSRC const manifest = FindResourceW(image.Module, MAKEINTRESOURCEW(1), RT_MANIFEST);
+  REQUIRE(manifest != nullptr);
+  const std::string text(static_cast<const char*>(LockResource(LoadResource(image.Module, manifest))),
+                         SizeofResource(image.Module, manifest));
+  CHECK(text.find(R"(level="asInvoker" uiAccess="false")") != std::string::npos);
 }
 
 TEST_CASE("libraries are those that Windows takes from its own folder, whatever lies beside the program") {
@@ -87,53 +84,4 @@ TEST_CASE("libraries are those that Windows takes from its own folder, whatever 
   CHECK(usual != nullptr);
   FreeLibrary(usual);
   DeleteFileW(planted.c_str());
-}
-
-TEST_CASE("the manifests name what the program knows of Windows") {
-  const Image image;
-  const std::string manifest = image.Resource(1, RT_MANIFEST) + image.Resource(2, RT_MANIFEST);
-  for (const char* part :
-       {R"(level="asInvoker" uiAccess="false")", R"(Microsoft.Windows.Common-Controls" version="6.0.0.0")",
-        "{35138b9a-5d96-4fbd-8e2d-a2440225f93a}", "{4a2f28e3-53b9-4441-ba9c-d69d4a4a6e38}",
-        "{1f676c76-80e1-4239-95bb-83d0f6d0da78}", "{8e0f7a12-bfb3-4fe8-b9a5-48fd50a15a9a}", ">true/pm</dpiAware>",
-        ">PerMonitorV2, PerMonitor</dpiAwareness>", ">true</longPathAware>",
-        "name=\"" PRODUCT_PUBLISHER ".Vantor\" version=\"" PRODUCT_VERSION_FULL_TEXT "\""}) {
-    CAPTURE(part);
-    CHECK(manifest.find(part) != std::string::npos);
-  }
-  // Windows would not start a program whose first one is not well made; the program loads the second.
-  for (const int id : {1, 2}) {
-    const std::wstring path = ProgramPath();
-    ACTCTXW what = {};
-    what.cbSize = sizeof what;
-    what.dwFlags = ACTCTX_FLAG_RESOURCE_NAME_VALID;
-    what.lpSource = path.c_str();
-    what.lpResourceName = MAKEINTRESOURCEW(id);
-    CHECK(CreateActCtxW(&what) != INVALID_HANDLE_VALUE);
-  }
-}
-
-TEST_CASE("the version is one and the same, and the icon has every size that Windows shows it in, with soft edges") {
-  const std::wstring path = ProgramPath();
-  std::vector<char> block(GetFileVersionInfoSizeW(path.c_str(), nullptr));
-  REQUIRE(GetFileVersionInfoW(path.c_str(), 0, static_cast<DWORD>(block.size()), block.data()) != FALSE);
-  const auto value = [&block](const std::wstring& name) {
-    void* text = nullptr;
-    UINT length = 0;
-    const std::wstring key = L"\\StringFileInfo\\040904B0\\" + name;
-    REQUIRE(VerQueryValueW(block.data(), key.c_str(), &text, &length) != FALSE);
-    return std::wstring(static_cast<const wchar_t*>(text));
-  };
-  CHECK(L"Version " + value(L"ProductVersion") == vantor::state::VersionText);
-  CHECK(value(L"FileVersion").starts_with(value(L"ProductVersion") + L"."));
-
-  const std::string group = Image().Resource(1, RT_GROUP_ICON);
-  constexpr std::size_t Header = 6;
-  constexpr std::size_t Entry = 14;
-  std::vector<int> sizes;
-  for (std::size_t at = Header; at + Entry <= group.size(); at += Entry) {
-    sizes.push_back(static_cast<unsigned char>(group[at]));
-    CHECK(group[at + 6] == 32);  // bits a pixel
-  }
-  CHECK(sizes == std::vector<int>{16, 20, 24, 32, 40, 48, 64, 0});  // 0 for 256
 }
