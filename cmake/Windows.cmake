@@ -170,7 +170,8 @@ foreach(root IN ITEMS win32 win64)
   set_tests_properties(flows/${root} PROPERTIES LABELS desktop TIMEOUT 600)
 endforeach()
 
-# The floor program, built as Vantor.exe is, and what measures both. Soak uses the program as the desktop tests do.
+# The floor program, built as Vantor.exe is, a host of the system's Run dialog, and what measures them all. Soak uses
+# the program as the desktop tests do.
 foreach(source IN LISTS VANTOR_WIN32_BENCH_SOURCES)
   get_filename_component(name "${source}" NAME_WE)
   add_executable(${name} ${source})
@@ -179,6 +180,4 @@ foreach(source IN LISTS VANTOR_WIN32_BENCH_SOURCES)
   target_compile_options(${name} PRIVATE ${VANTOR_WHOLE_COMPILE})
   target_link_options(${name} PRIVATE -municode -s ${VANTOR_WHOLE_LINK})
 endforeach()
-if(TARGET Floor)
-  set_target_properties(Floor PROPERTIES WIN32_EXECUTABLE ON)
-endif()
+set_target_properties(Floor RunDialog PROPERTIES WIN32_EXECUTABLE ON)

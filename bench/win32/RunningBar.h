@@ -45,10 +45,12 @@ inline HWND EditOf(DWORD process) {
   return search.Edit;
 }
 
-/// Whether the right end of the process's text box is light blue on the screen.
+/// Whether the process's text box shows its ground on the screen: light blue, or that of the system's windows.
 inline bool HasPainted(DWORD process, HDC screen) {
   HWND const edit = EditOf(process);
   RECT place;
   if (edit == nullptr || !GetWindowRect(edit, &place)) return false;
-  return GetPixel(screen, place.right - 6, (place.top + place.bottom) / 2) == LineBlue;
+  // Right of the text that the box begins with.
+  const COLORREF seen = GetPixel(screen, place.right - (place.right - place.left) / 4, (place.top + place.bottom) / 2);
+  return seen == LineBlue || seen == GetSysColor(COLOR_WINDOW);
 }

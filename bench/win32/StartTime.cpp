@@ -1,44 +1,47 @@
-// Time from the start of a process to the first paint of its text box, for the programs named on the command line,
-// in turns, so that whatever else the machine does falls on all of them alike.
+// What it takes from the start of a process to its first paint and to the first key that its text box takes, for the
+// programs named on the command line, and what a second start of one of them takes.
 //
-//   StartTime.exe ROUNDS PROGRAM…
+//   StartTime.exe ROUNDS NAME=COMMAND…           median and quickest in milliseconds, paint and key, a line a program
+//   StartTime.exe ROUNDS --second NAME=COMMAND   the same for a second start, which brings the first copy forward
 //
-// Prints the median and the quickest of the rounds in milliseconds, a line a program. The first round warms up and
-// does not count. A program that shows no light-blue text box within 30 seconds ends the run with exit code 1.
+// Exit code 1 when a program showed no text box, or did not come forward.
 
-#include <windows.h>
-
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <vector>
 
-#include "RunningBar.h"
+#include "Starts.h"
 
 namespace {
 
-/// Milliseconds to the first paint; below 0 when there was none.
-double TimeStart(const wchar_t* program) {
+Contestant FromArgument(const std::wstring& argument) {
+  const std::size_t equals = argument.find(L'=');
+  return {argument.substr(0, equals), argument.substr(equals + 1)};
+}
+
+int SecondStarts(const Contestant& program, int rounds) {
+  const StartedProcess first(program.Command);
   HDC const screen = GetDC(nullptr);
-  STARTUPINFOW startup{};
-  startup.cb = sizeof startup;
-  PROCESS_INFORMATION process;
   const double begin = NowMs();
-  if (!CreateProcessW(program, nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process)) return -1;
-  double time = -1;
-  while (NowMs() - begin < PatienceMs) {
-    if (HasPainted(process.dwProcessId, screen)) {
-      time = NowMs() - begin;
-      break;
-    }
-    Sleep(0);
-  }
-  TerminateProcess(process.hProcess, 0);
-  WaitForSingleObject(process.hProcess, INFINITE);
-  CloseHandle(process.hThread);
-  CloseHandle(process.hProcess);
+  while (!HasPainted(first.Id(), screen) && NowMs() - begin < PatienceMs) Sleep(0);
   ReleaseDC(nullptr, screen);
-  return time;
+  HWND const bar = GetAncestor(EditOf(first.Id()), GA_ROOT);
+  std::vector<double> times;
+  for (int round = 0; round <= rounds; ++round) {
+    // Another window stands in front meanwhile.
+    HWND const other = CreateWindowExW(0, L"STATIC", L"Other", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 300, 300, 200, 100,
+                                       nullptr, nullptr, nullptr, nullptr);
+    SetForegroundWindow(other);
+    const double time = TimeSecondStart(program.Command, bar);
+    DestroyWindow(other);
+    if (time < 0) {
+      std::fprintf(stderr, "%ls did not come forward\n", program.Name.c_str());
+      return 1;
+    }
+    if (round > 0) times.push_back(time);
+  }
+  const Figures figures = FiguresOf(times);
+  std::printf("%6.1f %6.1f                 %ls\n", figures.Median, figures.Quickest, program.Name.c_str());
+  return 0;
 }
 
 }  // namespace
@@ -46,21 +49,21 @@ double TimeStart(const wchar_t* program) {
 int wmain(int argc, wchar_t** argv) {
   if (argc < 3) return 2;
   const int rounds = std::max(_wtoi(argv[1]), 1);
-  std::vector<std::vector<double>> times(static_cast<std::size_t>(argc));
-  for (int round = 0; round <= rounds; ++round) {
-    for (int program = 2; program < argc; ++program) {
-      const double time = TimeStart(argv[program]);
-      if (time < 0) {
-        std::fprintf(stderr, "%ls has painted no text box\n", argv[program]);
-        return 1;
-      }
-      if (round > 0) times[static_cast<std::size_t>(program)].push_back(time);
+  if (argc == 4 && std::wstring(argv[2]) == L"--second") return SecondStarts(FromArgument(argv[3]), rounds);
+  std::vector<Contestant> contestants;
+  for (int i = 2; i < argc; ++i) contestants.push_back(FromArgument(argv[i]));
+  MeasureStarts(contestants, rounds);
+  int status = 0;
+  for (const Contestant& contestant : contestants) {
+    if (contestant.Absent) {
+      std::fprintf(stderr, "%ls showed no text box that took a key\n", contestant.Name.c_str());
+      status = 1;
+      continue;
     }
+    const Figures paint = FiguresOf(contestant.Paints);
+    const Figures key = FiguresOf(contestant.Keys);
+    std::printf("%6.1f %6.1f   %6.1f %6.1f   %ls\n", paint.Median, paint.Quickest, key.Median, key.Quickest,
+                contestant.Name.c_str());
   }
-  for (int program = 2; program < argc; ++program) {
-    std::vector<double>& own = times[static_cast<std::size_t>(program)];
-    std::sort(own.begin(), own.end());
-    std::printf("%6.1f %6.1f %ls\n", own[own.size() / 2], own.front(), argv[program]);
-  }
-  return 0;
+  return status;
 }

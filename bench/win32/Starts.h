@@ -1,0 +1,126 @@
+#pragma once
+
+// Times programs from the start of their process: to the first paint of their text box, to the first key that it takes,
+// and to the end of a second copy that only brings the first one forward. Programs are started in turns, so that
+// whatever else the machine does falls on all of them alike.
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "RunningBar.h"
+
+/// A process of our own; ended with this object.
+class StartedProcess {
+ public:
+  explicit StartedProcess(std::wstring command) {
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    started_ = CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                              &process_) != FALSE;
+  }
+  ~StartedProcess() {
+    if (!started_) return;
+    TerminateProcess(process_.hProcess, 0);
+    WaitForSingleObject(process_.hProcess, INFINITE);
+    CloseHandle(process_.hThread);
+    CloseHandle(process_.hProcess);
+  }
+  StartedProcess(const StartedProcess&) = delete;
+  StartedProcess& operator=(const StartedProcess&) = delete;
+
+  [[nodiscard]] bool Started() const { return started_; }
+  [[nodiscard]] DWORD Id() const { return process_.dwProcessId; }
+  [[nodiscard]] HANDLE Handle() const { return process_.hProcess; }
+
+ private:
+  PROCESS_INFORMATION process_{};
+  bool started_ = false;
+};
+
+/// Milliseconds from the start of a command to its text box's first paint; below 0 when there was none.
+inline double TimeToPaint(const std::wstring& command) {
+  HDC const screen = GetDC(nullptr);
+  const double begin = NowMs();
+  const StartedProcess process(command);
+  double time = -1;
+  while (process.Started() && time < 0 && NowMs() - begin < PatienceMs) {
+    if (HasPainted(process.Id(), screen)) time = NowMs() - begin;
+    Sleep(0);
+  }
+  ReleaseDC(nullptr, screen);
+  return time;
+}
+
+/// Milliseconds from the start of a command until its text box has taken a key; below 0 when it took none.
+inline double TimeToKey(const std::wstring& command) {
+  const double begin = NowMs();
+  const StartedProcess process(command);
+  HWND edit = nullptr;
+  while (process.Started() && edit == nullptr && NowMs() - begin < PatienceMs) {
+    edit = EditOf(process.Id());
+    Sleep(0);
+  }
+  // The text is taken as it is at that moment, so that only the key can end with this letter.
+  constexpr wchar_t Letter = L'~';
+  if (edit == nullptr || !PostMessageW(edit, WM_CHAR, Letter, 1)) return -1;
+  while (NowMs() - begin < PatienceMs) {
+    wchar_t text[64] = L"";
+    DWORD_PTR length = 0;
+    SendMessageTimeoutW(edit, WM_GETTEXT, 64, reinterpret_cast<LPARAM>(text), SMTO_NORMAL, 1000, &length);
+    if (std::wstring(text).find(Letter) != std::wstring::npos) return NowMs() - begin;
+  }
+  return -1;
+}
+
+/// Milliseconds from the start of a second copy until it has ended, with the first one's bar in front; below 0 when it
+/// did not come to that.
+inline double TimeSecondStart(const std::wstring& command, HWND bar) {
+  const double begin = NowMs();
+  const StartedProcess second(command);
+  if (!second.Started() || WaitForSingleObject(second.Handle(), static_cast<DWORD>(PatienceMs)) != WAIT_OBJECT_0) {
+    return -1;
+  }
+  while (GetForegroundWindow() != bar) {
+    if (NowMs() - begin > PatienceMs) return -1;
+    Sleep(0);
+  }
+  return NowMs() - begin;
+}
+
+/// Median and quickest of some measurements, in milliseconds.
+struct Figures {
+  double Median = -1;
+  double Quickest = -1;
+};
+
+/// Of no measurements: below 0.
+inline Figures FiguresOf(std::vector<double> times) {
+  if (times.empty()) return {};
+  std::sort(times.begin(), times.end());
+  return {times[times.size() / 2], times.front()};
+}
+
+/// A program to be measured. One that showed no text box is left out of all further rounds.
+struct Contestant {
+  std::wstring Name;
+  std::wstring Command;
+  bool Absent = false;
+  std::vector<double> Paints{};
+  std::vector<double> Keys{};
+};
+
+/// Starts each of the programs `rounds` times for its paint and as often for its key, after one round of warming up.
+inline void MeasureStarts(std::vector<Contestant>& contestants, int rounds) {
+  for (int round = 0; round <= rounds; ++round) {
+    for (Contestant& contestant : contestants) {
+      if (contestant.Absent) continue;
+      const double paint = TimeToPaint(contestant.Command);
+      const double key = paint < 0 ? -1 : TimeToKey(contestant.Command);
+      contestant.Absent = key < 0;
+      if (round == 0 || contestant.Absent) continue;
+      contestant.Paints.push_back(paint);
+      contestant.Keys.push_back(key);
+    }
+  }
+}
