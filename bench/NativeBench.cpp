@@ -12,9 +12,9 @@
 #include <string>
 #include <vector>
 
-#include "bar/frmMain.h"
 #include "fake/Computer.h"
 #include "form/Headless.h"
+#include "start/Program.h"
 
 using namespace vantor;
 using list::LaunchGroup;
@@ -128,13 +128,12 @@ struct Bench {
     for (int i = 0; i < Count; ++i) {
       wchar_t name[32];
       std::swprintf(name, std::size(name), L"Item number %05d", i);
-      Choose.List.Of(LaunchGroup::File).AddItem({name, file});
-      Choose.List.Of(LaunchGroup::Fold).AddItem({name, Folder + L"/Program Files/Some Vendor"});
-      Choose.List.Of(LaunchGroup::Prog).AddItem({name, file});
-      Choose.List.Of(LaunchGroup::Web)
-          .AddItem({name, L"http://www.example.org/some/page?number=" + std::to_wstring(i)});
+      Page.List.Of(LaunchGroup::File).AddItem({name, file});
+      Page.List.Of(LaunchGroup::Fold).AddItem({name, Folder + L"/Program Files/Some Vendor"});
+      Page.List.Of(LaunchGroup::Prog).AddItem({name, file});
+      Page.List.Of(LaunchGroup::Web).AddItem({name, L"http://www.example.org/some/page?number=" + std::to_wstring(i)});
     }
-    ListFiles.SaveLaunchList(Choose.List, 0, 0);
+    ListFiles.SaveLaunchList(Page.List, 0, 0);
   }
 
   RealDataFiles DataFiles;
@@ -143,23 +142,20 @@ struct Bench {
   fake::Computer Rest;  // what is not measured
   service::Services Services{DataFiles, FileSystem, Language, Rest, Rest, Rest, Rest, Rest, Rest};
   form::Headless Desktop;
-  state::Environment Environment;
+  start::Program Program{Desktop, Services};
+  state::Environment& Environment = Program.Environment;
   std::wstring Folder;
-  list::Settings Settings;
-  options::OptionFlags Options;
-  message::MessageState MessageState;
-  message::Messages Messages{Desktop, MessageState};
-  command::CommandState State;
-  command::Starters Starters{Services};
-  list::ListFiles ListFiles{Services, Environment, Settings};
-  list::frmChoose Choose{Desktop, ListFiles, Language, Messages};
-  bar::frmMain Main{Desktop, {Services, Environment, Messages, Settings, Options, Choose, ListFiles, State, Starters}};
+  list::Settings& Settings = Program.Settings;
+  command::CommandState& State = Program.CommandState;
+  list::ListFiles& ListFiles = Program.ListFiles;
+  list::ListPage& Page = Program.ListPage;
+  bar::frmMain& Main = Program.frmMain;
 };
 
 void Keystrokes(Bench& bench) {
   bench.Main.Show();
   form::TextBox& box = bench.Main.TextMain;
-  const auto& names = bench.Choose.ComboListWebName.Entries();
+  const auto& names = bench.Page.ComboListWebName.Entries();
 
   // The match is the last name, and the others differ from it only in their last characters.
   const std::wstring typed = L"item number 3276";
@@ -189,11 +185,10 @@ void Keystrokes(Bench& bench) {
 
 /// The list panel over full groups: each of these is to seem immediate, and none may take 100 ms.
 void ListPanel(Bench& bench) {
-  list::frmChoose& choose = bench.Choose;
-  list::GroupFrame& group = choose.Page.Prog;
+  list::GroupFrame& group = bench.Page.Prog;
   const auto print = [](const char* what, double time) { std::printf("%-48s %9.3f ms\n", what, time); };
   print("open the list panel", Quickest(
-                                   15, [&] { choose.Hide(); }, [&] { choose.ShowPage(choose.Page); }));
+                                   15, [&] { bench.Page.Close(); }, [&] { bench.Page.Open(); }));
   print("select the last of 32,767 items",
         Quickest(
             15, [&] { group.Name.SetListIndex(0); }, [&] { group.Name.SetListIndex(Count - 1); }));
@@ -210,7 +205,7 @@ void LoadAndSave(Bench& bench) {
   const std::vector<std::wstring> files{bench.Environment.Files.Set, bench.Environment.Files.ListFile,
                                         bench.Environment.Files.ListFold, bench.Environment.Files.ListProg,
                                         bench.Environment.Files.ListWeb};
-  const auto save = [&] { bench.ListFiles.SaveLaunchList(bench.Choose.List, 0, 0); };
+  const auto save = [&] { bench.ListFiles.SaveLaunchList(bench.Page.List, 0, 0); };
   const double unchanged = Quickest(
       41, [] {}, save);
   // Every file gets other bytes, and so the kept generation does.
@@ -219,7 +214,7 @@ void LoadAndSave(Bench& bench) {
     mark = mark == L'a' ? L'b' : L'a';
     ++bench.Settings.OptionMask;
     for (const LaunchGroup group : list::LaunchGroups) {
-      form::ComboBox& names = bench.Choose.List.Of(group).Name;
+      form::ComboBox& names = bench.Page.List.Of(group).Name;
       names.SetList(0, std::wstring(names.List(0).size(), mark));
     }
   };
@@ -240,16 +235,16 @@ void LoadAndSave(Bench& bench) {
     fresh = std::make_unique<Bench>(bench.Folder);
     fresh->ListFiles.LoadSettings();
   };
-  const double load = Quickest(15, prepare, [&] { fresh->Choose.Load(); });
-  if (fresh->Choose.ComboListProgPath.ListCount() != Count) std::exit(1);
+  const double load = Quickest(15, prepare, [&] { fresh->Page.Load(); });
+  if (fresh->Page.ComboListProgPath.ListCount() != Count) std::exit(1);
   const double check = Quickest(
       41, [] {},
       [&] {
         std::size_t found = 0;
         for (std::size_t i = 1; i < files.size(); ++i) found += bench.DataFiles.Read(files[i]).value().size();
-        for (const auto& path : bench.Choose.ComboListFilePath.Entries()) found += bench.FileSystem.FileExists(path);
-        for (const auto& path : bench.Choose.ComboListFoldPath.Entries()) found += bench.FileSystem.FolderExists(path);
-        for (const auto& path : bench.Choose.ComboListProgPath.Entries()) found += bench.FileSystem.FileExists(path);
+        for (const auto& path : bench.Page.ComboListFilePath.Entries()) found += bench.FileSystem.FileExists(path);
+        for (const auto& path : bench.Page.ComboListFoldPath.Entries()) found += bench.FileSystem.FolderExists(path);
+        for (const auto& path : bench.Page.ComboListProgPath.Entries()) found += bench.FileSystem.FileExists(path);
         result = found;
       });
   Print("load, four groups of 32,767 items", load, "bare reads and existence checks", check);
@@ -270,7 +265,7 @@ int main() {
     Bench(place).WriteFullLists();
     Bench bench(place);
     bench.ListFiles.LoadSettings();
-    bench.Choose.Load();
+    bench.Page.Load();
     Keystrokes(bench);
     LoadAndSave(bench);
     ListPanel(bench);

@@ -1,6 +1,6 @@
 # The one list of sources. Every tool chain, the formatter and the linter read it from here.
 
-set(VANTOR_CORE_FOLDERS text state form service message list command bar add options start)
+set(VANTOR_CORE_FOLDERS text state form service message list command panel bar add options start)
 set(VANTOR_UNIT_TEST_FOLDERS ${VANTOR_CORE_FOLDERS} contract)
 
 function(vantor_glob result)

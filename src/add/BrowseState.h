@@ -8,6 +8,9 @@ namespace vantor::add {
 /// The index of an OptionBrowse button.
 enum class AddKind : std::int16_t { Program, File, Folder };
 
+/// What the browse box is open for; None while it is closed.
+enum class BrowseUse { None, Add, Open };
+
 /// No result of the finder waits to be judged.
 inline constexpr std::int16_t NoPickerDriveType = -1;
 

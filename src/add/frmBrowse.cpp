@@ -19,13 +19,14 @@ service::WindowId WindowOf(const form::Control& control) {
 
 }  // namespace
 
-frmBrowse::frmBrowse(form::UserInterface& ui, const BrowseParts& parts)
+frmBrowse::frmBrowse(form::UserInterface& ui, const panel::PanelContext& context, const list::LaunchList& list)
     : Form(ui, L"frmBrowse"),
-      DriveWork(FrameBrowseBack, L"DriveWork", parts.Services.FileSystem),
-      DirWork(FrameBrowseBack, L"DirWork", parts.Services.FileSystem),
-      FileWork(FrameBrowseBack, L"FileWork", parts.Services.FileSystem),
-      parts_(parts),
-      finder_(parts.Services) {
+      DriveWork(FrameBrowseBack, L"DriveWork", context.Services.FileSystem),
+      DirWork(FrameBrowseBack, L"DirWork", context.Services.FileSystem),
+      FileWork(FrameBrowseBack, L"FileWork", context.Services.FileSystem),
+      context_(context),
+      list_(list),
+      finder_(context.Services) {
   Dress();
   EnableNameBox(false);
   CommandAddOK.SetEnabled(false);
@@ -34,10 +35,10 @@ frmBrowse::frmBrowse(form::UserInterface& ui, const BrowseParts& parts)
 }
 
 void frmBrowse::ConnectEvents() {
-  message::Messages& messages = parts_.Messages;
+  message::Messages& messages = context_.Messages;
   for (int index = 0; form::OptionButton & option : OptionBrowse) {
     option.Click = [this, kind = static_cast<AddKind>(index++)] {
-      parts_.Messages.Trap(L"OptionBrowse_Click", [&] { OptionBrowse_Click(kind); });
+      context_.Messages.Trap(L"OptionBrowse_Click", [&] { OptionBrowse_Click(kind); });
     };
   }
   messages.Connect(DriveWork.Change, L"DriveWork_Change", this, &frmBrowse::DriveWork_Change);
@@ -57,37 +58,34 @@ void frmBrowse::ConnectEvents() {
   messages.Connect(FrameAddedInfo.Click, L"FrameAddedInfo_Click", this, &frmBrowse::FrameAddedInfo_Click);
 }
 
-bool frmBrowse::Adding() const { return parts_.CommandState.OpenPanelIndex == bar::menu::Add; }
-
-bool frmBrowse::Opening() const { return parts_.CommandState.OpenPanelIndex == bar::menu::Open; }
-
 // --- loading, opening and closing
 
 void frmBrowse::Form_Load() {
-  parts_.Messages.Trap(L"Form_Load", [this] {
+  context_.Messages.Trap(L"Form_Load", [this] {
     LayOut();
     OptionBrowse[0].SetValue(true);
-    const bool remembered = !parts_.Environment.RunMode && !parts_.Settings.Folder.empty();
-    if (!remembered || !DirWork.SetPath(parts_.Settings.Folder))
-      (void)DirWork.SetPath(parts_.Environment.ProgramFolder);
+    const bool remembered = !context_.Environment.RunMode && !context_.Settings.Folder.empty();
+    if (!remembered || !DirWork.SetPath(context_.Settings.Folder))
+      (void)DirWork.SetPath(context_.Environment.ProgramFolder);
     NoteFolder();
   });
 }
 
-void frmBrowse::Open() {
-  parts_.Messages.Trap(L"Open", [this] {
+void frmBrowse::Open(BrowseUse use) {
+  context_.Messages.Trap(L"Open", [this, use] {
     Load();
+    use_ = use;
+    const BrowseUse before = std::exchange(lastUse_, use);
     ReadLists();
     if (Opening()) {
       FrameAddedInfo.SetVisible(false);
       OfferFiles(EveryFile, true);
-    } else if (showedOpenUse_) {
+    } else if (before == BrowseUse::Open) {
       ShowChosenKind();  // the path may be one of a folder that is not shown any more
     }
-    showedOpenUse_ = Opening();
     CommandSelectOK.SetEnabled(false);
     LayOut();
-    Hooks.Place(*this);
+    context_.Host.PlaceByBar(*this);
     Show();
     FirstControl().SetFocus();
   });
@@ -100,17 +98,18 @@ form::Control& frmBrowse::FirstControl() {
 }
 
 void frmBrowse::Close() {
+  use_ = BrowseUse::None;
   StopFinder();
   FileWork.SetListIndex(-1);
   Hide();
 }
 
 void frmBrowse::Form_KeyUp(form::Key key) {
-  parts_.Messages.Trap(L"Form_KeyUp", [&] {
+  context_.Messages.Trap(L"Form_KeyUp", [&] {
     if (finder_.FinderActive()) {
       if (key == form::Key::Escape) StopFinder();
     } else if (key != form::Key::Escape) {
-      Hooks.HotKey(key);
+      context_.Host.HotKey(key);
     } else if (!TextAddName.Composing()) {
       CommandAddCancel.DoClick();
     }
@@ -145,7 +144,6 @@ void frmBrowse::OfferFiles(std::wstring_view pattern, bool enabled) {
 // --- browsing
 
 void frmBrowse::ReadLists() {
-  listsWanted_ = true;
   DriveWork.Refresh();
   DirWork.Refresh();
   if (FileWork.Path() == DirWork.Path())
@@ -157,12 +155,12 @@ void frmBrowse::ReadLists() {
 }
 
 void frmBrowse::DriveWork_Change() {
-  const service::Language& language = parts_.Services.Language;
+  const service::Language& language = context_.Services.Language;
   const std::wstring drive = DriveWork.Drive();
   const bool there = language.Lower(text::DriveName(DirWork.Path())) == language.Lower(drive);
   if (!there && !DirWork.SetPath(drive)) {
     DriveWork.SetDrive(DirWork.Path());
-    parts_.Messages.ShowList(L"MessageDriveNotReady");
+    context_.Messages.ShowList(L"MessageDriveNotReady");
     return;
   }
   NoteDrive();
@@ -172,7 +170,7 @@ void frmBrowse::DriveWork_Change() {
 void frmBrowse::DirWork_Change() {
   NoteFolder();  // first: the lists below may fail to be read
   // Until the box is first opened nobody sees the files.
-  if (listsWanted_) FileWork.SetPath(DirWork.Path());
+  if (lastUse_ != BrowseUse::None) FileWork.SetPath(DirWork.Path());
   DriveWork.SetDrive(DirWork.Path());
   if (Opening()) CommandSelectOK.SetEnabled(false);
   if (!Adding()) return;
@@ -182,22 +180,22 @@ void frmBrowse::DirWork_Change() {
 }
 
 void frmBrowse::DirWork_Unreachable() {
-  if (parts_.Services.FileSystem.DriveReady(DirWork.Path()))
+  if (context_.Services.FileSystem.DriveReady(DirWork.Path()))
     DirWork.Refresh();
   else
-    parts_.Messages.ShowList(L"MessageDriveNotReady");
+    context_.Messages.ShowList(L"MessageDriveNotReady");
 }
 
 void frmBrowse::NoteDrive() {
-  const DriveInfo drive = DriveOf(parts_.Services, DirWork.Path());
-  state_.SelectedDriveLetter = parts_.Services.Language.Upper(drive.DriveLetter);
+  const DriveInfo drive = DriveOf(context_.Services, DirWork.Path());
+  state_.SelectedDriveLetter = context_.Services.Language.Upper(drive.DriveLetter);
   state_.BrowseDriveType = drive.DriveType;
 }
 
 void frmBrowse::NoteFolder() {
   const std::wstring& folder = DirWork.Path();
   state_.LastFixedFolder = state_.BrowseDriveType == FixedDrive ? folder : std::wstring();
-  if (!parts_.Environment.RunMode) parts_.Settings.Folder = state_.LastFixedFolder;
+  if (!context_.Environment.RunMode) context_.Settings.Folder = state_.LastFixedFolder;
   state_.BrowseFolder = folder;
   if (!folder.ends_with(L'\\')) state_.BrowseFolder += L'\\';
 }
@@ -243,37 +241,35 @@ void frmBrowse::CommandAddOK_Click() {
   const std::wstring path = TextAddPath.Text();
   if (path.empty()) return FileWork.SetFocus();  // a name is left from before, but nothing is chosen
   if (RefusedByPlace(path)) return;
-  const list::LaunchGroup group = GroupOf(parts_.Services, state_.WhatToAdd, path);
+  const list::LaunchGroup group = GroupOf(context_.Services, state_.WhatToAdd, path);
   const list::AddBox box{TextAddPath, TextAddName, FrameAddedInfo};
   const list::AddResult result =
-      list::AddUnlessListed(box, parts_.List.Of(group), BannerOf(group), parts_.Messages, parts_.Services.Language);
+      list::AddUnlessListed(box, list_.Of(group), BannerOf(group), context_.Messages, context_.Services.Language);
   const bool showsFiles = state_.WhatToAdd != AddKind::Folder;
   if (result == list::AddResult::PathListed || (result == list::AddResult::Added && showsFiles)) FileWork.Refresh();
-  if (result == list::AddResult::Added) Hooks.ItemAdded();
+  if (result == list::AddResult::Added) context_.Host.ClearLine();
 }
 
 bool frmBrowse::RefusedByPlace(std::wstring_view path) {
-  const state::Environment& environment = parts_.Environment;
-  if (parts_.Services.Language.Upper(path.substr(0, 1)) == environment.MediaDriveLetter) return false;
+  const state::Environment& environment = context_.Environment;
+  if (context_.Services.Language.Upper(path.substr(0, 1)) == environment.MediaDriveLetter) return false;
   const std::wstring_view refusal =
       environment.RunMode ? RemovableMediaRule(state_, environment) : FixedDiskRule(state_);
   if (refusal.empty()) return false;
-  if (environment.RunMode) parts_.Messages.State.EnableRememberAfterMessage = environment.MachineUnknown;
-  parts_.Messages.ShowText(refusal);
+  if (environment.RunMode) context_.Messages.State.EnableRememberAfterMessage = environment.MachineUnknown;
+  context_.Messages.ShowText(refusal);
   return true;
 }
 
 // --- leaving
 
-void frmBrowse::CommandAddCancel_Click() { Hooks.ClosePanel(); }
-
 void frmBrowse::CommandSelectOK_Click() {
   if (FileWork.ListIndex() == -1) return;
-  const std::int16_t panel = parts_.CommandState.OpenPanelIndex;
+  const int opened = context_.Host.OpenPanelIndex();
   const std::wstring path = state_.BrowseFolder + FileWork.Text();
-  Hooks.ClosePanel();  // which also takes the selection away
-  const bool run = panel == bar::menu::List || IsProgram(parts_.Services, path);
-  parts_.Messages.ShowList(run ? parts_.Starters.RunProgramFile(path) : parts_.Starters.OpenWithShell(path));
+  context_.Host.ClosePanel();  // which also takes the selection away
+  const bool run = opened == static_cast<int>(panel::menu::List) || IsProgram(context_.Services, path);
+  context_.Messages.ShowList(run ? context_.Starters.RunProgramFile(path) : context_.Starters.OpenWithShell(path));
 }
 
 // --- the finder
@@ -299,12 +295,12 @@ void frmBrowse::CommandFindPath_MouseUp(form::MouseButton button) {
   TimerFindPath.SetEnabled(false);
   const std::wstring path = finder_.Release();
   if (path.empty()) {
-    parts_.Messages.ShowList(L"MessageExecutableNotFound");
+    context_.Messages.ShowList(L"MessageExecutableNotFound");
     return;
   }
   FileWork.SetListIndex(-1);  // so that a click on the same file chooses it again
   TextAddPath.SetText(path);
-  state_.PickerDriveType = DriveTypeOf(parts_.Services, std::wstring_view(path).substr(0, 3));
+  state_.PickerDriveType = DriveTypeOf(context_.Services, std::wstring_view(path).substr(0, 3));
   TextAddName.SetFocus();
 }
 

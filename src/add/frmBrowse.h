@@ -1,18 +1,13 @@
 #pragma once
 
 #include <array>
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "add/BrowseState.h"
 #include "add/Finder.h"
-#include "bar/Panel.h"
-#include "command/CommandState.h"
-#include "command/Starters.h"
 #include "form/Button.h"
-#include "form/Event.h"
 #include "form/FileLists.h"
 #include "form/Form.h"
 #include "form/Static.h"
@@ -20,42 +15,16 @@
 #include "form/Timer.h"
 #include "list/AddToList.h"
 #include "list/LaunchList.h"
-#include "list/Settings.h"
-#include "message/Messages.h"
-#include "service/Services.h"
-#include "state/Environment.h"
+#include "panel/Panel.h"
+#include "panel/PanelContext.h"
 
 namespace vantor::add {
 
-/// What the box works with. All of it outlives the box.
-struct BrowseParts {
-  service::Services Services;
-  const state::Environment& Environment;
-  message::Messages& Messages;
-  list::Settings& Settings;
-  const list::LaunchList& List;
-  command::CommandState& CommandState;
-  const command::Starters& Starters;
-};
-
-/// What the bar does for the box. An empty one does nothing.
-struct BrowseHooks {
-  /// Opens the panel of this CommandMenu index, if it is not open.
-  form::Event<int /*index*/> OpenPanel;
-  /// Closes the open panel, and lets the bar keep itself on top if the user wants that.
-  form::Event<> ClosePanel;
-  /// An item was added: the command line is emptied and takes the focus, if the bar shows.
-  form::Event<> ItemAdded;
-  /// A function key was let go.
-  form::Event<form::Key /*key*/> HotKey;
-  /// Moves the box to where it stands best beside the bar.
-  form::Event<form::Form&> Place;
-};
-
-/// The browse box, in two uses that OpenPanelIndex tells apart: "Add To List" (0) and "Open" (1).
-class frmBrowse : public form::Form, public bar::Panel {
+/// The browse box, in two uses: "Add To List" and "Open".
+class frmBrowse : public form::Form {
  public:
-  frmBrowse(form::UserInterface& ui, const BrowseParts& parts);
+  /// Adds to `list`.
+  frmBrowse(form::UserInterface& ui, const panel::PanelContext& context, const list::LaunchList& list);
 
   form::Frame FrameBrowseBack{*this, L"FrameBrowseBack"};
 
@@ -98,11 +67,8 @@ class frmBrowse : public form::Form, public bar::Panel {
 
   form::PictureBox PictureNo{FrameBrowseBack, L"PictureNo"};
 
-  BrowseHooks Hooks;
-
-  /// Shows the box for the panel that OpenPanelIndex names, and hides it.
-  void Open() override;
-  void Close() override;
+  void Open(BrowseUse use);
+  void Close();
 
   /// Files and folders were dropped on the program: the first that can be gone to fills the box as if it had been
   /// browsed to. Adding it is still up to the user.
@@ -136,14 +102,14 @@ class frmBrowse : public form::Form, public bar::Panel {
   void TextAddName_Change();
   void TextAddName_KeyPress(wchar_t& character);
   void CommandAddOK_Click();
-  void CommandAddCancel_Click();
+  void CommandAddCancel_Click() { context_.Host.ClosePanel(); }
   void CommandSelectOK_Click();
   void CommandFindPath_MouseDown(form::MouseButton button);
   void CommandFindPath_MouseUp(form::MouseButton button);
   void TimerFindPath_Timer();
 
-  [[nodiscard]] bool Adding() const;
-  [[nodiscard]] bool Opening() const;
+  [[nodiscard]] bool Adding() const { return use_ == BrowseUse::Add; }
+  [[nodiscard]] bool Opening() const { return use_ == BrowseUse::Open; }
   [[nodiscard]] form::Control& FirstControl();
   void ShowChosenKind();
   void OfferFiles(std::wstring_view pattern, bool enabled);
@@ -158,11 +124,26 @@ class frmBrowse : public form::Form, public bar::Panel {
   [[nodiscard]] bool GoToDropped(std::wstring_view path);
   void ChooseFile(std::wstring_view name);
 
-  BrowseParts parts_;
+  panel::PanelContext context_;
+  const list::LaunchList& list_;
   BrowseState state_;
   Finder finder_;
-  bool listsWanted_ = false;    // the box has been opened
-  bool showedOpenUse_ = false;  // when it was last opened
+  BrowseUse use_ = BrowseUse::None;
+  BrowseUse lastUse_ = BrowseUse::None;  // None: it has not been opened yet
+};
+
+/// The browse box as the panel of one of its uses.
+class BrowsePanel : public panel::Panel {
+ public:
+  BrowsePanel(panel::PanelHost& host, std::size_t index, frmBrowse& box, BrowseUse use)
+      : Panel(host, index, box), box_(box), use_(use) {}
+
+  void Open() override { box_.Open(use_); }
+  void Close() override { box_.Close(); }
+
+ private:
+  frmBrowse& box_;
+  BrowseUse use_;
 };
 
 }  // namespace vantor::add

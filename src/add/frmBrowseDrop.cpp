@@ -7,21 +7,21 @@
 namespace vantor::add {
 
 void frmBrowse::FillWith(const std::vector<std::wstring>& paths) {
-  parts_.Messages.Trap(L"FillWith", [&] {
+  context_.Messages.Trap(L"FillWith", [&] {
     if (paths.empty() || Ui().ModalForm() != nullptr) return;
-    if (!Adding()) Hooks.OpenPanel(static_cast<int>(bar::menu::Add));
+    if (!Adding()) context_.Host.OpenPanel(panel::menu::Add);
     if (!Adding()) return;
     if (std::any_of(paths.begin(), paths.end(), [this](const auto& path) { return GoToDropped(path); })) {
       Activate();
-    } else if (!parts_.Services.FileSystem.DriveReady(paths.front())) {
-      parts_.Messages.ShowList(L"MessageDriveNotReady");
+    } else if (!context_.Services.FileSystem.DriveReady(paths.front())) {
+      context_.Messages.ShowList(L"MessageDriveNotReady");
     }
   });
 }
 
 bool frmBrowse::GoToDropped(std::wstring_view path) {
   const auto choose = [this](AddKind kind) { OptionBrowse[static_cast<std::size_t>(kind)].SetValue(true); };
-  if (parts_.Services.FileSystem.FolderExists(path)) {
+  if (context_.Services.FileSystem.FolderExists(path)) {
     choose(AddKind::Folder);
     if (!DirWork.SetPath(path)) return false;
     FrameAddedInfo.SetVisible(false);
@@ -30,15 +30,15 @@ bool frmBrowse::GoToDropped(std::wstring_view path) {
     return true;
   }
   const std::size_t folderEnd = path.find_last_of(L'\\') + 1;
-  if (folderEnd == 0 || !parts_.Services.FileSystem.FileExists(path)) return false;
-  choose(IsProgram(parts_.Services, path) ? AddKind::Program : AddKind::File);
+  if (folderEnd == 0 || !context_.Services.FileSystem.FileExists(path)) return false;
+  choose(IsProgram(context_.Services, path) ? AddKind::Program : AddKind::File);
   if (!DirWork.SetPath(path.substr(0, folderEnd))) return false;
   ChooseFile(path.substr(folderEnd));
   return true;
 }
 
 void frmBrowse::ChooseFile(std::wstring_view name) {
-  const service::Language& language = parts_.Services.Language;
+  const service::Language& language = context_.Services.Language;
   const std::wstring wanted = language.Lower(name);
   const auto& files = FileWork.Entries();
   const auto found =

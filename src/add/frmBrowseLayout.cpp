@@ -3,6 +3,7 @@
 
 #include "add/frmBrowse.h"
 #include "form/PictureButton.h"
+#include "panel/Grid.h"
 
 namespace vantor::add {
 namespace {
@@ -11,15 +12,15 @@ using form::ButtonHeight;
 using form::DressButton;
 using form::PlaceButton;
 using form::Twips;
+using panel::CheckHeight;
+using panel::FrameTop;
+using panel::Gap;
+using panel::LabelHeight;
+using panel::LineHeight;
+using panel::Margin;
 
 constexpr Twips BoxWidth = 5040;
-constexpr Twips Margin = 120;
 constexpr Twips InnerWidth = BoxWidth - 2 * Margin;
-constexpr Twips Gap = 60;
-constexpr Twips CaptionHeight = 240;  // from a frame's top to what is in it
-constexpr Twips FirstTop = 270;
-constexpr Twips LabelHeight = 195;
-constexpr Twips LineHeight = 315;  // of a text box, a drive list
 constexpr Twips ButtonWidth = 960;
 constexpr Twips FindButtonWidth = 1620;
 constexpr Twips ColumnWidth = (InnerWidth - Margin) / 2;
@@ -90,13 +91,13 @@ void frmBrowse::LayOut() {
 
   Twips top = SelectTop;
   if (opening) {
-    LayOutLists(FirstTop, SelectTop - Margin);
+    LayOutLists(FrameTop, SelectTop - Margin);
   } else {
     constexpr Twips OptionWidth = (InnerWidth - Margin) / 3;
-    FrameWhatToAdd.SetBounds({Margin, FirstTop, InnerWidth, CaptionHeight + LabelHeight + Margin});
+    FrameWhatToAdd.SetBounds({Margin, FrameTop, InnerWidth, FrameTop + CheckHeight + Gap});
     for (std::size_t i = 0; i < OptionBrowse.size(); ++i) {
       const Twips left = Margin + static_cast<Twips>(i) * OptionWidth;
-      OptionBrowse[i].SetBounds({left, CaptionHeight, OptionWidth - Gap, LabelHeight + Gap});
+      OptionBrowse[i].SetBounds({left, FrameTop, OptionWidth - Gap, CheckHeight});
     }
     const Twips listsTop = FrameWhatToAdd.Bottom() + Margin;
     const Twips leastBottom = LayOutAddFrames(listsTop + LeastListsHeight + Margin) + ButtonHeight + Margin;
@@ -132,18 +133,18 @@ Twips frmBrowse::LayOutAddFrames(Twips top) {
   const Twips findTextWidth = InnerWidth - findTextLeft - Margin;
   const Twips howHeight = Ui().MeasureText(LabelFindHow.Caption(), false, findTextWidth).Height;
   const Twips resultHeight = Ui().MeasureText(LabelFindResult.Caption(), false, findTextWidth).Height;
-  PlaceButton(CommandFindPath, LabelFindPath, {Margin, CaptionHeight + Gap / 2, FindButtonWidth, ButtonHeight});
-  LabelFindHow.SetBounds({findTextLeft, CaptionHeight, findTextWidth, howHeight});
+  PlaceButton(CommandFindPath, LabelFindPath, {Margin, FrameTop + Gap / 2, FindButtonWidth, ButtonHeight});
+  LabelFindHow.SetBounds({findTextLeft, FrameTop, findTextWidth, howHeight});
   LabelFindResult.SetBounds({findTextLeft, LabelFindHow.Bottom() + Gap, findTextWidth, resultHeight});
   FrameFindPath.SetBounds({Margin, top, InnerWidth, LabelFindResult.Bottom() + Margin});
 
-  TextAddPath.SetBounds({Margin, CaptionHeight, InnerWidth - 2 * Margin, LineHeight});
+  TextAddPath.SetBounds({Margin, FrameTop, InnerWidth - 2 * Margin, LineHeight});
   LabelAddPath.SetBounds({Margin, TextAddPath.Bottom() + Gap / 2, InnerWidth - 2 * Margin, LabelHeight});
   FrameAddPath.SetBounds({Margin, FrameFindPath.Bottom() + Gap, InnerWidth, LabelAddPath.Bottom() + Gap});
 
   const Twips nameWidth = InnerWidth - ButtonWidth - 3 * Margin;
-  TextAddName.SetBounds({Margin, CaptionHeight, nameWidth, LineHeight});
-  PlaceButton(CommandAddOK, LabelAddOK, {TextAddName.Right() + Margin, CaptionHeight - Gap, ButtonWidth, ButtonHeight});
+  TextAddName.SetBounds({Margin, FrameTop, nameWidth, LineHeight});
+  PlaceButton(CommandAddOK, LabelAddOK, {TextAddName.Right() + Margin, FrameTop - Gap, ButtonWidth, ButtonHeight});
   FrameAddToList.SetBounds({Margin, FrameAddPath.Bottom() + Gap, InnerWidth, TextAddName.Bottom() + Margin});
 
   FrameAddedInfo.SetBounds(

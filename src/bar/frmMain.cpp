@@ -3,14 +3,13 @@
 #include <algorithm>
 #include <cmath>
 
-#include "command/CodeTables.h"
-
 namespace vantor::bar {
 
 namespace {
 
 using form::Key;
 using form::Twips;
+namespace menu = panel::menu;
 
 // Measures keep to a grid of 60 twips, which is a whole number of pixels on most screens.
 constexpr Twips BarHeight = 480;
@@ -30,23 +29,17 @@ constexpr std::int16_t IdleTicksBeforeName = 60;
 // CommandMenu buttons before the command line; the others stand after it.
 constexpr std::size_t MenusBeforeText = 4;
 
-constexpr std::array<std::wstring_view, menu::Count> MenuTips{
-    L"Show | Hide Add To List---F2",    L"Show | Hide Open---F3",
-    L"Show | Hide Open From List---F4", L"Show | Hide Run (Orbel's Program)---F5",
-    L"Show | Hide Preferences---F6",    L"Show | Hide Help---F7",
-    L"Show | Hide Code List---F8",
-};
-
 }  // namespace
 
 frmMain::frmMain(form::UserInterface& ui, const BarParts& parts)
     : Form(ui, L"frmMain"),
-      Web(*this, parts.Choose.List, parts.Services.Language, parts.Messages),
+      Web(*this, parts.List, parts.Services.Language, parts.Messages),
       parts_(parts),
-      commandLine_(TextMain, parts.Choose.List, parts.CommandState, parts.Starters, parts.Messages, parts.Services,
+      commandLine_(*this, TextMain, parts.List, parts.CommandState, parts.Starters, parts.Messages, parts.Services,
                    parts.Environment) {
   SetCaption(state::ProductName);
   FrameButtons.SetBorder(false);
+  parts_.Panels.SetBar(*this);
   NameControls();
   HandleEvents();
 }
@@ -54,8 +47,7 @@ frmMain::frmMain(form::UserInterface& ui, const BarParts& parts)
 void frmMain::NameControls() {
   CommandWeb.SetToolTip(L"Show | Hide Add URL---F1");
   for (std::size_t i = 0; i < menu::Count; ++i) {
-    CommandMenu[i].SetToolTip(MenuTips[i]);
-    CommandMenu[i].SetVisible(false);
+    CommandMenu[i].SetToolTip(panel::MenuButtons[i].ToolTip);
   }
   CommandMin.SetToolTip(L"Minimize---F9");
   CommandExit.SetToolTip(L"Exit---F10");
@@ -93,10 +85,8 @@ void frmMain::HandleEvents() {
   messages.Connect(TextMain.DblClick, L"TextMain_DblClick", this, &frmMain::EmptyTextMain);
   messages.Connect(TimerOnTop.Tick, L"TimerOnTop_Timer", this, &frmMain::TimerOnTop_Timer);
   messages.Connect(TimerWatchOnTop.Tick, L"TimerWatchOnTop_Timer", this, &frmMain::TimerWatchOnTop_Timer);
-  Web.Added = [this] { ClearTextMain(); };
+  Web.Added = [this] { ClearLine(); };
   parts_.Starters.Started = [this] { EmptyTextMain(); };
-  commandLine_.Hooks.Minimize = [this] { CommandMin.DoClick(); };
-  commandLine_.Hooks.ClickMenu = [this](int index) { CommandMenu.at(static_cast<std::size_t>(index)).DoClick(); };
 }
 
 // --- loading and unloading
@@ -119,7 +109,7 @@ void frmMain::Form_Load() {
       KeepOnScreen();
     }
     ShowWebFace();
-    ShowMenuCaptions();
+    ShowMenuFaces();
     Web.SetShown(addWebShown_);
     TextMain.SetText(state::ProductName);
     TextMain.SelectAll();
@@ -134,7 +124,10 @@ void frmMain::LayOut() {
   const auto dress = [](form::CommandButton& button, form::Picture picture) {
     button.SetPictures(picture, BButton[1], BButton[2]);
   };
-  for (form::CommandButton& button : CommandMenu) dress(button, BButton[0]);
+  for (std::size_t i = 0; i < menu::Count; ++i) {
+    CommandMenu[i].SetVisible(parts_.Panels.Available(i));
+    dress(CommandMenu[i], BButton[0]);
+  }
   dress(CommandWeb, BButton[6]);
   dress(CommandMin, form::Picture::FaceMinimize);
   dress(CommandExit, form::Picture::FaceExit);
@@ -165,7 +158,7 @@ void frmMain::Form_Unload() {
   TimerWatchOnTop.SetEnabled(false);
   parts_.Messages.Trap(L"Form_Unload", [this] {
     parts_.Choose.Load();  // before that its boxes are empty, and the list would be saved as such
-    parts_.ListFiles.SaveLaunchList(parts_.Choose.List, Bounds().Left, Bounds().Top);
+    parts_.ListFiles.SaveLaunchList(parts_.List, Bounds().Left, Bounds().Top);
   });
   Ui().End();
 }
@@ -181,7 +174,12 @@ void frmMain::Form_MouseMove(form::MouseButton held) {
 }
 
 void frmMain::Form_Moved() {
-  parts_.Messages.Trap(L"Form_Moved", [this] { KeepOnScreen(); });
+  parts_.Messages.Trap(L"Form_Moved", [this] {
+    if (Dragging())
+      parts_.Panels.BarMoved();
+    else
+      KeepOnScreen();
+  });
 }
 
 void frmMain::Form_ScreensChanged() {
@@ -190,6 +188,7 @@ void frmMain::Form_ScreensChanged() {
     if (Ui().ScreenAt(Bounds()) == screen_) return;
     KeepOnScreen();
     MoveInto(screen_.WorkArea);  // a taskbar may have come to where the bar was
+    parts_.Panels.BarMoved();
   });
 }
 
@@ -204,6 +203,7 @@ void frmMain::KeepOnScreen() {
   const Twips right = screen.Right() - Bounds().Width - shown(RightMargin);
   const Twips bottom = screen.Bottom() - Bounds().Height - shown(BottomMargin);
   MoveTo(std::min(std::max(Bounds().Left, screen.Left), right), std::min(std::max(Bounds().Top, screen.Top), bottom));
+  parts_.Panels.BarMoved();
 }
 
 // --- staying on top
@@ -232,11 +232,18 @@ void frmMain::TimerOnTop_Timer() {
 }
 
 void frmMain::CommandMin_Click() {
-  const int open = parts_.CommandState.OpenPanelIndex;
-  if (open != command::NoIndex) CommandMenu.at(static_cast<std::size_t>(open)).DoClick();
+  WatchForRestore();
+  SetWindowState(form::WindowState::Minimized);
+}
+
+void frmMain::Form_Minimized() {
+  parts_.Messages.Trap(L"Form_Minimized", [this] { WatchForRestore(); });
+}
+
+void frmMain::WatchForRestore() {
+  parts_.Panels.Close();
   PauseOnTop();
   TimerWatchOnTop.SetEnabled(true);
-  SetWindowState(form::WindowState::Minimized);
 }
 
 void frmMain::TimerWatchOnTop_Timer() {
@@ -246,54 +253,11 @@ void frmMain::TimerWatchOnTop_Timer() {
   TextMain.SetFocus();
 }
 
-// --- panels
-
-void frmMain::SetPanel(std::size_t index, Panel* panel) {
-  panels_.at(index) = panel;
-  CommandMenu[index].SetVisible(panel != nullptr);
-  if (!Loaded()) return;
-  LayOut();
-  ShowWebFace();
-  ShowWidth();
-}
-
-void frmMain::CommandMenu_Click(std::size_t index) {
-  Panel* const panel = panels_.at(index);
-  if (panel == nullptr) return;
-  std::int16_t& open = parts_.CommandState.OpenPanelIndex;
-  const auto clicked = static_cast<std::int16_t>(index);
-  if (open != command::NoIndex && open != clicked) panels_.at(static_cast<std::size_t>(open))->Close();
-  open = open == clicked ? command::NoIndex : clicked;
-  if (open == command::NoIndex) {
-    ResumeOnTop();
-  } else {
-    PauseOnTop();
-    const message::MessageKey refusal = panel->Refusal();
-    if (!refusal.empty()) {
-      open = command::NoIndex;
-      parts_.Messages.ShowList(refusal);
-    }
-  }
-  ShowMenuCaptions();
-  if (open == clicked) {
-    panel->Open();
-  } else {
-    panel->Close();
-    TextMain.SetFocus();
-  }
-}
-
-void frmMain::ClosePanel() {
-  const int open = parts_.CommandState.OpenPanelIndex;
-  if (open != command::NoIndex) CommandMenu_Click(static_cast<std::size_t>(open));
-  ClearTextMain();
-}
-
-void frmMain::ShowMenuCaptions() {
+void frmMain::ShowMenuFaces() {
   for (std::size_t i = 0; i < menu::Count; ++i) {
-    const bool open = parts_.CommandState.OpenPanelIndex == static_cast<std::int16_t>(i);
-    CommandMenu[i].SetCaption(open ? command::OpenMenuCaption : command::MenuButtonCaptions[i]);
-    CommandMenu[i].SetPicture(BButton[open ? 3 : 0]);
+    const panel::MenuFace& face = parts_.Panels.FaceOf(i);
+    CommandMenu[i].SetCaption(face.Caption);
+    CommandMenu[i].SetPicture(face.Picture);
   }
 }
 
@@ -308,7 +272,8 @@ void frmMain::CommandWeb_Click() {
     const form::Rect& bar = Bounds();
     MoveTo(std::min(bar.Left, Ui().ScreenAt(bar).Bounds.Right() - bar.Width), bar.Top);
   }
-  ClearTextMain();
+  parts_.Panels.BarMoved();
+  ClearLine();
 }
 
 void frmMain::OfferWebSite(std::wstring_view address) {
@@ -321,7 +286,8 @@ void frmMain::OfferWebSite(std::wstring_view address) {
 
 void frmMain::ShowWebFace() { CommandWeb.SetPicture(BButton[addWebShown_ ? 7 : 6]); }
 
-void frmMain::ClearTextMain() {
+void frmMain::ClearLine() {
+  if (!Visible() || WindowState() == form::WindowState::Minimized) return;
   TextMain.SetText({});
   TextMain.SetFocus();
 }
@@ -348,7 +314,7 @@ void frmMain::HotKey(form::Key key) {
     case Key::F10:
       return click(CommandExit);
     case Key::F12:
-      return ClearTextMain();
+      return ClearLine();
     default:
       return;
   }

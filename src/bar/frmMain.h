@@ -5,7 +5,6 @@
 #include <cstdint>
 
 #include "bar/AddWebBox.h"
-#include "bar/Panel.h"
 #include "command/CommandLine.h"
 #include "command/CommandState.h"
 #include "command/Starters.h"
@@ -16,9 +15,9 @@
 #include "form/Timer.h"
 #include "list/ListFiles.h"
 #include "list/Settings.h"
-#include "list/frmChoose.h"
 #include "message/Messages.h"
 #include "options/OptionFlags.h"
+#include "panel/PanelSwitch.h"
 #include "service/Services.h"
 #include "state/Environment.h"
 
@@ -31,14 +30,16 @@ struct BarParts {
   message::Messages& Messages;
   list::Settings& Settings;
   options::OptionFlags& Options;
-  list::frmChoose& Choose;
+  panel::PanelSwitch& Panels;
+  form::Form& Choose;  // loading it fills the list
+  const list::LaunchList& List;
   list::ListFiles& ListFiles;
   command::CommandState& CommandState;
   command::Starters& Starters;
 };
 
 /// The bar: the program's face. Unloading it saves the settings and the launch list and ends the program.
-class frmMain : public form::Form {
+class frmMain : public form::Form, public panel::MenuBar, private command::LineOwner {
  public:
   /// The pictures of buttons: 0, 1, 2 and 3 normal, pressed, disabled and open, 5 normal again for the panels'
   /// buttons, 6 and 7 the faces of CommandWeb while its box is folded and unfolded.
@@ -53,7 +54,7 @@ class frmMain : public form::Form {
   form::Frame FrameButtons{*this, L"FrameButtons"};
   form::Image ImageLauncher{FrameButtons, L"ImageLauncher"};
   form::CommandButton CommandWeb{FrameButtons, L"CommandWeb"};
-  std::array<form::CommandButton, menu::Count> CommandMenu{
+  std::array<form::CommandButton, panel::menu::Count> CommandMenu{
       form::CommandButton{FrameButtons, L"CommandMenu(0)"}, form::CommandButton{FrameButtons, L"CommandMenu(1)"},
       form::CommandButton{FrameButtons, L"CommandMenu(2)"}, form::CommandButton{FrameButtons, L"CommandMenu(3)"},
       form::CommandButton{FrameButtons, L"CommandMenu(4)"}, form::CommandButton{FrameButtons, L"CommandMenu(5)"},
@@ -66,23 +67,19 @@ class frmMain : public form::Form {
   form::Timer TimerOnTop{*this, 1000};
   form::Timer TimerWatchOnTop{*this, 1000};
 
-  /// The panel that CommandMenu(index) opens; null for none. A button without a panel is not shown.
-  void SetPanel(std::size_t index, Panel* panel);
-  /// Closes the open panel, if there is one, and goes back to an empty command line.
-  void ClosePanel();
-  /// Goes back to an empty command line.
-  void ClearTextMain();
-
   /// Unfolds the add-web box with an address in it, ready for the name.
   void OfferWebSite(std::wstring_view address);
 
+  [[nodiscard]] form::Rect Place() const override { return Bounds(); }
+  void ShowMenuFaces() override;
   /// A message or a panel opens: the bar leaves the topmost band, if it keeps itself there.
-  void PauseOnTop();
+  void PauseOnTop() override;
   /// A message or a panel has closed: with no panel open, the bar keeps itself on top if the user wants that.
-  void ResumeOnTop();
-
-  /// Does what a function key does on the bar. Other keys do nothing.
-  void HotKey(form::Key key);
+  void ResumeOnTop() override;
+  void FocusLine() override { TextMain.SetFocus(); }
+  /// Goes back to an empty command line, where the bar is in sight.
+  void ClearLine() override;
+  void HotKey(form::Key key) override;
 
  protected:
   void Form_Load() override;
@@ -93,6 +90,7 @@ class frmMain : public form::Form {
   void Form_ScreensChanged() override;
   /// Wide enough for the unfolded box at all times, so that folding it changes no size.
   [[nodiscard]] form::Size RoomNeeded() const override;
+  void Form_Minimized() override;
 
  private:
   void NameControls();
@@ -101,25 +99,27 @@ class frmMain : public form::Form {
   // Place and size.
   void LayOut();
   void ShowWidth();
+  /// Also brings the open panel along.
   void KeepOnScreen();
 
   void CommandWeb_Click();
-  void CommandMenu_Click(std::size_t index);
+  void CommandMenu_Click(std::size_t index) { parts_.Panels.Click(index); }
   void CommandMin_Click();
   void CommandExit_Click() { Unload(); }
   void TextMain_KeyPress(wchar_t& character) { commandLine_.TextMain_KeyPress(character); }
   void TextMain_KeyDown(form::Key& key) { commandLine_.TextMain_KeyDown(key); }
   void TextMain_Change() { commandLine_.TextMain_Change(); }
+  void WatchForRestore();
+  void Minimize() override { CommandMin.DoClick(); }
+  void ClosePanel() override { parts_.Panels.ClosePanel(); }
   void TimerOnTop_Timer();
   void TimerWatchOnTop_Timer();
   void EmptyTextMain() { TextMain.SetText({}); }
   void ShowWebFace();
-  void ShowMenuCaptions();
   [[nodiscard]] bool StayOnTop() const { return parts_.Options.AlwaysOnTop != 0; }
 
   BarParts parts_;
   command::CommandLine commandLine_;
-  std::array<Panel*, menu::Count> panels_{};
   double twipsPerPixelX_ = 15;
   form::Screen screen_;          // the one that the bar was last seen on
   form::Twips narrowWidth_ = 0;  // to the right edge of CommandExit

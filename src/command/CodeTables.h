@@ -54,10 +54,6 @@ inline constexpr std::array MailAddresses{product::BugReportAddress, product::Su
 inline constexpr std::array<std::wstring_view, 3> MailSubjects{L"Vantor - Found Bug", L"Vantor - Suggestions",
                                                                L"Vantor - Need Support"};
 
-/// Of the bar's CommandMenu buttons; the one whose panel is open shows OpenMenuCaption instead.
-inline constexpr std::array<std::wstring_view, 7> MenuButtonCaptions{L"+", L">", L"L", L"!", L"P", L"?", L"C"};
-inline constexpr std::wstring_view OpenMenuCaption = L"||";
-
 /// Part of the start: no panel is open and nothing is completed. The tables themselves are constants.
 inline void InitCodeTables(CommandState& state) { state = {}; }
 

@@ -11,10 +11,11 @@
 
 namespace vantor::command {
 
-CommandLine::CommandLine(form::TextBox& textMain, const list::LaunchList& list, CommandState& state,
+CommandLine::CommandLine(LineOwner& owner, form::TextBox& textMain, const list::LaunchList& list, CommandState& state,
                          const Starters& starters, message::Messages& messages, const service::Services& services,
                          const state::Environment& environment)
-    : textMain_(textMain),
+    : owner_(owner),
+      textMain_(textMain),
       list_(list),
       state_(state),
       starters_(starters),
@@ -151,11 +152,10 @@ message::MessageKey CommandLine::StartBy(const CommandCode& code, const std::wst
 
 void CommandLine::Escape() {
   if (state_.OpenPanelIndex == NoIndex) {
-    Hooks.Minimize();
-    return;
+    owner_.Minimize();
+  } else {
+    owner_.ClosePanel();
   }
-  Hooks.ClickMenu(state_.OpenPanelIndex);
-  textMain_.SetText({});
 }
 
 void CommandLine::CompleteFromTable(std::wstring_view prefix, std::wstring_view typed, const Candidates& table) {

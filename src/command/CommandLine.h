@@ -7,7 +7,6 @@
 #include "command/CommandState.h"
 #include "command/Recall.h"
 #include "command/Starters.h"
-#include "form/Event.h"
 #include "form/TextBox.h"
 #include "list/LaunchList.h"
 #include "message/Messages.h"
@@ -16,21 +15,24 @@
 
 namespace vantor::command {
 
-/// What the command line makes happen on the bar.
-struct CommandLineHooks {
-  form::Event<> Minimize;
-  /// A click on a CommandMenu button.
-  form::Event<int /*index*/> ClickMenu;
+/// The bar, as the command line needs it.
+class LineOwner {
+ public:
+  virtual void Minimize() = 0;
+  /// Closes the open panel and empties the line.
+  virtual void ClosePanel() = 0;
+
+ protected:
+  ~LineOwner() = default;  // nobody owns one by this type
 };
 
 /// The keys, the completion and the commands of the bar's text box.
 class CommandLine {
  public:
   /// All but the services are kept by reference.
-  CommandLine(form::TextBox& textMain, const list::LaunchList& list, CommandState& state, const Starters& starters,
-              message::Messages& messages, const service::Services& services, const state::Environment& environment);
-
-  CommandLineHooks Hooks;
+  CommandLine(LineOwner& owner, form::TextBox& textMain, const list::LaunchList& list, CommandState& state,
+              const Starters& starters, message::Messages& messages, const service::Services& services,
+              const state::Environment& environment);
 
   void TextMain_KeyPress(wchar_t& character);
   void TextMain_KeyDown(form::Key& key);
@@ -58,6 +60,7 @@ class CommandLine {
   void CompleteFromTable(std::wstring_view prefix, std::wstring_view typed, const Candidates& table);
   void PutCompletion(std::wstring_view prefix, std::size_t typedLength, std::wstring_view entry);
 
+  LineOwner& owner_;
   form::TextBox& textMain_;
   const list::LaunchList& list_;
   CommandState& state_;

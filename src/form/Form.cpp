@@ -151,7 +151,8 @@ void Form::Drag() {
 }
 
 void Form::Activate() {
-  if (window_ != nullptr && AcceptsInput()) window_->Activate();
+  // A minimised window stays so.
+  if (window_ != nullptr && AcceptsInput() && windowState_ != WindowState::Minimized) window_->Activate();
 }
 
 void Form::MoveFocus(bool backwards) {
@@ -186,7 +187,13 @@ void Form::InputMoved(Twips left, Twips top) {
   bounds_.Left = left;
   bounds_.Top = top;
   Fit();
-  if (!dragging_) Form_Moved();
+  Form_Moved();
+}
+
+void Form::InputWindowState(form::WindowState state) {
+  if (windowState_ == state) return;
+  windowState_ = state;
+  if (state == WindowState::Minimized) Form_Minimized();
 }
 
 void Form::InputScreensChanged() {

@@ -118,7 +118,8 @@ class Form {
   /// The screen that the form is on has another resolution now, or its texts another size.
   void InputResolution() { Fit(); }
   void InputScreensChanged();
-  void InputWindowState(form::WindowState state) { windowState_ = state; }
+  /// The user minimised the window by other means than the program's own, or restored it.
+  void InputWindowState(form::WindowState state);
   /// The user closes the window, or Windows ends.
   void InputClose();
   void InputDrop(const DroppedItems& items);
@@ -131,8 +132,12 @@ class Form {
   virtual void Form_Load() {}
   virtual void Form_Unload() {}
   virtual void Form_KeyUp(Key /*key*/) {}
-  /// The window was moved from outside, by the window manager say, which may tell of a drag's end late.
+  /// The window was moved from outside, by the window manager say, which may tell of a drag's end late. While
+  /// Dragging, this is a step on the way.
   virtual void Form_Moved() {}
+  [[nodiscard]] bool Dragging() const { return dragging_; }
+  /// The window was minimised, and not by SetWindowState.
+  virtual void Form_Minimized() {}
   /// The screens or the room on them changed: a visible form comes into the room that is left.
   virtual void Form_ScreensChanged();
   /// What has to fit the screen's work area, in the twips of the controls: the inside, with a dialog's title bar.

@@ -6,6 +6,9 @@
 #include "form/Form.h"
 #include "form/PictureButton.h"
 #include "form/UserInterface.h"
+#include "list/MachineIdentity.h"
+#include "panel/Grid.h"
+#include "panel/frmChoose.h"
 
 namespace vantor::options {
 
@@ -14,10 +17,10 @@ namespace {
 using form::ButtonHeight;
 using form::Twips;
 
-constexpr Twips Margin = 120;
-constexpr Twips Gap = 60;
-constexpr Twips CaptionHeight = 330;
-constexpr Twips CheckHeight = 300;
+using panel::CheckHeight;
+using panel::Gap;
+using panel::Margin;
+
 constexpr Twips CheckMark = 420;  // what a check box takes beside its caption
 constexpr Twips LeastWidth = 3600;
 
@@ -31,15 +34,15 @@ constexpr int NormalWindow = 1;
 
 }  // namespace
 
-OptionsPage::OptionsPage(form::Form& form, const OptionsParts& parts)
-    : FrameOptions(form, L"FrameOptions"), parts_(parts) {
+OptionsPage::OptionsPage(panel::frmChoose& form, const panel::PanelContext& context, OptionFlags& options)
+    : Page(form, panel::menu::Options, {L"FrameOptions", L"Preferences", L"Options", {}}),
+      context_(context),
+      options_(options) {
   Dress();
   ConnectEvents();
 }
 
 void OptionsPage::Dress() {
-  FrameOptions.SetCaption(L"Preferences");
-  FrameOptions.SetVisible(false);
   for (std::size_t i = 0; i < Count; ++i) CheckOptionMain[i].SetCaption(Captions[i]);
   form::DressButton(CommandOptionShortcut, LabelOptionShortcut, L"Create Desktop Shortcut");
   form::DressButton(CommandOptionRemember, LabelOptionRemember, L"Remember My Computer");
@@ -49,10 +52,10 @@ void OptionsPage::Dress() {
 }
 
 void OptionsPage::ConnectEvents() {
-  message::Messages& messages = parts_.Messages;
+  message::Messages& messages = context_.Messages;
   for (std::size_t i = 0; i < Count; ++i) {
     CheckOptionMain[i].Click = [this, i] {
-      parts_.Messages.Trap(L"CheckOptionMain_Click", [&] { CheckOptionMain_Click(i); });
+      context_.Messages.Trap(L"CheckOptionMain_Click", [&] { CheckOptionMain_Click(i); });
     };
   }
   messages.Connect(CommandOptionOK.Click, L"CommandOptionOK_Click", this, &OptionsPage::CommandOptionOK_Click);
@@ -65,7 +68,7 @@ void OptionsPage::ConnectEvents() {
 }
 
 form::Size OptionsPage::LayOut() {
-  CommandOptionRemember.SetVisible(parts_.Environment.RunMode);
+  CommandOptionRemember.SetVisible(context_.Environment.RunMode);
   Twips width = LeastWidth;
   for (const form::CheckBox& box : CheckOptionMain) {
     const Twips text =
@@ -75,7 +78,7 @@ form::Size OptionsPage::LayOut() {
   for (const form::Label* label : {&LabelOptionShortcut, &LabelOptionRemember}) {
     width = std::max(width, form::ButtonWidth(*label) + 2 * Margin);
   }
-  Twips top = CaptionHeight;
+  Twips top = panel::FrameTop;
   for (form::CheckBox& box : CheckOptionMain) {
     box.SetBounds({Margin, top, width - 2 * Margin, CheckHeight});
     top += CheckHeight + Gap;
@@ -98,13 +101,13 @@ form::Size OptionsPage::LayOut() {
 }
 
 void OptionsPage::Prepare() {
-  const std::array<std::int16_t, Count> options{parts_.Options.StartWithWindows, parts_.Options.AlwaysOnTop,
-                                                parts_.Options.ShowAddUrlAtStart};
+  const std::array<std::int16_t, Count> options{options_.StartWithWindows, options_.AlwaysOnTop,
+                                                options_.ShowAddUrlAtStart};
   for (std::size_t i = 0; i < Count; ++i) {
     optionBits_[i] = static_cast<std::int16_t>(options[i] << i);
     CheckOptionMain[i].SetValue(options[i] != 0);
   }
-  pendingOptionMask_ = parts_.Settings.OptionMask;
+  pendingOptionMask_ = context_.Settings.OptionMask;
   CommandOptionOK.SetEnabled(false);
 }
 
@@ -112,21 +115,19 @@ void OptionsPage::CheckOptionMain_Click(std::size_t index) {
   optionBits_[index] = static_cast<std::int16_t>(CheckOptionMain[index].Value() ? 1 << index : 0);
   pendingOptionMask_ = std::accumulate(optionBits_.begin(), optionBits_.end(), std::int16_t{0},
                                        [](auto sum, auto bit) { return static_cast<std::int16_t>(sum + bit); });
-  CommandOptionOK.SetEnabled(pendingOptionMask_ != parts_.Settings.OptionMask);
+  CommandOptionOK.SetEnabled(pendingOptionMask_ != context_.Settings.OptionMask);
 }
 
 void OptionsPage::CommandOptionOK_Click() {
   const OptionFlags chosen = DecodeOptionMask(pendingOptionMask_);
-  if (chosen.StartWithWindows != parts_.Options.StartWithWindows) SetStartWithWindows(chosen.StartWithWindows != 0);
-  parts_.Settings.OptionMask = pendingOptionMask_;
-  parts_.Options = chosen;
-  Hooks.ClosePanel();
+  if (chosen.StartWithWindows != options_.StartWithWindows) SetStartWithWindows(chosen.StartWithWindows != 0);
+  context_.Settings.OptionMask = pendingOptionMask_;
+  options_ = chosen;
+  Host().ClosePanel();
 }
 
-void OptionsPage::CommandOptionCancel_Click() { Hooks.ClosePanel(); }
-
 void OptionsPage::SetStartWithWindows(bool start) {
-  service::ScriptShell& shell = parts_.ScriptShell;
+  service::ScriptShell& shell = context_.Services.ScriptShell;
   const std::wstring machines = shell.RegistryRead(MachineRunValue);
   const std::wstring users = shell.RegistryRead(UserRunValue);
   if (!start) {
@@ -147,24 +148,26 @@ void OptionsPage::SetStartWithWindows(bool start) {
 
 void OptionsPage::CommandOptionShortcut_Click() {
   const std::wstring name(state::ProductName);
-  const std::wstring desktop = parts_.ScriptShell.SpecialFolder(L"Desktop");
+  const std::wstring desktop = context_.Services.ScriptShell.SpecialFolder(L"Desktop");
   if (desktop.empty()) return;
-  const bool saved = parts_.ScriptShell.SaveShortcut({.File = desktop + L"\\" + name + L".lnk",
-                                                      .TargetPath = ProgramFile(),
-                                                      .WindowStyle = NormalWindow,
-                                                      .Hotkey = L"CTRL+SHIFT+L",
-                                                      .IconLocation = ProgramFile() + L", 0",
-                                                      .Description = name,
-                                                      .WorkingDirectory = parts_.Environment.ProgramFolder});
-  if (saved) parts_.Messages.ShowText(L"A shortcut for " + name + L" has been placed on your Desktop.");
+  const bool saved =
+      context_.Services.ScriptShell.SaveShortcut({.File = desktop + L"\\" + name + L".lnk",
+                                                  .TargetPath = ProgramFile(),
+                                                  .WindowStyle = NormalWindow,
+                                                  .Hotkey = L"CTRL+SHIFT+L",
+                                                  .IconLocation = ProgramFile() + L", 0",
+                                                  .Description = name,
+                                                  .WorkingDirectory = context_.Environment.ProgramFolder});
+  if (saved) context_.Messages.ShowText(L"A shortcut for " + name + L" has been placed on your Desktop.");
 }
 
 void OptionsPage::CommandOptionRemember_Click() {
-  if (Hooks.RememberMyComputer && Hooks.RememberMyComputer()) CommandOptionRemember.SetEnabled(false);
+  if (list::RememberMyComputer(context_.Services, context_.Messages, context_.Environment))
+    CommandOptionRemember.SetEnabled(false);
 }
 
 std::wstring OptionsPage::ProgramFile() const {
-  return (parts_.Environment.ProgramFolder + std::wstring(state::ProductName)).append(L".exe");
+  return (context_.Environment.ProgramFolder + std::wstring(state::ProductName)).append(L".exe");
 }
 
 }  // namespace vantor::options

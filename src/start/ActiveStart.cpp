@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-#include "add/MachineIdentity.h"
 #include "command/CodeTables.h"
+#include "list/MachineIdentity.h"
 #include "start/Companions.h"
 #include "start/DataFolder.h"
 #include "start/Places.h"
@@ -84,7 +84,7 @@ void ActiveStart::PrepareData() {
     Stop(refusal);
     return;
   }
-  add::IdentifyMachine(program_.Services, program_.Messages, environment);
+  list::IdentifyMachine(program_.Services, program_.Messages, environment);
 }
 
 void ActiveStart::AskForName() {
@@ -105,7 +105,6 @@ void ActiveStart::LookForCompanions() {
   state::Environment& environment = program_.Environment;
   program_.Messages.Trap(L"FindCompanions",
                          [&] { environment.Companions = FindCompanions(program_.Services, environment); });
-  if (!environment.Companions.empty()) program_.frmMain.SetPanel(bar::menu::Companions, &program_.CompanionPanel);
 }
 
 void ActiveStart::ShowForms() {

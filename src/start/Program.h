@@ -1,21 +1,22 @@
 #pragma once
 
 #include "add/frmBrowse.h"
-#include "bar/ChoosePanel.h"
-#include "bar/CodePage.h"
-#include "bar/CompanionPage.h"
-#include "bar/HelpPage.h"
 #include "bar/frmMain.h"
 #include "command/CommandState.h"
 #include "command/Starters.h"
 #include "form/UserInterface.h"
 #include "list/ListFiles.h"
 #include "list/Settings.h"
-#include "list/frmChoose.h"
+#include "list/page/ListPage.h"
 #include "message/MessageState.h"
 #include "message/Messages.h"
 #include "options/OptionFlags.h"
 #include "options/OptionsPage.h"
+#include "panel/CodePage.h"
+#include "panel/CompanionPage.h"
+#include "panel/HelpPage.h"
+#include "panel/PanelSwitch.h"
+#include "panel/frmChoose.h"
 #include "service/Services.h"
 #include "start/frmMove.h"
 #include "state/Environment.h"
@@ -46,29 +47,25 @@ class Program {
   command::Starters Starters{Services};
   list::ListFiles ListFiles{Services, Environment, Settings};
 
+  panel::PanelSwitch Panels{Ui, Messages, CommandState};
+  panel::PanelContext Context{Services, Environment, Messages, Settings, Starters, Panels};
+
   start::frmMove frmMove{Ui, Services, Environment};
-  list::frmChoose frmChoose{Ui, ListFiles, Services.Language, Messages};
-  options::OptionsPage OptionsPage{frmChoose, {Services.ScriptShell, Environment, Messages, Settings, Options}};
-  bar::CompanionPage CompanionPage{frmChoose, Environment, Messages};
-  bar::HelpPage HelpPage{frmChoose, Environment};
-  bar::CodePage CodePage{frmChoose, Environment};
-  bar::ListPanel ListPanel{frmChoose};
-  bar::ChoosePanel CompanionPanel{frmChoose, CompanionPage};  // the bar's when there are any
-  bar::ChoosePanel OptionsPanel{frmChoose, OptionsPage};
-  bar::ChoosePanel HelpPanel{frmChoose, HelpPage};
-  bar::ChoosePanel CodePanel{frmChoose, CodePage};
-  add::frmBrowse frmBrowse{
-      Ui, add::BrowseParts{Services, Environment, Messages, Settings, frmChoose.List, CommandState, Starters}};
-  bar::frmMain frmMain{Ui, bar::BarParts{Services, Environment, Messages, Settings, Options, frmChoose, ListFiles,
-                                         CommandState, Starters}};
+  panel::frmChoose frmChoose{Ui, Panels, Messages};
+  list::ListPage ListPage{frmChoose, Context, ListFiles};
+  panel::CompanionPage CompanionPage{frmChoose, Context};
+  options::OptionsPage OptionsPage{frmChoose, Context, Options};
+  panel::HelpPage HelpPage{frmChoose, Context};
+  panel::CodePage CodePage{frmChoose, Context};
+  add::frmBrowse frmBrowse{Ui, Context, ListPage.List};
+  add::BrowsePanel AddPanel{Panels, panel::menu::Add, frmBrowse, add::BrowseUse::Add};
+  add::BrowsePanel OpenPanel{Panels, panel::menu::Open, frmBrowse, add::BrowseUse::Open};
+  bar::frmMain frmMain{Ui, bar::BarParts{Services, Environment, Messages, Settings, Options, Panels, frmChoose,
+                                         ListPage.List, ListFiles, CommandState, Starters}};
 
  private:
   void ConnectMessages();
-  void ConnectBrowse();
   void Take(const form::DroppedItems& items);
-  void ConnectChoose();
-  /// Moves a panel to where it stands best beside the bar.
-  void PlaceByBar(form::Form& panel) const;
 };
 
 }  // namespace vantor::start

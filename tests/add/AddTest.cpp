@@ -1,8 +1,8 @@
 #include <doctest/doctest.h>
 
-#include "add/MachineIdentity.h"
 #include "add/clsActiveProcess.h"
 #include "fake/TestProgram.h"
+#include "list/MachineIdentity.h"
 
 namespace vantor::add {
 namespace {
@@ -36,7 +36,7 @@ struct AddBox : test::StartedProgram {
     DragTo(window);
     Release();
   }
-  [[nodiscard]] std::size_t Added() const { return test::ItemsOf(Choose.List).size(); }
+  [[nodiscard]] std::size_t Added() const { return test::ItemsOf(List).size(); }
 
   frmBrowse& Box = Program.frmBrowse;
 };
@@ -143,7 +143,7 @@ TEST_CASE("the computer is known again by its disk C:, and what can't be read is
     program.Computer.Let("ReadDiskIdentity", c.Identity);
     if (c.File != nullptr) program.Computer.Disk.AddFile(L"E:\\Machine.Orbel", c.File);
     if (c.Result == Expected::Asked) program.Expect();
-    IdentifyMachine(services, program.Program.Messages, environment);
+    list::IdentifyMachine(services, program.Program.Messages, environment);
     if (c.Result == Expected::Asked)
       CHECK(program.Told.at(0).find(L"Bug-Vantor-DeclareOwnerOnMedia") != std::wstring::npos);
     CHECK(environment.MachineUnknown == (c.Result == Expected::Unknown));
@@ -152,14 +152,14 @@ TEST_CASE("the computer is known again by its disk C:, and what can't be read is
 
     // It can't be remembered in silence while the service does not answer, otherwise with a message.
     program.Computer.Let("ReadDiskIdentity", Outcome::Fails);
-    CHECK_FALSE(RememberMyComputer(services, program.Program.Messages, environment));
+    CHECK_FALSE(list::RememberMyComputer(services, program.Program.Messages, environment));
     program.Computer.Let("ReadDiskIdentity", Outcome::Throws);
     program.Expect();
-    CHECK_FALSE(RememberMyComputer(services, program.Program.Messages, environment));
+    CHECK_FALSE(list::RememberMyComputer(services, program.Program.Messages, environment));
     CHECK(program.Told == Texts{L"Could not save data for identifying this machine. Reason undetermined"});
     CHECK((environment.MachineUnknown && !environment.MachineRemembered));
     program.Computer.Decide = {};
-    CHECK(RememberMyComputer(services, program.Program.Messages, environment));
+    CHECK(list::RememberMyComputer(services, program.Program.Messages, environment));
     CHECK((!environment.MachineUnknown && environment.MachineRemembered));
     CHECK(program.Computer.Disk.Bytes(L"E:\\Machine.Orbel") == OwnIdentity);
   }

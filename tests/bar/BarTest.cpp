@@ -1,7 +1,7 @@
 #include <doctest/doctest.h>
 
-#include "bar/PanelPlace.h"
 #include "fake/TestProgram.h"
+#include "panel/PanelPlace.h"
 #include "start/Places.h"
 
 namespace vantor::bar {
@@ -101,6 +101,34 @@ TEST_CASE("the bar climbs on top each second, except while a message or a panel 
   CHECK(!climbsAfterMessage());
 }
 
+TEST_CASE("the open panel follows the bar, and closes with the bar's minimising whoever minimises it") {
+  StartedProgram program;
+  frmMain& bar = program.Main;
+  form::Headless& desktop = program.Desktop;
+  for (const auto& [key, form] : {std::pair<Key, form::Form*>(Key::F2, &program.Program.frmBrowse),
+                                  std::pair<Key, form::Form*>(Key::F7, &program.Choose)}) {
+    desktop.Press(key);
+    const auto stands = [&, panel = form] {
+      const form::Rect place = panel->Bounds();
+      program.Program.Panels.PlaceByBar(*panel);
+      return panel->Bounds() == place;
+    };
+    desktop.DragBy(bar, 3000, 1500);
+    CHECK((stands() && form->Bounds().Top >= 1500));
+    bar.InputMoved(600, 900);
+    CHECK((stands() && form->Bounds().Left == 600));
+    bar.TextMain.SetText(L"left");
+    bar.InputWindowState(form::WindowState::Minimized);
+    CHECK_FALSE(form->Visible());
+    desktop.Advance(5000);
+    CHECK((!bar.TopMost() && bar.TimerWatchOnTop.Enabled() && program.Program.CommandState.OpenPanelIndex == -1));
+    bar.InputWindowState(form::WindowState::Normal);
+    desktop.Advance(2000);
+    CHECK((bar.TopMost() && bar.TextMain.HasFocus() && bar.TextMain.Text() == L"left"));
+    desktop.Click(bar.CommandWeb);
+  }
+}
+
 TEST_CASE("leaving before the list was read keeps the list") {
   test::TestProgram program;
   program.Program.Environment.ProgramFolder = L"C:\\Vantor\\";
@@ -125,7 +153,7 @@ TEST_CASE("a panel stands by the bar, and on the screen") {
       {{3000, 4000, 6000, 480}, {3000, 900, 5040, 7700}},  // over it
       {{0, 0, 6000, 480}, {6000, 0, 5040, 9000}},          // taller than the screen: from its top
   };
-  for (const auto& c : cases) CHECK(PlacePanel(c.Bar, {c.Place.Width, c.Place.Height}, area) == c.Place);
+  for (const auto& c : cases) CHECK(panel::PlacePanel(c.Bar, {c.Place.Width, c.Place.Height}, area) == c.Place);
 }
 
 TEST_CASE("no panel is larger than the work area; where there is room it has its own size") {
@@ -162,9 +190,9 @@ TEST_CASE("the help and code pages have their texts whole and apart") {
   test::TestProgram program;
   program.Computer.Disk.AddFile(L"C:\\Vantor\\VantorHelp.exe");  // of which there are lines too
   program.Start();
-  const list::frmChoose& panel = program.Choose;
-  for (const auto& [key, frame] : {std::pair(Key::F7, &program.Program.HelpPage.FrameHelp),
-                                   std::pair(Key::F8, &program.Program.CodePage.FrameCode)}) {
+  const panel::frmChoose& panel = program.Choose;
+  for (const auto& [key, frame] :
+       {std::pair(Key::F7, &program.Program.HelpPage.Frame), std::pair(Key::F8, &program.Program.CodePage.Frame)}) {
     program.Desktop.Press(key);
     std::vector<const form::Control*> texts;
     for (const form::Control* text : panel.Controls()) {

@@ -13,6 +13,24 @@ const std::pair<WORD, std::string> Panels[] = {{VK_F2, "Add To List"}, {VK_F3, "
 
 }  // namespace
 
+TEST_CASE("the open panel follows the bar, and closes when the bar is minimised as from its taskbar button") {
+  const Folder folder;
+  const Program program(folder);
+  HWND const bar = program.AwaitBar();
+  const Panel help(program, VK_F7, "Help");
+  help.Open();
+  SetWindowPos(bar, nullptr, 20, 30, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  CHECK_BECOMES(window::Bounds(help.Find()).top, window::Bounds(bar).bottom);
+  CHECK(window::Bounds(help.Find()).left == 20);
+  PostMessageW(bar, WM_SYSCOMMAND, SC_MINIMIZE, 0);
+  CHECK_BECOMES(help.Find() == nullptr, true);
+  CHECK(window::IsMinimised(bar));
+  OpenIcon(bar);
+  SetForegroundWindow(bar);
+  CHECK_BECOMES(window::Focus(bar), program.TextMain());
+  CHECK_BECOMES(window::IsTopMost(bar), true);
+}
+
 TEST_CASE("near the screen's edges a panel opens where it fits, and never under the bar") {
   const RECT screen{0, 0, 800, 600};
   const struct { int Left, Top; } places[] = {{4200, 0}, {0, 8400}, {5000, 4000}};

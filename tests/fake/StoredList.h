@@ -8,8 +8,7 @@ namespace vantor::test {
 /// One run of the program as far as its files go: the settings and the launch list, in C:\Vantor\Vantor or, on a
 /// remembered computer, in E:\Vantor\Vantor. The disk is the test's, so that a later run finds the files.
 struct StoredList {
-  explicit StoredList(fake::Computer& computer, bool onMedium = false)
-      : Files(computer.Services(), Environment, Settings), Choose(Desktop, Files, computer, Messages) {
+  explicit StoredList(fake::Computer& computer, bool onMedium = false) : Program(Desktop, computer.Services()) {
     Environment.RunMode = Environment.MachineRemembered = onMedium;
     Environment.MediaDriveLetter = onMedium ? L"E" : L"C";
     Environment.ProgramFolder = Environment.MediaDriveLetter + L":\\Vantor\\";
@@ -19,24 +18,24 @@ struct StoredList {
   void Load() {
     Files.Restore();
     Files.LoadSettings();
-    Choose.Load();
+    Page.Load();
   }
-  void Save() { Files.SaveLaunchList(Choose.List, 150, 300); }
+  void Save() { Files.SaveLaunchList(List, 150, 300); }
   void Add(list::LaunchGroup group, std::wstring_view name, std::wstring_view path) {
-    Choose.List.Of(group).AddItem({name, path});
+    List.Of(group).AddItem({name, path});
   }
   void RemoveFirst(list::LaunchGroup group) {
-    Choose.List.Of(group).Name.RemoveItem(0);
-    Choose.List.Of(group).Path.RemoveItem(0);
+    List.Of(group).Name.RemoveItem(0);
+    List.Of(group).Path.RemoveItem(0);
   }
 
   form::Headless Desktop;
-  state::Environment Environment;
-  list::Settings Settings;
-  list::ListFiles Files;
-  message::MessageState MessageState;
-  message::Messages Messages{Desktop, MessageState};
-  list::frmChoose Choose;
+  start::Program Program;
+  state::Environment& Environment = Program.Environment;
+  list::Settings& Settings = Program.Settings;
+  list::ListFiles& Files = Program.ListFiles;
+  list::ListPage& Page = Program.ListPage;
+  list::LaunchList& List = Page.List;
 };
 
 }  // namespace vantor::test

@@ -35,7 +35,9 @@ struct TestProgram {
   form::Headless Desktop;
   start::Program Program{Desktop, Computer.Services()};
   bar::frmMain& Main = Program.frmMain;
-  list::frmChoose& Choose = Program.frmChoose;
+  panel::frmChoose& Choose = Program.frmChoose;
+  list::ListPage& Page = Program.ListPage;
+  list::LaunchList& List = Page.List;
   Texts Told;  // the texts of the messages
 
   explicit TestProgram(const std::string& place = "0\r\n0") {
@@ -50,7 +52,7 @@ struct TestProgram {
   }
 
   void Add(list::LaunchGroup group, std::wstring_view name, std::wstring_view path) {
-    Choose.List.Of(group).AddItem({name, path});
+    List.Of(group).AddItem({name, path});
   }
   /// Types a line in the place of what stands in the box.
   void Type(std::wstring_view line) {

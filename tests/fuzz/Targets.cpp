@@ -46,14 +46,14 @@ void FuzzList(Bytes bytes) {
     computer.Disk.AddFile(path, content);
   list::Settings& settings = first.Settings;
   settings.WebUpper = settings.ProgUpper = settings.FoldUpper = settings.FileUpper = settings.MachineProgUpper = upper;
-  first.Choose.Load();
-  Require(first.Choose.ComboListWebName.ListCount() <= std::max(upper + 1, 0), "no more records than counted");
+  first.Page.Load();
+  Require(first.Page.ComboListWebName.ListCount() <= std::max(upper + 1, 0), "no more records than counted");
   first.Save();
   StoredList second(computer, onMedium);
   second.Load();
   for (const list::LaunchGroup group : list::LaunchGroups) {
-    const list::GroupBoxes& before = first.Choose.List.Of(group);
-    const list::GroupBoxes& after = second.Choose.List.Of(group);
+    const list::GroupBoxes& before = first.List.Of(group);
+    const list::GroupBoxes& after = second.List.Of(group);
     Require(before.Name.ListCount() == after.Name.ListCount(), "all items come back");
     const bool ofWeb = group == list::LaunchGroup::Web;
     for (int i = 0; i < after.Name.ListCount(); ++i) {
@@ -81,7 +81,7 @@ void FuzzLine(Bytes bytes) {
   Choices start{Bytes(used)};
   Wandering wandering(start);
   wandering.Do([&] { wandering.Program.Main(); });
-  wandering.Program.frmChoose.List.Of(list::LaunchGroup::Web).AddItem({L"line", L"http://a\r\nb"});
+  wandering.Program.ListPage.List.Of(list::LaunchGroup::Web).AddItem({L"line", L"http://a\r\nb"});
   form::TextBox& line = wandering.Program.frmMain.TextMain;
   for (Choices choices(bytes); choices.Left() && !wandering.Desktop.Ended();) {
     const unsigned byte = choices.Byte();

@@ -200,11 +200,11 @@ struct Wandering {
   }
   void CheckState() {
     for (const list::LaunchGroup group : list::LaunchGroups) {
-      const list::GroupBoxes& boxes = Program.frmChoose.List.Of(group);
+      const list::GroupBoxes& boxes = Program.ListPage.List.Of(group);
       Require(boxes.Name.ListCount() == boxes.Path.ListCount(), "names and targets stay paired");
     }
     const int open = Program.CommandState.OpenPanelIndex;
-    Require(open >= command::NoIndex && open < static_cast<int>(bar::menu::Count),
+    Require(open >= command::NoIndex && open < static_cast<int>(panel::menu::Count),
             "the open panel is one of the panels");
     Require(Desktop.Ended() || Program.MessageState.MessageBody.empty(), "a message leaves nothing behind");
     Require(Computer.Held == 0, "every object is released");

@@ -22,7 +22,7 @@ struct Run {
   explicit Run(const fake::FakeDisk& disk) { Disk = disk; }
   State Load() {
     List.Load();
-    State state = ItemsOf(List.Choose.List);
+    State state = ItemsOf(List.List);
     state.push_back(std::to_wstring(List.Settings.OptionMask));
     return state;
   }

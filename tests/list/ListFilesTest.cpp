@@ -31,17 +31,16 @@ TEST_CASE("a save writes exact bytes, and the next run has the same list") {
   StoredList second(computer);
   second.Load();
   // Double quotes are written so that the item and those after it are read again.
-  CHECK(ItemsOf(second.Choose.List) == Texts{L"A, b>C:\\Work\\notes.txt", L" Fold >C:\\Work",
-                                             L"caf\u00E9>C:\\Work\\Tool.EXE", L"the 'best'>http://x",
-                                             L"next>http://y/?q=%22a%22"});
+  CHECK(ItemsOf(second.List) == Texts{L"A, b>C:\\Work\\notes.txt", L" Fold >C:\\Work", L"caf\u00E9>C:\\Work\\Tool.EXE",
+                                      L"the 'best'>http://x", L"next>http://y/?q=%22a%22"});
   // A group that became empty is no longer loaded, and its file stays; a place beyond 16 bits is saved as the nearest.
   second.RemoveFirst(LaunchGroup::File);
-  second.Files.SaveLaunchList(second.Choose.List, 40000, -40000);
+  second.Files.SaveLaunchList(second.List, 40000, -40000);
   CHECK(settings == "6\r\n-1\r\n0\r\n0\r\n1\r\n32767\r\n-32768\r\n\"C:\\Docs, old\"\r\n-1\r\n-1\r\n-1\r\n");
   CHECK(computer.Disk.Bytes(DataFile(L"ListFile")) == "\"A, b\",\"C:\\Work\\notes.txt\"\r\n");
   StoredList third(computer);
   third.Load();
-  CHECK(ItemsOf(third.Choose.List).size() == 4);
+  CHECK(ItemsOf(third.List).size() == 4);
 }
 
 TEST_CASE("a damaged settings file gives what could be read of it") {
@@ -83,8 +82,8 @@ TEST_CASE("files cut at any byte give the items before the cut, whatever the upp
       StoredList list(computer);
       list.Settings.WebUpper = static_cast<std::int16_t>(upper);
       computer.Disk.AddFile(DataFile(L"ListWeb"), whole.substr(0, length));
-      list.Choose.Load();
-      Texts items = ItemsOf(list.Choose.List);
+      list.Page.Load();
+      Texts items = ItemsOf(list.List);
       // Of a target without quotes any part is one.
       if (items.size() == 3 && length < ends[2]) items.pop_back();
       const auto kept = std::count_if(std::begin(ends), std::end(ends), [&](auto end) { return end <= length; });

@@ -8,7 +8,7 @@ namespace {
 
 TEST_CASE("names are listed regardless of letter case, paths only when identical") {
   test::TestProgram program;
-  form::ComboBox& box = program.Choose.ComboListProgName;
+  form::ComboBox& box = program.Page.ComboListProgName;
   for (const auto* entry : {L"Editor", L"\u00C9t\u00E9"}) box.AddItem(entry);
   for (const auto* name : {L"EDITOR", L"\u00E9T\u00C9"})
     CHECK(CheckNameListed(program.Computer, name, box) == L"MessageNameAlreadyListed");

@@ -89,14 +89,14 @@ struct Walk {
   void ListPanel() {
     Press(form::Key::F4);
     for (const list::LaunchGroup group : list::LaunchGroups) {
-      list::GroupFrame& frame = Program.frmChoose.Page.Of(group);
+      list::GroupFrame& frame = Program.ListPage.Of(group);
       Select(frame.Name, 0);
       Click(frame.Open);
       Click(frame.Rename);
       Fill(frame.TextRename, L"renamed");
       Click(frame.RenOK);
     }
-    Click(Program.frmChoose.Page.Prog.Remove);
+    Click(Program.ListPage.Prog.Remove);
   }
   void Options() {
     options::OptionsPage& page = Program.OptionsPage;
@@ -138,7 +138,7 @@ struct Walk {
     return std::count_if(Desktop.Told.begin(), Desktop.Told.end(),
                          [](const auto& text) { return text.find(L"Bug-Vantor-") != text.npos; });
   }
-  [[nodiscard]] Texts Items() const { return ItemsOf(Program.frmChoose.List); }
+  [[nodiscard]] Texts Items() const { return ItemsOf(Program.ListPage.List); }
 
   int Calls = 0;
   std::string WrongCall;

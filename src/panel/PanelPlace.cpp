@@ -1,8 +1,8 @@
-#include "bar/PanelPlace.h"
+#include "panel/PanelPlace.h"
 
 #include <algorithm>
 
-namespace vantor::bar {
+namespace vantor::panel {
 
 namespace {
 
@@ -31,4 +31,4 @@ form::Rect PlacePanel(const form::Rect& bar, form::Size panel, const form::Rect&
   return place;
 }
 
-}  // namespace vantor::bar
+}  // namespace vantor::panel

@@ -1,4 +1,4 @@
-#include "add/MachineIdentity.h"
+#include "list/MachineIdentity.h"
 
 #include <optional>
 #include <stdexcept>
@@ -7,7 +7,7 @@
 #include "text/Numbers.h"
 #include "text/SequentialFile.h"
 
-namespace vantor::add {
+namespace vantor::list {
 namespace {
 
 using Field = text::SequentialReader::Field;
@@ -81,4 +81,4 @@ bool RememberMyComputer(const service::Services& services, message::Messages& me
   return true;
 }
 
-}  // namespace vantor::add
+}  // namespace vantor::list

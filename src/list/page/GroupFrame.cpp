@@ -1,4 +1,4 @@
-#include "list/GroupFrame.h"
+#include "list/page/GroupFrame.h"
 
 #include <algorithm>
 #include <string>
@@ -8,6 +8,7 @@
 #include "form/PictureButton.h"
 #include "form/UserInterface.h"
 #include "list/NameMatch.h"
+#include "panel/Grid.h"
 
 namespace vantor::list {
 
@@ -15,12 +16,13 @@ namespace {
 
 using form::Twips;
 
-constexpr Twips Margin = 120;
-constexpr Twips Gap = 60;
-constexpr Twips CaptionHeight = 270;  // from the frame's top to what is in it
-constexpr Twips LineHeight = 330;
+using panel::FrameTop;
+using panel::Gap;
+using panel::LabelHeight;
+using panel::LineHeight;
+using panel::Margin;
+
 constexpr Twips LabelTop = 75;  // brings a label's text to the height of the text in the box beside it
-constexpr Twips LabelHeight = 210;
 
 std::wstring ControlName(std::wstring_view kind, std::wstring_view code, std::wstring_view what) {
   return std::wstring(kind).append(L"List").append(code).append(what);
@@ -96,7 +98,7 @@ Twips GroupFrame::LayOut(Twips left, Twips top, Twips width) {
   }
   const Twips boxLeft = Margin + labelWidth + Margin;
   const Twips boxWidth = width - boxLeft - Margin;
-  Twips y = CaptionHeight;
+  Twips y = FrameTop;
   LabelName.SetBounds({Margin, y + LabelTop, labelWidth, LabelHeight});
   Name.SetBounds({boxLeft, y, boxWidth, LineHeight});
   y = Name.Bottom() + Gap;

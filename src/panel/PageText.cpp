@@ -1,10 +1,10 @@
-#include "bar/PageText.h"
+#include "panel/PageText.h"
 
 #include <algorithm>
 
 #include "form/UserInterface.h"
 
-namespace vantor::bar {
+namespace vantor::panel {
 
 namespace {
 
@@ -40,4 +40,4 @@ Twips TextTable::PlaceAt(Twips left, Twips top, Twips width) const {
   return std::max(Place(Left, left, under, leftWidth), Place(Right, rightLeft, under, left + width - rightLeft));
 }
 
-}  // namespace vantor::bar
+}  // namespace vantor::panel

@@ -1,42 +1,33 @@
-#include "list/frmChoose.h"
+#include "panel/frmChoose.h"
 
 #include "form/PictureButton.h"
+#include "panel/Grid.h"
 
-namespace vantor::list {
+namespace vantor::panel {
 
-namespace {
-
-constexpr form::Twips Margin = 120;
-
-}  // namespace
-
-frmChoose::frmChoose(form::UserInterface& ui, ListFiles& files, const service::Language& language,
-                     message::Messages& messages)
-    : Form(ui, L"frmChoose"), Page(*this, language, messages), files_(files), messages_(messages) {
-  Page.FrameList.SetVisible(false);
+frmChoose::frmChoose(form::UserInterface& ui, PanelHost& host, message::Messages& messages)
+    : Form(ui, L"frmChoose"), host_(host), messages_(messages) {
   SetBorderStyle(form::BorderStyle::Line);
   FrameCancel.SetBorder(false);
   form::DressButton(CommandListCancel, LabelListCancel, L"Cancel");
   messages_.Connect(CommandListCancel.Click, L"CommandListCancel_Click", this, &frmChoose::CommandListCancel_Click);
-  for (const LaunchGroup group : LaunchGroups) {
-    Page.Of(group).Start = [this, group](std::wstring_view target) { Start(group, target); };
-  }
 }
 
 void frmChoose::Form_Load() {
-  messages_.Trap(L"LoadLaunchList", [this] { files_.LoadLaunchList(List); });
+  for (Page* page : pages_) page->Load();
 }
 
-void frmChoose::ShowPage(ChoosePage& page) {
+void frmChoose::ShowPage(Page& page) {
   Load();
-  if (shown_ != nullptr && shown_ != &page) shown_->Frame().SetVisible(false);
-  shown_ = &page;
+  for (Page* other : pages_) {
+    if (other != &page) other->Frame.SetVisible(false);
+  }
   SetCaption(page.Title());
   page.Prepare();
   const form::Size content = page.LayOut();
-  page.Frame().SetBounds({Margin, Margin, content.Width, content.Height});
+  page.Frame.SetBounds({Margin, Margin, content.Width, content.Height});
   const form::Size size{content.Width + 2 * Margin, content.Height + 2 * Margin};
-  page.Frame().SetVisible(true);
+  page.Frame.SetVisible(true);
 
   const bool closes = !page.CloseCaption().empty();
   FrameCancel.SetVisible(closes);
@@ -49,24 +40,10 @@ void frmChoose::ShowPage(ChoosePage& page) {
     height += form::ButtonHeight + Margin;
   }
   SetInside({size.Width, height});
-  Hooks.Place(*this);
+  host_.PlaceByBar(*this);
   form::Control* const first = page.First();
   Show();
   (first != nullptr ? *first : CommandListCancel).SetFocus();
-}
-
-void frmChoose::CommandListCancel_Click() { Hooks.ClosePanel(); }
-
-void frmChoose::Start(LaunchGroup group, std::wstring_view target) {
-  CommandListCancel_Click();
-  switch (group) {
-    case LaunchGroup::Prog:
-      return Hooks.RunProgram(target);
-    case LaunchGroup::Web:
-      return Hooks.OpenWebItem(target);
-    default:
-      return Hooks.OpenWithShell(target);
-  }
 }
 
 void frmChoose::Form_KeyUp(form::Key key) {
@@ -74,9 +51,25 @@ void frmChoose::Form_KeyUp(form::Key key) {
     if (key == form::Key::Escape) {
       CommandListCancel_Click();
     } else {
-      Hooks.HotKey(key);
+      host_.HotKey(key);
     }
   });
 }
 
-}  // namespace vantor::list
+// --- a page of it
+
+Page::Page(frmChoose& form, std::size_t index, const PageTexts& texts)
+    : Panel(form.Host(), index, form),
+      Frame(form, texts.FrameName),
+      form_(form),
+      title_(texts.Title),
+      closeCaption_(texts.CloseCaption) {
+  Frame.SetCaption(texts.Caption);
+  Frame.SetBorder(!texts.Caption.empty());
+  Frame.SetVisible(false);
+  form.Add(*this);
+}
+
+void Page::Open() { form_.ShowPage(*this); }
+
+}  // namespace vantor::panel

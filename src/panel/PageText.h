@@ -7,7 +7,7 @@
 #include "form/Form.h"
 #include "form/Static.h"
 
-namespace vantor::bar {
+namespace vantor::panel {
 
 /// The labels of a page that mostly is text. Places and sizes are in twips, relative to the labels' container.
 class PageText {
@@ -24,12 +24,7 @@ class PageText {
 /// Places a label, as high as its text needs at this width. Returns its lower edge.
 form::Twips Place(form::Label& label, form::Twips left, form::Twips top, form::Twips width);
 
-// What the pages of text keep to.
-inline constexpr form::Twips PageMargin = 120;
-inline constexpr form::Twips PageTop = 300;  // from a frame's top to what is in it
 inline constexpr form::Twips UnderHead = 45;
-inline constexpr form::Twips ColumnGap = 360;
-inline constexpr form::Twips SectionGap = 180;
 
 /// A head and what stands under it.
 struct TextSection {
@@ -54,4 +49,4 @@ struct TextTable {
   form::Twips PlaceAt(form::Twips left, form::Twips top, form::Twips width) const;
 };
 
-}  // namespace vantor::bar
+}  // namespace vantor::panel

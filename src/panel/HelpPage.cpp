@@ -1,17 +1,18 @@
-#include "bar/HelpPage.h"
+#include "panel/HelpPage.h"
 
 #include <algorithm>
 #include <span>
 #include <string>
 #include <string_view>
 
-namespace vantor::bar {
+#include "panel/Grid.h"
+
+namespace vantor::panel {
 
 namespace {
 
 using form::Twips;
 
-constexpr Twips LineHeight = 315;
 constexpr Twips ProseWidth = 4200;
 
 /// What is typed or pressed, and what it does.
@@ -57,31 +58,29 @@ std::wstring Lines(std::span<const Row> rows, std::wstring_view Row::*side, bool
 
 }  // namespace
 
-HelpPage::HelpPage(form::Form& form, const state::Environment& environment)
-    : FrameHelp(form, L"FrameHelp"),
-      environment_(environment),
-      typing_{text_.Add(FrameHelp, L"Type a code and what it is about, then press Enter", true),
-              text_.Add(FrameHelp, {}), text_.Add(FrameHelp, {})},
+HelpPage::HelpPage(frmChoose& form, const PanelContext& context)
+    : Page(form, menu::Help, {L"FrameHelp", L"Help", L"Help", L"Hide"}),
+      environment_(context.Environment),
+      typing_{text_.Add(Frame, L"Type a code and what it is about, then press Enter", true), text_.Add(Frame, {}),
+              text_.Add(Frame, {})},
       completion_(text_.Add(
-          FrameHelp, L"Names and words complete while you type. Enter takes the completion, Backspace drops it.")),
-      buttons_{text_.Add(FrameHelp, L"Buttons and keys", true), text_.Add(FrameHelp, {}), text_.Add(FrameHelp, {})},
-      adding_{text_.Add(FrameHelp, L"Adding to your list", true),
-              text_.Add(FrameHelp,
+          Frame, L"Names and words complete while you type. Enter takes the completion, Backspace drops it.")),
+      buttons_{text_.Add(Frame, L"Buttons and keys", true), text_.Add(Frame, {}), text_.Add(Frame, {})},
+      adding_{text_.Add(Frame, L"Adding to your list", true),
+              text_.Add(Frame,
                         L"Press + (F2), say whether it is a program, a file or a folder, and pick it; or press \"Find "
                         L"Program Path\" and let go over the window of a running program. Type a name for it and press "
                         L"Enter.\r\n\r\nFor a web site press F1, type its address and a name, and press Enter.")},
-      data_{text_.Add(FrameHelp, L"Your data", true),
-            text_.Add(FrameHelp,
+      data_{text_.Add(Frame, L"Your data", true),
+            text_.Add(Frame,
                       L"Your list and your preferences are saved when the program exits, in this folder and nowhere "
                       L"else. Copy it to take them along.")},
-      stick_{text_.Add(FrameHelp, L"On a stick", true),
-             text_.Add(FrameHelp,
+      stick_{text_.Add(Frame, L"On a stick", true),
+             text_.Add(Frame,
                        L"Started from a removable drive, Vantor keeps its data there. What lies on the drive stays in "
                        L"your list on every computer, whatever letter the drive gets.\r\n\r\nThings on the fixed "
                        L"disks of one computer can be in the list too: press \"Remember My Computer\" in the "
                        L"preferences there. On other computers they rest unseen.")} {
-  FrameHelp.SetCaption(L"Help");
-  FrameHelp.SetVisible(false);
   TextHelpFolder.SetLocked(true);
   TextHelpFolder.SetBackColor(form::Color::ButtonFace);
   TextHelpFolder.SetAccessibleName(L"Data folder");
@@ -98,17 +97,17 @@ void HelpPage::Prepare() {
 
 form::Size HelpPage::LayOut() {
   const Twips tablesWidth = std::max(typing_.Width(), buttons_.Width());
-  Twips left = PageMargin;
-  Twips bottom = typing_.PlaceAt(left, PageTop, tablesWidth) + UnderHead;
+  Twips left = Margin;
+  Twips bottom = typing_.PlaceAt(left, FrameTop, tablesWidth) + UnderHead;
   bottom = Place(completion_, left, bottom, tablesWidth);
   bottom = buttons_.PlaceAt(left, bottom + SectionGap, tablesWidth);
 
   left += tablesWidth + ColumnGap;
-  Twips y = adding_.PlaceAt(left, PageTop, ProseWidth);
+  Twips y = adding_.PlaceAt(left, FrameTop, ProseWidth);
   y = data_.PlaceAt(left, y + SectionGap, ProseWidth);
   TextHelpFolder.SetBounds({left, y + UnderHead, ProseWidth, LineHeight});
   y = stick_.PlaceAt(left, TextHelpFolder.Bottom() + SectionGap, ProseWidth);
-  return {left + ProseWidth + PageMargin, std::max(bottom, y) + PageMargin};
+  return {left + ProseWidth + Margin, std::max(bottom, y) + Margin};
 }
 
-}  // namespace vantor::bar
+}  // namespace vantor::panel

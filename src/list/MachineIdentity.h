@@ -6,7 +6,7 @@
 #include "service/Services.h"
 #include "state/Environment.h"
 
-namespace vantor::add {
+namespace vantor::list {
 
 /// Whether this computer is the one of the identity file; false when its own identity is not to be had in time.
 /// When the file or the identity can't be read, false, after the question whether to report that.
@@ -21,4 +21,4 @@ void IdentifyMachine(const service::Services& services, message::Messages& messa
 [[nodiscard]] bool RememberMyComputer(const service::Services& services, message::Messages& messages,
                                       state::Environment& environment);
 
-}  // namespace vantor::add
+}  // namespace vantor::list

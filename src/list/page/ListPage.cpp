@@ -1,0 +1,80 @@
+#include "list/page/ListPage.h"
+
+#include <algorithm>
+
+#include "panel/Grid.h"
+#include "panel/frmChoose.h"
+
+namespace vantor::list {
+
+namespace {
+
+using form::Twips;
+
+constexpr Twips GroupWidth = 5580;  // two beside each other fit a screen of 800 pixels
+
+}  // namespace
+
+ListPage::ListPage(panel::frmChoose& form, const panel::PanelContext& context, ListFiles& files)
+    : Page(form, panel::menu::List, {L"FrameList", {}, L"List", L"Cancel"}),
+      Prog(Frame, {L"Prog", L"Program List :", L"Program", L"New Name :"}, context.Services.Language, context.Messages),
+      File(Frame, {L"File", L"File List :", L"File", L"New Name:"}, context.Services.Language, context.Messages),
+      Fold(Frame, {L"Fold", L"Folder List :", L"Folder", L"New Name :"}, context.Services.Language, context.Messages),
+      Web(Frame, {L"Web", L"Web URL List :", L"Web URL", L"New Name :"}, context.Services.Language, context.Messages),
+      context_(context),
+      files_(files) {
+  for (const LaunchGroup group : LaunchGroups) {
+    Of(group).Start = [this, group](std::wstring_view target) { Start(group, target); };
+  }
+}
+
+GroupFrame& ListPage::Of(LaunchGroup group) {
+  switch (group) {
+    case LaunchGroup::File:
+      return File;
+    case LaunchGroup::Fold:
+      return Fold;
+    case LaunchGroup::Prog:
+      return Prog;
+    case LaunchGroup::Web:
+      break;
+  }
+  return Web;
+}
+
+message::MessageKey ListPage::Refusal() {
+  const int items = Prog.Name.ListCount() + File.Name.ListCount() + Fold.Name.ListCount() + Web.Name.ListCount();
+  return items == 0 ? L"MessageEmptyList" : L"";
+}
+
+void ListPage::Load() {
+  context_.Messages.Trap(L"LoadLaunchList", [this] { files_.LoadLaunchList(List); });
+}
+
+form::Size ListPage::LayOut() {
+  constexpr Twips Second = GroupWidth + panel::Margin;
+  const Twips lowerTop = std::max(Prog.LayOut(0, 0, GroupWidth), File.LayOut(Second, 0, GroupWidth)) + panel::Margin;
+  const Twips lower = std::max(Fold.LayOut(0, lowerTop, GroupWidth), Web.LayOut(Second, lowerTop, GroupWidth));
+  return {Second + GroupWidth, lowerTop + lower};
+}
+
+void ListPage::Prepare() {
+  for (const LaunchGroup group : LaunchGroups) Of(group).Prepare();
+}
+
+form::Control* ListPage::First() {
+  for (GroupFrame* group : {&Prog, &File, &Fold, &Web}) {
+    if (group->Name.ListCount() > 0) return &group->Name;
+  }
+  return nullptr;
+}
+
+void ListPage::Start(LaunchGroup group, std::wstring_view target) {
+  Host().ClosePanel();
+  const command::Starters& starters = context_.Starters;
+  context_.Messages.ShowList(group == LaunchGroup::Prog  ? starters.RunProgramFile(target)
+                             : group == LaunchGroup::Web ? starters.OpenWebItem(target)
+                                                         : starters.OpenWithShell(target));
+}
+
+}  // namespace vantor::list

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+#include "form/Picture.h"
+
+namespace vantor::panel {
+
+/// The CommandMenu buttons, from left to right; their panels by the same numbers.
+namespace menu {
+inline constexpr std::size_t Add = 0;
+inline constexpr std::size_t Open = 1;
+inline constexpr std::size_t List = 2;
+inline constexpr std::size_t Companions = 3;  // the maker's other programs
+inline constexpr std::size_t Options = 4;
+inline constexpr std::size_t Help = 5;
+inline constexpr std::size_t Code = 6;
+inline constexpr std::size_t Count = 7;
+}  // namespace menu
+
+/// How a button looks while its panel is closed or open.
+struct MenuFace {
+  std::wstring_view Caption;
+  form::Picture Picture;
+};
+
+struct MenuButton {
+  MenuFace Closed;
+  std::wstring_view ToolTip;  // after "---" the key that does the same, which is F2 for the first button and so on
+};
+
+inline constexpr std::array<MenuButton, menu::Count> MenuButtons{{
+    {{L"+", form::Picture::ButtonNormal}, L"Show | Hide Add To List---F2"},
+    {{L">", form::Picture::ButtonNormal}, L"Show | Hide Open---F3"},
+    {{L"L", form::Picture::ButtonNormal}, L"Show | Hide Open From List---F4"},
+    {{L"!", form::Picture::ButtonNormal}, L"Show | Hide Run (Orbel's Program)---F5"},
+    {{L"P", form::Picture::ButtonNormal}, L"Show | Hide Preferences---F6"},
+    {{L"?", form::Picture::ButtonNormal}, L"Show | Hide Help---F7"},
+    {{L"C", form::Picture::ButtonNormal}, L"Show | Hide Code List---F8"},
+}};
+inline constexpr MenuFace OpenFace{L"||", form::Picture::ButtonOpen};
+
+}  // namespace vantor::panel

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstddef>
+
+#include "form/Form.h"
+#include "message/MessageState.h"
+#include "panel/MenuButtons.h"
+#include "panel/PanelHost.h"
+
+namespace vantor::panel {
+
+/// What a CommandMenu button opens. One at a time is open.
+class Panel {
+ public:
+  /// The panel of a menu button, which shows in a window that it may share with others.
+  Panel(PanelHost& host, std::size_t index, form::Form& window) : host_(host), window_(window) {
+    host.Add(index, *this);
+  }
+  virtual ~Panel() = default;
+  Panel(const Panel&) = delete;
+  Panel& operator=(const Panel&) = delete;
+
+  /// Whether the bar has a button for the panel. Asked when the bar is laid out.
+  [[nodiscard]] virtual bool Available() const { return true; }
+  /// The message to show instead of opening the panel now; "" when it can be opened.
+  [[nodiscard]] virtual message::MessageKey Refusal() { return {}; }
+  virtual void Open() = 0;
+  virtual void Close() { window_.Hide(); }
+  /// The bar has moved, and the open panel comes along.
+  void Follow() { host_.PlaceByBar(window_); }
+
+ protected:
+  [[nodiscard]] PanelHost& Host() const { return host_; }
+
+ private:
+  PanelHost& host_;
+  form::Form& window_;
+};
+
+}  // namespace vantor::panel

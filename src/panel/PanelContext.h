@@ -1,0 +1,22 @@
+#pragma once
+
+#include "command/Starters.h"
+#include "list/Settings.h"
+#include "message/Messages.h"
+#include "panel/PanelHost.h"
+#include "service/Services.h"
+#include "state/Environment.h"
+
+namespace vantor::panel {
+
+/// What the panels work with. All of it outlives them.
+struct PanelContext {
+  service::Services Services;
+  state::Environment& Environment;
+  message::Messages& Messages;
+  list::Settings& Settings;
+  const command::Starters& Starters;
+  PanelHost& Host;
+};
+
+}  // namespace vantor::panel

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "form/Form.h"
+#include "form/Keys.h"
+
+namespace vantor::panel {
+
+class Panel;
+
+/// What a panel asks of the bar that it belongs to.
+class PanelHost {
+ public:
+  /// Takes a panel as the one that the menu button of this index opens. The panel lives as long as the bar.
+  virtual void Add(std::size_t index, Panel& panel) = 0;
+  /// The menu button whose panel is open, -1 for none.
+  [[nodiscard]] virtual std::int16_t OpenPanelIndex() const = 0;
+  /// Opens a panel, in the place of the one that is open. Does nothing when it is open itself.
+  virtual void OpenPanel(std::size_t index) = 0;
+  /// Closes the open panel, if there is one, and goes back to an empty command line.
+  virtual void ClosePanel() = 0;
+  /// Goes back to an empty command line without closing the panel, where the bar is in sight.
+  virtual void ClearLine() = 0;
+  /// Does what a function key does on the bar. Other keys do nothing.
+  virtual void HotKey(form::Key key) = 0;
+  /// Moves a panel's window to where it stands best beside the bar.
+  virtual void PlaceByBar(form::Form& window) const = 0;
+
+ protected:
+  ~PanelHost() = default;  // nobody owns one by this type
+};
+
+}  // namespace vantor::panel
