@@ -119,15 +119,17 @@ if(VANTOR_RECORDER_SOURCES)
   target_link_libraries(recorder PRIVATE vantor_flags ${VANTOR_WINDOWS_LIBRARIES})
   target_include_directories(recorder PRIVATE "${PROJECT_SOURCE_DIR}/tests")
   target_link_options(recorder PRIVATE -municode -s)
-  # As a program of a 64-bit Windows too, which this build's compiler can't make.
-  set(recorder64 "${PROJECT_BINARY_DIR}/recorder64.exe")
-  add_custom_command(
-    OUTPUT "${recorder64}"
-    COMMAND "${VANTOR_MINGW64_CXX}" -std=c++20 -Os -s -static -municode -mwindows -DUNICODE -DWIN32_LEAN_AND_MEAN
-            -DNOMINMAX "-I${PROJECT_SOURCE_DIR}/tests" ${VANTOR_RECORDER_SOURCES} -o "${recorder64}"
-    DEPENDS ${VANTOR_RECORDER_SOURCES} tests/desktop/Desktop.h
-    VERBATIM)
-  add_custom_target(recorder64 DEPENDS "${recorder64}")
+  # As a program of a 64-bit Windows too, which this build's compiler can't make. Only the test desktop needs it.
+  if(on_desktop)
+    set(recorder64 "${PROJECT_BINARY_DIR}/recorder64.exe")
+    add_custom_command(
+      OUTPUT "${recorder64}"
+      COMMAND "${VANTOR_MINGW64_CXX}" -std=c++20 -Os -s -static -municode -mwindows -DUNICODE -DWIN32_LEAN_AND_MEAN
+              -DNOMINMAX "-I${PROJECT_SOURCE_DIR}/tests" ${VANTOR_RECORDER_SOURCES} -o "${recorder64}"
+      DEPENDS ${VANTOR_RECORDER_SOURCES} tests/desktop/Desktop.h
+      VERBATIM)
+    add_custom_target(recorder64 DEPENDS "${recorder64}")
+  endif()
 endif()
 
 if(VANTOR_DESKTOP_SOURCES)
@@ -152,7 +154,11 @@ add_executable(flows ${VANTOR_FLOW_PLAYER} ${VANTOR_REAL_WORLD})
 target_link_libraries(flows PRIVATE vantor_core vantor_stack_guard ${VANTOR_WINDOWS_LIBRARIES})
 target_include_directories(flows PRIVATE "${PROJECT_SOURCE_DIR}/tests")
 target_link_options(flows PRIVATE ${VANTOR_PLAIN_LINK})
-add_dependencies(flows Vantor recorder)
+foreach(program IN ITEMS Vantor recorder recorder64)
+  if(TARGET ${program})
+    add_dependencies(flows ${program})
+  endif()
+endforeach()
 set(drives)
 foreach(drive IN ITEMS d:=hd e:=floppy f:=cdrom n:=network r:=cdrom:empty)
   list(APPEND drives --drive ${drive})

@@ -17,7 +17,7 @@ class Recorder {
  public:
   /// Puts the recorder into the folder as recorder.exe, and behind the documents whose names end in .vantortest.
   explicit Recorder(const Folder& folder) : folder_(folder) {
-    folder_.CopyProgram("recorder.exe", "recorder.exe");
+    folder_.CopyProgram(UnderWine() && On64Bit() ? "recorder64.exe" : "recorder.exe", "recorder.exe");
     folder_.Write(RecordName);
     SetEnvironmentVariableW(L"VANTOR_RECORD", Wide(folder_.Path(RecordName)).c_str());
     SetKey(ClassesRoot(), Classes + L".vantortest", L"", L"VantorTest");
@@ -33,10 +33,8 @@ class Recorder {
   /// Wine only: puts it in the place of Explorer and rundll32, and behind web and mail addresses.
   void ReplaceSystem() const {
     RemoveSystemPrograms();
-    const std::string built = On64Bit() ? "recorder64.exe" : "recorder.exe";
-    folder_.CopyProgram(built, built);
     for (const std::wstring& program : SystemPrograms()) {
-      std::filesystem::copy_file(Wide(folder_.Path(built)), program);
+      std::filesystem::copy_file(Wide(folder_.Path("recorder.exe")), program);
     }
     for (const std::wstring scheme : {L"http", L"https", L"mailto"}) {
       RegDeleteTreeW(HKEY_CLASSES_ROOT, (scheme + L"\\shell").c_str());  // how Wine opens them by itself
@@ -48,7 +46,8 @@ class Recorder {
   /// Wine only: takes Explorer, rundll32, the mail program and telephony away.
   static void RemoveSystemPrograms() {
     for (const std::wstring& program : SystemPrograms()) std::filesystem::remove(program);
-    SetKey(HKEY_CURRENT_USER, L"Software\\Wine\\DllOverrides", L"rundll32.exe", L"native");
+    for (const std::wstring program : {L"rundll32.exe", L"regedit.exe"})
+      SetKey(HKEY_CURRENT_USER, L"Software\\Wine\\DllOverrides", program, L"native");
     SetKey(HKEY_CURRENT_USER, L"Software\\Wine\\DllOverrides", L"tapi32", L"");
     RegDeleteTreeW(HKEY_CLASSES_ROOT, L"mailto");
   }
@@ -81,7 +80,7 @@ class Recorder {
   static std::vector<std::wstring> SystemPrograms() {
     wchar_t path[MAX_PATH];
     const std::wstring windows(path, GetWindowsDirectoryW(path, MAX_PATH));
-    return {windows + L"\\explorer.exe", windows + L"\\system32\\rundll32.exe"};
+    return {windows + L"\\explorer.exe", windows + (On64Bit() ? L"\\Sysnative" : L"\\system32") + L"\\rundll32.exe"};
   }
   [[nodiscard]] std::string Quoted() const { return '"' + folder_.Path("recorder.exe") + '"'; }
 

@@ -19,6 +19,8 @@ std::wstring OwnPath() {
   return {own, GetModuleFileNameW(nullptr, own, MAX_PATH)};
 }
 
+const char* SystemRecorderName() { return UnderWine() && On64Bit() ? "\\recorder64.exe" : "\\recorder.exe"; }
+
 /// The recorder, in the place of all that flows start.
 Recorder& SystemRecorder() {
   static const desktop::Folder folder;
@@ -27,6 +29,21 @@ Recorder& SystemRecorder() {
   (void)replaced;
   return recorder;
 }
+
+/// While one lives, Windows' own folders are those that 64-bit programs see.
+class TrueFolders {
+ public:
+  TrueFolders() : switched_(Wow64DisableWow64FsRedirection(&before_) != FALSE) {}
+  ~TrueFolders() {
+    if (switched_) Wow64RevertWow64FsRedirection(before_);
+  }
+  TrueFolders(const TrueFolders&) = delete;
+  TrueFolders& operator=(const TrueFolders&) = delete;
+
+ private:
+  void* before_ = nullptr;
+  bool switched_;
+};
 
 class RealWorld : public World {
  public:
@@ -68,12 +85,14 @@ class RealWorld : public World {
   }
 
   void Write(const Text& path, const std::string& bytes) override {
+    if (!UnderWine() && path.starts_with(Place(L"w"))) throw Skip("writes into the Windows folder");
+    const TrueFolders trueFolders;
     const Text folder = path.substr(0, path.rfind(L'\\'));
     if (folder.size() > 2) MakeFolder(folder);
     std::ofstream(std::filesystem::path(path), std::ios::binary) << bytes;
   }
   void MakeProgram(const Text& path) override {
-    Write(path, BytesOf(Narrow(OwnPath().substr(0, OwnPath().rfind(L'\\'))) + "\\recorder.exe"));
+    Write(path, BytesOf(Narrow(OwnPath().substr(0, OwnPath().rfind(L'\\'))) + SystemRecorderName()));
   }
   void MakeFolder(const Text& path) override { std::filesystem::create_directories(path); }
   void Remove(const Text& path) override {

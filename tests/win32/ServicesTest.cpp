@@ -106,6 +106,14 @@ TEST_CASE("a shortcut is saved for any letters and keys, and stands for its targ
   CHECK(ShortcutTarget(shortcut.TargetPath) == shortcut.TargetPath);
   DeleteFileW(shortcut.TargetPath.c_str());
   CHECK(ShortcutTarget(shortcut.File) == shortcut.File);
+  if (vantor::desktop::On64Bit() && UnderWine()) {
+    // What Windows' shell makes of "the folder of the programs" for a 32-bit program.
+    const std::wstring there = L"C:\\Program Files\\only64.exe";
+    std::ofstream(std::filesystem::path(there)).close();
+    shortcut.TargetPath = L"C:\\Program Files (x86)\\only64.exe";
+    CHECK(shell.SaveShortcut(shortcut));
+    CHECK(ShortcutTarget(shortcut.File) == there);
+  }
   const std::wstring broken = folder.Make(L"broken.lnk", "no shortcut");
   CHECK(ShortcutTarget(broken) == broken);
   shortcut.File = folder / L"none\\Vantor.lnk";
@@ -137,6 +145,18 @@ TEST_CASE("the service and Windows both tell where a process has its program") {
   CHECK(own->ExecutablePath == OwnPath());
   CHECK(processes.ImageName(GetCurrentProcessId()) == OwnPath());
   CHECK(processes.ImageName(3).empty());
+  if (vantor::desktop::On64Bit()) {
+    // By the name under which a 32-bit program, and nobody else, sees the system's folder.
+    const PROCESS_INFORMATION other = vantor::desktop::Start("C:\\windows\\Sysnative\\notepad.exe");
+    const std::wstring known = L"C:\\windows\\system32\\notepad.exe";
+    const auto all = processes.ManagedProcesses().value();
+    CHECK(std::any_of(all.begin(), all.end(), [&](const auto& process) {
+      return process.ProcessId == other.dwProcessId && process.ExecutablePath == known;
+    }));
+    CHECK(processes.ImageName(other.dwProcessId) == known);
+    TerminateProcess(other.hProcess, 0);
+    CloseHandle(other.hProcess);
+  }
 
   WindowsServices services(L"Vantor Test", [](std::wstring_view) {});
   auto& system = services.All().System;

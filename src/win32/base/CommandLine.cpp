@@ -8,6 +8,7 @@
 #include "text/Path.h"
 #include "win32/base/LongPath.h"
 #include "win32/base/SystemLibrary.h"
+#include "win32/base/TrueSystemFolder.h"
 
 namespace vantor::win32 {
 
@@ -25,7 +26,9 @@ std::wstring SearchFolders() {
 }
 
 std::wstring FindOnPath(const std::wstring& name) {
+  if (name.find(L':') != std::wstring::npos) return {};  // an address
   const std::wstring folders = SearchFolders();
+  const TrueSystemFolder folder;
   std::wstring found(MAX_PATH, L'\0');
   for (;;) {
     const DWORD length = SearchPathW(folders.c_str(), name.c_str(), ProgramEnding, static_cast<DWORD>(found.size()),

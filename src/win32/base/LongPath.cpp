@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include "win32/base/TrueSystemFolder.h"
+
 namespace vantor::win32 {
 
 namespace {
@@ -10,6 +12,7 @@ namespace {
 constexpr std::size_t LongestOrdinaryPath = MAX_PATH - 13;
 
 DWORD Attributes(std::wstring_view path) {
+  const TrueSystemFolder folder;
   return path.empty() ? INVALID_FILE_ATTRIBUTES : GetFileAttributesW(CallPath(path).c_str());
 }
 

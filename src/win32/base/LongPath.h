@@ -12,7 +12,8 @@ namespace vantor::win32 {
 /// The full form of a path, from the current folder; the path itself when it has none.
 [[nodiscard]] std::wstring FullPath(std::wstring_view path);
 
-/// Whether there is a file, or a folder, of this path. False for everything that can't be looked at.
+/// Whether there is a file, or a folder, of this path, as a 64-bit program would see it where Windows is one. False for
+/// everything that can't be looked at.
 [[nodiscard]] bool IsFile(std::wstring_view path);
 [[nodiscard]] bool IsFolder(std::wstring_view path);
 

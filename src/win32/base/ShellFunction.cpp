@@ -22,6 +22,14 @@ bool FitsShell(std::wstring_view target) {
   return !wine || target.size() <= LongestUnderWine;
 }
 
+std::optional<TrueSystemFolder> FolderForShell(std::wstring_view path) {
+  if (!IsRedirected(path)) return std::nullopt;
+  // What the shell itself loads as late as here: for kinds of documents, for the zone that a file is from, and for a
+  // program's start.
+  return std::optional<TrueSystemFolder>(std::in_place,
+                                         {L"shell32.dll", L"propsys.dll", L"urlmon.dll", L"apphelp.dll"});
+}
+
 bool OpenByShell(const std::wstring& file, const std::wstring& arguments) {
   if (!FitsShell(file) || !FitsShell(arguments)) return false;
   SHELLEXECUTEINFOW what = {};
@@ -30,7 +38,9 @@ bool OpenByShell(const std::wstring& file, const std::wstring& arguments) {
   what.lpFile = file.c_str();
   what.lpParameters = arguments.empty() ? nullptr : arguments.c_str();
   what.nShow = SW_SHOWNORMAL;
-  return ShellFunction<decltype(ShellExecuteExW)>("ShellExecuteExW")(&what) != FALSE;
+  auto* const open = ShellFunction<decltype(ShellExecuteExW)>("ShellExecuteExW");
+  const auto folder = FolderForShell(file);
+  return open(&what) != FALSE;
 }
 
 }  // namespace vantor::win32

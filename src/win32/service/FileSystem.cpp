@@ -2,6 +2,7 @@
 
 #include "text/Path.h"
 #include "win32/base/LongPath.h"
+#include "win32/base/TrueSystemFolder.h"
 #include "win32/service/FolderListing.h"
 
 namespace vantor::win32 {
@@ -159,6 +160,7 @@ bool FileSystem::Exists(std::wstring_view path, Test test, bool (*plainTest)(std
   if (path.size() >= MAX_PATH) return plainTest(path);
   try {
     const Object object = Make();
+    const TrueSystemFolder folder;
     VARIANT_BOOL exists = VARIANT_FALSE;
     Check((object.Get()->*test)(MakeComText(path).Get(), &exists));
     return exists != VARIANT_FALSE;

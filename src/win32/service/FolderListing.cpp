@@ -8,6 +8,7 @@
 
 #include "win32/base/Handle.h"
 #include "win32/base/LongPath.h"
+#include "win32/base/TrueSystemFolder.h"
 
 namespace vantor::win32 {
 
@@ -31,6 +32,12 @@ bool ComesBefore(const std::wstring& left, const std::wstring& right) {
   return order == CSTR_EQUAL ? left < right : order == CSTR_LESS_THAN;
 }
 
+FindHandle FindFirst(const std::wstring& search, WIN32_FIND_DATAW& entry) {
+  const TrueSystemFolder folder;
+  return FindHandle(FindFirstFileExW(search.c_str(), FindExInfoBasic, &entry, FindExSearchNameMatch, nullptr,
+                                     FIND_FIRST_EX_LARGE_FETCH));
+}
+
 }  // namespace
 
 std::vector<std::wstring> ListFolder(std::wstring_view folder, EntryKind kind, std::wstring_view pattern) {
@@ -41,8 +48,7 @@ std::vector<std::wstring> ListFolder(std::wstring_view folder, EntryKind kind, s
   search += L'*';
 
   WIN32_FIND_DATAW entry;
-  const FindHandle found(FindFirstFileExW(CallPath(search).c_str(), FindExInfoBasic, &entry, FindExSearchNameMatch,
-                                          nullptr, FIND_FIRST_EX_LARGE_FETCH));
+  const FindHandle found = FindFirst(CallPath(search), entry);
   if (!found) return names;
   const std::wstring fits(pattern);
   do {

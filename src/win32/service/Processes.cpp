@@ -12,6 +12,7 @@
 
 #include "win32/base/Com.h"
 #include "win32/base/Handle.h"
+#include "win32/base/TrueSystemFolder.h"
 
 namespace vantor::win32 {
 
@@ -54,7 +55,9 @@ std::vector<service::ManagedProcess> AskService() {
     const LateBound process(ComPointer<IDispatch>(std::exchange(next.pdispVal, nullptr)));
     next.vt = VT_EMPTY;
     const auto id = process.Get(L"ProcessId").Number();
-    if (id) processes.push_back({static_cast<std::uint32_t>(*id), process.Get(L"ExecutablePath").Text()});
+    auto path = process.Get(L"ExecutablePath").Text();
+    if (path) path = KnownPath(std::move(*path));
+    if (id) processes.push_back({static_cast<std::uint32_t>(*id), std::move(path)});
   }
 }
 
@@ -98,7 +101,7 @@ std::wstring Processes::ImageName(std::uint32_t processId) {
     auto length = static_cast<DWORD>(path.size());
     if (QueryFullProcessImageNameW(process.Get(), 0, path.data(), &length)) {
       path.resize(length);
-      return path;
+      return KnownPath(std::move(path));
     }
     constexpr std::size_t LongestPath = 32768;
     if (GetLastError() != ERROR_INSUFFICIENT_BUFFER || path.size() >= LongestPath) return {};

@@ -12,6 +12,7 @@
 #include "win32/base/LongPath.h"
 #include "win32/base/ShellFunction.h"
 #include "win32/base/SystemLibrary.h"
+#include "win32/base/TrueSystemFolder.h"
 
 namespace vantor::win32 {
 
@@ -27,6 +28,9 @@ DWORD Start(const std::wstring& program, std::wstring commandLine) {
   startup.dwFlags = STARTF_USESHOWWINDOW;
   startup.wShowWindow = SW_SHOWNORMAL;
   PROCESS_INFORMATION started = {};
+  // Not by a path that names "Sysnative": the program would take that for its own folder, which no 64-bit program sees.
+  // CreateProcess asks this library whether the program is a known troublemaker.
+  const TrueSystemFolder folder({L"apphelp.dll"});
   // Our own error mode, without Windows' boxes, is not for others.
   if (!CreateProcessW(CallPath(program).c_str(), commandLine.data(), nullptr, nullptr, FALSE, CREATE_DEFAULT_ERROR_MODE,
                       nullptr, nullptr, &startup, &started)) {

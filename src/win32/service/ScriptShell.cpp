@@ -15,6 +15,12 @@ namespace {
 
 constexpr short NormalWindow = 1;
 
+/// The file that a command line begins with, its variables replaced.
+std::wstring FileIn(std::wstring_view commandLine) {
+  const CommandLine parts = SplitCommandLine(commandLine);
+  return parts.Path.empty() ? parts.Program : parts.Path;
+}
+
 bool PlainRun(std::wstring_view target) {
   const CommandLine parts = SplitCommandLine(target);
   return OpenByShell(parts.Path.empty() ? parts.Program : parts.Path, parts.Arguments);
@@ -35,6 +41,7 @@ bool ScriptShell::Run(std::wstring_view target) {
   AllowSetForegroundWindow(ASFW_ANY);
   try {
     const LateBound shell = Make();
+    const auto folder = FolderForShell(On64BitWindows() ? FileIn(ExpandVariables(target)) : std::wstring());
     const Variant result = shell.Call(L"Run", {Variant(target), Variant(NormalWindow)});
     // Without waiting there is no exit code: anything but 0 is an error that was not raised as one.
     return result.Number().value_or(0) == 0;

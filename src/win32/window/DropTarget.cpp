@@ -11,6 +11,7 @@
 #include "win32/base/ComObject.h"
 #include "win32/base/LongPath.h"
 #include "win32/base/ShellFunction.h"
+#include "win32/base/TrueSystemFolder.h"
 
 namespace vantor::win32 {
 
@@ -147,7 +148,8 @@ std::wstring ShortcutTarget(const std::wstring& path) {
       link->GetPath(target, MAX_PATH, nullptr, 0) != S_OK) {
     return path;
   }
-  return IsFile(target) || IsFolder(target) ? target : path;
+  std::wstring known = KnownTarget(target);
+  return IsFile(known) || IsFolder(known) ? known : path;
 }
 
 DropRegistration::DropRegistration(HWND window, std::function<bool()> accepts,
