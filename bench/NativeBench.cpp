@@ -67,6 +67,7 @@ class RealFileSystem : public service::FileSystem {
   std::wstring ExtensionName(std::wstring_view /*path*/) override { return {}; }
   std::vector<service::Drive> Drives() override { return {}; }
   bool DriveReady(std::wstring_view /*path*/) override { return true; }
+  bool OthersMayWrite(std::wstring_view /*path*/) override { return true; }
   std::vector<std::wstring> Folders(std::wstring_view /*path*/) override { return {}; }
   std::vector<std::wstring> Files(std::wstring_view /*path*/, std::wstring_view /*pattern*/) override { return {}; }
 

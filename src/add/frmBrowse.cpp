@@ -64,7 +64,7 @@ void frmBrowse::Form_Load() {
   context_.Messages.Trap(L"Form_Load", [this] {
     LayOut();
     OptionBrowse[0].SetValue(true);
-    const bool remembered = !context_.Environment.RunMode && !context_.Settings.Folder.empty();
+    const bool remembered = !context_.Environment.RunMode && OnFixedDrive(context_.Services, context_.Settings.Folder);
     if (!remembered || !DirWork.SetPath(context_.Settings.Folder))
       (void)DirWork.SetPath(context_.Environment.ProgramFolder);
     NoteFolder();

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "text/Numbers.h"
+#include "text/Path.h"
 #include "text/SequentialFile.h"
 
 namespace vantor::list {
@@ -127,6 +128,10 @@ bool ListFiles::LoadFile(const Group& group, const GroupBoxes& boxes, std::wstri
 }
 
 bool ListFiles::TargetExists(const Group& group, std::wstring_view target) const {
+  target = text::WithoutLiteralMark(target);
+  // Other computers are called only when the user starts the item. One that is away for a moment would take half a
+  // minute to answer, and lose the item.
+  if (text::LeadsElsewhere(target)) return true;
   switch (group.Code) {
     case LaunchGroup::Web:
       return true;

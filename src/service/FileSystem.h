@@ -38,6 +38,10 @@ class FileSystem {
   /// The same for the files whose names fit `pattern` ("*.exe"; "*.*" is every name).
   [[nodiscard]] virtual std::vector<std::wstring> Files(std::wstring_view path, std::wstring_view pattern) = 0;
 
+  /// Whether an ordinary user other than this one may change, replace or take over the file or folder, or make
+  /// something in the folder. True when that can't be found out.
+  [[nodiscard]] virtual bool OthersMayWrite(std::wstring_view path) = 0;
+
   /// Between these two one object answers all calls instead of one a call. They may be nested.
   virtual void BeginMany() {}
   virtual void EndMany() {}

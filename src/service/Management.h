@@ -18,7 +18,7 @@ class Management {
   virtual ~Management() = default;
 
   /// The identity of disk C:; nothing when the service does not answer within 5 seconds. Throws
-  /// std::runtime_error when it can't be read, as where there is no such disk.
+  /// std::runtime_error when it can't be read, as where there is no such disk, or no such service.
   [[nodiscard]] virtual std::optional<DiskIdentity> ReadDiskIdentity() = 0;
 
  protected:

@@ -76,20 +76,22 @@ void ActiveStart::PrepareData() {
   state::Environment& environment = program_.Environment;
   SetDataFiles(environment);
   program_.ListFiles.Restore();
+  std::wstring& userName = program_.MessageState.UserName;
   if (!environment.RunMode) {
     PrepareDataFolder(program_.Services, environment);
+    userName = LoadUserName(program_.Services, environment);
     return;
   }
   if (const message::MessageKey refusal = PrepareMedia(program_.Services, environment); !refusal.empty()) {
     Stop(refusal);
     return;
   }
+  userName = LoadUserName(program_.Services, environment);  // what comes next may have a question
   list::IdentifyMachine(program_.Services, program_.Messages, environment);
 }
 
 void ActiveStart::AskForName() {
   message::MessageState& state = program_.MessageState;
-  state.UserName = LoadUserName(program_.Services, program_.Environment);
   if (!state.UserName.empty()) return;
   state.CurrentMessageKey = L"MessageGetUserName";
   program_.Messages.ShowUserMessage();

@@ -30,19 +30,24 @@ std::vector<std::wstring> MakerFolders(const service::Language& language, const 
 std::vector<state::Companion> FindCompanions(const service::Services& services, const state::Environment& environment) {
   std::vector<state::Companion> companions;
   const service::ManyFileCalls many(services.FileSystem);
-  const auto take = [&](const std::wstring& name, const std::wstring& folder) {
+  // A medium is one person's own, and knows no users. On a disk somebody else may have put a program there.
+  const auto trusted = [&](const std::wstring& place) {
+    return environment.RunMode || !services.FileSystem.OthersMayWrite(place);
+  };
+  const auto take = [&](const std::wstring& name, const std::wstring& holder, const std::wstring& folder) {
     list::NameMatch same(services.Language, name);
     const bool listed = std::any_of(companions.begin(), companions.end(),
                                     [&](const state::Companion& companion) { return same.Equals(companion.Name); });
     // This program is in such a folder too.
     if (listed || same.Equals(state::ProductName)) return;
     std::wstring path = folder + name + L".exe";
-    if (services.FileSystem.FileExists(path)) companions.push_back({name, std::move(path)});
+    if (!services.FileSystem.FileExists(path)) return;
+    if (trusted(holder) && trusted(folder) && trusted(path)) companions.push_back({name, std::move(path)});
   };
   for (const std::wstring& maker : MakerFolders(services.Language, environment)) {
-    for (const std::wstring& name : services.FileSystem.Folders(maker)) take(name, maker + name + L'\\');
+    for (const std::wstring& name : services.FileSystem.Folders(maker)) take(name, maker, maker + name + L'\\');
   }
-  take(std::wstring(state::ProductName) + L"Help", environment.ProgramFolder);
+  take(std::wstring(state::ProductName) + L"Help", environment.ProgramFolder, environment.ProgramFolder);
   return companions;
 }
 

@@ -8,6 +8,7 @@ namespace vantor::start {
 
 std::wstring GetDriveTypeText(service::FileSystem& files, std::wstring_view drive) {
   static constexpr std::wstring_view Texts[] = {L"Unknown", L"Removable", L"Fixed", L"Remote", L"CDRom", L"RAMDisk"};
+  if (text::LeadsElsewhere(drive)) return L"Remote";
   const int type = files.DriveType(drive).value_or(-1);
   return std::wstring(type >= 0 && type < static_cast<int>(std::size(Texts)) ? Texts[type] : L"");
 }

@@ -11,7 +11,7 @@
 namespace vantor::start {
 
 /// The class of a drive, given by its root: "Unknown", "Removable", "Fixed", "Remote", "CDRom" or "RAMDisk"; ""
-/// for any other type and for a drive that can't be examined.
+/// for any other type and for a drive that can't be examined. What has no letter is "Remote" without a question.
 [[nodiscard]] std::wstring GetDriveTypeText(service::FileSystem& files, std::wstring_view drive);
 
 /// Finds the Windows folder, its upper-case form and its drive letter. All stay "" when the system does not tell

@@ -10,4 +10,15 @@ std::wstring_view DriveName(std::wstring_view path) {
   return path.substr(0, path.find(L'\\', share + 1));
 }
 
+bool LeadsElsewhere(std::wstring_view path) {
+  const auto isSlash = [](wchar_t c) { return c == L'\\' || c == L'/'; };
+  return (path.size() >= 2 && isSlash(path[0]) && isSlash(path[1])) || path.starts_with(L"\\??\\");
+}
+
+std::wstring_view WithoutLiteralMark(std::wstring_view path) {
+  constexpr std::wstring_view Mark = L"\\\\?\\";
+  const bool lettered = path.starts_with(Mark) && path.substr(Mark.size()).find(L":\\") == 1;
+  return path.substr(lettered ? Mark.size() : 0);
+}
+
 }  // namespace vantor::text

@@ -165,5 +165,17 @@ TEST_CASE("the computer is known again by its disk C:, and what can't be read is
   }
 }
 
+TEST_CASE("the box begins in the folder shown last if that is there, on a fixed drive; a share is not asked") {
+  for (const auto* folder : {L"C:\\Gone", L"N:\\Work", L"E:\\Work", L"D:Work", L"\\\\host\\share", L""}) {
+    test::TestProgram next;
+    next.Program.Settings.Folder = folder;
+    next.Program.Environment.ProgramFolder = L"C:\\Vantor\\";
+    if (folder[0] == L'\\') next.Computer.Let("DriveType", Outcome::Throws);
+    next.Program.frmBrowse.Load();
+    CHECK(next.Program.frmBrowse.DirWork.Path() == L"C:\\Vantor");
+    CHECK(next.Told.empty());
+  }
+}
+
 }  // namespace
 }  // namespace vantor::add

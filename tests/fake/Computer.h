@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <map>
 #include <stdexcept>
@@ -53,6 +54,7 @@ class Computer : public service::DataFiles,
   service::DiskIdentity Identity{3, L"1A2B3C4D", 80023715840.0};
   Values Specials{{L"MyDocuments", L"C:\\Documents"}, {L"SendTo", L"C:\\Send"}, {L"Desktop", L"C:\\Work"}};
   Values Registry;
+  Texts Shared;               // the files and folders that others may write to
   bool Administrator = true;  // who may write the machine's values
   int CallError = -9;         // of a telephone call that fails
   Texts Asked;  // "run …", "shell …", "open …", "mail …", "call …", "write …", "delete …", "shortcut …", "title …"
@@ -92,7 +94,6 @@ class Computer : public service::DataFiles,
 
   bool Available() override { return !Fails(__func__); }
   std::optional<int> DriveType(Text root) override {
-    if (root.starts_with(L"\\\\")) return 3;
     if (Fails(__func__) || Disk.DriveOf(root) == nullptr) return std::nullopt;
     return Disk.DriveOf(root)->Type;
   }
@@ -113,6 +114,9 @@ class Computer : public service::DataFiles,
   Texts Folders(Text path) override { return Fails(__func__) ? Texts() : Names(path, true, L""); }
   Texts Files(Text path, Text pattern) override {
     return Fails(__func__) ? Texts() : Names(path, false, pattern == L"*.*" ? L"" : Lower(pattern.substr(1)));
+  }
+  bool OthersMayWrite(Text path) override {
+    return Fails(__func__) || std::count(Shared.begin(), Shared.end(), path) > 0;
   }
   void BeginMany() override { ++Held; }
   void EndMany() override { --Held; }

@@ -93,6 +93,27 @@ TEST_CASE("files cut at any byte give the items before the cut, whatever the upp
   }
 }
 
+TEST_CASE("loading calls no other computer, and keeps what may be on one as it is") {
+  fake::Computer computer;
+  std::string kept;
+  for (const auto* target : {R"(\\host\a.exe)", R"(//host/a.exe)", R"(/\host\a.exe)", R"(\\?\UNC\host\a.exe)",
+                             R"(\??\UNC\host\a.exe)", R"(\\.\C:\a.exe)", R"(\\?\C:\Work\Tool.EXE)"}) {
+    kept += std::string("\"x\",\"") + target + "\"\r\n";
+  }
+  computer.Disk.AddFile(DataFile(L"ListProg"), kept + R"("gone","\\?\C:\gone.exe")");
+  int asked = 0;
+  computer.Decide = [&asked](std::string_view call) {
+    asked += call == "FileExists" ? 1 : 0;
+    return fake::Outcome::Works;
+  };
+  StoredList list(computer);
+  list.Settings.ProgUpper = 7;
+  list.Page.Load();
+  CHECK(asked == 2);
+  list.Save();
+  CHECK(computer.Disk.Bytes(DataFile(L"ListProg")) == kept);
+}
+
 TEST_CASE("four groups of 32,767 items come back whole, and the last of them is completed") {
   constexpr int Count = 32767;
   test::TestProgram program;

@@ -69,6 +69,17 @@ TEST_CASE("the maker's programs are found beside this one and in the drive's roo
     }
     CHECK(paths == row.Expected);
   }
+  // Where somebody else may have put it there, it is taken from a medium only.
+  for (const auto* shared : {L"C:\\Orbel\\", L"C:\\Orbel\\Draw\\", L"C:\\Orbel\\Draw\\Draw.exe"}) {
+    TestProgram program;
+    program.Computer.Disk.AddFile(L"C:\\Orbel\\Draw\\Draw.exe");
+    program.Computer.Shared = {shared};
+    program.Program.frmMove.Load();
+    for (const bool onMedium : {false, true}) {
+      program.Program.Environment.RunMode = onMedium;
+      CHECK(FindCompanions(program.Computer.Services(), program.Program.Environment).empty() != onMedium);
+    }
+  }
 }
 
 TEST_CASE("the program refuses where it can't run, before anything is loaded or written") {
@@ -97,6 +108,15 @@ TEST_CASE("the program refuses where it can't run, before anything is loaded or 
     CHECK(program.Told.at(0).starts_with(c.Text));
     CHECK_FALSE((program.Main.Loaded() || program.Choose.Loaded()));
     CHECK(program.Computer.Disk.Written.empty());
+  }
+  // A share is known without a question to it; and what has no letter is none of this computer's drives.
+  for (const auto* home : {L"\\\\server\\share\\Vantor", L"\\\\?\\Volume{1}\\Vantor"}) {
+    TestProgram program;
+    program.Computer.Home = home;
+    program.Computer.Let("DriveType", fake::Outcome::Throws);
+    program.Expect();
+    CHECK_FALSE(program.Start());
+    CHECK(program.Told.at(0).starts_with(L"The Program encountered a problem"));
   }
   // Inside the Windows folder, or with none known, it goes on.
   for (const auto* windows : {L"c:\\vantor", L"C:\\VANTOR\\", L"C:\\Van", L""}) {
@@ -175,9 +195,12 @@ TEST_CASE("a medium with lists needs its own settings, and one without options s
 
   OnMedium own;
   own.Computer.Disk.AddFile(L"E:\\Work\\Vantor\\MediaSet.Orbel", "\"Vantor Media 1\"\r\n\"Ready\"\r\n\"Ada\"\r\n");
+  own.Computer.Disk.AddFile(L"E:\\Work\\Vantor\\Machine.Orbel");
+  own.Expect([](message::frmMessage& dialog) { CHECK(dialog.LabelHead.Caption() == L"Ada"); });
   own.Expect();
   REQUIRE(own.Start());
-  CHECK(own.Told.at(0).starts_with(L"If you missed it"));
+  CHECK(own.Told.at(0).find(L"Bug-Vantor-DeclareOwnerOnMedia") != std::wstring::npos);
+  CHECK(own.Told.at(1).starts_with(L"If you missed it"));
   CHECK(own.Computer.Disk.Bytes(L"E:\\Work\\Vantor\\Set.Orbel") == FirstSettings);
 }
 

@@ -2,6 +2,10 @@
 // desktop: --root win64 --drive e:=floppy --drive j:=hd:unreadable
 #include <doctest/doctest.h>
 
+#include <windows.h>
+
+#include <sddl.h>
+
 #include <algorithm>
 
 #include "TestFolder.h"
@@ -34,6 +38,23 @@ TEST_CASE("drives are listed by their letters, and what is no drive, or can't be
   const auto drives = disk.Files.Drives();
   CHECK(std::ranges::is_sorted(drives, {}, [](const auto& drive) { return drive.Letter; }));
   CHECK(std::ranges::any_of(drives, [](const auto& drive) { return drive.Letter == L'C' && drive.Type == 2; }));
+}
+
+TEST_CASE("a place is others' to write to when its access list says so, or can't be read") {
+  Disk disk;
+  const std::wstring file = disk.Folder.Make(L"a.exe");
+  const std::pair<const wchar_t*, bool> rows[] = {{L"D:P(A;;FA;;;SY)(A;;FA;;;BA)(A;;FRFX;;;WD)", false},
+                                                  {L"D:P(A;;FA;;;SY)(A;;FA;;;WD)", true},
+                                                  {L"D:P(A;;FA;;;SY)(A;;FRFW;;;WD)", true}};
+  for (const auto& [list, shared] : rows) {
+    PSECURITY_DESCRIPTOR descriptor = nullptr;
+    REQUIRE(ConvertStringSecurityDescriptorToSecurityDescriptorW(list, SDDL_REVISION_1, &descriptor, nullptr));
+    CHECK(SetFileSecurityW(file.c_str(), DACL_SECURITY_INFORMATION, descriptor));
+    LocalFree(descriptor);
+    CHECK(disk.Files.OthersMayWrite(file) == shared);
+  }
+  CHECK_FALSE(disk.Files.OthersMayWrite(disk.Folder.Path));
+  CHECK(disk.Files.OthersMayWrite(disk.Folder / L"none"));
 }
 
 TEST_CASE("files and folders are told apart, at any length of the path") {

@@ -3,6 +3,7 @@
 #include "text/Path.h"
 #include "win32/base/LongPath.h"
 #include "win32/base/TrueSystemFolder.h"
+#include "win32/service/AccessList.h"
 #include "win32/service/FolderListing.h"
 
 namespace vantor::win32 {
@@ -121,6 +122,8 @@ std::vector<std::wstring> FileSystem::Folders(std::wstring_view path) {
 std::vector<std::wstring> FileSystem::Files(std::wstring_view path, std::wstring_view pattern) {
   return ListFolder(path, EntryKind::Files, pattern);
 }
+
+bool FileSystem::OthersMayWrite(std::wstring_view path) { return AccessListLetsOthersWrite(path); }
 
 void FileSystem::EndMany() {
   if (--many_ > 0) return;

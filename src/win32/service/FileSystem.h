@@ -27,6 +27,8 @@ class FileSystem final : public service::FileSystem {
   [[nodiscard]] std::vector<std::wstring> Folders(std::wstring_view path) override;
   [[nodiscard]] std::vector<std::wstring> Files(std::wstring_view path, std::wstring_view pattern) override;
 
+  [[nodiscard]] bool OthersMayWrite(std::wstring_view path) override;
+
   void BeginMany() override { ++many_; }
   void EndMany() override;
 

@@ -1,13 +1,22 @@
 #include "win32/service/Instance.h"
 
 #include <algorithm>
+#include <functional>
 #include <vector>
 
-#include "win32/service/Language.h"
+#include "win32/base/ApplicationMark.h"
+#include "win32/service/ProcessImage.h"
 
 namespace vantor::win32 {
 
 namespace {
+
+/// A number for this program's file: one that lies elsewhere is another program, with lists of its own.
+std::wstring FileNumber() {
+  std::wstring path = ImageName(GetCurrentProcessId());
+  CharLowerBuffW(path.data(), static_cast<DWORD>(path.size()));
+  return std::to_wstring(std::hash<std::wstring>{}(path));
+}
 
 std::wstring UserName() {
   wchar_t name[257] = L"";  // 256 is the longest user name there can be
@@ -55,6 +64,17 @@ HWND BarOf(HWND application) {
   return ShownWindowNear(application);
 }
 
+/// The application window of a copy of this program; null when there is none. Any program may make a window of this
+/// class and title.
+HWND FindApplication(std::wstring_view title) {
+  const std::wstring wanted(title);
+  HWND window = nullptr;
+  do {
+    window = FindWindowExW(nullptr, window, ApplicationClass, wanted.c_str());
+  } while (window != nullptr && (GetPropW(window, ApplicationMark) == nullptr || !IsCopy(ProcessOf(window))));
+  return window;
+}
+
 }  // namespace
 
 Instance::~Instance() {
@@ -64,11 +84,11 @@ Instance::~Instance() {
 bool Instance::OtherRuns() {
   if (owned_) return false;
   if (!mutex_) {
-    const std::wstring name = L"Local\\" + name_ + L" " + UserName();
+    const std::wstring name = L"Local\\" + name_ + L" " + FileNumber() + L" " + UserName();
     mutex_.Reset(CreateMutexW(nullptr, FALSE, name.c_str()));
     // A copy with an administrator's rights lets others wait only.
     if (!mutex_) mutex_.Reset(OpenMutexW(SYNCHRONIZE, FALSE, name.c_str()));
-    if (!mutex_) return false;
+    if (!mutex_) return true;  // somebody took the name, and it need not be a copy
   }
   const DWORD waited = WaitForSingleObject(mutex_.Get(), 0);
   owned_ = waited == WAIT_OBJECT_0 || waited == WAIT_ABANDONED;
@@ -76,7 +96,7 @@ bool Instance::OtherRuns() {
 }
 
 Activation ActivateBar(std::wstring_view title) {
-  const HWND application = FindWindowA("ThunderRT6Main", Language().ToCodePage(title).value_or("").c_str());
+  const HWND application = FindApplication(title);
   if (application == nullptr) return Activation::NoWindow;
   const HWND bar = BarOf(application);
   if (bar == nullptr) return Activation::NoBar;

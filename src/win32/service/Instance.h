@@ -7,7 +7,7 @@
 
 namespace vantor::win32 {
 
-/// The one copy of a program that runs for a user in a session.
+/// The one copy of a program's file that runs for a user in a session.
 class Instance {
  public:
   /// `name` tells the program from others; there may be no backslash in it.
@@ -16,7 +16,8 @@ class Instance {
   Instance(const Instance&) = delete;
   Instance& operator=(const Instance&) = delete;
 
-  /// Whether another copy runs. As soon as this is false this copy is the one that others see.
+  /// Whether another copy seems to run: some process holds the name by which copies know each other. As soon as this is
+  /// false this copy is the one that others see.
   [[nodiscard]] bool OtherRuns();
 
  private:
@@ -25,7 +26,8 @@ class Instance {
   bool owned_ = false;
 };
 
-/// Whether a bar was brought to the front; there may be no application window of the title, or it has no bar yet.
+/// Whether a bar was brought to the front; there may be no application window of the title, or it has no bar yet. Only
+/// a window counts that has the program's mark and whose process runs the same file.
 enum class Activation { NoWindow, NoBar, Done };
 /// Restores and brings to the front the bar that stands before the application window of this title.
 [[nodiscard]] Activation ActivateBar(std::wstring_view title);

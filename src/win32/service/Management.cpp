@@ -2,7 +2,6 @@
 
 #include <windows.h>
 
-#include <cwchar>
 #include <memory>
 #include <stdexcept>
 
@@ -19,16 +18,9 @@ struct Question {
   bool Refused = false;
 };
 
-/// Whether the failure of the moniker is the service's own word, such as that there is no such disk.
-bool IsAnswer(HRESULT result) {
-  constexpr unsigned Family = 0x80041000;  // WBEM_E_FAILED and those after it
-  return (static_cast<unsigned>(result) & 0xFFFFF000) == Family;
-}
-
 LateBound SystemDisk() {
   ComPointer<IDispatch> disk;
-  const HRESULT found = CoGetObject(L"WinMgmts:Win32_LogicalDisk='C:'", nullptr, IID_IDispatch, disk.PutVoid());
-  if (FAILED(found)) throw ComError(!IsAnswer(found));
+  Check(CoGetObject(L"WinMgmts:Win32_LogicalDisk='C:'", nullptr, IID_IDispatch, disk.PutVoid()));
   return LateBound(std::move(disk));
 }
 
@@ -45,28 +37,11 @@ std::optional<service::DiskIdentity> AskService() {
   return service::DiskIdentity{*type, *serial, *bytes};
 }
 
-/// The same three values from Windows itself, in the service's spelling.
-std::optional<service::DiskIdentity> AskWindows() {
-  constexpr const wchar_t* Root = L"C:\\";
-  DWORD serial = 0;
-  ULARGE_INTEGER size = {};
-  if (!GetVolumeInformationW(Root, nullptr, 0, &serial, nullptr, nullptr, nullptr, 0) ||
-      !GetDiskFreeSpaceExW(Root, nullptr, &size, nullptr))
-    return std::nullopt;
-  wchar_t digits[16];
-  wsprintfW(digits, L"%08lX", serial);  // std::swprintf would add 20 KB
-  // Both number the drive types alike from 2 on, and 0 is unknown to both.
-  return service::DiskIdentity{static_cast<int>(GetDriveTypeW(Root)), digits, static_cast<double>(size.QuadPart)};
-}
-
 void Ask(Question& question) noexcept {
   try {
     Apartment apartment(COINIT_MULTITHREADED);
     apartment.Enter();
     question.Answer = AskService();
-  } catch (const ComError& error) {
-    if (error.Lacking()) question.Answer = AskWindows();
-    question.Refused = !question.Answer;
   } catch (...) {
     question.Refused = true;
   }

@@ -7,7 +7,8 @@
 
 namespace vantor::win32 {
 
-/// Asks the management service by its moniker, and Windows itself where there is no such service.
+/// Asks the management service by its moniker. Nobody stands in for it: what Windows tells of a disk is not what it
+/// tells, and the computer would be taken for another.
 class Management final : public service::Management {
  public:
   [[nodiscard]] std::optional<service::DiskIdentity> ReadDiskIdentity() override;

@@ -11,8 +11,8 @@
 #include <utility>
 
 #include "win32/base/Com.h"
-#include "win32/base/Handle.h"
 #include "win32/base/TrueSystemFolder.h"
+#include "win32/service/ProcessImage.h"
 
 namespace vantor::win32 {
 
@@ -93,20 +93,6 @@ std::optional<std::vector<service::ManagedProcess>> Processes::ManagedProcesses(
   return std::move(question->Answer);
 }
 
-std::wstring Processes::ImageName(std::uint32_t processId) {
-  const KernelHandle process(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, processId));
-  if (!process) return {};
-  std::wstring path(MAX_PATH, L'\0');
-  for (;;) {
-    auto length = static_cast<DWORD>(path.size());
-    if (QueryFullProcessImageNameW(process.Get(), 0, path.data(), &length)) {
-      path.resize(length);
-      return KnownPath(std::move(path));
-    }
-    constexpr std::size_t LongestPath = 32768;
-    if (GetLastError() != ERROR_INSUFFICIENT_BUFFER || path.size() >= LongestPath) return {};
-    path.resize(LongestPath);
-  }
-}
+std::wstring Processes::ImageName(std::uint32_t processId) { return KnownPath(win32::ImageName(processId)); }
 
 }  // namespace vantor::win32

@@ -2,6 +2,9 @@
 
 #include <windows.h>
 
+#include "text/Path.h"
+#include "win32/service/ProcessImage.h"
+
 namespace vantor::win32 {
 
 std::wstring System::WindowsDirectory() {
@@ -26,8 +29,8 @@ std::wstring System::ProgramFolder() {
   // Started by such a path, the program is told so; everything else of it wants the usual form.
   if (file.starts_with(L"\\\\?\\UNC\\"))
     file.erase(2, 6);
-  else if (file.starts_with(L"\\\\?\\"))
-    file.erase(0, 4);
+  else
+    file.erase(0, file.size() - text::WithoutLiteralMark(file).size());
   const std::size_t end = file.rfind(L'\\');
   const bool root = end == 2 && file[1] == L':';
   return file.substr(0, root ? end + 1 : end);
@@ -41,8 +44,9 @@ bool System::ActivateInstance(std::wstring_view title) {
     const Activation activation = ActivateBar(title);
     if (activation == Activation::Done) return true;
     const bool waited = GetTickCount() - begin >= Patience;
-    // It may be ending instead of starting; then this copy takes its place.
-    if (waited || !instance_.OtherRuns()) return activation == Activation::NoBar && waited;
+    // It may be ending instead of starting; then this copy takes its place. So it does where the name is held by what
+    // is no copy at all.
+    if (waited || !instance_.OtherRuns() || !CopyRuns()) return activation == Activation::NoBar && waited;
     Sleep(Pause);
   }
 }

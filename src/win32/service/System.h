@@ -20,7 +20,7 @@ class System final : public service::System {
   [[nodiscard]] std::wstring ProgramFolder() override;
   [[nodiscard]] bool PreviousInstance() override { return instance_.OtherRuns(); }
   void SetTitle(std::wstring_view title) override { setTitle_(title); }
-  /// Waits up to 3 seconds for a copy that is just starting.
+  /// Waits up to 3 seconds for a copy that is just starting, if there is one.
   [[nodiscard]] bool ActivateInstance(std::wstring_view title) override;
 
  private:

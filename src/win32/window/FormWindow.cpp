@@ -289,9 +289,30 @@ void FormWindow::Refresh() {
   RedrawWindow(Hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
-void FormWindow::OnDpiChanged(int dpi, const RECT& suggested) {
+/// Where the top left corner goes when the resolution changes. While the user drags the form, what is under the cursor
+/// stays there; and the form's middle stays on the screen that it came to, or it would be sent back to the other.
+POINT FormWindow::CornerAt(int dpi) const {
+  RECT place;
+  GetWindowRect(Hwnd(), &place);
+  POINT fixed{place.left, place.top};
+  GUITHREADINFO thread{};
+  thread.cbSize = sizeof thread;
+  if (GetGUIThreadInfo(GetCurrentThreadId(), &thread) && (thread.flags & GUI_INMOVESIZE) != 0) GetCursorPos(&fixed);
+  MONITORINFO screen{};
+  screen.cbSize = sizeof screen;
+  GetMonitorInfoW(MonitorFromWindow(Hwnd(), MONITOR_DEFAULTTONEAREST), &screen);
+  const auto corner = [&](LONG at, LONG from, LONG to, LONG screenFrom, LONG screenTo) {
+    const LONG half = MulDiv(to - from, dpi, screenDpi_) / 2;
+    return std::clamp(at - MulDiv(at - from, dpi, screenDpi_), screenFrom - half, screenTo - half - 1);
+  };
+  return {corner(fixed.x, place.left, place.right, screen.rcMonitor.left, screen.rcMonitor.right),
+          corner(fixed.y, place.top, place.bottom, screen.rcMonitor.top, screen.rcMonitor.bottom)};
+}
+
+void FormWindow::OnDpiChanged(int dpi) {
+  const POINT corner = CornerAt(dpi);
   placing_ = true;
-  SetWindowPos(Hwnd(), nullptr, suggested.left, suggested.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  SetWindowPos(Hwnd(), nullptr, corner.x, corner.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   placing_ = false;
   TakeScreenDpi(dpi);
 }
@@ -462,7 +483,7 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       ReportPlace();
       break;  // WM_SIZE comes of it
     case WM_DPICHANGED:
-      OnDpiChanged(Screens::WithTextScale(HIWORD(wParam)), *reinterpret_cast<const RECT*>(lParam));
+      OnDpiChanged(Screens::WithTextScale(HIWORD(wParam)));  // not where it says: any program may send an address
       return 0;
     case WM_SYSCOMMAND:
       // F10 and Alt would begin a menu that the form doesn't have; Alt and Space open the system's.

@@ -95,7 +95,8 @@ class FormWindow final : public form::FormWindow {
   bool OnKey(const MSG& message);
   void OnSize(WPARAM kind);
   void GiveFocus() const;
-  void OnDpiChanged(int dpi, const RECT& suggested);
+  [[nodiscard]] POINT CornerAt(int dpi) const;
+  void OnDpiChanged(int dpi);
   /// The form is on a screen of this resolution now.
   void TakeScreenDpi(int dpi);
   /// Lays all out for the resolution that the form is to be shown at, if that is another one.

@@ -5,16 +5,10 @@
 #include <utility>
 
 #include "form/Timer.h"
+#include "win32/base/ApplicationMark.h"
 #include "win32/draw/Screens.h"
 
 namespace vantor::win32 {
-
-namespace {
-
-/// The class that the run time of such programs gives its hidden window; other copies look for it.
-constexpr wchar_t ApplicationClass[] = L"ThunderRT6Main";
-
-}  // namespace
 
 Desktop::Desktop() {
   Screens::DeclareAwareness();
@@ -26,10 +20,12 @@ Desktop::Desktop() {
   application_.Reset(CreateWindowExW(0, ApplicationClass, L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr,
                                      description.hInstance, nullptr));
   SetWindowLongPtrW(application_.Get(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  SetPropW(application_.Get(), ApplicationMark, application_.Get());
 }
 
 Desktop::~Desktop() {
   discarded_.clear();
+  RemovePropW(application_.Get(), ApplicationMark);
   SetWindowLongPtrW(application_.Get(), GWLP_USERDATA, 0);
 }
 

@@ -1,0 +1,61 @@
+#include "win32/service/ProcessImage.h"
+
+#include <tlhelp32.h>
+
+#include "win32/base/Handle.h"
+
+namespace vantor::win32 {
+
+namespace {
+
+bool SameName(std::wstring_view left, std::wstring_view right) {
+  return CompareStringOrdinal(left.data(), static_cast<int>(left.size()), right.data(), static_cast<int>(right.size()),
+                              TRUE) == CSTR_EQUAL;
+}
+
+bool InThisSession(DWORD processId) {
+  DWORD theirs = 0;
+  DWORD ours = 0;
+  return ProcessIdToSessionId(processId, &theirs) && ProcessIdToSessionId(GetCurrentProcessId(), &ours) &&
+         theirs == ours;
+}
+
+}  // namespace
+
+std::wstring ImageName(DWORD processId) {
+  const KernelHandle process(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, processId));
+  if (!process) return {};
+  std::wstring path(MAX_PATH, L'\0');
+  for (;;) {
+    auto length = static_cast<DWORD>(path.size());
+    if (QueryFullProcessImageNameW(process.Get(), 0, path.data(), &length)) {
+      path.resize(length);
+      return path;
+    }
+    constexpr std::size_t LongestPath = 32768;
+    if (GetLastError() != ERROR_INSUFFICIENT_BUFFER || path.size() >= LongestPath) return {};
+    path.resize(LongestPath);
+  }
+}
+
+bool IsCopy(DWORD processId) {
+  if (processId == GetCurrentProcessId()) return false;
+  const std::wstring theirs = ImageName(processId);
+  return !theirs.empty() && SameName(theirs, ImageName(GetCurrentProcessId()));
+}
+
+bool CopyRuns() {
+  const FileHandle snapshot(CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0));
+  const std::wstring own = ImageName(GetCurrentProcessId());
+  const std::wstring_view name = std::wstring_view(own).substr(own.rfind(L'\\') + 1);
+  PROCESSENTRY32W process = {};
+  process.dwSize = sizeof process;
+  for (BOOL more = Process32FirstW(snapshot.Get(), &process); more; more = Process32NextW(snapshot.Get(), &process)) {
+    // The name comes with the list; the path has to be asked for.
+    const DWORD id = process.th32ProcessID;
+    if (SameName(process.szExeFile, name) && InThisSession(id) && IsCopy(id)) return true;
+  }
+  return false;
+}
+
+}  // namespace vantor::win32
