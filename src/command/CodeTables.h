@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "command/CommandState.h"
+#include "message/Messages.h"
 #include "product/Product.h"
 
 namespace vantor::command {
@@ -51,7 +52,7 @@ inline constexpr std::array<ControlPanelWord, 22> ControlPanelNames{{
 /// The maker's addresses, and by the same index the subjects of mails to them.
 inline constexpr std::array MailAddresses{product::BugReportAddress, product::SuggestionsAddress,
                                           product::SupportAddress};
-inline constexpr std::array<std::wstring_view, 3> MailSubjects{L"Vantor - Found Bug", L"Vantor - Suggestions",
+inline constexpr std::array<std::wstring_view, 3> MailSubjects{message::BugMailSubject, L"Vantor - Suggestions",
                                                                L"Vantor - Need Support"};
 
 /// Part of the start: no panel is open and nothing is completed. The tables themselves are constants.

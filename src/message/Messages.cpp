@@ -151,7 +151,7 @@ void Messages::LeaveMessage() {
 void Messages::SendBugReport(const MessageKey& key) {
   if (!Hooks.SendMailTo) return;
   const std::wstring address = std::wstring(L"mailto:") += product::BugReportAddress;
-  ShowList(Hooks.SendMailTo(address, L"Vantor - Found Bug", key));
+  ShowList(Hooks.SendMailTo(address, BugMailSubject, key));
 }
 
 }  // namespace vantor::message

@@ -13,6 +13,8 @@
 
 namespace vantor::message {
 
+inline constexpr std::wstring_view BugMailSubject = L"Vantor - Found Bug";
+
 /// What a message makes happen elsewhere. Whoever owns those things fills it in; an empty one does nothing.
 struct MessageHooks {
   /// A message opens: stop the bar's on-top timer and take the bar out of the topmost band, if it runs.

@@ -15,6 +15,7 @@ const std::pair<WORD, std::string> Panels[] = {{VK_F2, "Add To List"}, {VK_F3, "
 
 TEST_CASE("the open panel follows the bar, and closes when the bar is minimised as from its taskbar button") {
   const Folder folder;
+  folder.WriteSettings({});
   const Program program(folder);
   HWND const bar = program.AwaitBar();
   const Panel help(program, VK_F7, "Help");
