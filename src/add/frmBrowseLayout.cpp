@@ -69,6 +69,7 @@ void frmBrowse::Dress() {
   TextAddName.SetAccessibleName(L"Type a Launch Name");
   DressButton(CommandAddOK, LabelAddOK, L"Add");
   FrameAddedInfo.SetCaption(L"Program Added To List :: Click To Hide");
+  FrameAddedInfo.SetBanner(true);
   FrameAddedInfo.SetBackColor(form::Color::LineBlue);
   FrameAddedInfo.SetVisible(false);
 

@@ -41,6 +41,7 @@ AddWebBox::AddWebBox(form::Form& bar, const list::LaunchList& list, const servic
   CommandAddWeb.SetCaption(L"Add");
   form::DressButton(CommandAddWeb);
   FrameAddedInfo.SetCaption(AddedCaption);
+  FrameAddedInfo.SetBanner(true);
   FrameAddedInfo.SetBackColor(form::Color::LineBlue);
   FrameAddedInfo.SetVisible(false);
   PictureNo.SetTabStop(false);

@@ -48,6 +48,7 @@ void frmMain::NameControls() {
   CommandWeb.SetToolTip(L"Show | Hide Add URL---F1");
   for (std::size_t i = 0; i < menu::Count; ++i) {
     CommandMenu[i].SetToolTip(panel::MenuButtons[i].ToolTip);
+    CommandMenu[i].SetSign(true);
   }
   CommandMin.SetToolTip(L"Minimize---F9");
   CommandExit.SetToolTip(L"Exit---F10");
@@ -258,6 +259,7 @@ void frmMain::ShowMenuFaces() {
     const panel::MenuFace& face = parts_.Panels.FaceOf(i);
     CommandMenu[i].SetCaption(face.Caption);
     CommandMenu[i].SetPicture(face.Picture);
+    CommandMenu[i].SetState(face.State);
   }
 }
 
@@ -284,7 +286,10 @@ void frmMain::OfferWebSite(std::wstring_view address) {
   });
 }
 
-void frmMain::ShowWebFace() { CommandWeb.SetPicture(BButton[addWebShown_ ? 7 : 6]); }
+void frmMain::ShowWebFace() {
+  CommandWeb.SetPicture(BButton[addWebShown_ ? 7 : 6]);
+  CommandWeb.SetState(addWebShown_ ? form::ButtonState::Unfolded : form::ButtonState::Folded);
+}
 
 void frmMain::ClearLine() {
   if (!Visible() || WindowState() == form::WindowState::Minimized) return;

@@ -41,12 +41,11 @@ struct BarParts {
 /// The bar: the program's face. Unloading it saves the settings and the launch list and ends the program.
 class frmMain : public form::Form, public panel::MenuBar, private command::LineOwner {
  public:
-  /// The pictures of buttons: 0, 1, 2 and 3 normal, pressed, disabled and open, 5 normal again for the panels'
+  /// The pictures of buttons: 0, 1 and 2 normal, pressed and disabled, 5 normal again for the panels'
   /// buttons, 6 and 7 the faces of CommandWeb while its box is folded and unfolded.
   static constexpr std::array BButton{
-      form::Picture::ButtonNormal, form::Picture::ButtonPressed, form::Picture::ButtonDisabled,
-      form::Picture::ButtonOpen,   form::Picture::None,          form::Picture::ButtonNormal,
-      form::Picture::FaceUnfold,   form::Picture::FaceFold,
+      form::Picture::ButtonNormal, form::Picture::ButtonPressed, form::Picture::ButtonDisabled, form::Picture::None,
+      form::Picture::None,         form::Picture::ButtonNormal,  form::Picture::FaceUnfold,     form::Picture::FaceFold,
   };
 
   frmMain(form::UserInterface& ui, const BarParts& parts);

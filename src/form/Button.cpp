@@ -1,6 +1,7 @@
 #include "form/Button.h"
 
 #include "form/Form.h"
+#include "form/Static.h"
 
 namespace vantor::form {
 
@@ -22,6 +23,33 @@ void CommandButton::SetPictures(form::Picture normal, form::Picture down, form::
   downPicture_ = down;
   disabledPicture_ = disabled;
   NotifyWindow(Property::Picture);
+}
+
+void CommandButton::SetFaceLabel(Label& label) {
+  faceLabel_ = &label;
+  label.PutOnFace();
+}
+
+void CommandButton::SetState(ButtonState state) {
+  if (state_ == state) return;
+  state_ = state;
+  NotifyWindow(Property::Picture);
+}
+
+void CommandButton::SetSign(bool sign) {
+  if (sign_ == sign) return;
+  sign_ = sign;
+  NotifyWindow(Property::Caption);
+}
+
+Size CommandButton::LeastSize() const {
+  constexpr Size Padding{360, 195};
+  const Size text = TextSize(faceLabel_ != nullptr ? faceLabel_->Caption() : caption_, sign_);
+  return {text.Width + Padding.Width, text.Height + Padding.Height};
+}
+
+void CommandButton::InputCharacter(wchar_t character) {
+  if (character == CharEnter || character == L' ') InputClick();
 }
 
 void CommandButton::DoClick() {
@@ -46,6 +74,12 @@ void ChoiceButton::SetCaption(std::wstring_view caption) {
   NotifyWindow(Property::Caption);
 }
 
+Size ChoiceButton::LeastSize() const {
+  constexpr Size Mark{420, 75};  // beside the caption, and around it
+  const Size text = TextSize(caption_);
+  return {text.Width + Mark.Width, text.Height + Mark.Height};
+}
+
 bool ChoiceButton::ChangeValue(bool value) {
   if (value_ == value) return false;
   value_ = value;
@@ -61,11 +95,23 @@ void CheckBox::InputClick() {
   if (AcceptsInput()) SetValue(!Value());
 }
 
+void CheckBox::InputCharacter(wchar_t character) {
+  if (character == L' ') InputClick();
+}
+
+std::vector<OptionButton*> OptionButton::Group() {
+  std::vector<OptionButton*> group;
+  for (Control* control : OwnerForm().Controls()) {
+    auto* const button = dynamic_cast<OptionButton*>(control);
+    if (button != nullptr && button->Container() == Container()) group.push_back(button);
+  }
+  return group;
+}
+
 void OptionButton::SetValue(bool value) {
   if (!ChangeValue(value) || !value) return;
-  for (Control* other : OwnerForm().Controls()) {
-    if (other == this || other->Kind() != ControlKind::OptionButton || other->Container() != Container()) continue;
-    static_cast<OptionButton*>(other)->SetValue(false);
+  for (OptionButton* other : Group()) {
+    if (other != this) other->SetValue(false);
   }
   Click();
 }

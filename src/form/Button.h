@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "form/Control.h"
 #include "form/Keys.h"
@@ -11,11 +12,14 @@ namespace vantor::form {
 
 class Label;
 
+/// Pressed: what the button opened is open. Folded and Unfolded: the same of what unfolds beside it.
+enum class ButtonState { Plain, Pressed, Folded, Unfolded };
+
 /// A push button with a caption, a picture, or both.
 class CommandButton : public Control {
  public:
   template <class Parent>
-  CommandButton(Parent& parent, std::wstring_view name) : Control(parent, name, ControlKind::CommandButton) {}
+  CommandButton(Parent& parent, std::wstring_view name) : Control(parent, name) {}
 
   [[nodiscard]] const std::wstring& Caption() const { return caption_; }
   void SetCaption(std::wstring_view caption);
@@ -29,8 +33,15 @@ class CommandButton : public Control {
 
   /// A label that is drawn over the button's face instead of beside it, also over a disabled face. The label
   /// then has no window of its own, and its caption is the button's accessible name.
-  [[nodiscard]] const Label* FaceLabel() const { return faceLabel_; }
-  void SetFaceLabel(const Label& label) { faceLabel_ = &label; }
+  [[nodiscard]] Label* FaceLabel() const { return faceLabel_; }
+  void SetFaceLabel(Label& label);
+
+  /// What the button says of what it opened; shown on its face and told to screen readers.
+  [[nodiscard]] ButtonState State() const { return state_; }
+  void SetState(ButtonState state);
+  /// The caption is a sign rather than a word, and is drawn bold.
+  [[nodiscard]] bool Sign() const { return sign_; }
+  void SetSign(bool sign);
 
   /// Does what a click by the user does, also on a hidden button; a disabled button does nothing.
   void DoClick();
@@ -39,8 +50,12 @@ class CommandButton : public Control {
   Event<MouseButton> MouseDown;
   Event<MouseButton> MouseUp;
 
+  void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
+  [[nodiscard]] Size LeastSize() const override;
+
   // The user's doings, reported by the back end.
-  void InputClick();
+  void InputClick() override;
+  void InputCharacter(wchar_t character) override;
   void InputMouseDown(MouseButton button);
   void InputMouseUp(MouseButton button);
 
@@ -49,7 +64,9 @@ class CommandButton : public Control {
   form::Picture picture_ = form::Picture::None;
   form::Picture downPicture_ = form::Picture::None;
   form::Picture disabledPicture_ = form::Picture::None;
-  const Label* faceLabel_ = nullptr;
+  Label* faceLabel_ = nullptr;
+  ButtonState state_ = ButtonState::Plain;
+  bool sign_ = false;
 };
 
 /// What is ticked or not: check boxes and option buttons.
@@ -60,9 +77,9 @@ class ChoiceButton : public Control {
   [[nodiscard]] bool Value() const { return value_; }
   virtual void SetValue(bool value) = 0;
 
-  Event<> Click;
+  [[nodiscard]] Size LeastSize() const override;
 
-  virtual void InputClick() = 0;
+  Event<> Click;
 
  protected:
   using Control::Control;
@@ -79,20 +96,25 @@ class ChoiceButton : public Control {
 class CheckBox : public ChoiceButton {
  public:
   template <class Parent>
-  CheckBox(Parent& parent, std::wstring_view name) : ChoiceButton(parent, name, ControlKind::CheckBox) {}
+  CheckBox(Parent& parent, std::wstring_view name) : ChoiceButton(parent, name) {}
 
   void SetValue(bool value) override;
+  void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
   void InputClick() override;
+  void InputCharacter(wchar_t character) override;
 };
 
 /// One of the option buttons of its container. Choosing it clears the others, raising Click on itself only.
 class OptionButton : public ChoiceButton {
  public:
   template <class Parent>
-  OptionButton(Parent& parent, std::wstring_view name) : ChoiceButton(parent, name, ControlKind::OptionButton) {}
+  OptionButton(Parent& parent, std::wstring_view name) : ChoiceButton(parent, name) {}
 
   void SetValue(bool value) override;
+  void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
   void InputClick() override;
+  /// The option buttons of the same container, this one among them, in the order of their making.
+  [[nodiscard]] std::vector<OptionButton*> Group();
 };
 
 }  // namespace vantor::form

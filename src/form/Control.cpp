@@ -5,31 +5,12 @@
 
 namespace vantor::form {
 
-namespace {
-
-bool TakesFocus(ControlKind kind) {
-  switch (kind) {
-    case ControlKind::Label:
-    case ControlKind::Frame:
-    case ControlKind::Image:
-      return false;
-    default:
-      return true;
-  }
-}
-
-}  // namespace
-
-Control::Control(class Form& form, std::wstring_view name, ControlKind kind)
-    : form_(form),
-      name_(name),
-      kind_(kind),
-      tabStop_(TakesFocus(kind)),
-      tabIndex_(static_cast<int>(form.Controls().size())) {
+Control::Control(class Form& form, std::wstring_view name)
+    : form_(form), name_(name), tabIndex_(static_cast<int>(form.Controls().size())) {
   form_.AddControl(*this);
 }
 
-Control::Control(Control& container, std::wstring_view name, ControlKind kind) : Control(container.form_, name, kind) {
+Control::Control(Control& container, std::wstring_view name) : Control(container.form_, name) {
   container_ = &container;
 }
 
@@ -93,12 +74,10 @@ void Control::SetAccessibleName(std::wstring_view name) {
   NotifyWindow(Property::ToolTip);
 }
 
-bool Control::IsFocusable() const { return TakesFocus(kind_); }
-
 void Control::SetFocus() {
   if (!IsFocusable() || !IsReachable()) return;
   if (form_.Visible() && !form_.AcceptsInput()) return;
-  form_.SetActiveControl(this);
+  form_.activeControl_ = this;
   if (form_.Visible()) {
     form_.Activate();
     if (window_ != nullptr) window_->TakeFocus();
@@ -106,6 +85,10 @@ void Control::SetFocus() {
 }
 
 bool Control::HasFocus() const { return form_.AcceptsInput() && form_.ActiveControl() == this; }
+
+Size Control::TextSize(std::wstring_view text, bool bold) const {
+  return form_.Ui().MeasureText(text, bold, UserInterface::AnyWidth);
+}
 
 void Control::NotifyWindow(Property property) const {
   if (window_ != nullptr) window_->Changed(property);

@@ -10,21 +10,34 @@
 namespace vantor::form {
 
 class Form;
+class TextBox;
+class CommandButton;
+class CheckBox;
+class OptionButton;
+class DropDownList;
+class OpenList;
+class Label;
+class Frame;
+class PictureControl;
 
-enum class ControlKind {
-  TextBox,
-  CommandButton,
-  CheckBox,
-  OptionButton,
-  ComboBox,
-  ListBox,
-  Label,
-  Frame,
-  Image,
-  PictureBox,
-  DriveList,
-  FolderList,
-  FileList,
+/// One function for each kind of control that looks or acts differently.
+class ControlVisitor {
+ public:
+  virtual void Visit(TextBox& box) = 0;
+  virtual void Visit(CommandButton& button) = 0;
+  virtual void Visit(CheckBox& box) = 0;
+  virtual void Visit(OptionButton& button) = 0;
+  virtual void Visit(DropDownList& list) = 0;
+  virtual void Visit(OpenList& list) = 0;
+  virtual void Visit(Label& label) = 0;
+  virtual void Visit(Frame& frame) = 0;
+  virtual void Visit(PictureControl& picture) = 0;
+
+ protected:
+  ControlVisitor() = default;
+  ~ControlVisitor() = default;
+  ControlVisitor(const ControlVisitor&) = default;
+  ControlVisitor& operator=(const ControlVisitor&) = default;
 };
 
 /// What about a control changed, for the window that mirrors it.
@@ -65,15 +78,18 @@ class ControlWindow {
 class Control {
  public:
   /// Puts the control on a form, last in tab order and on top of the controls before it.
-  Control(Form& form, std::wstring_view name, ControlKind kind);
+  Control(Form& form, std::wstring_view name);
   /// Puts the control into a frame, or any other control that serves as container.
-  Control(Control& container, std::wstring_view name, ControlKind kind);
+  Control(Control& container, std::wstring_view name);
   virtual ~Control();
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
 
   [[nodiscard]] const std::wstring& Name() const { return name_; }
-  [[nodiscard]] ControlKind Kind() const { return kind_; }
+  /// Whether a window of its own shows the control.
+  [[nodiscard]] virtual bool WantsWindow() const { return true; }
+  /// Calls the visitor's function for this kind of control.
+  virtual void Accept(ControlVisitor& visitor) = 0;
   [[nodiscard]] Form& OwnerForm() const { return form_; }
   /// The frame that the control is in; null for one that stands on the form itself.
   [[nodiscard]] Control* Container() const { return container_; }
@@ -87,6 +103,9 @@ class Control {
   [[nodiscard]] Twips Height() const { return bounds_.Height; }
   [[nodiscard]] Twips Right() const { return bounds_.Right(); }
   [[nodiscard]] Twips Bottom() const { return bounds_.Bottom(); }
+
+  /// The size that shows the control's caption whole on one line, or one line of a box, in the user's font.
+  [[nodiscard]] virtual Size LeastSize() const { return {}; }
 
   [[nodiscard]] bool Visible() const { return visible_; }
   void SetVisible(bool visible);
@@ -115,14 +134,17 @@ class Control {
   void SetTabStop(bool tabStop) { tabStop_ = tabStop; }
 
   /// Whether the kind takes the focus at all.
-  [[nodiscard]] bool IsFocusable() const;
+  [[nodiscard]] bool IsFocusable() const { return focusable_; }
   /// Gives the control the focus; does nothing when the control is not focusable, hidden or disabled. On a form
   /// that is not shown yet the control gets the focus when it is.
   void SetFocus();
   [[nodiscard]] bool HasFocus() const;
 
-  Event<> GotFocus;
-  Event<> LostFocus;
+  // The user's doings, reported by the back end.
+  virtual void InputClick() {}
+  virtual void InputDblClick() {}
+  /// A character key, on a desktop that leaves to the control what it does.
+  virtual void InputCharacter(wchar_t /*character*/) {}
 
   /// The window that mirrors the control, set by the back end that made it; null without one.
   void AttachWindow(ControlWindow* window) { window_ = window; }
@@ -130,6 +152,10 @@ class Control {
 
  protected:
   void NotifyWindow(Property property) const;
+  /// For kinds that only show something.
+  void TakeNoFocus() { focusable_ = tabStop_ = false; }
+  /// The size of a text in the user's font, with its lines broken only where it says.
+  [[nodiscard]] Size TextSize(std::wstring_view text, bool bold = false) const;
 
  private:
   /// Visible and enabled, with every container of it.
@@ -138,11 +164,11 @@ class Control {
   Form& form_;
   Control* container_ = nullptr;
   std::wstring name_;
-  ControlKind kind_;
   Rect bounds_;
   bool visible_ = true;
   bool enabled_ = true;
-  bool tabStop_;
+  bool focusable_ = true;
+  bool tabStop_ = true;
   int tabIndex_;
   Color backColor_ = Color::ButtonFace;
   Color foreColor_ = Color::ButtonText;

@@ -10,11 +10,11 @@
 namespace vantor::form {
 
 /// The drives of the computer as a drop-down list, "c: [label]" each.
-class DriveList : public ListControl {
+class DriveList : public DropDownList {
  public:
   template <class Parent>
   DriveList(Parent& parent, std::wstring_view name, service::FileSystem& files)
-      : ListControl(parent, name, ControlKind::DriveList), files_(files) {}
+      : DropDownList(parent, name), files_(files) {}
 
   /// Reads the drives anew, keeping the chosen one. Raises nothing.
   void Refresh();
@@ -35,11 +35,11 @@ class DriveList : public ListControl {
 
 /// The way from a drive's root to the current folder, and that folder's own folders below it, indented. A
 /// double click or Enter goes to the entry.
-class FolderList : public ListControl {
+class FolderList : public OpenList {
  public:
   template <class Parent>
   FolderList(Parent& parent, std::wstring_view name, service::FileSystem& files)
-      : ListControl(parent, name, ControlKind::FolderList), files_(files) {}
+      : OpenList(parent, name), files_(files) {}
 
   /// The current folder; a trailing backslash only at a drive's root.
   [[nodiscard]] const std::wstring& Path() const { return path_; }
@@ -50,7 +50,7 @@ class FolderList : public ListControl {
   /// The full path of entry `index`.
   [[nodiscard]] std::wstring PathOf(int index) const;
   /// How many levels below the root entry `index` stands, for its indentation.
-  [[nodiscard]] int LevelOf(int index) const;
+  [[nodiscard]] int LevelOf(int index) const override;
 
   Event<> Change;
   /// The user chose an entry that can't be gone to; the list is as before.
@@ -69,11 +69,11 @@ class FolderList : public ListControl {
 };
 
 /// The files of a folder whose names fit a pattern such as "*.exe", sorted without regard to letter case.
-class FileList : public ListControl {
+class FileList : public OpenList {
  public:
   template <class Parent>
   FileList(Parent& parent, std::wstring_view name, service::FileSystem& files)
-      : ListControl(parent, name, ControlKind::FileList), files_(files) {}
+      : OpenList(parent, name), files_(files) {}
 
   [[nodiscard]] const std::wstring& Path() const { return path_; }
   void SetPath(std::wstring_view path);

@@ -212,7 +212,7 @@ void Form::InputDrop(const DroppedItems& items) {
 }
 
 void Form::InputFocus(Control* control) {
-  if (control == nullptr || control->AcceptsInput()) SetActiveControl(control);
+  if (control == nullptr || control->AcceptsInput()) activeControl_ = control;
 }
 
 void Form::AddControl(Control& control) { controls_.push_back(&control); }
@@ -222,19 +222,11 @@ void Form::RemoveControl(Control& control) {
   if (activeControl_ == &control) activeControl_ = nullptr;
 }
 
-void Form::SetActiveControl(Control* control) {
-  if (activeControl_ == control) return;
-  Control* const left = std::exchange(activeControl_, control);
-  if (!visible_) return;
-  if (left != nullptr) left->LostFocus();
-  if (control != nullptr) control->GotFocus();
-}
-
 void Form::LeaveUnreachable() {
   if (activeControl_ == nullptr || activeControl_->IsReachable()) return;
   if (visible_) MoveFocus(false);
   // No other control can take the focus.
-  if (activeControl_ != nullptr && !activeControl_->IsReachable()) SetActiveControl(nullptr);
+  if (activeControl_ != nullptr && !activeControl_->IsReachable()) activeControl_ = nullptr;
 }
 
 }  // namespace vantor::form

@@ -153,7 +153,6 @@ class Form {
   void TakeWindowAway();
   void AddControl(Control& control);
   void RemoveControl(Control& control);
-  void SetActiveControl(Control* control);
   /// Moves the focus on when the control that has it was just hidden or disabled.
   void LeaveUnreachable();
   void LeaveModal();

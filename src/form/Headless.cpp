@@ -8,7 +8,6 @@
 
 #include "form/Button.h"
 #include "form/ListControl.h"
-#include "form/Static.h"
 #include "form/Timer.h"
 
 namespace vantor::form {
@@ -91,43 +90,7 @@ void Headless::Type(std::wstring_view text) {
 void Headless::TypeCharacter(wchar_t character) {
   Form* const form = ActiveForm();
   Control* const control = form != nullptr ? form->ActiveControl() : nullptr;
-  if (control == nullptr || !control->AcceptsInput()) return;
-  switch (control->Kind()) {
-    case ControlKind::TextBox: {
-      auto& box = static_cast<TextBox&>(*control);
-      const wchar_t applied = box.InputKeyPress(character);
-      std::wstring edited = box.Text();
-      auto start = static_cast<std::size_t>(box.SelStart());
-      auto length = static_cast<std::size_t>(box.SelLength());
-      if (applied == CharBackspace) {
-        if (length == 0 && start > 0) {
-          --start;
-          length = 1;
-        }
-        edited.erase(start, length);
-      } else if (applied >= L' ') {
-        edited.replace(start, length, 1, applied);
-        ++start;
-      } else {
-        return;
-      }
-      box.InputEdited(edited, static_cast<int>(start), 0);
-      return;
-    }
-    case ControlKind::CommandButton:
-      if (character == CharEnter || character == L' ') static_cast<CommandButton*>(control)->InputClick();
-      return;
-    case ControlKind::CheckBox:
-      if (character == L' ') static_cast<CheckBox*>(control)->InputClick();
-      return;
-    case ControlKind::ListBox:
-    case ControlKind::FolderList:
-    case ControlKind::FileList:
-      if (character == CharEnter) static_cast<ListControl*>(control)->InputDblClick();
-      return;
-    default:
-      return;
-  }
+  if (control != nullptr && control->AcceptsInput()) control->InputCharacter(character);
 }
 
 void Headless::Press(Key key) {
@@ -151,36 +114,18 @@ void Headless::Press(Key key) {
 void Headless::Click(Control& control) {
   if (!control.AcceptsInput()) return;
   control.SetFocus();
-  switch (control.Kind()) {
-    case ControlKind::CommandButton: {
-      auto& button = static_cast<CommandButton&>(control);
-      button.InputMouseDown(MouseButton::Left);
-      button.InputMouseUp(MouseButton::Left);
-      button.InputClick();
-      return;
-    }
-    case ControlKind::CheckBox:
-      static_cast<CheckBox&>(control).InputClick();
-      return;
-    case ControlKind::OptionButton:
-      static_cast<OptionButton&>(control).InputClick();
-      return;
-    case ControlKind::Frame:
-      static_cast<Frame&>(control).InputClick();
-      return;
-    default:
-      return;
+  auto* const button = dynamic_cast<CommandButton*>(&control);
+  if (button != nullptr) {
+    button->InputMouseDown(MouseButton::Left);
+    button->InputMouseUp(MouseButton::Left);
   }
+  control.InputClick();
 }
 
 void Headless::DoubleClick(Control& control) {
   if (!control.AcceptsInput()) return;
   control.SetFocus();
-  if (control.Kind() == ControlKind::TextBox) {
-    static_cast<TextBox&>(control).InputDblClick();
-  } else if (auto* list = dynamic_cast<ListControl*>(&control)) {
-    list->InputDblClick();
-  }
+  control.InputDblClick();
 }
 
 void Headless::DragBy(Form& form, Twips x, Twips y) {
@@ -194,16 +139,15 @@ Screen Headless::ScreenAt(const Rect& /*place*/) const { return Desktop; }
 Screen Headless::PrimaryScreen() const { return Desktop; }
 
 Size Headless::MeasureText(std::wstring_view text, bool /*bold*/, Twips width) const {
-  constexpr Twips characterWidth = 90;
   constexpr Twips lineHeight = 195;
-  const std::size_t charactersPerLine = static_cast<std::size_t>(std::max(width / characterWidth, 1));
+  const std::size_t charactersPerLine = static_cast<std::size_t>(std::max(width / CharacterWidth, 1));
   Size size;
   for (std::size_t start = 0; start <= text.size();) {
     const std::size_t end = std::min(text.find(L"\r\n", start), text.size());
     const std::size_t length = end - start;
     const std::size_t lines = std::max<std::size_t>((length + charactersPerLine - 1) / charactersPerLine, 1);
     size.Height += lineHeight * static_cast<Twips>(lines);
-    size.Width = std::max(size.Width, characterWidth * static_cast<Twips>(std::min(length, charactersPerLine)));
+    size.Width = std::max(size.Width, CharacterWidth * static_cast<Twips>(std::min(length, charactersPerLine)));
     start = end + 2;
   }
   return size;

@@ -20,6 +20,8 @@ class Headless : public UserInterface {
 
   /// The one screen, 1024 by 768 pixels of 15 twips at first.
   Screen Desktop;
+  /// How wide the user's font is.
+  Twips CharacterWidth = 90;
 
   /// Lets time pass, raising the ticks that fall into it in order.
   void Advance(int milliseconds);
@@ -46,7 +48,7 @@ class Headless : public UserInterface {
 
   [[nodiscard]] Screen ScreenAt(const Rect& place) const override;
   [[nodiscard]] Screen PrimaryScreen() const override;
-  /// Every character is 90 twips wide, every line 195 high.
+  /// Every character is CharacterWidth wide, every line 195 twips high.
   [[nodiscard]] Size MeasureText(std::wstring_view text, bool bold, Twips width) const override;
   void RunModal(Form& form) override;
   void Run() override;

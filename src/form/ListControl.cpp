@@ -3,6 +3,8 @@
 #include <stdexcept>
 #include <utility>
 
+#include "form/Keys.h"
+
 namespace vantor::form {
 
 void ListControl::SetListIndex(int index) {
@@ -29,6 +31,15 @@ void ListControl::ReplaceEntries(std::vector<std::wstring> entries) {
   list_ = std::move(entries);
   listIndex_ = -1;
   NotifyWindow(Property::List);
+}
+
+Size DropDownList::LeastSize() const {
+  constexpr Twips AroundText = 135;
+  return {0, TextSize(L"x").Height + AroundText};
+}
+
+void OpenList::InputCharacter(wchar_t character) {
+  if (character == CharEnter) InputDblClick();
 }
 
 void ComboBox::AddItem(std::wstring_view text) {

@@ -29,7 +29,7 @@ class ListControl : public Control {
 
   // The user's doings, reported by the back end.
   void InputSelect(int index);
-  void InputDblClick();
+  void InputDblClick() override;
 
  protected:
   using Control::Control;
@@ -45,11 +45,34 @@ class ListControl : public Control {
   int listIndex_ = -1;
 };
 
+/// A list that shows its chosen entry, and the others when it is dropped down.
+class DropDownList : public ListControl {
+ public:
+  void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
+  [[nodiscard]] Size LeastSize() const override;
+
+ protected:
+  using ListControl::ListControl;
+};
+
+/// A list that shows its entries at once. Enter does what a double click does.
+class OpenList : public ListControl {
+ public:
+  /// How many steps entry `index` stands in.
+  [[nodiscard]] virtual int LevelOf(int /*index*/) const { return 0; }
+
+  void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
+  void InputCharacter(wchar_t character) override;
+
+ protected:
+  using ListControl::ListControl;
+};
+
 /// A drop-down list whose entries the program adds, renames and removes. It is not sorted.
-class ComboBox : public ListControl {
+class ComboBox : public DropDownList {
  public:
   template <class Parent>
-  ComboBox(Parent& parent, std::wstring_view name) : ListControl(parent, name, ControlKind::ComboBox) {
+  ComboBox(Parent& parent, std::wstring_view name) : DropDownList(parent, name) {
     SetBackColor(Color::WindowBackground);
     SetForeColor(Color::WindowText);
   }
@@ -65,11 +88,11 @@ class ComboBox : public ListControl {
   void Clear() { ReplaceEntries({}); }
 };
 
-/// A list that shows its entries at once. The program gives them; a double click or Enter chooses one.
-class ListBox : public ListControl {
+/// Entries that the program gives; a double click or Enter chooses one.
+class ListBox : public OpenList {
  public:
   template <class Parent>
-  ListBox(Parent& parent, std::wstring_view name) : ListControl(parent, name, ControlKind::ListBox) {
+  ListBox(Parent& parent, std::wstring_view name) : OpenList(parent, name) {
     SetBackColor(Color::WindowBackground);
     SetForeColor(Color::WindowText);
   }

@@ -8,7 +8,6 @@ enum class Picture {
   ButtonNormal,
   ButtonPressed,
   ButtonDisabled,
-  ButtonOpen,
   FaceUnfold,  // the add-web box is folded; a click unfolds it
   FaceFold,    // the add-web box is unfolded; a click folds it
   FaceMinimize,

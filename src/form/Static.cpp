@@ -36,13 +36,13 @@ void Frame::InputClick() {
   if (AcceptsInput()) Click();
 }
 
-void Image::SetPicture(form::Picture picture) {
-  if (picture_ == picture) return;
-  picture_ = picture;
-  NotifyWindow(Property::Picture);
+Size Frame::LeastSize() const {
+  constexpr Twips BesideCaption = 360;  // the line on its left and right, and the gaps
+  const Size text = TextSize(caption_);
+  return {text.Width + BesideCaption, text.Height};
 }
 
-void PictureBox::SetPicture(form::Picture picture) {
+void PictureControl::SetPicture(form::Picture picture) {
   if (picture_ == picture) return;
   picture_ = picture;
   NotifyWindow(Property::Picture);

@@ -12,7 +12,9 @@ namespace vantor::form {
 class Label : public Control {
  public:
   template <class Parent>
-  Label(Parent& parent, std::wstring_view name) : Control(parent, name, ControlKind::Label) {}
+  Label(Parent& parent, std::wstring_view name) : Control(parent, name) {
+    TakeNoFocus();
+  }
 
   [[nodiscard]] const std::wstring& Caption() const { return caption_; }
   void SetCaption(std::wstring_view caption);
@@ -21,57 +23,77 @@ class Label : public Control {
   void SetTransparent(bool transparent);
   [[nodiscard]] bool Bold() const { return bold_; }
   void SetBold(bool bold);
+  /// A button draws the label on its face, so that it has no window of its own.
+  void PutOnFace() { onFace_ = true; }
+  [[nodiscard]] bool WantsWindow() const override { return !onFace_; }
+
+  void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
+  [[nodiscard]] Size LeastSize() const override { return TextSize(caption_, bold_); }
 
  private:
   std::wstring caption_;
   bool transparent_ = true;
   bool bold_ = false;
+  bool onFace_ = false;
 };
 
 /// A box that holds other controls, with a caption on its edge when it has a border.
 class Frame : public Control {
  public:
   template <class Parent>
-  Frame(Parent& parent, std::wstring_view name) : Control(parent, name, ControlKind::Frame) {}
+  Frame(Parent& parent, std::wstring_view name) : Control(parent, name) {
+    TakeNoFocus();
+  }
 
   [[nodiscard]] const std::wstring& Caption() const { return caption_; }
   void SetCaption(std::wstring_view caption);
   [[nodiscard]] bool Border() const { return border_; }
   void SetBorder(bool border);
+  /// A coloured strip that tells something by its caption, and holds nothing else.
+  [[nodiscard]] bool Banner() const { return banner_; }
+  void SetBanner(bool banner) { banner_ = banner; }  // before the form is shown
 
   Event<> Click;
 
-  void InputClick();
+  void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
+  [[nodiscard]] Size LeastSize() const override;
+  void InputClick() override;
 
  private:
   std::wstring caption_;
   bool border_ = true;
+  bool banner_ = false;
+};
+
+/// What shows a picture.
+class PictureControl : public Control {
+ public:
+  [[nodiscard]] form::Picture Picture() const { return picture_; }
+  void SetPicture(form::Picture picture);
+
+  void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
+
+ protected:
+  using Control::Control;
+
+ private:
+  form::Picture picture_ = form::Picture::None;
 };
 
 /// A picture. It takes no focus.
-class Image : public Control {
+class Image : public PictureControl {
  public:
   template <class Parent>
-  Image(Parent& parent, std::wstring_view name) : Control(parent, name, ControlKind::Image) {}
-
-  [[nodiscard]] form::Picture Picture() const { return picture_; }
-  void SetPicture(form::Picture picture);
-
- private:
-  form::Picture picture_ = form::Picture::None;
+  Image(Parent& parent, std::wstring_view name) : PictureControl(parent, name) {
+    TakeNoFocus();
+  }
 };
 
 /// A picture that can take the focus, to take it away from something else.
-class PictureBox : public Control {
+class PictureBox : public PictureControl {
  public:
   template <class Parent>
-  PictureBox(Parent& parent, std::wstring_view name) : Control(parent, name, ControlKind::PictureBox) {}
-
-  [[nodiscard]] form::Picture Picture() const { return picture_; }
-  void SetPicture(form::Picture picture);
-
- private:
-  form::Picture picture_ = form::Picture::None;
+  PictureBox(Parent& parent, std::wstring_view name) : PictureControl(parent, name) {}
 };
 
 }  // namespace vantor::form

@@ -1,6 +1,9 @@
 #include "form/TextBox.h"
 
 #include <algorithm>
+#include <cstddef>
+
+#include "form/Keys.h"
 
 namespace vantor::form {
 
@@ -51,6 +54,31 @@ void TextBox::InputComposing(bool composing) {
     textBeforeComposing_ = text_;
   else if (text_ != textBeforeComposing_)
     Change();
+}
+
+void TextBox::InputCharacter(wchar_t character) {
+  const wchar_t applied = InputKeyPress(character);
+  std::wstring edited = text_;
+  auto start = static_cast<std::size_t>(selStart_);
+  auto length = static_cast<std::size_t>(selLength_);
+  if (applied == CharBackspace) {
+    if (length == 0 && start > 0) {
+      --start;
+      length = 1;
+    }
+    edited.erase(start, length);
+  } else if (applied >= L' ') {
+    edited.replace(start, length, 1, applied);
+    ++start;
+  } else {
+    return;
+  }
+  InputEdited(edited, static_cast<int>(start), 0);
+}
+
+Size TextBox::LeastSize() const {
+  constexpr Twips AroundText = 135;
+  return {0, TextSize(L"x").Height + AroundText};
 }
 
 void TextBox::InputDblClick() {

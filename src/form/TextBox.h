@@ -13,7 +13,7 @@ class TextBox : public Control {
  public:
   /// Parent: a Form, or a control that serves as container.
   template <class Parent>
-  TextBox(Parent& parent, std::wstring_view name) : Control(parent, name, ControlKind::TextBox) {
+  TextBox(Parent& parent, std::wstring_view name) : Control(parent, name) {
     SetBackColor(Color::WindowBackground);
     SetForeColor(Color::WindowText);
   }
@@ -42,6 +42,9 @@ class TextBox : public Control {
   Event<Key&> KeyDown;
   Event<> DblClick;
 
+  void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
+  [[nodiscard]] Size LeastSize() const override;
+
   // The user's doings, reported by the back end.
 
   /// A key that moves the caret. Returns the key to apply.
@@ -53,7 +56,8 @@ class TextBox : public Control {
   void InputSelection(int selStart, int selLength);
   /// Composing begins or ends. When it ends with another text than it began with, Change is raised once more.
   void InputComposing(bool composing);
-  void InputDblClick();
+  void InputDblClick() override;
+  void InputCharacter(wchar_t character) override;
 
  private:
   std::wstring text_;

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <string_view>
 
-#include "form/Picture.h"
+#include "form/Button.h"
 
 namespace vantor::panel {
 
@@ -24,6 +24,7 @@ inline constexpr std::size_t Count = 7;
 struct MenuFace {
   std::wstring_view Caption;
   form::Picture Picture;
+  form::ButtonState State = form::ButtonState::Plain;
 };
 
 struct MenuButton {
@@ -40,6 +41,6 @@ inline constexpr std::array<MenuButton, menu::Count> MenuButtons{{
     {{L"?", form::Picture::ButtonNormal}, L"Show | Hide Help---F7"},
     {{L"C", form::Picture::ButtonNormal}, L"Show | Hide Code List---F8"},
 }};
-inline constexpr MenuFace OpenFace{L"||", form::Picture::ButtonOpen};
+inline constexpr MenuFace OpenFace{L"||", form::Picture::ButtonNormal, form::ButtonState::Pressed};
 
 }  // namespace vantor::panel

@@ -24,7 +24,7 @@ class TestForm : public Form {
     int top = 150;
     for (Control* control : Controls()) {
       if (control->Container() != nullptr) continue;
-      control->SetBounds({150, top, 5700, control->Kind() == ControlKind::Frame ? 900 : 450});
+      control->SetBounds({150, top, 5700, control == &Box ? 900 : 450});
       top += control->Height() + 150;
     }
     InFrame.SetBounds({150, 300, 3000, 450});

@@ -14,7 +14,6 @@
 #include "win32/window/WindowsDesktop.h"
 
 using namespace vantor;
-using win32::Screens;
 
 namespace {
 
@@ -40,7 +39,7 @@ HWND WindowOf(const form::Form& form) { return static_cast<const win32::FormWind
 HWND WindowOf(const form::Control& control) { return win32::ControlWindow::Of(&control)->Hwnd(); }
 
 /// Whether everything of the form has the size and place that its twips have at a resolution.
-void CheckPixels(const SampleForm& sample, int dpi) {
+void CheckPixels(const win32::Desktop& desktop, const SampleForm& sample, int dpi) {
   const auto pixels = [dpi](form::Twips twips) { return MulDiv(twips, dpi, 1440); };
   RECT inside;
   GetClientRect(WindowOf(sample), &inside);
@@ -57,7 +56,7 @@ void CheckPixels(const SampleForm& sample, int dpi) {
     CHECK(place.right - place.left == pixels(control->Width()));
     CHECK(place.bottom - place.top == pixels(control->Height()));
     GetObjectW(reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)), sizeof font, &font);
-    CHECK(font.lfHeight == Screens::MessageFont(dpi).lfHeight);
+    CHECK(font.lfHeight == desktop.Screens().MessageFont(dpi).lfHeight);
   }
 }
 
@@ -71,7 +70,7 @@ TEST_CASE("a form that comes to a screen of another scale is laid out for it, wi
     const form::Rect bounds = sample.Bounds();
     for (const int dpi : {96, 192, 120, 144, 96}) {
       SendMessageW(WindowOf(sample), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), 0);  // as another program may send it
-      CheckPixels(sample, dpi);
+      CheckPixels(desktop, sample, dpi);
     }
     CHECK(sample.Bounds() == bounds);
     sample.Unload();
@@ -92,16 +91,16 @@ TEST_CASE("larger texts enlarge what holds them, as far as it fits the screen, a
     desktop.SettingsChanged();
   };
   ask(-18);
-  CheckPixels(sample, 144);
-  CHECK(Screens::MessageFont(144).lfHeight == -18);
+  CheckPixels(desktop, sample, 144);
+  CHECK(desktop.Screens().MessageFont(144).lfHeight == -18);
   CHECK(desktop.PrimaryScreen().Bounds.Width == MulDiv(GetSystemMetrics(SM_CXSCREEN), 1440, 144));
   ask(-200);  // the form as large as fits, and its texts with it
   const form::Screen screen = desktop.PrimaryScreen();
   CHECK(sample.Scale() < 1);
   CHECK(sample.Bounds().Width > screen.WorkArea.Width * 9 / 10);
   CHECK(sample.Bounds().Right() <= screen.WorkArea.Right());
-  CheckPixels(sample, static_cast<int>(std::lround(1440 / screen.TwipsPerPixelX * sample.Scale())));
+  CheckPixels(desktop, sample, static_cast<int>(std::lround(1440 / screen.TwipsPerPixelX * sample.Scale())));
   ask(usual.lfMessageFont.lfHeight);
-  CheckPixels(sample, 96);
+  CheckPixels(desktop, sample, 96);
   sample.Unload();
 }

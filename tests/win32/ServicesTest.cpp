@@ -10,7 +10,7 @@
 #include "TestFolder.h"
 #include "win32/base/Com.h"
 #include "win32/base/Handle.h"
-#include "win32/base/Patience.h"
+#include "win32/base/TimedWork.h"
 #include "win32/service/Language.h"
 #include "win32/service/Processes.h"
 #include "win32/service/RegistryValue.h"
@@ -182,27 +182,27 @@ TEST_CASE("the mark stands around a window, is not felt by the mouse, and goes")
 }
 
 TEST_CASE("work that ends is waited for, work that does not for five seconds at most") {
-  Patience patience;
+  TimedWork work;
   bool done = false;
-  CHECK(patience.EndsInTime([&] { done = true; }));
+  CHECK(work.Run([&] { done = true; }));
   CHECK(done);
 
   // As with a service that never answers: the work goes on behind, and comes to its end later.
   const auto answer = std::make_shared<KernelHandle>(CreateEventW(nullptr, TRUE, FALSE, nullptr));
   const auto ended = std::make_shared<KernelHandle>(CreateEventW(nullptr, TRUE, FALSE, nullptr));
   const DWORD begin = GetTickCount();
-  CHECK_FALSE(patience.EndsInTime([answer, ended] {
+  CHECK_FALSE(work.Run([answer, ended] {
     WaitForSingleObject(answer->Get(), INFINITE);
     SetEvent(ended->Get());
   }));
   CHECK(GetTickCount() - begin >= 4900);
   // Nothing more is asked meanwhile, so that not one thread after the other is left behind.
   const auto asked = std::make_shared<bool>(false);
-  CHECK_FALSE(patience.EndsInTime([asked] { *asked = true; }));
+  CHECK_FALSE(work.Run([asked] { *asked = true; }));
   CHECK_FALSE(*asked);
   SetEvent(answer->Get());
   CHECK(WaitForSingleObject(ended->Get(), 20000) == WAIT_OBJECT_0);
-  CHECK(vantor::desktop::Eventually([&] { return patience.EndsInTime([] {}); }));
+  CHECK(vantor::desktop::Eventually([&] { return work.Run([] {}); }));
 }
 
 TEST_CASE("files that are dropped on a window arrive, those it does not want don't") {

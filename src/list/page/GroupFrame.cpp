@@ -153,7 +153,7 @@ void GroupFrame::Rename_Click() {
 }
 
 void GroupFrame::ShowRename(bool visible) {
-  Rename.SetPicture(visible ? form::Picture::ButtonOpen : form::Picture::ButtonNormal);
+  Rename.SetState(visible ? form::ButtonState::Pressed : form::ButtonState::Plain);
   FrameRename.SetVisible(visible);
 }
 

@@ -73,7 +73,7 @@ struct WindowTraits : NullHandle<HWND> {
 struct MemoryDcTraits : NullHandle<HDC> {
   static void Close(HDC dc) { DeleteDC(dc); }
 };
-/// Brushes, pens, fonts, bitmaps, regions.
+/// Brushes, fonts, bitmaps.
 template <class T>
 struct GdiTraits : NullHandle<T> {
   static void Close(T object) { DeleteObject(object); }
@@ -87,7 +87,6 @@ using LibraryHandle = Handle<LibraryTraits>;
 using WindowHandle = Handle<WindowTraits>;
 using MemoryDcHandle = Handle<MemoryDcTraits>;
 using BrushHandle = Handle<GdiTraits<HBRUSH>>;
-using PenHandle = Handle<GdiTraits<HPEN>>;
 using FontHandle = Handle<GdiTraits<HFONT>>;
 using BitmapHandle = Handle<GdiTraits<HBITMAP>>;
 

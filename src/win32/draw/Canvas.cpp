@@ -69,10 +69,8 @@ Canvas::Canvas(int width, int height) : width_(std::max(width, 1)), height_(std:
   bitmap_.Reset(CreateDIBSection(dc_.Get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0));
   if (!dc_ || !bitmap_) throw std::bad_alloc();
   pixels_ = static_cast<std::uint32_t*>(bits);
-  oldBitmap_ = SelectObject(dc_.Get(), bitmap_.Get());
+  selected_.emplace(dc_.Get(), bitmap_.Get());
 }
-
-Canvas::~Canvas() { SelectObject(dc_.Get(), oldBitmap_); }
 
 void Canvas::Clear(COLORREF color) { Shade(Whole(), color, color); }
 
@@ -192,12 +190,7 @@ void Canvas::Disc(Point center, double radius, COLORREF color) {
 }
 
 void Canvas::Text(std::wstring_view text, RECT area, HFONT font, COLORREF color, UINT format) {
-  if (text.empty()) return;
-  const HGDIOBJ oldFont = SelectObject(dc_.Get(), font);
-  SetBkMode(dc_.Get(), TRANSPARENT);
-  SetTextColor(dc_.Get(), color);
-  DrawTextW(dc_.Get(), text.data(), static_cast<int>(text.size()), &area, format | DT_NOPREFIX);
-  SelectObject(dc_.Get(), oldFont);
+  DrawPlainText(dc_.Get(), text, area, font, color, format);
 }
 
 void Canvas::Show(HDC target, int x, int y) const { BitBlt(target, x, y, width_, height_, dc_.Get(), 0, 0, SRCCOPY); }

@@ -4,10 +4,12 @@
 
 #include <cstdint>
 #include <initializer_list>
+#include <optional>
 #include <string_view>
 #include <vector>
 
 #include "win32/base/Handle.h"
+#include "win32/draw/Text.h"
 
 namespace vantor::win32 {
 
@@ -35,12 +37,6 @@ class Canvas {
  public:
   /// Size in pixels, at least 1 by 1. Throws std::bad_alloc when the system gives no memory for it.
   Canvas(int width, int height);
-  ~Canvas();
-  Canvas(const Canvas&) = delete;
-  Canvas& operator=(const Canvas&) = delete;
-
-  /// For what the system draws into the picture.
-  [[nodiscard]] HDC Dc() const { return dc_.Get(); }
   [[nodiscard]] int Width() const { return width_; }
   [[nodiscard]] int Height() const { return height_; }
   [[nodiscard]] Box Whole() const { return {0, 0, double(width_), double(height_)}; }
@@ -68,7 +64,7 @@ class Canvas {
   int height_;
   MemoryDcHandle dc_;
   BitmapHandle bitmap_;
-  HGDIOBJ oldBitmap_ = nullptr;
+  std::optional<Selected> selected_;
   std::uint32_t* pixels_ = nullptr;  // 0x00RRGGBB, top row first
 };
 

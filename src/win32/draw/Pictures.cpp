@@ -28,19 +28,6 @@ void DrawMessageGround(Canvas& canvas, const Box& box, const Palette& colors, do
   DrawMark(canvas, {std::round(box.Left + margin), std::round(box.Top + margin), side, side}, colors);
 }
 
-const Palette::Face& FaceOf(Picture picture, const Palette& colors) {
-  switch (picture) {
-    case Picture::ButtonPressed:
-      return colors.Pressed;
-    case Picture::ButtonDisabled:
-      return colors.Disabled;
-    case Picture::ButtonOpen:
-      return colors.Open;
-    default:
-      return colors.Normal;
-  }
-}
-
 }  // namespace
 
 void DrawFace(Canvas& canvas, const Box& box, const Palette& colors, const Palette::Face& face, bool focused,
@@ -54,28 +41,25 @@ void DrawFace(Canvas& canvas, const Box& box, const Palette& colors, const Palet
   }
 }
 
-void DrawGlyph(Canvas& canvas, Picture picture, const Box& box, const Palette& colors, COLORREF ink, double scale) {
+void DrawGlyph(Canvas& canvas, Picture picture, const Box& box, COLORREF color, double scale) {
   const double side = std::min({box.Width * 0.5, box.Height * 0.5, 11 * scale});
   const Box area = Box{box.Left + (box.Width - side) / 2, box.Top + (box.Height - side) / 2, side, side};
   const double thick = std::max(1.6 * scale, side * 0.14);
   switch (picture) {
     case Picture::FaceUnfold:
-      canvas.Line({area.At(0.12, 0.1), area.At(0.52, 0.5), area.At(0.12, 0.9)}, thick, ink);
-      canvas.Line({area.At(0.55, 0.1), area.At(0.95, 0.5), area.At(0.55, 0.9)}, thick, ink);
+      canvas.Line({area.At(0.12, 0.1), area.At(0.52, 0.5), area.At(0.12, 0.9)}, thick, color);
+      canvas.Line({area.At(0.55, 0.1), area.At(0.95, 0.5), area.At(0.55, 0.9)}, thick, color);
       break;
     case Picture::FaceFold:
-      canvas.Line({area.At(0.45, 0.1), area.At(0.05, 0.5), area.At(0.45, 0.9)}, thick, ink);
-      canvas.Line({area.At(0.88, 0.1), area.At(0.48, 0.5), area.At(0.88, 0.9)}, thick, ink);
+      canvas.Line({area.At(0.45, 0.1), area.At(0.05, 0.5), area.At(0.45, 0.9)}, thick, color);
+      canvas.Line({area.At(0.88, 0.1), area.At(0.48, 0.5), area.At(0.88, 0.9)}, thick, color);
       break;
     case Picture::FaceMinimize:
-      canvas.Line({area.At(0.08, 0.82), area.At(0.92, 0.82)}, thick, ink);
+      canvas.Line({area.At(0.08, 0.82), area.At(0.92, 0.82)}, thick, color);
       break;
     case Picture::FaceExit:
-      canvas.Line({area.At(0.1, 0.1), area.At(0.9, 0.9)}, thick, ink);
-      canvas.Line({area.At(0.9, 0.1), area.At(0.1, 0.9)}, thick, ink);
-      break;
-    case Picture::Launcher:
-      DrawMark(canvas, box.Inset(std::max(std::round(3 * scale), 2.0)), colors);
+      canvas.Line({area.At(0.1, 0.1), area.At(0.9, 0.9)}, thick, color);
+      canvas.Line({area.At(0.9, 0.1), area.At(0.1, 0.9)}, thick, color);
       break;
     default:
       break;
@@ -84,17 +68,13 @@ void DrawGlyph(Canvas& canvas, Picture picture, const Box& box, const Palette& c
 
 void DrawPicture(Canvas& canvas, Picture picture, const Box& box, const Palette& colors, double scale) {
   switch (picture) {
-    case Picture::None:
-      break;
     case Picture::Launcher:
       DrawMark(canvas, box, colors);
       break;
     case Picture::MessageBackground:
       DrawMessageGround(canvas, box, colors, scale);
       break;
-    default:
-      DrawFace(canvas, box, colors, FaceOf(picture, colors), false, scale);
-      DrawGlyph(canvas, picture, box, colors, FaceOf(picture, colors).Ink, scale);
+    default:  // a button's
       break;
   }
 }

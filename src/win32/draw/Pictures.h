@@ -6,7 +6,8 @@
 
 namespace vantor::win32 {
 
-/// Draws a picture into a box. `scale` is the number of pixels that stand for one at 96 dots per inch.
+/// Draws a picture that stands by itself into a box. `scale` is the number of pixels that stand for one at 96 dots per
+/// inch.
 void DrawPicture(Canvas& canvas, form::Picture picture, const Box& box, const Palette& colors, double scale);
 
 /// Draws the ground of a button: its edge, its fill and, with the focus, a ring inside.
@@ -14,7 +15,6 @@ void DrawFace(Canvas& canvas, const Box& box, const Palette& colors, const Palet
               double scale);
 
 /// The drawing on a button's ground (fold, minimize, …). Draws nothing for the pictures that are grounds.
-void DrawGlyph(Canvas& canvas, form::Picture picture, const Box& box, const Palette& colors, COLORREF ink,
-               double scale);
+void DrawGlyph(Canvas& canvas, form::Picture picture, const Box& box, COLORREF color, double scale);
 
 }  // namespace vantor::win32

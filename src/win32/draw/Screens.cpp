@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
-#include <optional>
 #include <vector>
 
 #include "win32/base/SystemLibrary.h"
+#include "win32/draw/Text.h"
 
 namespace vantor::win32 {
 
@@ -20,9 +20,7 @@ Function FindInUser32(const char* name) {
 
 int PlainSystemDpi() {
   static const int dpi = [] {
-    const HDC screen = GetDC(nullptr);
-    const int found = GetDeviceCaps(screen, LOGPIXELSX);
-    ReleaseDC(nullptr, screen);
+    const int found = GetDeviceCaps(WindowDc(nullptr).Get(), LOGPIXELSX);
     return found > 0 ? found : 96;
   }();
   return dpi;
@@ -40,12 +38,6 @@ int PlainDpiOf(HMONITOR monitor) {
 
 HMONITOR PrimaryMonitor() { return MonitorFromPoint(POINT{}, MONITOR_DEFAULTTOPRIMARY); }
 
-/// The user's font for messages and dialogs at 96 dots per inch, and what its size makes of everything else.
-struct TextSize {
-  LOGFONTW Font{};
-  double Scale = 1;
-};
-
 LOGFONTW PlainMessageFont() {
   NONCLIENTMETRICSW metrics{};
   metrics.cbSize = sizeof metrics;
@@ -59,14 +51,35 @@ LOGFONTW PlainMessageFont() {
   return metrics.lfMessageFont;
 }
 
-std::optional<TextSize>& RememberedTextSize() {
-  static std::optional<TextSize> size;
-  return size;
+BOOL CALLBACK AddMonitor(HMONITOR handle, HDC /*dc*/, RECT* /*area*/, LPARAM monitors) {
+  reinterpret_cast<std::vector<HMONITOR>*>(monitors)->push_back(handle);
+  return TRUE;
 }
 
-const TextSize& UserTextSize() {
-  std::optional<TextSize>& known = RememberedTextSize();
-  if (known) return *known;
+int Gap(int from, int to, int otherFrom, int otherTo) { return std::max({otherFrom - to, from - otherTo, 0}); }
+
+}  // namespace
+
+/// A screen in both measures.
+struct Screens::Monitor {
+  RECT Pixels{};
+  RECT WorkArea{};
+  int Dpi = 96;
+  form::Rect Twips;
+
+  [[nodiscard]] form::Screen ToScreen() const {
+    form::Screen screen;
+    screen.Bounds = Twips;
+    screen.WorkArea = {Twips.Left + ToTwips(WorkArea.left - Pixels.left, Dpi),
+                       Twips.Top + ToTwips(WorkArea.top - Pixels.top, Dpi),
+                       ToTwips(WorkArea.right - WorkArea.left, Dpi), ToTwips(WorkArea.bottom - WorkArea.top, Dpi)};
+    screen.TwipsPerPixelX = screen.TwipsPerPixelY = double(form::TwipsPerInch) / Dpi;
+    return screen;
+  }
+};
+
+const Screens::TextSize& Screens::UserTextSize() const {
+  if (textSize_) return *textSize_;
   constexpr double UsualHeight = 12;  // pixels: 9 points
   TextSize size;
   size.Font = PlainMessageFont();
@@ -75,81 +88,46 @@ const TextSize& UserTextSize() {
     size.Scale = wanted;
     size.Font.lfHeight = std::lround(size.Font.lfHeight / wanted);  // the scale makes up for it
   }
-  known = size;
-  return *known;
+  return textSize_.emplace(size);
 }
-
-int DpiOfMonitor(HMONITOR monitor) { return Screens::WithTextScale(PlainDpiOf(monitor)); }
-
-/// A screen in both measures.
-struct Place {
-  HMONITOR Monitor = nullptr;
-  RECT Pixels{};
-  RECT WorkArea{};
-  int Dpi = 96;
-  form::Rect Twips;
-};
 
 /// The start in twips of a stretch of pixels: the edge nearer to zero, where the main screen is, stands still.
-form::Twips Start(LONG from, LONG to, int dpi) {
-  const int systemDpi = Screens::SystemDpi();
-  if (to <= 0) return Screens::ToTwips(to, systemDpi) - Screens::ToTwips(to - from, dpi);
-  return Screens::ToTwips(from, systemDpi);
+form::Twips Screens::Start(LONG from, LONG to, int dpi) const {
+  if (to <= 0) return ToTwips(to, SystemDpi()) - ToTwips(to - from, dpi);
+  return ToTwips(from, SystemDpi());
 }
 
-Place Describe(HMONITOR monitor) {
+Screens::Monitor Screens::Describe(HMONITOR handle) const {
   MONITORINFO info{};
   info.cbSize = sizeof info;
-  GetMonitorInfoW(monitor, &info);
-  Place place{monitor, info.rcMonitor, info.rcWork, DpiOfMonitor(monitor), {}};
-  place.Twips = {Start(place.Pixels.left, place.Pixels.right, place.Dpi),
-                 Start(place.Pixels.top, place.Pixels.bottom, place.Dpi),
-                 Screens::ToTwips(place.Pixels.right - place.Pixels.left, place.Dpi),
-                 Screens::ToTwips(place.Pixels.bottom - place.Pixels.top, place.Dpi)};
-  return place;
+  GetMonitorInfoW(handle, &info);
+  const RECT& pixels = info.rcMonitor;
+  const int dpi = WithTextScale(PlainDpiOf(handle));
+  return {pixels,
+          info.rcWork,
+          dpi,
+          {Start(pixels.left, pixels.right, dpi), Start(pixels.top, pixels.bottom, dpi),
+           ToTwips(pixels.right - pixels.left, dpi), ToTwips(pixels.bottom - pixels.top, dpi)}};
 }
 
-BOOL CALLBACK AddPlace(HMONITOR monitor, HDC /*dc*/, RECT* /*area*/, LPARAM places) {
-  reinterpret_cast<std::vector<Place>*>(places)->push_back(Describe(monitor));
-  return TRUE;
-}
-
-std::vector<Place> AllPlaces() {
-  std::vector<Place> places;
-  EnumDisplayMonitors(nullptr, nullptr, AddPlace, reinterpret_cast<LPARAM>(&places));
-  if (places.empty()) places.push_back(Describe(PrimaryMonitor()));
-  return places;
-}
-
-int Gap(int from, int to, int otherFrom, int otherTo) { return std::max({otherFrom - to, from - otherTo, 0}); }
-
-/// The screen that holds most of the place; the nearest one if none does.
-Place Best(const form::Rect& place) {
-  const auto score = [&](const Place& screen) {
-    const form::Rect& area = screen.Twips;
+Screens::Monitor Screens::Best(const form::Rect& place) const {
+  std::vector<HMONITOR> handles;
+  EnumDisplayMonitors(nullptr, nullptr, AddMonitor, reinterpret_cast<LPARAM>(&handles));
+  Monitor best = Describe(handles.empty() ? PrimaryMonitor() : handles.front());
+  const auto score = [&](const Monitor& monitor) {
+    const form::Rect& area = monitor.Twips;
     const double shared = double(form::Overlap(place.Left, place.Right(), area.Left, area.Right())) *
                           form::Overlap(place.Top, place.Bottom(), area.Top, area.Bottom());
     if (shared > 0) return shared;
     return -double(Gap(place.Left, place.Right(), area.Left, area.Right())) -
            Gap(place.Top, place.Bottom(), area.Top, area.Bottom());
   };
-  const std::vector<Place> places = AllPlaces();
-  return *std::max_element(places.begin(), places.end(),
-                           [&](const Place& a, const Place& b) { return score(a) < score(b); });
+  for (std::size_t i = 1; i < handles.size(); ++i) {
+    const Monitor other = Describe(handles[i]);
+    if (score(other) > score(best)) best = other;
+  }
+  return best;
 }
-
-form::Screen ToScreen(const Place& place) {
-  form::Screen screen;
-  screen.Bounds = place.Twips;
-  screen.WorkArea = {place.Twips.Left + Screens::ToTwips(place.WorkArea.left - place.Pixels.left, place.Dpi),
-                     place.Twips.Top + Screens::ToTwips(place.WorkArea.top - place.Pixels.top, place.Dpi),
-                     Screens::ToTwips(place.WorkArea.right - place.WorkArea.left, place.Dpi),
-                     Screens::ToTwips(place.WorkArea.bottom - place.WorkArea.top, place.Dpi)};
-  screen.TwipsPerPixelX = screen.TwipsPerPixelY = double(form::TwipsPerInch) / place.Dpi;
-  return screen;
-}
-
-}  // namespace
 
 void Screens::DeclareAwareness() {
   using SetContext = BOOL(WINAPI*)(HANDLE);
@@ -158,25 +136,27 @@ void Screens::DeclareAwareness() {
   if (setContext == nullptr || setContext(perMonitorV2) == FALSE) SetProcessDPIAware();
 }
 
-void Screens::Forget() { RememberedTextSize().reset(); }
-
-int Screens::WithTextScale(int dpi) {
+int Screens::WithTextScale(int dpi) const {
   constexpr double Inexactness = 0.01;  // of the scale, which may stand for a whole number
   return static_cast<int>(dpi * UserTextSize().Scale + Inexactness);
 }
 
-int Screens::SystemDpi() { return WithTextScale(PlainSystemDpi()); }
+int Screens::SystemDpi() const { return WithTextScale(PlainSystemDpi()); }
 
-int Screens::DpiOf(HWND window) { return DpiOfMonitor(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST)); }
+int Screens::DpiOf(HWND window) const {
+  return WithTextScale(PlainDpiOf(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST)));
+}
 
-int Screens::DpiOf(const RECT& pixels) { return DpiOfMonitor(MonitorFromRect(&pixels, MONITOR_DEFAULTTONEAREST)); }
+int Screens::DpiOf(const RECT& pixels) const {
+  return WithTextScale(PlainDpiOf(MonitorFromRect(&pixels, MONITOR_DEFAULTTONEAREST)));
+}
 
 int Screens::ToPixels(form::Twips twips, int dpi) { return MulDiv(twips, dpi, form::TwipsPerInch); }
 
 form::Twips Screens::ToTwips(int pixels, int dpi) { return MulDiv(pixels, form::TwipsPerInch, dpi); }
 
-RECT Screens::PixelsOf(const form::Rect& place) {
-  const Place screen = Best(place);
+RECT Screens::PixelsOf(const form::Rect& place) const {
+  const Monitor screen = Best(place);
   RECT pixels;
   pixels.left = screen.Pixels.left + ToPixels(place.Left - screen.Twips.Left, screen.Dpi);
   pixels.top = screen.Pixels.top + ToPixels(place.Top - screen.Twips.Top, screen.Dpi);
@@ -185,14 +165,14 @@ RECT Screens::PixelsOf(const form::Rect& place) {
   return pixels;
 }
 
-form::Rect Screens::TwipsOf(const RECT& pixels) {
-  const Place screen = Describe(MonitorFromRect(&pixels, MONITOR_DEFAULTTONEAREST));
+form::Rect Screens::TwipsOf(const RECT& pixels) const {
+  const Monitor screen = Describe(MonitorFromRect(&pixels, MONITOR_DEFAULTTONEAREST));
   return {screen.Twips.Left + ToTwips(pixels.left - screen.Pixels.left, screen.Dpi),
           screen.Twips.Top + ToTwips(pixels.top - screen.Pixels.top, screen.Dpi),
           ToTwips(pixels.right - pixels.left, screen.Dpi), ToTwips(pixels.bottom - pixels.top, screen.Dpi)};
 }
 
-void Screens::AddEdges(RECT& inside, DWORD style, DWORD extendedStyle, int dpi) {
+void Screens::AddEdges(RECT& inside, DWORD style, DWORD extendedStyle, int dpi) const {
   // The call that knows resolutions came with Windows 10.
   using AdjustForDpi = BOOL(WINAPI*)(RECT*, DWORD, BOOL, DWORD, UINT);
   static const auto forDpi = FindInUser32<AdjustForDpi>("AdjustWindowRectExForDpi");
@@ -202,11 +182,11 @@ void Screens::AddEdges(RECT& inside, DWORD style, DWORD extendedStyle, int dpi) 
   }
 }
 
-form::Screen Screens::At(const form::Rect& place) { return ToScreen(Best(place)); }
+form::Screen Screens::At(const form::Rect& place) const { return Best(place).ToScreen(); }
 
-form::Screen Screens::Primary() { return ToScreen(Describe(PrimaryMonitor())); }
+form::Screen Screens::Primary() const { return Describe(PrimaryMonitor()).ToScreen(); }
 
-LOGFONTW Screens::MessageFont(int dpi) {
+LOGFONTW Screens::MessageFont(int dpi) const {
   LOGFONTW font = UserTextSize().Font;
   font.lfHeight = font.lfHeight * dpi / 96;  // rounded down, so that texts need no more room than was measured
   return font;

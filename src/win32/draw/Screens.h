@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <optional>
+
 #include "form/Geometry.h"
 
 namespace vantor::win32 {
@@ -20,31 +22,47 @@ class Screens {
   static void DeclareAwareness();
 
   /// The user's settings or the screens have changed: what is remembered of them is asked for anew.
-  static void Forget();
+  void Forget() { textSize_.reset(); }
 
   /// The resolution that Windows tells of, raised for larger texts.
-  [[nodiscard]] static int WithTextScale(int dpi);
-  [[nodiscard]] static int SystemDpi();
+  [[nodiscard]] int WithTextScale(int dpi) const;
+  [[nodiscard]] int SystemDpi() const;
   /// Dots per inch of the screen that holds most of the window, or of the rectangle in pixels.
-  [[nodiscard]] static int DpiOf(HWND window);
-  [[nodiscard]] static int DpiOf(const RECT& pixels);
+  [[nodiscard]] int DpiOf(HWND window) const;
+  [[nodiscard]] int DpiOf(const RECT& pixels) const;
 
   [[nodiscard]] static int ToPixels(form::Twips twips, int dpi);
   [[nodiscard]] static form::Twips ToTwips(int pixels, int dpi);
 
   /// A place on the desktop in pixels. Its size is the one that it has on the screen it is on.
-  [[nodiscard]] static RECT PixelsOf(const form::Rect& place);
+  [[nodiscard]] RECT PixelsOf(const form::Rect& place) const;
   /// Where a window's top left corner stands, in twips.
-  [[nodiscard]] static form::Rect TwipsOf(const RECT& pixels);
+  [[nodiscard]] form::Rect TwipsOf(const RECT& pixels) const;
 
   /// Adds a window's title bar and edges around its inside.
-  static void AddEdges(RECT& inside, DWORD style, DWORD extendedStyle, int dpi);
+  void AddEdges(RECT& inside, DWORD style, DWORD extendedStyle, int dpi) const;
 
-  [[nodiscard]] static form::Screen At(const form::Rect& place);
-  [[nodiscard]] static form::Screen Primary();
+  [[nodiscard]] form::Screen At(const form::Rect& place) const;
+  [[nodiscard]] form::Screen Primary() const;
 
   /// The system's font for messages and dialogs at a resolution.
-  [[nodiscard]] static LOGFONTW MessageFont(int dpi);
+  [[nodiscard]] LOGFONTW MessageFont(int dpi) const;
+
+ private:
+  /// The user's font for messages and dialogs at 96 dots per inch, and what its size makes of everything else.
+  struct TextSize {
+    LOGFONTW Font{};
+    double Scale = 1;
+  };
+  struct Monitor;
+
+  const TextSize& UserTextSize() const;
+  [[nodiscard]] Monitor Describe(HMONITOR handle) const;
+  /// The monitor that holds most of the place; the nearest one if none does.
+  [[nodiscard]] Monitor Best(const form::Rect& place) const;
+  [[nodiscard]] form::Twips Start(LONG from, LONG to, int dpi) const;
+
+  mutable std::optional<TextSize> textSize_;  // looked up when it is first needed
 };
 
 }  // namespace vantor::win32

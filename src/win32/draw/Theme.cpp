@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "win32/draw/Screens.h"
-
 namespace vantor::win32 {
 
 namespace {
@@ -62,30 +60,27 @@ COLORREF Plain(form::Color color) {
 }  // namespace
 
 void Theme::Forget() {
-  known_ = false;
+  palette_.reset();
   oldFonts_ = std::exchange(fonts_, {});
 }
 
-const Palette& Theme::Colors() {
-  if (!known_) {
-    palette_ = HighContrastIsOn() ? SystemPalette() : BluePalette();
-    known_ = true;
-  }
-  return palette_;
+const Palette& Theme::Colors() const {
+  if (!palette_) palette_ = HighContrastIsOn() ? SystemPalette() : BluePalette();
+  return *palette_;
 }
 
-COLORREF Theme::Background(form::Color color) {
+COLORREF Theme::Background(form::Color color) const {
   if (!Colors().HighContrast || IsSystemColor(color)) return Plain(color);
   return GetSysColor(color == form::Color::Silver ? COLOR_BTNFACE : COLOR_WINDOW);
 }
 
-COLORREF Theme::Ink(form::Color color, bool enabled) {
-  if (!enabled) return Colors().HighContrast ? GetSysColor(COLOR_GRAYTEXT) : Colors().Disabled.Ink;
+COLORREF Theme::TextColor(form::Color color, bool enabled) const {
+  if (!enabled) return Colors().HighContrast ? GetSysColor(COLOR_GRAYTEXT) : Colors().Disabled.Text;
   if (!Colors().HighContrast || IsSystemColor(color)) return Plain(color);
   return GetSysColor(COLOR_WINDOWTEXT);
 }
 
-HBRUSH Theme::Brush(COLORREF color) {
+HBRUSH Theme::Brush(COLORREF color) const {
   for (const ColoredBrush& brush : brushes_) {
     if (brush.Color == color) return brush.Brush.Get();
   }
@@ -93,11 +88,11 @@ HBRUSH Theme::Brush(COLORREF color) {
   return brushes_.back().Brush.Get();
 }
 
-HFONT Theme::Font(int dpi, bool bold) {
+HFONT Theme::Font(int dpi, bool bold) const {
   for (const SizedFont& font : fonts_) {
     if (font.Dpi == dpi && font.Bold == bold) return font.Font.Get();
   }
-  LOGFONTW description = Screens::MessageFont(dpi);
+  LOGFONTW description = screens_.MessageFont(dpi);
   if (bold) description.lfWeight = FW_BOLD;
   fonts_.push_back({dpi, bold, FontHandle(CreateFontIndirectW(&description))});
   return fonts_.back().Font.Get();

@@ -2,10 +2,12 @@
 
 #include <windows.h>
 
+#include <optional>
 #include <vector>
 
 #include "form/Geometry.h"
 #include "win32/base/Handle.h"
+#include "win32/draw/Screens.h"
 
 namespace vantor::win32 {
 
@@ -15,7 +17,7 @@ struct Palette {
   struct Face {
     COLORREF Fill;
     COLORREF Edge;
-    COLORREF Ink;
+    COLORREF Text;
   };
 
   bool HighContrast;
@@ -34,16 +36,18 @@ struct Palette {
 /// Colours, brushes and fonts as the user's settings have them, looked up when first needed.
 class Theme {
  public:
-  /// Settings have changed: everything is looked up anew.
+  explicit Theme(const Screens& screens) : screens_(screens) {}
+
+  /// Settings have changed: everything is looked up again.
   void Forget();
 
-  [[nodiscard]] const Palette& Colors();
+  [[nodiscard]] const Palette& Colors() const;
   /// A form's colours on the screen. With high contrast on, only the system's own come through.
-  [[nodiscard]] COLORREF Background(form::Color color);
-  [[nodiscard]] COLORREF Ink(form::Color color, bool enabled);
+  [[nodiscard]] COLORREF Background(form::Color color) const;
+  [[nodiscard]] COLORREF TextColor(form::Color color, bool enabled) const;
   /// Lives as long as the theme.
-  [[nodiscard]] HBRUSH Brush(COLORREF color);
-  [[nodiscard]] HFONT Font(int dpi, bool bold);
+  [[nodiscard]] HBRUSH Brush(COLORREF color) const;
+  [[nodiscard]] HFONT Font(int dpi, bool bold) const;
 
  private:
   struct ColoredBrush {
@@ -56,10 +60,11 @@ class Theme {
     FontHandle Font;
   };
 
-  bool known_ = false;
-  Palette palette_{};
-  std::vector<ColoredBrush> brushes_;
-  std::vector<SizedFont> fonts_;
+  const Screens& screens_;
+  // What was looked up.
+  mutable std::optional<Palette> palette_;
+  mutable std::vector<ColoredBrush> brushes_;
+  mutable std::vector<SizedFont> fonts_;
   std::vector<SizedFont> oldFonts_;  // windows may hold them until they are given new ones
 };
 

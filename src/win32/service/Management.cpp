@@ -51,7 +51,7 @@ void Ask(Question& question) noexcept {
 
 std::optional<service::DiskIdentity> Management::ReadDiskIdentity() {
   const auto question = std::make_shared<Question>();
-  if (!patience_.EndsInTime([question] { Ask(*question); })) return std::nullopt;
+  if (!timedWork_.Run([question] { Ask(*question); })) return std::nullopt;
   if (question->Refused) throw std::runtime_error("the identity of disk C: can't be read");
   return question->Answer;
 }

@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "service/Management.h"
-#include "win32/base/Patience.h"
+#include "win32/base/TimedWork.h"
 
 namespace vantor::win32 {
 
@@ -14,7 +14,7 @@ class Management final : public service::Management {
   [[nodiscard]] std::optional<service::DiskIdentity> ReadDiskIdentity() override;
 
  private:
-  Patience patience_;
+  TimedWork timedWork_;
 };
 
 }  // namespace vantor::win32

@@ -89,7 +89,7 @@ void Processes::CloseSnapshot(service::SnapshotId snapshot) { CloseHandle(Handle
 
 std::optional<std::vector<service::ManagedProcess>> Processes::ManagedProcesses() {
   const auto question = std::make_shared<Question>();
-  if (!patience_.EndsInTime([question] { Ask(*question); })) return std::nullopt;
+  if (!timedWork_.Run([question] { Ask(*question); })) return std::nullopt;
   return std::move(question->Answer);
 }
 

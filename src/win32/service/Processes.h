@@ -1,7 +1,7 @@
 #pragma once
 
 #include "service/Processes.h"
-#include "win32/base/Patience.h"
+#include "win32/base/TimedWork.h"
 
 namespace vantor::win32 {
 
@@ -16,7 +16,7 @@ class Processes final : public service::Processes {
   [[nodiscard]] std::wstring ImageName(std::uint32_t processId) override;
 
  private:
-  Patience patience_;
+  TimedWork timedWork_;
 };
 
 }  // namespace vantor::win32

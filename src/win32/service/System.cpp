@@ -37,13 +37,13 @@ std::wstring System::ProgramFolder() {
 }
 
 bool System::ActivateInstance(std::wstring_view title) {
-  constexpr DWORD Patience = 3000;  // milliseconds: the time that a cold start from a slow stick takes
+  constexpr DWORD TimeLimit = 3000;  // milliseconds: the time that a cold start from a slow stick takes
   constexpr DWORD Pause = 25;
   const DWORD begin = GetTickCount();
   for (;;) {
     const Activation activation = ActivateBar(title);
     if (activation == Activation::Done) return true;
-    const bool waited = GetTickCount() - begin >= Patience;
+    const bool waited = GetTickCount() - begin >= TimeLimit;
     // It may be ending instead of starting; then this copy takes its place. So it does where the name is held by what
     // is no copy at all.
     if (waited || !instance_.OtherRuns() || !CopyRuns()) return activation == Activation::NoBar && waited;

@@ -8,7 +8,7 @@
 
 #include "win32/base/ComObject.h"
 #include "win32/base/SystemLibrary.h"
-#include "win32/window/Reading.h"
+#include "win32/window/AccessibleState.h"
 
 namespace vantor::win32 {
 
@@ -44,26 +44,27 @@ class Accessible final : public ComObject<IAccessible, IID_IDispatch, IID_IAcces
   // What is read here, of the window itself. Of its parts, the entries of a list say, the system tells.
 
   HRESULT STDMETHODCALLTYPE get_accName(VARIANT child, BSTR* text) override {
-    return Tell(child, &Reading::Name, text, [&] { return standard_->get_accName(child, text); });
+    return Tell(child, &AccessibleState::Name, text, [&] { return standard_->get_accName(child, text); });
   }
   HRESULT STDMETHODCALLTYPE get_accValue(VARIANT child, BSTR* text) override {
-    return Tell(child, &Reading::Value, text, [&] { return standard_->get_accValue(child, text); });
+    return Tell(child, &AccessibleState::Value, text, [&] { return standard_->get_accValue(child, text); });
   }
   HRESULT STDMETHODCALLTYPE get_accKeyboardShortcut(VARIANT child, BSTR* text) override {
-    return Tell(child, &Reading::Shortcut, text, [&] { return standard_->get_accKeyboardShortcut(child, text); });
+    return Tell(child, &AccessibleState::Shortcut, text,
+                [&] { return standard_->get_accKeyboardShortcut(child, text); });
   }
   HRESULT STDMETHODCALLTYPE get_accDefaultAction(VARIANT child, BSTR* text) override {
-    return Tell(child, &Reading::Action, text, [&] { return standard_->get_accDefaultAction(child, text); });
+    return Tell(child, &AccessibleState::Action, text, [&] { return standard_->get_accDefaultAction(child, text); });
   }
   HRESULT STDMETHODCALLTYPE get_accRole(VARIANT child, VARIANT* role) override {
-    return Count(child, &Reading::Role, role, [&] { return standard_->get_accRole(child, role); });
+    return Count(child, &AccessibleState::Role, role, [&] { return standard_->get_accRole(child, role); });
   }
   HRESULT STDMETHODCALLTYPE get_accState(VARIANT child, VARIANT* state) override {
-    return Count(child, &Reading::State, state, [&] { return standard_->get_accState(child, state); });
+    return Count(child, &AccessibleState::State, state, [&] { return standard_->get_accState(child, state); });
   }
   HRESULT STDMETHODCALLTYPE accDoDefaultAction(VARIANT child) override {
-    const std::optional<Reading> reading = Read(child);
-    if (!reading || *reading->Action == L'\0') return standard_->accDoDefaultAction(child);
+    const std::optional<AccessibleState> state = Read(child);
+    if (!state || *state->Action == L'\0') return standard_->accDoDefaultAction(child);
     ActOn(window_);
     return S_OK;
   }
@@ -124,17 +125,17 @@ class Accessible final : public ComObject<IAccessible, IID_IDispatch, IID_IAcces
 
  private:
   /// Nothing for a part of the window, or when the window is gone.
-  [[nodiscard]] std::optional<Reading> Read(const VARIANT& child) const {
+  [[nodiscard]] std::optional<AccessibleState> Read(const VARIANT& child) const {
     if (child.vt != VT_I4 || child.lVal != CHILDID_SELF) return {};
-    return ReadingOf(window_);
+    return StateOf(window_);
   }
 
   template <class Member, class Otherwise>
   HRESULT Tell(const VARIANT& child, Member member, BSTR* text, const Otherwise& otherwise) const {
     try {
-      const std::optional<Reading> reading = Read(child);
-      if (!reading) return otherwise();
-      const std::wstring told = *reading.*member;
+      const std::optional<AccessibleState> state = Read(child);
+      if (!state) return otherwise();
+      const std::wstring told = *state.*member;
       *text = told.empty() ? nullptr : MakeComText(told).Release();
       return told.empty() ? S_FALSE : S_OK;
     } catch (const std::bad_alloc&) {
@@ -143,12 +144,13 @@ class Accessible final : public ComObject<IAccessible, IID_IDispatch, IID_IAcces
   }
 
   template <class Otherwise>
-  HRESULT Count(const VARIANT& child, long Reading::*member, VARIANT* number, const Otherwise& otherwise) const {
+  HRESULT Count(const VARIANT& child, long AccessibleState::*member, VARIANT* number,
+                const Otherwise& otherwise) const {
     try {
-      const std::optional<Reading> reading = Read(child);
-      if (!reading) return otherwise();
+      const std::optional<AccessibleState> state = Read(child);
+      if (!state) return otherwise();
       number->vt = VT_I4;
-      number->lVal = *reading.*member;
+      number->lVal = *state.*member;
       return S_OK;
     } catch (const std::bad_alloc&) {
       return E_OUTOFMEMORY;
@@ -184,7 +186,7 @@ void Record(HWND window, const std::wstring& name) {
 
 }  // namespace
 
-std::optional<LRESULT> AnswerReader(HWND window, Apartment& com, WPARAM wParam, LPARAM lParam) {
+std::optional<LRESULT> AnswerAccessibility(HWND window, Apartment& com, WPARAM wParam, LPARAM lParam) {
   // Only the low half counts, whatever the sender's width.
   if (static_cast<LONG>(lParam) != OBJID_CLIENT) return {};
   static const Library library;
@@ -192,7 +194,7 @@ std::optional<LRESULT> AnswerReader(HWND window, Apartment& com, WPARAM wParam, 
   com.Enter();
   ComPointer<IAccessible> standard;
   if (FAILED(library.Standard(window, OBJID_CLIENT, IID_IAccessible, standard.PutVoid()))) return {};
-  if (const auto reading = ReadingOf(window)) Record(window, reading->Name);
+  if (const auto state = StateOf(window)) Record(window, state->Name);
   const ComPointer<IAccessible> accessible(new Accessible(window, std::move(standard)));
   const LRESULT answer = library.Answer(IID_IAccessible, wParam, accessible.Get());
   if (FAILED(static_cast<HRESULT>(answer))) return {};

@@ -1,8 +1,8 @@
 #include "win32/window/ButtonWindow.h"
 
+#include <oleacc.h>
 #include <windowsx.h>
 
-#include <algorithm>
 #include <string>
 
 #include "form/Static.h"
@@ -13,11 +13,6 @@ namespace vantor::win32 {
 namespace {
 
 using form::Picture;
-
-/// Whether a caption is a sign rather than a word; signs are drawn bold.
-bool IsSign(const std::wstring& caption) {
-  return caption.size() == 1 || (caption.size() == 2 && IsCharAlphaW(caption[0]) == FALSE);
-}
 
 bool HasPictures(const form::CommandButton& button) {
   return button.Picture() != Picture::None || button.DownPicture() != Picture::None ||
@@ -34,26 +29,29 @@ std::wstring NameOf(const form::CommandButton& button) {
   return name;
 }
 
-bool IsGround(Picture picture) {
-  return picture == Picture::ButtonNormal || picture == Picture::ButtonPressed || picture == Picture::ButtonDisabled ||
-         picture == Picture::ButtonOpen;
-}
-
 }  // namespace
 
 ButtonWindow::ButtonWindow(FormWindow& owner, form::CommandButton& button)
     : ControlWindow(owner, button, {L"BUTTON", WS_TABSTOP | StyleOf(button), NameOf(button)}), button_(button) {
-  for (form::Control* control : owner.Form().Controls()) {
-    if (control == button_.FaceLabel()) control->AttachWindow(&faceLabel_);
-  }
+  if (button_.FaceLabel() != nullptr) button_.FaceLabel()->AttachWindow(&faceLabel_);
 }
 
-bool ButtonWindow::IsOnFace(const form::Control& control) {
-  const auto& controls = control.OwnerForm().Controls();
-  return std::any_of(controls.begin(), controls.end(), [&](const form::Control* other) {
-    return other->Kind() == form::ControlKind::CommandButton &&
-           static_cast<const form::CommandButton*>(other)->FaceLabel() == &control;
-  });
+void ButtonWindow::Describe(AccessibleState& state) const {
+  state.Role = ROLE_SYSTEM_PUSHBUTTON;
+  state.Action = L"Press";
+  switch (button_.State()) {
+    case form::ButtonState::Plain:
+      break;
+    case form::ButtonState::Pressed:
+      state.State |= STATE_SYSTEM_PRESSED;
+      break;
+    case form::ButtonState::Folded:
+      state.State |= STATE_SYSTEM_COLLAPSED;
+      break;
+    case form::ButtonState::Unfolded:
+      state.State |= STATE_SYSTEM_EXPANDED;
+      break;
+  }
 }
 
 void ButtonWindow::Show(form::Property property) {
@@ -76,27 +74,22 @@ void ButtonWindow::OnDraw(const DRAWITEMSTRUCT& item) {
   if (size.cx <= 0 || size.cy <= 0) return;
   const bool enabled = button_.Enabled();
   const bool pressed = enabled && (item.itemState & ODS_SELECTED) != 0;
-  Picture picture = button_.Picture();
-  if (!enabled && button_.DisabledPicture() != Picture::None) picture = button_.DisabledPicture();
-  if (pressed && button_.DownPicture() != Picture::None) picture = button_.DownPicture();
-
-  const Palette& colors = Look().Colors();
-  const Palette::Face& face = !enabled                         ? colors.Disabled
-                              : pressed                        ? colors.Pressed
-                              : picture == Picture::ButtonOpen ? colors.Open
-                              : hot_                           ? colors.Hot
-                                                               : colors.Normal;
+  const Palette& colors = Theme().Colors();
+  const Palette::Face& face = !enabled                                        ? colors.Disabled
+                              : pressed                                       ? colors.Pressed
+                              : button_.State() == form::ButtonState::Pressed ? colors.Open
+                              : hot_                                          ? colors.Hot
+                                                                              : colors.Normal;
   Canvas canvas(size.cx, size.cy);
   DrawBackdrop(canvas);
   DrawFace(canvas, canvas.Whole(), colors, face, enabled && (item.itemState & ODS_FOCUS) != 0, Scale());
-  DrawGlyph(canvas, IsGround(picture) ? button_.Picture() : picture, canvas.Whole(), colors, face.Ink, Scale());
+  DrawGlyph(canvas, button_.Picture(), canvas.Whole(), face.Text, Scale());
 
   const form::Label* const label = button_.FaceLabel();
   const std::wstring& caption = label != nullptr ? label->Caption() : button_.Caption();
-  const bool bold = (label != nullptr && label->Bold()) || IsSign(caption);
   RECT area{0, 0, size.cx, size.cy};
-  if (!IsSign(caption)) InflateRect(&area, -static_cast<int>(4 * Scale()), 0);
-  canvas.Text(caption, area, Font(bold), face.Ink, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
+  if (!button_.Sign()) InflateRect(&area, -static_cast<int>(4 * Scale()), 0);
+  canvas.Text(caption, area, Font(button_.Sign()), face.Text, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
   canvas.Show(item.hDC, item.rcItem.left, item.rcItem.top);
 }
 

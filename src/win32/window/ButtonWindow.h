@@ -10,9 +10,8 @@ class ButtonWindow final : public ControlWindow {
  public:
   ButtonWindow(FormWindow& owner, form::CommandButton& button);
 
-  /// Whether a button of the form draws this control on its face, so that it needs no window of its own.
-  [[nodiscard]] static bool IsOnFace(const form::Control& control);
-
+  void Describe(AccessibleState& state) const override;
+  void Act() override { PostClick(); }
   void OnCommand(WORD notification) override;
   void OnDraw(const DRAWITEMSTRUCT& item) override;
 

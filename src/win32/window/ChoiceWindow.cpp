@@ -1,5 +1,7 @@
 #include "win32/window/ChoiceWindow.h"
 
+#include <oleacc.h>
+
 #include <algorithm>
 #include <string>
 #include <vector>
@@ -38,13 +40,12 @@ HBRUSH ChoiceWindow::OnColor(HDC dc) {
   const SIZE size = ClientSize();
   Canvas canvas(size.cx, size.cy);
   DrawBackdrop(canvas);
-  HDC screen = GetDC(nullptr);
-  BitmapHandle copy(CreateCompatibleBitmap(screen, canvas.Width(), canvas.Height()));
-  ReleaseDC(nullptr, screen);
-  MemoryDcHandle memory(CreateCompatibleDC(nullptr));
-  const HGDIOBJ old = SelectObject(memory.Get(), copy.Get());
-  canvas.Show(memory.Get());
-  SelectObject(memory.Get(), old);
+  const BitmapHandle copy(CreateCompatibleBitmap(WindowDc(nullptr).Get(), canvas.Width(), canvas.Height()));
+  const MemoryDcHandle memory(CreateCompatibleDC(nullptr));
+  {
+    const Selected selected(memory.Get(), copy.Get());
+    canvas.Show(memory.Get());
+  }
   backdrop_.Reset(CreatePatternBrush(copy.Get()));
   return backdrop_.Get();
 }
@@ -66,6 +67,18 @@ LRESULT ChoiceWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   return ControlWindow::OnMessage(message, wParam, lParam);
 }
 
+void CheckWindow::Describe(AccessibleState& state) const {
+  state.Role = ROLE_SYSTEM_CHECKBUTTON;
+  state.Action = Chosen() ? L"Uncheck" : L"Check";
+  if (Chosen()) state.State |= STATE_SYSTEM_CHECKED;
+}
+
+void OptionWindow::Describe(AccessibleState& state) const {
+  state.Role = ROLE_SYSTEM_RADIOBUTTON;
+  state.Action = L"Check";
+  if (Chosen()) state.State |= STATE_SYSTEM_CHECKED;
+}
+
 LRESULT OptionWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_KEYDOWN) {
     const bool backwards = wParam == VK_UP || wParam == VK_LEFT;
@@ -78,13 +91,8 @@ LRESULT OptionWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void OptionWindow::ChooseNeighbour(bool backwards) {
-  std::vector<form::OptionButton*> group;
-  for (form::Control* control : Owner().Form().Controls()) {
-    if (control->Kind() == form::ControlKind::OptionButton && control->Container() == button_.Container() &&
-        control->AcceptsInput()) {
-      group.push_back(static_cast<form::OptionButton*>(control));
-    }
-  }
+  std::vector<form::OptionButton*> group = button_.Group();
+  std::erase_if(group, [](const form::OptionButton* button) { return !button->AcceptsInput(); });
   const auto here = std::find(group.begin(), group.end(), &button_);
   if (here == group.end()) return;
   const std::size_t count = group.size();

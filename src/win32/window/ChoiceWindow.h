@@ -10,6 +10,7 @@ class ChoiceWindow : public ControlWindow {
  public:
   void Refresh() override;
   [[nodiscard]] std::wstring SpokenName() const override { return button_.Caption(); }
+  void Act() override { PostClick(); }
   void OnCommand(WORD notification) override;
   HBRUSH OnColor(HDC dc) override;
 
@@ -18,6 +19,7 @@ class ChoiceWindow : public ControlWindow {
 
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   void Show(form::Property property) override;
+  [[nodiscard]] bool Chosen() const { return button_.Value(); }
 
  private:
   form::ChoiceButton& button_;
@@ -28,12 +30,14 @@ class ChoiceWindow : public ControlWindow {
 class CheckWindow final : public ChoiceWindow {
  public:
   CheckWindow(FormWindow& owner, form::CheckBox& box) : ChoiceWindow(owner, box, BS_CHECKBOX) {}
+  void Describe(AccessibleState& state) const override;
 };
 
 class OptionWindow final : public ChoiceWindow {
  public:
   OptionWindow(FormWindow& owner, form::OptionButton& button)
       : ChoiceWindow(owner, button, BS_RADIOBUTTON), button_(button) {}
+  void Describe(AccessibleState& state) const override;
 
  protected:
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;

@@ -1,11 +1,12 @@
 #include "win32/window/ComboWindow.h"
 
+#include <oleacc.h>
+
 #include <algorithm>
 #include <string>
 #include <vector>
 
-#include "win32/draw/Lines.h"
-#include "win32/draw/Screens.h"
+#include "win32/draw/ListRow.h"
 
 namespace vantor::win32 {
 
@@ -27,7 +28,7 @@ bool BeginsWith(const std::wstring& text, const std::wstring& beginning) {
 
 }  // namespace
 
-ComboWindow::ComboWindow(FormWindow& owner, form::ListControl& list)
+ComboWindow::ComboWindow(FormWindow& owner, form::DropDownList& list)
     : ControlWindow(
           owner, list,
           {L"COMBOBOX", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_HASSTRINGS | CBS_OWNERDRAWFIXED, {}, true}),
@@ -40,21 +41,19 @@ ComboWindow::ComboWindow(FormWindow& owner, form::ListControl& list)
       SetWindowLongPtrW(info.hwndList, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ListProcedure)));
 }
 
-void ComboWindow::Place() {
+void ComboWindow::ApplyBounds() {
   // The height that the system is given is that of the dropped list; the window's own follows from its line's.
-  const form::Rect& bounds = Control().Bounds();
-  const int dpi = Owner().Dpi();
-  const int wanted = Screens::ToPixels(bounds.Height, dpi);
-  const int line = LineHeight(Hwnd(), Font(), Scale());
+  const RECT bounds = BoundsInPixels();
+  const int line = RowHeight(Font(), Scale());
   Default(CB_SETITEMHEIGHT, 0, line);
-  SetWindowPos(Hwnd(), nullptr, Screens::ToPixels(bounds.Left, dpi), Screens::ToPixels(bounds.Top, dpi),
-               Screens::ToPixels(bounds.Width, dpi), wanted + ShownLines * line + 2, SWP_NOZORDER | SWP_NOACTIVATE);
+  SetWindowPos(Hwnd(), nullptr, bounds.left, bounds.top, bounds.right, bounds.bottom + ShownLines * line + 2,
+               SWP_NOZORDER | SWP_NOACTIVATE);
   // What is set as the line's height may come out as a little more: then once again, by that much less.
   int height = static_cast<int>(Default(CB_GETITEMHEIGHT, static_cast<WPARAM>(-1)));
   for (int i = 0; i < 2; ++i) {
     RECT shown;
     GetWindowRect(Hwnd(), &shown);
-    const int missing = wanted - (shown.bottom - shown.top);
+    const int missing = bounds.bottom - (shown.bottom - shown.top);
     if (missing == 0 || height + missing <= 0) break;
     height += missing;
     Default(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), height);
@@ -76,15 +75,19 @@ std::wstring ComboWindow::TipText() const {
   COMBOBOXINFO info{};
   info.cbSize = sizeof info;
   if (text.empty() || GetComboBoxInfo(Hwnd(), &info) == FALSE) return {};
-  const HDC dc = GetDC(Hwnd());
-  const HGDIOBJ oldFont = SelectObject(dc, Font());
-  SIZE size{};
-  GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
-  SelectObject(dc, oldFont);
-  ReleaseDC(Hwnd(), dc);
   // Only what does not fit is told.
-  return size.cx > info.rcItem.right - info.rcItem.left - 2 * LineMargin(Scale()) ? text : std::wstring();
+  return TextSize(text, Font()).cx > info.rcItem.right - info.rcItem.left - 2 * RowMargin(Scale()) ? text
+                                                                                                   : std::wstring();
 }
+
+void ComboWindow::Describe(AccessibleState& state) const {
+  state.Role = ROLE_SYSTEM_COMBOBOX;
+  state.Value = list_.Text();
+  state.State |= STATE_SYSTEM_HASPOPUP | (IsDropped() ? STATE_SYSTEM_EXPANDED : STATE_SYSTEM_COLLAPSED);
+  state.Action = IsDropped() ? L"Close" : L"Open";
+}
+
+void ComboWindow::Act() { PostMessageW(Hwnd(), CB_SHOWDROPDOWN, IsDropped() ? FALSE : TRUE, 0); }
 
 void ComboWindow::OnCommand(WORD notification) {
   switch (notification) {
@@ -133,20 +136,12 @@ void ComboWindow::FitWidth() {
   std::partial_sort(longest.begin(), longest.begin() + static_cast<std::ptrdiff_t>(count), longest.end(),
                     [](const auto* a, const auto* b) { return a->size() > b->size(); });
   longest.resize(count);
-  const HDC dc = GetDC(Hwnd());
-  const HGDIOBJ oldFont = SelectObject(dc, Font());
   LONG width = 0;
-  for (const std::wstring* entry : longest) {
-    SIZE size{};
-    GetTextExtentPoint32W(dc, entry->c_str(), static_cast<int>(entry->size()), &size);
-    width = std::max(width, size.cx);
-  }
-  SelectObject(dc, oldFont);
-  ReleaseDC(Hwnd(), dc);
+  for (const std::wstring* entry : longest) width = std::max(width, TextSize(*entry, Font()).cx);
   MONITORINFO screen{};
   screen.cbSize = sizeof screen;
   GetMonitorInfoW(MonitorFromWindow(Hwnd(), MONITOR_DEFAULTTONEAREST), &screen);
-  width += 2 * LineMargin(Scale()) + GetSystemMetrics(SM_CXVSCROLL) + 2 * GetSystemMetrics(SM_CXBORDER);
+  width += 2 * RowMargin(Scale()) + GetSystemMetrics(SM_CXVSCROLL) + 2 * GetSystemMetrics(SM_CXBORDER);
   RECT window;
   GetWindowRect(Hwnd(), &window);
   width = std::min({width, (screen.rcWork.right - screen.rcWork.left) / 2, screen.rcWork.right - window.left});
@@ -161,7 +156,7 @@ void ComboWindow::OnDraw(const DRAWITEMSTRUCT& item) {
   DRAWITEMSTRUCT drawn = item;
   // The field shows that it has the focus, not that its entry is chosen.
   if (field && (item.itemState & ODS_FOCUS) == 0) drawn.itemState &= ~static_cast<UINT>(ODS_SELECTED);
-  DrawLine(drawn, {text, 0, list_.Enabled(), list_.ForeColor()}, Ground(), Font(), Look(), Scale());
+  DrawRow(drawn, {text, 0, list_.Enabled(), list_.ForeColor()}, BackgroundColor(), Font(), Theme(), Scale());
 }
 
 const std::wstring* ComboWindow::Asked(WPARAM index) const {
@@ -289,7 +284,7 @@ LRESULT ComboWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     default:
       break;
   }
-  return OnMessageWithEdge(message, wParam, lParam, std::max(static_cast<int>(Scale()), 1));
+  return OnMessageWithEdge(message, wParam, lParam, LineThickness());
 }
 
 }  // namespace vantor::win32

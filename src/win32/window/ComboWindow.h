@@ -9,17 +9,19 @@ namespace vantor::win32 {
 /// it is first dropped, so that lists of many thousand entries cost nothing until then.
 class ComboWindow final : public ControlWindow {
  public:
-  ComboWindow(FormWindow& owner, form::ListControl& list);
+  ComboWindow(FormWindow& owner, form::DropDownList& list);
 
   [[nodiscard]] std::wstring TipText() const override;
   [[nodiscard]] bool KeepsKeys() const override { return IsDropped(); }
+  void Describe(AccessibleState& state) const override;
+  void Act() override;
   void OnCommand(WORD notification) override;
   void OnDraw(const DRAWITEMSTRUCT& item) override;
 
  protected:
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   void Show(form::Property property) override;
-  void Place() override;
+  void ApplyBounds() override;
 
  private:
   [[nodiscard]] bool IsDropped() const { return Default(CB_GETDROPPEDSTATE) != 0; }
@@ -34,7 +36,7 @@ class ComboWindow final : public ControlWindow {
   void FitList();
   void FitWidth();
 
-  form::ListControl& list_;
+  form::DropDownList& list_;
   WNDPROC listProcedure_ = nullptr;
   int shownCount_ = 0;  // entries of the window's list
   std::wstring typed_;  // the beginning of the entry that is looked for by keys

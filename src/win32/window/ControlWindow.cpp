@@ -1,8 +1,8 @@
 #include "win32/window/ControlWindow.h"
 
 #include <optional>
+#include <utility>
 
-#include "form/Static.h"
 #include "win32/draw/Pictures.h"
 #include "win32/draw/Screens.h"
 #include "win32/window/Accessible.h"
@@ -25,40 +25,44 @@ HWND ParentOf(const FormWindow& owner, const form::Control& control) {
   return container != nullptr ? container->Hwnd() : owner.Hwnd();
 }
 
+/// Makes the kind of window that a kind of control needs.
+class Maker final : public form::ControlVisitor {
+ public:
+  explicit Maker(FormWindow& owner) : owner_(owner) {}
+
+  std::unique_ptr<ControlWindow> Made;
+
+  void Visit(form::TextBox& box) override { Make<EditWindow>(box); }
+  void Visit(form::CommandButton& button) override { Make<ButtonWindow>(button); }
+  void Visit(form::CheckBox& box) override { Make<CheckWindow>(box); }
+  void Visit(form::OptionButton& button) override { Make<OptionWindow>(button); }
+  void Visit(form::DropDownList& list) override { Make<ComboWindow>(list); }
+  void Visit(form::OpenList& list) override { Make<ListWindow>(list); }
+  void Visit(form::Label& label) override { Make<LabelWindow>(label); }
+  void Visit(form::Frame& frame) override { Make<FrameWindow>(frame); }
+  void Visit(form::PictureControl& picture) override { Make<PictureWindow>(picture); }
+
+ private:
+  template <class Window, class Control>
+  void Make(Control& control) {
+    Made = std::make_unique<Window>(owner_, control);
+  }
+
+  FormWindow& owner_;
+};
+
 }  // namespace
 
 std::unique_ptr<ControlWindow> ControlWindow::Make(FormWindow& owner, form::Control& control) {
-  const auto make = [&]() -> std::unique_ptr<ControlWindow> {
-    switch (control.Kind()) {
-      case form::ControlKind::TextBox:
-        return std::make_unique<EditWindow>(owner, static_cast<form::TextBox&>(control));
-      case form::ControlKind::CommandButton:
-        return std::make_unique<ButtonWindow>(owner, static_cast<form::CommandButton&>(control));
-      case form::ControlKind::CheckBox:
-        return std::make_unique<CheckWindow>(owner, static_cast<form::CheckBox&>(control));
-      case form::ControlKind::OptionButton:
-        return std::make_unique<OptionWindow>(owner, static_cast<form::OptionButton&>(control));
-      case form::ControlKind::ComboBox:
-      case form::ControlKind::DriveList:
-        return std::make_unique<ComboWindow>(owner, static_cast<form::ListControl&>(control));
-      case form::ControlKind::ListBox:
-      case form::ControlKind::FolderList:
-      case form::ControlKind::FileList:
-        return std::make_unique<ListWindow>(owner, static_cast<form::ListControl&>(control));
-      case form::ControlKind::Frame:
-        return std::make_unique<FrameWindow>(owner, static_cast<form::Frame&>(control));
-      default:
-        return std::make_unique<StaticWindow>(owner, control);
-    }
-  };
-  auto window = make();
-  control.AttachWindow(window.get());
-  window->Refresh();
-  return window;
+  Maker maker(owner);
+  control.Accept(maker);
+  control.AttachWindow(maker.Made.get());
+  maker.Made->Refresh();
+  return std::move(maker.Made);
 }
 
 ControlWindow::ControlWindow(FormWindow& owner, form::Control& control, const Kind& kind)
-    : owner_(owner), control_(control), placed_(PlaceInPixels()), shownText_(kind.Text) {
+    : owner_(owner), control_(control), placed_(BoundsInPixels()), shownText_(kind.Text) {
   const DWORD state = WS_VISIBLE | (control_.Enabled() ? 0 : WS_DISABLED);
   std::optional<CommonControls> version6;
   if (kind.Themed) version6.emplace();
@@ -86,17 +90,6 @@ ControlWindow* ControlWindow::From(HWND handle) {
   return form != nullptr ? form->Find(handle) : nullptr;
 }
 
-form::Picture ControlWindow::ShownPicture() const {
-  switch (control_.Kind()) {
-    case form::ControlKind::Image:
-      return static_cast<const form::Image&>(control_).Picture();
-    case form::ControlKind::PictureBox:
-      return static_cast<const form::PictureBox&>(control_).Picture();
-    default:
-      return form::Picture::None;
-  }
-}
-
 LRESULT CALLBACK ControlWindow::Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
   auto& window = *reinterpret_cast<ControlWindow*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
   if (message == WM_NCDESTROY) {
@@ -110,20 +103,49 @@ LRESULT CALLBACK ControlWindow::Procedure(HWND handle, UINT message, WPARAM wPar
   return result;
 }
 
+bool ControlWindow::Reflect(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
+  HWND sender = reinterpret_cast<HWND>(lParam);
+  switch (message) {
+    case WM_DRAWITEM:
+      sender = reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)->hwndItem;
+      break;
+    case WM_COMMAND:
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLORLISTBOX:
+    case WM_CTLCOLORBTN:
+      break;
+    default:
+      return false;
+  }
+  ControlWindow* const control = From(sender);
+  if (control == nullptr) return false;
+  result = 0;
+  if (message == WM_COMMAND) {
+    control->OnCommand(HIWORD(wParam));
+  } else if (message == WM_DRAWITEM) {
+    control->OnDraw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+    result = TRUE;
+  } else {
+    result = reinterpret_cast<LRESULT>(control->OnColor(reinterpret_cast<HDC>(wParam)));
+  }
+  return true;
+}
+
 LRESULT ControlWindow::Default(UINT message, WPARAM wParam, LPARAM lParam) const {
   return CallWindowProcW(classProcedure_, handle_, message, wParam, lParam);
 }
 
 LRESULT ControlWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   LRESULT result = 0;
-  if (FormWindow::Reflect(message, wParam, lParam, result)) return result;
+  if (Reflect(message, wParam, lParam, result)) return result;
   switch (message) {
     case WM_SETFOCUS:
       result = Default(message, wParam, lParam);
       if (!Retired()) owner_.Form().InputFocus(&control_);
       return result;
     case WM_GETOBJECT:
-      if (const auto answer = AnswerReader(handle_, owner_.Desktop().Com(), wParam, lParam)) return *answer;
+      if (const auto answer = AnswerAccessibility(handle_, owner_.Desktop().Com(), wParam, lParam)) return *answer;
       break;
     default:
       break;
@@ -134,7 +156,7 @@ LRESULT ControlWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 void ControlWindow::Changed(form::Property property) {
   switch (property) {
     case form::Property::Bounds:
-      Place();
+      ApplyBounds();
       break;
     case form::Property::Visible:
       if (!control_.Visible()) LeaveFocus();
@@ -166,31 +188,31 @@ void ControlWindow::TakeFocus() {
 
 void ControlWindow::Refresh() {
   SendMessageW(handle_, WM_SETFONT, reinterpret_cast<WPARAM>(Font()), FALSE);
-  Place();
+  ApplyBounds();
 }
 
-RECT ControlWindow::PlaceInPixels() const {
+RECT ControlWindow::BoundsInPixels() const {
   const form::Rect& bounds = control_.Bounds();
   const int dpi = owner_.Dpi();
   return {Screens::ToPixels(bounds.Left, dpi), Screens::ToPixels(bounds.Top, dpi), Screens::ToPixels(bounds.Width, dpi),
           Screens::ToPixels(bounds.Height, dpi)};
 }
 
-void ControlWindow::Place() {
-  const RECT place = PlaceInPixels();
+void ControlWindow::ApplyBounds() {
+  const RECT place = BoundsInPixels();
   if (EqualRect(&place, &placed_) != FALSE) return;
   placed_ = place;
   SetWindowPos(handle_, nullptr, place.left, place.top, place.right, place.bottom, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 HBRUSH ControlWindow::OnColor(HDC dc) {
-  SetTextColor(dc, Look().Ink(control_.ForeColor(), control_.Enabled()));
-  const COLORREF ground = Ground();
-  SetBkColor(dc, ground);
-  return Look().Brush(ground);
+  SetTextColor(dc, Theme().TextColor(control_.ForeColor(), control_.Enabled()));
+  const COLORREF background = BackgroundColor();
+  SetBkColor(dc, background);
+  return Theme().Brush(background);
 }
 
-Theme& ControlWindow::Look() const { return owner_.Desktop().Look(); }
+const Theme& ControlWindow::Theme() const { return owner_.Desktop().Theme(); }
 
 SIZE ControlWindow::ClientSize() const {
   RECT area;
@@ -198,7 +220,11 @@ SIZE ControlWindow::ClientSize() const {
   return {area.right, area.bottom};
 }
 
-HFONT ControlWindow::Font(bool bold) const { return Look().Font(owner_.Dpi(), bold); }
+HFONT ControlWindow::Font(bool bold) const { return Theme().Font(owner_.Dpi(), bold); }
+
+void ControlWindow::PostClick() const {
+  PostMessageW(GetParent(handle_), WM_COMMAND, MAKEWPARAM(0, BN_CLICKED), reinterpret_cast<LPARAM>(handle_));
+}
 
 void ControlWindow::ShowWindowText(const std::wstring& text) {
   if (text == shownText_) return;
@@ -222,16 +248,16 @@ void ControlWindow::PaintWindow() {
   EndPaint(handle_, &paint);
 }
 
-COLORREF ControlWindow::Ground() const {
+COLORREF ControlWindow::BackgroundColor() const {
   for (const form::Control* control = &control_; control != nullptr; control = control->Container()) {
     // A face that nobody chose takes on what it stands on.
-    if (control->BackColor() != form::Color::ButtonFace) return Look().Background(control->BackColor());
+    if (control->BackColor() != form::Color::ButtonFace) return Theme().Background(control->BackColor());
   }
-  return Look().Background(owner_.Form().BackColor());
+  return Theme().Background(owner_.Form().BackColor());
 }
 
 COLORREF ControlWindow::EdgeColor() const {
-  const Palette& colors = Look().Colors();
+  const Palette& colors = Theme().Colors();
   if (!control_.Enabled()) return colors.Disabled.Edge;
   return GetFocus() == handle_ ? colors.Focus : colors.Line;
 }
@@ -244,21 +270,20 @@ LRESULT ControlWindow::OnMessageWithEdge(UINT message, WPARAM wParam, LPARAM lPa
   RECT edge;
   GetWindowRect(handle_, &edge);
   OffsetRect(&edge, -edge.left, -edge.top);
-  const HDC dc = GetWindowDC(handle_);
-  const HBRUSH brush = Look().Brush(EdgeColor());
+  const WindowDc dc(handle_, WindowDc::Part::Whole);
+  const HBRUSH brush = Theme().Brush(EdgeColor());
   for (; thickness > 0; --thickness) {
-    FrameRect(dc, &edge, brush);
+    FrameRect(dc.Get(), &edge, brush);
     InflateRect(&edge, -1, -1);
   }
-  ReleaseDC(handle_, dc);
   return result;
 }
 
 void ControlWindow::DrawBackdrop(Canvas& canvas) const {
   const form::Control* const container = control_.Container();
-  COLORREF ground = Look().Background(owner_.Form().BackColor());
-  if (const ControlWindow* window = Of(container)) ground = window->Ground();
-  canvas.Clear(ground);
+  COLORREF background = Theme().Background(owner_.Form().BackColor());
+  if (const ControlWindow* window = Of(container)) background = window->BackgroundColor();
+  canvas.Clear(background);
   RECT here;
   GetWindowRect(handle_, &here);
   for (const form::Control* other : owner_.Form().Controls()) {
@@ -273,7 +298,7 @@ void ControlWindow::DrawBackdrop(Canvas& canvas) const {
     DrawPicture(canvas, picture,
                 {double(there.left - here.left), double(there.top - here.top), double(there.right - there.left),
                  double(there.bottom - there.top)},
-                Look().Colors(), Scale());
+                Theme().Colors(), Scale());
   }
 }
 

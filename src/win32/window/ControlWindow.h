@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -10,6 +11,7 @@
 #include "form/Picture.h"
 #include "win32/draw/Canvas.h"
 #include "win32/draw/Theme.h"
+#include "win32/window/AccessibleState.h"
 #include "win32/window/FormWindow.h"
 
 namespace vantor::win32 {
@@ -31,8 +33,8 @@ class ControlWindow : public form::ControlWindow {
   [[nodiscard]] HWND Hwnd() const { return handle_; }
   [[nodiscard]] FormWindow& Owner() const { return owner_; }
   [[nodiscard]] form::Control& Control() const { return control_; }
-  /// The picture that an image or a picture box shows; None for other controls.
-  [[nodiscard]] form::Picture ShownPicture() const;
+  /// The picture that the window shows, and that shows through what stands before it; None for most.
+  [[nodiscard]] virtual form::Picture ShownPicture() const { return form::Picture::None; }
 
   /// Shows all of the control's state; for a new window, and after the resolution or the user's settings changed.
   virtual void Refresh();
@@ -45,11 +47,18 @@ class ControlWindow : public form::ControlWindow {
   /// Whether the window uses keys like Escape and Enter for itself at the moment. The function keys are the form's.
   [[nodiscard]] virtual bool KeepsKeys() const { return false; }
 
+  /// Adds what a screen reader is told of this kind of control to what it is told of all.
+  virtual void Describe(AccessibleState& state) const = 0;
+  /// Does what the description's Action says. Posts it, so that the caller has its answer first.
+  virtual void Act() {}
+
   // What the window tells its parent, handed back.
 
+  /// Hands a message that a control's window sent its parent back to that control. Returns false when it is none.
+  static bool Reflect(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
   virtual void OnCommand(WORD /*notification*/) {}
   virtual void OnDraw(const DRAWITEMSTRUCT& /*item*/) {}
-  /// Sets the colours of a window that draws itself; returns the brush for its ground.
+  /// Sets the colours of a window that draws itself; returns the brush for its background.
   virtual HBRUSH OnColor(HDC dc);
 
  protected:
@@ -67,30 +76,34 @@ class ControlWindow : public form::ControlWindow {
   /// Shows a property that only some kinds have.
   virtual void Show(form::Property /*property*/) {}
   /// Brings the window to the control's bounds.
-  virtual void Place();
+  virtual void ApplyBounds();
   /// The control's bounds in pixels: x, y, width and height.
-  [[nodiscard]] RECT PlaceInPixels() const;
+  [[nodiscard]] RECT BoundsInPixels() const;
   /// Draws a window that does not draw itself.
   virtual void Paint(Canvas& /*canvas*/) {}
 
   [[nodiscard]] bool Retired() const { return owner_.Retired(); }
-  [[nodiscard]] Theme& Look() const;
+  [[nodiscard]] const win32::Theme& Theme() const;
   [[nodiscard]] double Scale() const { return owner_.Dpi() / 96.0; }
+  /// Of the lines that are drawn, in pixels.
+  [[nodiscard]] int LineThickness() const { return std::max(static_cast<int>(Scale()), 1); }
   [[nodiscard]] SIZE ClientSize() const;
   [[nodiscard]] HFONT Font(bool bold = false) const;
+  /// Tells the parent later that the window, a button, was clicked.
+  void PostClick() const;
   void ShowWindowText(const std::wstring& text);
   /// Tells screen readers that something about the window has changed that the system doesn't see.
   void Announce(DWORD event) const;
   void Redraw() const;
   /// Paints all of the window by Paint.
   void PaintWindow();
-  /// The colour of the ground that the control stands on, or has.
-  [[nodiscard]] COLORREF Ground() const;
+  /// The colour of the control, or of what it stands on.
+  [[nodiscard]] COLORREF BackgroundColor() const;
   /// The colour of the window's edge, which tells whether it has the focus.
   [[nodiscard]] COLORREF EdgeColor() const;
   /// Passes a message on, and draws an edge over the system's own wherever that may have been drawn again.
   LRESULT OnMessageWithEdge(UINT message, WPARAM wParam, LPARAM lParam, int thickness);
-  /// Draws what stands behind the control: its container's ground and the pictures under it.
+  /// Draws what stands behind the control: its container's colour and the pictures under it.
   void DrawBackdrop(Canvas& canvas) const;
 
  private:
@@ -101,7 +114,7 @@ class ControlWindow : public form::ControlWindow {
   form::Control& control_;
   HWND handle_ = nullptr;  // goes with its parent, which goes before this object does
   WNDPROC classProcedure_ = nullptr;
-  RECT placed_{};           // as PlaceInPixels
+  RECT placed_{};           // as BoundsInPixels
   std::wstring shownText_;  // the window's text, as far as this object sets it
 };
 

@@ -1,5 +1,7 @@
 #include "win32/window/EditWindow.h"
 
+#include <oleacc.h>
+
 #include <algorithm>
 #include <cmath>
 #include <string>
@@ -45,6 +47,12 @@ void EditWindow::Refresh() {
   SendMessageW(Hwnd(), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
   if (ShownText() != box_.Text()) ShowText();
   ShowSelection();
+}
+
+void EditWindow::Describe(AccessibleState& state) const {
+  state.Role = ROLE_SYSTEM_TEXT;
+  state.Value = box_.Text();
+  if (box_.Locked()) state.State |= STATE_SYSTEM_READONLY;
 }
 
 void EditWindow::Show(form::Property property) {
@@ -180,15 +188,9 @@ LRESULT EditWindow::OnCharacter(WPARAM character, LPARAM lParam) {
 
 /// Leaves room for the edge, and puts the one line of text in the middle of the height.
 void EditWindow::LayOut(RECT& inside) const {
-  const HDC dc = GetDC(Hwnd());
-  const HGDIOBJ oldFont = SelectObject(dc, Font());
-  TEXTMETRICW metrics{};
-  GetTextMetricsW(dc, &metrics);
-  SelectObject(dc, oldFont);
-  ReleaseDC(Hwnd(), dc);
   const auto scaled = [&](int pixels) { return std::lround(pixels * Scale()); };
   const LONG height = inside.bottom - inside.top;
-  const LONG line = std::min<LONG>(metrics.tmHeight, std::max<LONG>(height - scaled(2), 0));
+  const LONG line = std::min<LONG>(TextHeight(Font()), std::max<LONG>(height - scaled(2), 0));
   const LONG side = std::min(scaled(5), (inside.right - inside.left) / 2);
   InflateRect(&inside, -side, 0);
   inside.top += (height - line) / 2;
@@ -203,14 +205,14 @@ void EditWindow::PaintEdge() {
   MapWindowPoints(Hwnd(), nullptr, reinterpret_cast<POINT*>(&inside), 2);
   OffsetRect(&inside, -whole.left, -whole.top);
   OffsetRect(&whole, -whole.left, -whole.top);
-  const HDC dc = GetWindowDC(Hwnd());
+  const WindowDc window(Hwnd(), WindowDc::Part::Whole);
+  const HDC dc = window.Get();
   ExcludeClipRect(dc, inside.left, inside.top, inside.right, inside.bottom);
-  Theme& look = Look();
-  FillRect(dc, &whole, look.Brush(EdgeColor()));
-  const int thickness = std::max(static_cast<int>(Scale()), 1);
+  const win32::Theme& theme = Theme();
+  FillRect(dc, &whole, theme.Brush(EdgeColor()));
+  const int thickness = LineThickness();
   InflateRect(&whole, -thickness, -thickness);
-  FillRect(dc, &whole, look.Brush(Ground()));
-  ReleaseDC(Hwnd(), dc);
+  FillRect(dc, &whole, theme.Brush(BackgroundColor()));
 }
 
 }  // namespace vantor::win32

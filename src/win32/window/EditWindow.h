@@ -11,6 +11,7 @@ class EditWindow final : public ControlWindow {
   EditWindow(FormWindow& owner, form::TextBox& box);
 
   void Refresh() override;
+  void Describe(AccessibleState& state) const override;
   [[nodiscard]] bool KeepsKeys() const override { return box_.Composing(); }
   /// Not its text.
   [[nodiscard]] std::wstring SpokenName() const override { return box_.AccessibleName(); }

@@ -2,14 +2,12 @@
 
 #include <windows.h>
 
-#include <array>
-#include <memory>
-#include <optional>
-#include <vector>
-
 #include "form/Form.h"
 #include "win32/base/Handle.h"
-#include "win32/window/DropTarget.h"
+#include "win32/window/FormControls.h"
+#include "win32/window/FormDrops.h"
+#include "win32/window/FormKeys.h"
+#include "win32/window/FormPlacement.h"
 #include "win32/window/ToolTips.h"
 
 namespace vantor::win32 {
@@ -35,10 +33,10 @@ class FormWindow final : public form::FormWindow {
   [[nodiscard]] win32::Desktop& Desktop() const { return desktop_; }
   [[nodiscard]] form::Form& Form() const { return form_; }
   /// Dots per inch that the form is shown at: its screen's, or less where the form would not fit.
-  [[nodiscard]] int Dpi() const { return dpi_; }
+  [[nodiscard]] int Dpi() const { return placement_.Dpi(); }
 
   /// The control's window with this handle; null for any other handle.
-  [[nodiscard]] ControlWindow* Find(HWND handle) const;
+  [[nodiscard]] ControlWindow* Find(HWND handle) const { return controls_.Find(handle); }
 
   /// The window that this one stands above and goes away with.
   [[nodiscard]] HWND OwnerWindow() const { return owner_; }
@@ -63,8 +61,6 @@ class FormWindow final : public form::FormWindow {
 
   /// Sees the messages for the form and its controls before they do. Returns true for one that is done with.
   bool Preview(const MSG& message);
-  /// Hands a message that a control's window sent its parent back to that control. Returns false when it is none.
-  static bool Reflect(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
   /// The mouse moves over a free spot, with the buttons of a mouse message's wParam.
   void MouseMoves(WPARAM buttons);
   /// Whether the user may use the form changed.
@@ -76,56 +72,28 @@ class FormWindow final : public form::FormWindow {
 
  private:
   static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
-  /// Stands for the windows of controls that have not been visible yet, and so have none.
-  class Unmade final : public form::ControlWindow {
-   public:
-    explicit Unmade(FormWindow& owner) : owner_(owner) {}
-    void Changed(form::Property property) override {
-      if (property == form::Property::Visible) owner_.MakeControls(nullptr);
-    }
-    void TakeFocus() override {}
-
-   private:
-    FormWindow& owner_;
-  };
-
-  /// Makes the windows that are missing for the visible controls in a container (null: on the form).
-  void MakeControls(const form::Control* container);
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
-  bool OnKey(const MSG& message);
+  LRESULT OnSystemMessage(UINT message, WPARAM wParam, LPARAM lParam);
+  void OnActivate(bool active);
   void OnSize(WPARAM kind);
-  void GiveFocus() const;
-  [[nodiscard]] POINT CornerAt(int dpi) const;
   void OnDpiChanged(int dpi);
-  /// The form is on a screen of this resolution now.
-  void TakeScreenDpi(int dpi);
   /// Lays all out for the resolution that the form is to be shown at, if that is another one.
   void TakeScale();
-
-  void AcceptDrops();
-  void TakeDrop();
+  void PaintBackground(HDC dc) const;
+  void GiveFocus() const;
   void ShowVisible();
-  /// The form's bounds in pixels of its resolution, with the edges of a dialog around them.
-  [[nodiscard]] RECT PlaceInPixels() const;
-  void Place();
-  void FitInside() const;
-  void ReportPlace();
 
   win32::Desktop& desktop_;
   form::Form& form_;
-  int screenDpi_;
-  int dpi_;
   HWND owner_;
   bool retired_ = false;
-  bool placing_ = false;
   int handling_ = 0;
-  std::array<bool, 256> keysDown_{};  // went down while this form had them
-  Unmade unmade_{*this};
-  std::vector<std::unique_ptr<ControlWindow>> controls_;
+  FormPlacement placement_;
+  FormKeys keys_;
+  FormControls controls_;
   ToolTips tips_;
-  WindowHandle handle_;
-  std::optional<DropRegistration> drops_;
-  form::DroppedItems dropped_;  // not told yet
+  FormDrops drops_;
+  WindowHandle handle_;  // goes before the controls' windows, which are its children
 };
 
 }  // namespace vantor::win32

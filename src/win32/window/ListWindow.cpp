@@ -1,11 +1,12 @@
 #include "win32/window/ListWindow.h"
 
+#include <oleacc.h>
+
 #include <algorithm>
 #include <cmath>
 #include <string>
 
-#include "form/FileLists.h"
-#include "win32/draw/Lines.h"
+#include "win32/draw/ListRow.h"
 
 namespace vantor::win32 {
 
@@ -14,16 +15,16 @@ namespace {
 /// How far a folder stands in from the one that holds it, in pixels at 96 dots per inch.
 constexpr int Indentation = 10;
 
-/// A folder's indentation in pixels. In a deep folder the steps are smaller, so that half of the width is left.
-int IndentOf(const form::FolderList& folders, int index, LONG width, double scale) {
-  const int deepest = folders.LevelOf(folders.ListCount() - 1);
+/// An entry's indentation in pixels. In a deep folder the steps are smaller, so that half of the width is left.
+int IndentOf(const form::OpenList& list, int index, LONG width, double scale) {
+  const int deepest = list.LevelOf(list.ListCount() - 1);
   const double step = std::min(Indentation * scale, width / 2.0 / std::max(deepest, 1));
-  return static_cast<int>(std::lround(folders.LevelOf(index) * step));
+  return static_cast<int>(std::lround(list.LevelOf(index) * step));
 }
 
 }  // namespace
 
-ListWindow::ListWindow(FormWindow& owner, form::ListControl& list)
+ListWindow::ListWindow(FormWindow& owner, form::OpenList& list)
     : ControlWindow(owner, list,
                     {L"LISTBOX",
                      WS_TABSTOP | WS_VSCROLL | WS_BORDER | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_HASSTRINGS |
@@ -34,9 +35,11 @@ ListWindow::ListWindow(FormWindow& owner, form::ListControl& list)
 
 void ListWindow::Refresh() {
   ControlWindow::Refresh();
-  SendMessageW(Hwnd(), LB_SETITEMHEIGHT, 0, LineHeight(Hwnd(), Font(), Scale()));
+  SendMessageW(Hwnd(), LB_SETITEMHEIGHT, 0, RowHeight(Font(), Scale()));
   Fill();
 }
+
+void ListWindow::Describe(AccessibleState& state) const { state.Role = ROLE_SYSTEM_LIST; }
 
 void ListWindow::Show(form::Property property) {
   if (property == form::Property::List) Fill();
@@ -61,7 +64,7 @@ void ListWindow::Fill() {
 void ListWindow::ShowIndex() {
   if (SendMessageW(Hwnd(), LB_GETCURSEL, 0, 0) == list_.ListIndex()) return;
   SendMessageW(Hwnd(), LB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()), 0);
-  if (list_.Kind() != form::ControlKind::FolderList) return;
+  if (list_.ListCount() == 0 || list_.LevelOf(list_.ListCount() - 1) == 0) return;
   // Below a folder stands what is in it, which should be seen as well.
   const auto shown = static_cast<int>(ClientSize().cy / SendMessageW(Hwnd(), LB_GETITEMHEIGHT, 0, 0));
   SendMessageW(Hwnd(), LB_SETTOPINDEX, static_cast<WPARAM>(std::max(list_.ListIndex() - shown / 3, 0)), 0);
@@ -87,13 +90,9 @@ LRESULT ListWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 void ListWindow::OnDraw(const DRAWITEMSTRUCT& item) {
   const int index = static_cast<int>(item.itemID);
   if (index < 0 || index >= list_.ListCount()) return;
-  int indent = 0;
-  if (list_.Kind() == form::ControlKind::FolderList) {
-    indent =
-        IndentOf(static_cast<const form::FolderList&>(list_), index, item.rcItem.right - item.rcItem.left, Scale());
-  }
-  const Line line{list_.List(index), indent, list_.Enabled(), list_.ForeColor()};
-  DrawLine(item, line, Ground(), Font(), Look(), Scale());
+  const int indent = IndentOf(list_, index, item.rcItem.right - item.rcItem.left, Scale());
+  const ListRow row{list_.List(index), indent, list_.Enabled(), list_.ForeColor()};
+  DrawRow(item, row, BackgroundColor(), Font(), Theme(), Scale());
 }
 
 }  // namespace vantor::win32

@@ -8,9 +8,10 @@ namespace vantor::win32 {
 /// A list box, a folder list or a file list.
 class ListWindow final : public ControlWindow {
  public:
-  ListWindow(FormWindow& owner, form::ListControl& list);
+  ListWindow(FormWindow& owner, form::OpenList& list);
 
   void Refresh() override;
+  void Describe(AccessibleState& state) const override;
   void OnCommand(WORD notification) override;
   void OnDraw(const DRAWITEMSTRUCT& item) override;
 
@@ -22,7 +23,7 @@ class ListWindow final : public ControlWindow {
   void Fill();
   void ShowIndex();
 
-  form::ListControl& list_;
+  form::OpenList& list_;
 };
 
 }  // namespace vantor::win32

@@ -1,5 +1,6 @@
 #include "win32/window/StaticWindow.h"
 
+#include <oleacc.h>
 #include <windowsx.h>
 
 #include <algorithm>
@@ -11,37 +12,31 @@
 
 namespace vantor::win32 {
 
-namespace {
-
-std::wstring CaptionOf(const form::Control& control) {
-  const bool isLabel = control.Kind() == form::ControlKind::Label;
-  return isLabel ? static_cast<const form::Label&>(control).Caption() : std::wstring();
-}
-
-}  // namespace
-
-StaticWindow::StaticWindow(FormWindow& owner, form::Control& control)
-    : ControlWindow(owner, control, {L"STATIC", SS_NOTIFY, CaptionOf(control)}) {}
-
-void StaticWindow::Show(form::Property property) {
-  if (property == form::Property::Caption) ShowWindowText(CaptionOf(Control()));
+void LabelWindow::Show(form::Property property) {
+  if (property == form::Property::Caption) ShowWindowText(label_.Caption());
   Redraw();
 }
 
-void StaticWindow::Paint(Canvas& canvas) {
+void LabelWindow::Paint(Canvas& canvas) {
   DrawBackdrop(canvas);
-  switch (Control().Kind()) {
-    case form::ControlKind::Label: {
-      const auto& label = static_cast<const form::Label&>(Control());
-      if (!label.Transparent()) canvas.Clear(Ground());
-      canvas.Text(label.Caption(), {0, 0, canvas.Width(), canvas.Height()}, Font(label.Bold()),
-                  Look().Ink(label.ForeColor(), label.Enabled()), DT_WORDBREAK);
-      break;
-    }
-    default:
-      DrawPicture(canvas, ShownPicture(), canvas.Whole(), Look().Colors(), Scale());
-      break;
-  }
+  if (!label_.Transparent()) canvas.Clear(BackgroundColor());
+  canvas.Text(label_.Caption(), {0, 0, canvas.Width(), canvas.Height()}, Font(label_.Bold()),
+              Theme().TextColor(label_.ForeColor(), label_.Enabled()), DT_WORDBREAK);
+}
+
+void LabelWindow::Describe(AccessibleState& state) const {
+  state.Role = ROLE_SYSTEM_STATICTEXT;
+  state.State |= STATE_SYSTEM_READONLY;
+}
+
+void PictureWindow::Paint(Canvas& canvas) {
+  DrawBackdrop(canvas);
+  DrawPicture(canvas, picture_.Picture(), canvas.Whole(), Theme().Colors(), Scale());
+}
+
+void PictureWindow::Describe(AccessibleState& state) const {
+  state.Role = ROLE_SYSTEM_GRAPHIC;
+  if (picture_.Picture() == form::Picture::None) state.State |= STATE_SYSTEM_INVISIBLE;
 }
 
 LRESULT StaticWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -67,39 +62,41 @@ void FrameWindow::Show(form::Property property) {
   Redraw();
 }
 
+void FrameWindow::Describe(AccessibleState& state) const {
+  state.Role = frame_.Banner() ? ROLE_SYSTEM_ALERT : frame_.Border() ? ROLE_SYSTEM_GROUPING : ROLE_SYSTEM_PANE;
+}
+
 void FrameWindow::Paint(Canvas& canvas) {
   DrawBackdrop(canvas);
-  const COLORREF ground = Ground();
+  const COLORREF background = BackgroundColor();
   if (!frame_.Border()) {
-    canvas.Clear(ground);
+    canvas.Clear(background);
     return;
   }
-  Theme& look = Look();
-  const HFONT font = Font();
-  SIZE text{};
-  const HGDIOBJ oldFont = SelectObject(canvas.Dc(), font);
-  GetTextExtentPoint32W(canvas.Dc(), frame_.Caption().c_str(), static_cast<int>(frame_.Caption().size()), &text);
-  SelectObject(canvas.Dc(), oldFont);
-  const double line = std::max(std::floor(Scale()), 1.0);
-  const LONG left = std::lround(8 * Scale());
-  const LONG gap = std::lround(4 * Scale());
-  if (frame_.BackColor() != form::Color::ButtonFace) {  // a banner, with its caption inside
-    canvas.EdgedBox({0, 0, double(canvas.Width()), double(canvas.Height())}, 4 * Scale(), line, look.Colors().Line,
-                    ground);
-    canvas.Text(frame_.Caption(), {left + gap, 0, canvas.Width() - left, canvas.Height()}, font,
-                look.Ink(frame_.ForeColor(), frame_.Enabled()), DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS);
+  if (frame_.Banner()) {
+    PaintBanner(canvas);
     return;
   }
-  const double top = frame_.Caption().empty() ? 0 : std::floor(text.cy / 2.0);
-  canvas.EdgedBox({0, top, double(canvas.Width()), canvas.Height() - top}, 4 * Scale(), line, look.Colors().Line,
-                  ground);
+  const SIZE text = frame_.Caption().empty() ? SIZE{} : TextSize(frame_.Caption(), Font());
+  const double line = LineThickness();
+  const double top = std::floor(text.cy / 2.0);
+  canvas.EdgedBox({0, top, double(canvas.Width()), canvas.Height() - top}, 4 * Scale(), line, Theme().Colors().Line,
+                  background);
   if (frame_.Caption().empty()) return;
   // The caption interrupts the line, which it stands on: above the line is what is behind the frame.
-  // What is drawn may be a little wider than what was measured.
-  const double right = std::min<double>(left + text.cx * 1.05 + 2 * gap, canvas.Width() - left);
-  canvas.Shade({double(left), top, right - left, line}, ground, ground);
-  canvas.Text(frame_.Caption(), {left + gap, 0, static_cast<LONG>(right), text.cy}, font,
-              look.Ink(frame_.ForeColor(), frame_.Enabled()), DT_SINGLELINE | DT_END_ELLIPSIS);
+  const LONG left = std::lround(8 * Scale());
+  const LONG gap = std::lround(4 * Scale());
+  const LONG right = std::min(left + text.cx + 2 * gap, canvas.Width() - left);
+  canvas.Shade({double(left), top, double(right - left), line}, background, background);
+  canvas.Text(frame_.Caption(), {left + gap, 0, right, text.cy}, Font(),
+              Theme().TextColor(frame_.ForeColor(), frame_.Enabled()), DT_SINGLELINE | DT_END_ELLIPSIS);
+}
+
+void FrameWindow::PaintBanner(Canvas& canvas) const {
+  canvas.EdgedBox(canvas.Whole(), 4 * Scale(), LineThickness(), Theme().Colors().Line, BackgroundColor());
+  const LONG margin = std::lround(12 * Scale());
+  canvas.Text(frame_.Caption(), {margin, 0, canvas.Width() - std::lround(8 * Scale()), canvas.Height()}, Font(),
+              Theme().TextColor(frame_.ForeColor(), frame_.Enabled()), DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS);
 }
 
 LRESULT FrameWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {

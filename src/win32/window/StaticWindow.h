@@ -1,19 +1,50 @@
 #pragma once
 
+#include <string>
+
 #include "form/Static.h"
 #include "win32/window/ControlWindow.h"
 
 namespace vantor::win32 {
 
-/// A label, an image or a picture box: a STATIC window that draws itself.
-class StaticWindow final : public ControlWindow {
+/// A STATIC window that draws itself.
+class StaticWindow : public ControlWindow {
+ protected:
+  StaticWindow(FormWindow& owner, form::Control& control, const std::wstring& text)
+      : ControlWindow(owner, control, {L"STATIC", SS_NOTIFY, text}) {}
+
+  LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+  void Show(form::Property /*property*/) override { Redraw(); }
+};
+
+class LabelWindow final : public StaticWindow {
  public:
-  StaticWindow(FormWindow& owner, form::Control& control);
+  LabelWindow(FormWindow& owner, form::Label& label) : StaticWindow(owner, label, label.Caption()), label_(label) {}
+
+  void Describe(AccessibleState& state) const override;
 
  protected:
-  LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   void Show(form::Property property) override;
   void Paint(Canvas& canvas) override;
+
+ private:
+  form::Label& label_;
+};
+
+/// An image or a picture box.
+class PictureWindow final : public StaticWindow {
+ public:
+  PictureWindow(FormWindow& owner, form::PictureControl& picture)
+      : StaticWindow(owner, picture, {}), picture_(picture) {}
+
+  [[nodiscard]] form::Picture ShownPicture() const override { return picture_.Picture(); }
+  void Describe(AccessibleState& state) const override;
+
+ protected:
+  void Paint(Canvas& canvas) override;
+
+ private:
+  form::PictureControl& picture_;
 };
 
 /// A frame: a group box that draws itself and holds other windows.
@@ -21,12 +52,15 @@ class FrameWindow final : public ControlWindow {
  public:
   FrameWindow(FormWindow& owner, form::Frame& frame);
 
+  void Describe(AccessibleState& state) const override;
+
  protected:
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   void Show(form::Property property) override;
   void Paint(Canvas& canvas) override;
 
  private:
+  void PaintBanner(Canvas& canvas) const;
   LRESULT OnMouseMove(WPARAM buttons, POINT point);
   LRESULT OnRelease();
 

@@ -7,11 +7,12 @@
 #include "form/Timer.h"
 #include "win32/base/ApplicationMark.h"
 #include "win32/draw/Screens.h"
+#include "win32/draw/Text.h"
 
 namespace vantor::win32 {
 
 Desktop::Desktop() {
-  Screens::DeclareAwareness();
+  win32::Screens::DeclareAwareness();
   WNDCLASSW description{};
   description.lpfnWndProc = Procedure;
   description.hInstance = GetModuleHandleW(nullptr);
@@ -33,19 +34,15 @@ void Desktop::SetApplicationTitle(std::wstring_view title) {
   SetWindowTextW(application_.Get(), std::wstring(title).c_str());
 }
 
-form::Screen Desktop::ScreenAt(const form::Rect& place) const { return Screens::At(place); }
+form::Screen Desktop::ScreenAt(const form::Rect& place) const { return screens_.At(place); }
 
-form::Screen Desktop::PrimaryScreen() const { return Screens::Primary(); }
+form::Screen Desktop::PrimaryScreen() const { return screens_.Primary(); }
 
 form::Size Desktop::MeasureText(std::wstring_view text, bool bold, form::Twips width) const {
-  const int dpi = Screens::SystemDpi();
-  MemoryDcHandle dc(CreateCompatibleDC(nullptr));
-  const HGDIOBJ oldFont = SelectObject(dc.Get(), theme_.Font(dpi, bold));
-  RECT area{0, 0, std::max(Screens::ToPixels(width, dpi), 1), 0};
-  DrawTextW(dc.Get(), text.data(), static_cast<int>(text.size()), &area, DT_CALCRECT | DT_NOPREFIX | DT_WORDBREAK);
-  SelectObject(dc.Get(), oldFont);
+  const int dpi = screens_.SystemDpi();
+  const SIZE size = TextSize(text, theme_.Font(dpi, bold), std::max(win32::Screens::ToPixels(width, dpi), 1));
   // A little more, for screens of another scale, where the font comes out wider.
-  return {Screens::ToTwips(area.right + area.right / 20 + 1, dpi), Screens::ToTwips(area.bottom + 1, dpi)};
+  return {win32::Screens::ToTwips(size.cx + size.cx / 20 + 1, dpi), win32::Screens::ToTwips(size.cy + 1, dpi)};
 }
 
 void Desktop::RunModal(form::Form& form) {
@@ -154,7 +151,7 @@ void Desktop::SessionEnds() {
 
 void Desktop::SettingsChanged() {
   theme_.Forget();
-  Screens::Forget();
+  screens_.Forget();
   // By index, because what this causes may unload forms.
   std::size_t next = 0;
   while (next < windows_.size()) {

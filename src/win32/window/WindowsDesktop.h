@@ -43,7 +43,8 @@ class Desktop final : public form::UserInterface {
 
   // For the windows.
 
-  [[nodiscard]] Theme& Look() const { return theme_; }
+  [[nodiscard]] const win32::Screens& Screens() const { return screens_; }
+  [[nodiscard]] const win32::Theme& Theme() const { return theme_; }
   /// Entered by those who need it.
   [[nodiscard]] Apartment& Com() { return com_; }
   /// Runs a window's work and hands what it throws to OnError.
@@ -88,7 +89,8 @@ class Desktop final : public form::UserInterface {
   /// Destroys the discarded windows that handle no message any more.
   void Sweep();
 
-  mutable Theme theme_;
+  win32::Screens screens_;
+  win32::Theme theme_{screens_};
   Apartment com_;
   WindowHandle application_;
   std::vector<FormWindow*> windows_;

@@ -1,4 +1,4 @@
-#include "win32/base/Patience.h"
+#include "win32/base/TimedWork.h"
 
 #include <windows.h>
 
@@ -10,7 +10,7 @@ namespace vantor::win32 {
 
 namespace {
 
-constexpr DWORD Time = 5000;  // milliseconds
+constexpr DWORD TimeLimit = 5000;  // milliseconds
 
 /// What the two threads share. Whichever lets go last frees it.
 struct Task {
@@ -43,7 +43,7 @@ bool WaitWhilePainting(HANDLE event, DWORD milliseconds) {
 
 }  // namespace
 
-bool Patience::EndsInTime(std::function<void()> work) {
+bool TimedWork::Run(std::function<void()> work) {
   if (!left_.expired()) return false;
   auto task = std::make_shared<Task>();
   task->Work = std::move(work);
@@ -52,7 +52,7 @@ bool Patience::EndsInTime(std::function<void()> work) {
   const KernelHandle thread(CreateThread(nullptr, 0, WorkAndTell, theirs.get(), 0, nullptr));
   if (!thread) return false;
   (void)theirs.release();  // the thread's own now
-  if (WaitWhilePainting(task->Done.Get(), Time)) return true;
+  if (WaitWhilePainting(task->Done.Get(), TimeLimit)) return true;
   left_ = task;
   return false;
 }

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string_view>
+
+namespace vantor::win32 {
+
+/// A window's device context, or the screen's for null, for the length of a scope. Whole: with the window's edges.
+class WindowDc {
+ public:
+  enum class Part { Inside, Whole };
+
+  explicit WindowDc(HWND window, Part part = Part::Inside)
+      : window_(window), dc_(part == Part::Whole ? GetWindowDC(window) : GetDC(window)) {}
+  ~WindowDc() { ReleaseDC(window_, dc_); }
+  WindowDc(const WindowDc&) = delete;
+  WindowDc& operator=(const WindowDc&) = delete;
+
+  [[nodiscard]] HDC Get() const { return dc_; }
+
+ private:
+  HWND window_;
+  HDC dc_;
+};
+
+/// Draws with a font or on a bitmap for the length of a scope.
+class Selected {
+ public:
+  Selected(HDC dc, HGDIOBJ object) : dc_(dc), old_(SelectObject(dc, object)) {}
+  ~Selected() { SelectObject(dc_, old_); }
+  Selected(const Selected&) = delete;
+  Selected& operator=(const Selected&) = delete;
+
+ private:
+  HDC dc_;
+  HGDIOBJ old_;
+};
+
+/// The size in pixels that a text is drawn in, its lines broken where it says, and at words where one is longer than
+/// `width`; 0 breaks none of these. Ampersands are plain characters.
+[[nodiscard]] SIZE TextSize(std::wstring_view text, HFONT font, int width = 0);
+/// The height in pixels of a line.
+[[nodiscard]] int TextHeight(HFONT font);
+/// Draws a text as DrawText does, without a ground; ampersands are plain characters.
+void DrawPlainText(HDC dc, std::wstring_view text, RECT area, HFONT font, COLORREF color, UINT format);
+
+}  // namespace vantor::win32

@@ -1,0 +1,40 @@
+#include "win32/window/FormDrops.h"
+
+#include <utility>
+
+#include "win32/window/FormWindow.h"
+
+namespace vantor::win32 {
+
+void FormDrops::BeginLater() const { PostMessageW(owner_.Hwnd(), BeginMessage, 0, 0); }
+
+bool FormDrops::OnMessage(UINT message) {
+  if (message == BeginMessage) {
+    Begin();
+  } else if (message == DroppedMessage) {
+    Take();
+  } else {
+    return false;
+  }
+  return true;
+}
+
+void FormDrops::Begin() {
+  registration_.emplace(
+      owner_.Hwnd(), [this] { return !owner_.Retired() && owner_.Form().AcceptsInput(); },
+      [this](form::DroppedItems items) {
+        dropped_ = std::move(items);
+        PostMessageW(owner_.Hwnd(), DroppedMessage, 0, 0);  // the program that they come from is waiting
+      });
+}
+
+void FormDrops::Take() {
+  form::DroppedItems items = std::exchange(dropped_, {});
+  if (items.Paths.size() == 1) items.Address = WebAddressIn(items.Paths.front());
+  if (!items.Address.empty()) items.Paths.clear();
+  for (std::wstring& path : items.Paths) path = ShortcutTarget(path);
+  SetForegroundWindow(owner_.Hwnd());
+  owner_.Form().InputDrop(items);
+}
+
+}  // namespace vantor::win32
