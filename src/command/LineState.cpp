@@ -5,7 +5,7 @@
 namespace vantor::command {
 
 LineState ReadLine(const form::TextBox& textMain, const CommandState& state) {
-  return {textMain.Text(), textMain.SelStart(), textMain.SelLength(), state};
+  return {textMain.Text(), textMain.SelStart(), textMain.SelLength(), static_cast<const CompletedEntry&>(state)};
 }
 
 void PutLine(const LineState& line, form::TextBox& textMain, CommandState& state) {

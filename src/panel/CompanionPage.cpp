@@ -55,7 +55,7 @@ form::Size CompanionPage::LayOut() {
 
 void CompanionPage::CommandRunOpen_Click() {
   if (ListRunName.ListIndex() == -1) return;
-  const std::size_t chosen = static_cast<std::size_t>(ListRunName.ListIndex());
+  const auto chosen = static_cast<std::size_t>(ListRunName.ListIndex());
   Host().ClosePanel();
   context_.Messages.ShowList(context_.Starters.RunProgramFile(context_.Environment.Companions.at(chosen).Path));
 }

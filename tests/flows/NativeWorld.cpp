@@ -236,7 +236,7 @@ class NativeWorld : public World {
   static Text Line(const form::TextBox& box) {
     Text line = box.Text();
     if (box.SelLength() == 0) return line;
-    line.insert(static_cast<std::size_t>(box.SelStart() + box.SelLength()), L"]");
+    line.insert(static_cast<std::size_t>(box.SelStart()) + static_cast<std::size_t>(box.SelLength()), L"]");
     return line.insert(static_cast<std::size_t>(box.SelStart()), L"[");
   }
   static Text TextOf(const form::Control& control) {

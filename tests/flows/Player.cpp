@@ -164,7 +164,7 @@ class Player : public Steps {
     for (const auto& [list, records] : items_) {
       world_->Write(DataPath(list), Records(records));
       const Text name = list.starts_with(L"List") ? list.substr(4) : list;
-      settings = name + L"Upper=" + std::to_wstring(Split(records, L" | ").size() - 1) + L' ' + settings;
+      settings.insert(0, name + L"Upper=" + std::to_wstring(Split(records, L" | ").size() - 1) + L' ');
     }
     world_->Write(DataPath(L"Set"), SettingsBytes(settings, L""));
     world_->Write(DataPath(L"User"), "\"Anna\"\r\n");

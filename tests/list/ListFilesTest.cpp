@@ -98,7 +98,7 @@ TEST_CASE("loading calls no other computer, and keeps what may be on one as it i
   std::string kept;
   for (const auto* target : {R"(\\host\a.exe)", R"(//host/a.exe)", R"(/\host\a.exe)", R"(\\?\UNC\host\a.exe)",
                              R"(\??\UNC\host\a.exe)", R"(\\.\C:\a.exe)", R"(\\?\C:\Work\Tool.EXE)"}) {
-    kept += std::string("\"x\",\"") + target + "\"\r\n";
+    kept += std::string(R"("x",")") + target + "\"\r\n";
   }
   computer.Disk.AddFile(DataFile(L"ListProg"), kept + R"("gone","\\?\C:\gone.exe")");
   int asked = 0;

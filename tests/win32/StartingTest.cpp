@@ -44,12 +44,13 @@ TEST_CASE("a text that names a file starts exactly that file; a command line the
   CHECK(Eventually([&] { return DataFiles().Read(starts.Ran).value_or("").starts_with("ran"); }));
 }
 
-TEST_CASE("the scripting shell replaces variables, in the name of a file too") {
+TEST_CASE("the scripting shell replaces variables, in the name of a file too; what is opened keeps its name") {
   Starts starts;
   const std::wstring program = starts.Folder / L"my %TEMP%.exe";
   CopyFileW(L"C:\\windows\\system32\\attrib.exe", program.c_str(), FALSE);
   CHECK(starts.Shell.ExpandVariables(program) != program);
   CHECK_FALSE(starts.Shell.Run(L'"' + program + L'"'));
+  CHECK(starts.Shell.Open(program));
 }
 
 TEST_CASE("what can't be started is told, and nothing is started in its place") {

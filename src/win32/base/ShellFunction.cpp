@@ -8,6 +8,30 @@
 
 namespace vantor::win32 {
 
+namespace {
+
+bool UnderWine() {
+  static const bool wine = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+  return wine;
+}
+
+/// The class that Wine's shell opens this file or address as; "" where it may find that out by itself. Unless it is
+/// told, it replaces variables in any name and opens another file; Windows' replaces them only when asked to.
+std::wstring ClassToKeepName(const std::wstring& target) {
+  constexpr DWORD LongestClass = 256;
+  if (!UnderWine() || target.find(L'%') == std::wstring::npos) return {};
+  const std::size_t colon = target.find(L':');
+  if (colon != std::wstring::npos && colon > 1) return target.substr(0, colon);
+  const std::size_t dot = target.find_last_of(L".\\/");
+  if (dot == std::wstring::npos || target[dot] != L'.') return {};
+  wchar_t name[LongestClass] = L"exefile";  // programs have no entry of their own there
+  DWORD size = sizeof name;
+  RegGetValueW(HKEY_CLASSES_ROOT, target.c_str() + dot, nullptr, RRF_RT_REG_SZ, nullptr, name, &size);
+  return name;
+}
+
+}  // namespace
+
 FARPROC FindShellFunction(const char* name) {
   // Never unloaded: it does not bear that well.
   const HMODULE library = LoadSystemLibrary(L"shell32.dll");
@@ -18,8 +42,7 @@ FARPROC FindShellFunction(const char* name) {
 
 bool FitsShell(std::wstring_view target) {
   constexpr std::size_t LongestUnderWine = 1024;
-  static const bool wine = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
-  return !wine || target.size() <= LongestUnderWine;
+  return !UnderWine() || target.size() <= LongestUnderWine;
 }
 
 std::optional<TrueSystemFolder> FolderForShell(std::wstring_view path) {
@@ -38,6 +61,9 @@ bool OpenByShell(const std::wstring& file, const std::wstring& arguments) {
   what.lpFile = file.c_str();
   what.lpParameters = arguments.empty() ? nullptr : arguments.c_str();
   what.nShow = SW_SHOWNORMAL;
+  const std::wstring kind = ClassToKeepName(file);
+  if (!kind.empty()) what.fMask |= SEE_MASK_CLASSNAME;
+  what.lpClass = kind.c_str();
   auto* const open = ShellFunction<decltype(ShellExecuteExW)>("ShellExecuteExW");
   const auto folder = FolderForShell(file);
   return open(&what) != FALSE;
