@@ -32,15 +32,15 @@ std::string Narrow(std::wstring_view text) {
 
 class RealDataFiles : public service::DataFiles {
  public:
-  std::optional<std::string> Read(std::wstring_view path) override {
+  service::FileRead Read(std::wstring_view path) override {
     std::FILE* const file = std::fopen(Narrow(path).c_str(), "rb");
-    if (file == nullptr) return std::nullopt;
+    if (file == nullptr) return {std::nullopt, errno == ENOENT};
     struct stat about {};
     std::string bytes;
     if (fstat(fileno(file), &about) == 0) bytes.resize(static_cast<std::size_t>(about.st_size));
     bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file));
     (void)std::fclose(file);
-    return bytes;
+    return {std::move(bytes)};
   }
   /// Beside the old file, to the disk, and then over the old one.
   bool Write(std::wstring_view path, std::string_view bytes) override {
@@ -56,7 +56,9 @@ class RealDataFiles : public service::DataFiles {
   }
   bool Remove(std::wstring_view path) override { return std::remove(Narrow(path).c_str()) == 0 || errno == ENOENT; }
   bool MakeFolder(std::wstring_view path) override { return mkdir(Narrow(path).c_str(), 0700) == 0 || errno == EEXIST; }
-  bool FolderIsEmpty(std::wstring_view /*path*/) override { return false; }
+  bool CanWrite(std::wstring_view path) override { return access(Narrow(path).c_str(), W_OK) == 0; }
+  void Pause(int milliseconds) override { usleep(static_cast<useconds_t>(milliseconds) * 1000); }
+  std::optional<std::vector<std::wstring>> FolderEntries(std::wstring_view /*path*/) override { return std::nullopt; }
 };
 
 class RealFileSystem : public service::FileSystem {
@@ -222,7 +224,7 @@ void LoadAndSave(Bench& bench) {
   const double changed = Quickest(41, change, save);
   std::vector<std::string> contents;
   contents.reserve(files.size());
-  for (const std::wstring& file : files) contents.push_back(bench.DataFiles.Read(file).value());
+  for (const std::wstring& file : files) contents.push_back(bench.DataFiles.Read(file).Bytes.value());
   const double write = Quickest(
       41, [] {},
       [&] {
@@ -242,7 +244,7 @@ void LoadAndSave(Bench& bench) {
       41, [] {},
       [&] {
         std::size_t found = 0;
-        for (std::size_t i = 1; i < files.size(); ++i) found += bench.DataFiles.Read(files[i]).value().size();
+        for (std::size_t i = 1; i < files.size(); ++i) found += bench.DataFiles.Read(files[i]).Bytes.value().size();
         for (const auto& path : bench.Page.ComboListFilePath.Entries()) found += bench.FileSystem.FileExists(path);
         for (const auto& path : bench.Page.ComboListFoldPath.Entries()) found += bench.FileSystem.FolderExists(path);
         for (const auto& path : bench.Page.ComboListProgPath.Entries()) found += bench.FileSystem.FileExists(path);

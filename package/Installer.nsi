@@ -236,6 +236,19 @@ Section "un.Vantor"
 SectionEnd
 
 Section /o "un.My list and settings" SectionData
+  FindFirst $0 $1 "$INSTDIR\Vantor\Rescue\*"
+  ${DoWhile} $1 != ""
+    ${If} $1 != "."
+    ${AndIf} $1 != ".."
+      Delete "$INSTDIR\Vantor\Rescue\$1\Backup\*.Orbel"
+      RMDir "$INSTDIR\Vantor\Rescue\$1\Backup"
+      Delete "$INSTDIR\Vantor\Rescue\$1\*.Orbel"
+      RMDir "$INSTDIR\Vantor\Rescue\$1"
+    ${EndIf}
+    FindNext $0 $1
+  ${Loop}
+  FindClose $0
+  RMDir "$INSTDIR\Vantor\Rescue"
   Delete "$INSTDIR\Vantor\Backup\*.Orbel"
   Delete "$INSTDIR\Vantor\Backup\*.Orbel~"
   RMDir "$INSTDIR\Vantor\Backup"

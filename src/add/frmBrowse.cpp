@@ -244,7 +244,7 @@ void frmBrowse::CommandAddOK_Click() {
   const list::LaunchGroup group = GroupOf(context_.Services, state_.WhatToAdd, path);
   const list::AddBox box{TextAddPath, TextAddName, FrameAddedInfo};
   const list::AddResult result =
-      list::AddUnlessListed(box, list_.Of(group), BannerOf(group), context_.Messages, context_.Services.Language);
+      list::AddUnlessListed(box, list_, group, BannerOf(group), context_.Messages, context_.Services.Language);
   const bool showsFiles = state_.WhatToAdd != AddKind::Folder;
   if (result == list::AddResult::PathListed || (result == list::AddResult::Added && showsFiles)) FileWork.Refresh();
   if (result == list::AddResult::Added) context_.Host.ClearLine();

@@ -95,8 +95,9 @@ void AddWebBox::TextWebName_KeyPress(wchar_t& character) {
 void AddWebBox::CommandAddWeb_Click() {
   PictureNo.SetFocus();
   const list::AddBox box{TextWebUrl, TextWebName, FrameAddedInfo};
-  switch (list::AddUnlessListed(box, list_.Of(list::LaunchGroup::Web), AddedCaption, messages_, language_)) {
+  switch (list::AddUnlessListed(box, list_, list::LaunchGroup::Web, AddedCaption, messages_, language_)) {
     case list::AddResult::PathListed:
+    case list::AddResult::Full:
       TextWebUrl.SetFocus();
       break;
     case list::AddResult::NameListed:

@@ -1,12 +1,14 @@
 #include "list/ListFiles.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
-#include <string>
+#include <utility>
 
+#include "list/DataFile.h"
+#include "list/StoredText.h"
 #include "text/Numbers.h"
 #include "text/Path.h"
-#include "text/SequentialFile.h"
 
 namespace vantor::list {
 
@@ -17,37 +19,6 @@ constexpr wchar_t OpenDriveLetter = L'#';
 
 // Four quotes, a comma and a line end.
 constexpr std::size_t PunctuationOfRecord = 7;
-
-// A record can't hold a double quote: it would end the field, and with it the reading of all records after it.
-std::wstring WithoutQuotes(std::wstring_view text, std::wstring_view substitute) {
-  std::wstring result(text);
-  for (auto at = result.find(L'"'); at != std::wstring::npos; at = result.find(L'"', at + substitute.size())) {
-    result.replace(at, 1, substitute);
-  }
-  return result;
-}
-
-/// One list file being written.
-class RecordWriter {
- public:
-  explicit RecordWriter(std::wstring_view quoteInTarget) : quoteInTarget_(quoteInTarget) {}
-
-  void Reserve(std::size_t characters) { file_.Reserve(characters); }
-
-  void Write(const LaunchItem& item) {
-    if (item.Name.find(L'"') == item.Name.npos && item.Target.find(L'"') == item.Target.npos) {
-      file_.Write(item.Name, item.Target);
-    } else {
-      file_.Write(WithoutQuotes(item.Name, L"'"), WithoutQuotes(item.Target, quoteInTarget_));
-    }
-  }
-
-  [[nodiscard]] const text::SequentialWriter& File() const { return file_; }
-
- private:
-  std::wstring_view quoteInTarget_;
-  text::SequentialWriter file_;
-};
 
 }  // namespace
 
@@ -84,36 +55,52 @@ ListFiles::Group ListFiles::GroupOf(LaunchGroup group) const {
 }
 
 void ListFiles::LoadSettings() {
-  backup_.SetWhole(list::LoadSettings(backup_, services_.Language, environment_.Files.Set, settings_));
+  const service::FileRead file = generation_.Read(environment_.Files.Set);
+  settingsWhole_ = file.Bytes && ReadSettings(DecodeText(*file.Bytes, services_.Language), settings_);
 }
 
 void ListFiles::LoadLaunchList(const LaunchList& list) {
   const service::ManyFileCalls many(services_.FileSystem);
+  listsWhole_ = true;
+  machineRead_ = environment_.MachineRemembered;
   for (const LaunchGroup group : {LaunchGroup::Web, LaunchGroup::File, LaunchGroup::Fold, LaunchGroup::Prog}) {
     LoadGroupList(GroupOf(group), list.Of(group));
   }
+  generation_.SetWhole(settingsWhole_ && listsWhole_);
+  if (broken_) std::rethrow_exception(std::exchange(broken_, nullptr));
 }
 
 void ListFiles::LoadGroupList(const Group& group, const GroupBoxes& boxes) {
-  bool whole = LoadFile(group, boxes, group.File, group.Upper, group.MachineFile != nullptr);
+  LoadListFile(group, boxes, group.File, group.Upper, group.MachineFile != nullptr);
   if (group.MachineFile != nullptr && environment_.MachineRemembered) {
-    whole &= LoadFile(group, boxes, *group.MachineFile, *group.MachineUpper, false);
+    LoadListFile(group, boxes, *group.MachineFile, *group.MachineUpper, false);
   }
-  if (!whole) backup_.SetWhole(false);
 }
 
-bool ListFiles::LoadFile(const Group& group, const GroupBoxes& boxes, std::wstring_view path, int upper, bool onMedia) {
-  if (upper < 0) return true;
-  const auto content = text::ReadTextFile(backup_, services_.Language, path);
-  if (!content) return false;
+void ListFiles::LoadListFile(const Group& group, const GroupBoxes& boxes, std::wstring_view path, int upper,
+                             bool onMedia) {
+  bool whole = false;
+  try {
+    whole = upper < 0 || LoadRecords(group, boxes, path, upper, onMedia);
+  } catch (...) {
+    if (!broken_) broken_ = std::current_exception();
+  }
+  listsWhole_ &= whole;
+}
+
+bool ListFiles::LoadRecords(const Group& group, const GroupBoxes& boxes, std::wstring_view path, int upper,
+                            bool onMedia) {
+  const service::FileRead file = generation_.Read(path);
+  if (!file.Bytes) return false;
+  const std::wstring content = DecodeText(*file.Bytes, services_.Language);
 
   // The upper index may be a damaged one.
   const int fitting =
-      static_cast<int>(std::min<std::size_t>(content->size() / PunctuationOfRecord, static_cast<std::size_t>(upper)));
+      static_cast<int>(std::min<std::size_t>(content.size() / PunctuationOfRecord, static_cast<std::size_t>(upper)));
   boxes.Name.Reserve(boxes.Name.ListCount() + fitting + 1);
   boxes.Path.Reserve(boxes.Path.ListCount() + fitting + 1);
 
-  text::SequentialReader reader(*content);
+  text::SequentialReader reader(content);
   std::wstring target;
   for (int i = 0; i <= upper; ++i) {
     const auto name = reader.Read();
@@ -146,60 +133,71 @@ void ListFiles::SaveLaunchList(const LaunchList& list, form::Twips barLeft, form
   settings_.Left = text::ToInt16(barLeft);
   settings_.Top = text::ToInt16(barTop);
   if (environment_.RunMode) settings_.Folder.clear();
+  // A computer that came to be remembered during this run takes files that hold what was not read.
+  const bool machineListed =
+      std::max({settings_.MachineFileUpper, settings_.MachineFoldUpper, settings_.MachineProgUpper}) > NoRecords;
+  const bool overUnread = environment_.MachineRemembered && !machineRead_ && machineListed;
+  std::array<Split, LaunchGroups.size()> splits;
   for (const LaunchGroup code : LaunchGroups) {
     const Group group = GroupOf(code);
-    const std::int16_t total = text::ToInt16(list.Of(code).Path.ListCount() - 1);
-    const bool split = group.MachineFile != nullptr && environment_.MachineRemembered;
-    group.Upper = split ? CountMediaItems(group, list.Of(code), total) : total;
+    Split& split = splits.at(static_cast<std::size_t>(code));
+    split = SplitGroup(group, list.Of(code));
+    const bool remembered = group.MachineFile != nullptr && environment_.MachineRemembered;
+    group.Upper = remembered ? CountMediaItems(group, split) : text::ToInt16(list.Of(code).Path.ListCount() - 1);
   }
-  backup_.BeginSave();
-  (void)SaveSettings(backup_, services_.Language, environment_.Files.Set, settings_);
-  for (const LaunchGroup group : {LaunchGroup::Web, LaunchGroup::File, LaunchGroup::Fold, LaunchGroup::Prog}) {
-    SaveGroupList(GroupOf(group), list.Of(group));
+  generation_.BeginSave(overUnread);
+  SaveSettings();
+  for (const LaunchGroup code : {LaunchGroup::Web, LaunchGroup::File, LaunchGroup::Fold, LaunchGroup::Prog}) {
+    SaveGroupList(GroupOf(code), list.Of(code), splits.at(static_cast<std::size_t>(code)));
   }
-  backup_.EndSave();
+  generation_.EndSave();
 }
 
-std::int16_t ListFiles::CountMediaItems(const Group& group, const GroupBoxes& boxes, std::int16_t upper) const {
-  int count = 0;
-  for (int i = 0; i <= upper; ++i) count += BelongsToMain(group, boxes.Path.List(i)) ? 1 : 0;
-  *group.MachineUpper = static_cast<std::int16_t>(upper - count);
-  return static_cast<std::int16_t>(count - 1);
-}
-
-void ListFiles::SaveGroupList(const Group& group, const GroupBoxes& boxes) {
+ListFiles::Split ListFiles::SplitGroup(const Group& group, const GroupBoxes& boxes) const {
+  const bool remembered = group.MachineFile != nullptr && environment_.MachineRemembered;
   const int total = text::ToInt16(boxes.Path.ListCount() - 1);
-  const std::wstring_view quoteInTarget = group.Code == LaunchGroup::Web ? L"%22" : L"'";
-  RecordWriter main(quoteInTarget);
-  RecordWriter machine(quoteInTarget);
-  std::size_t size = 0;
+  Split split;
+  split.Main.reserve(static_cast<std::size_t>(total + 1));
   for (int i = 0; i <= total; ++i) {
-    const LaunchItem item = boxes.Item(i);
-    size += item.Name.size() + item.Target.size() + PunctuationOfRecord;
+    const bool onMain = !remembered || boxes.Item(i).Target.substr(0, 1) == environment_.MediaDriveLetter;
+    (onMain ? split.Main : split.Machine).push_back(i);
   }
-  main.Reserve(size);
-  std::wstring open;
-  for (int i = 0; i <= total; ++i) {
-    LaunchItem item = boxes.Item(i);
-    const bool onMain = BelongsToMain(group, item.Target);
-    if (onMain && group.MachineFile != nullptr && !item.Target.empty()) {
-      open = item.Target;
-      open.front() = OpenDriveLetter;
-      item.Target = open;
-    }
-    (onMain ? main : machine).Write(item);
-  }
-  const auto write = [this](const std::wstring& path, const RecordWriter& records) {
-    if (records.File().Bytes().empty()) return;  // the file of a list that is empty stays as it is
-    (void)text::WriteTextFile(backup_, services_.Language, path, records.File());
-  };
-  write(group.File, main);
-  if (group.MachineFile != nullptr) write(*group.MachineFile, machine);
+  return split;
 }
 
-bool ListFiles::BelongsToMain(const Group& group, std::wstring_view target) const {
-  if (group.MachineFile == nullptr || !environment_.MachineRemembered) return true;
-  return target.substr(0, 1) == environment_.MediaDriveLetter;
+std::int16_t ListFiles::CountMediaItems(const Group& group, const Split& split) {
+  *group.MachineUpper = static_cast<std::int16_t>(static_cast<int>(split.Machine.size()) - 1);
+  return static_cast<std::int16_t>(static_cast<int>(split.Main.size()) - 1);
+}
+
+void ListFiles::SaveSettings() {
+  generation_.Write(environment_.Files.Set, EncodeText(WriteSettings(settings_), services_.Language));
+}
+
+void ListFiles::SaveGroupList(const Group& group, const GroupBoxes& boxes, const Split& split) {
+  const auto write = [&](const std::wstring& path, const std::vector<int>& items, bool onMedia) {
+    if (items.empty()) return;  // the file of a list that is empty stays as it is
+    std::size_t size = 0;
+    for (const int i : items) size += boxes.Item(i).Name.size() + boxes.Item(i).Target.size() + PunctuationOfRecord;
+    text::SequentialWriter records;
+    records.Reserve(size);
+    std::wstring open;
+    for (const int i : items) {
+      LaunchItem item = boxes.Item(i);
+      if (onMedia && !item.Target.empty()) {
+        open = item.Target;
+        open.front() = OpenDriveLetter;
+        item.Target = open;
+      }
+      if (HasQuote(item.Name) || HasQuote(item.Target))
+        records.Write(StoredName(item.Name), StoredTarget(group.Code, item.Target));
+      else
+        records.Write(item.Name, item.Target);
+    }
+    generation_.Write(path, EncodeText(records, services_.Language));
+  };
+  write(group.File, split.Main, group.MachineFile != nullptr);
+  if (group.MachineFile != nullptr) write(*group.MachineFile, split.Machine, false);
 }
 
 }  // namespace vantor::list

@@ -4,8 +4,8 @@
 #include <stdexcept>
 #include <string>
 
+#include "list/DataFile.h"
 #include "text/Numbers.h"
-#include "text/SequentialFile.h"
 
 namespace vantor::list {
 namespace {
@@ -25,9 +25,10 @@ bool Equals(const Field& field, const std::wstring& text) {
 }
 
 bool IsThisMachine(const service::Services& services, std::wstring_view path) {
-  const auto text = text::ReadTextFile(services.DataFiles, services.Language, path);
-  if (!text) throw std::runtime_error("the identity file can't be read");
-  text::SequentialReader reader(*text);
+  const service::FileRead file = list::ReadPatiently(services.DataFiles, path);
+  if (!file.Bytes) throw std::runtime_error("the identity file can't be read");
+  const std::wstring text = list::DecodeText(*file.Bytes, services.Language);
+  text::SequentialReader reader(text);
   const Field driveType = Required(reader.Read());
   const Field serialNumber = Required(reader.Read());
   const Field size = Required(reader.Read());
@@ -44,7 +45,7 @@ bool SaveIdentity(const service::Services& services, std::wstring_view path) {
   writer.Write(identity->DriveType);
   writer.Write(identity->VolumeSerialNumber);
   writer.Write(identity->Size);
-  if (!text::WriteTextFile(services.DataFiles, services.Language, path, writer)) {
+  if (!services.DataFiles.Write(path, list::EncodeText(writer, services.Language))) {
     throw std::runtime_error("the identity file can't be written");
   }
   return true;
@@ -59,7 +60,7 @@ bool MachineMatches(const service::Services& services, message::Messages& messag
 }
 
 void IdentifyMachine(const service::Services& services, message::Messages& messages, state::Environment& environment) {
-  environment.MachineUnknown = !services.FileSystem.FileExists(environment.Files.Machine);
+  environment.MachineUnknown = services.DataFiles.Read(environment.Files.Machine).Missing;
   environment.MachineRemembered =
       !environment.MachineUnknown && MachineMatches(services, messages, environment.Files.Machine);
 }

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "list/StoredText.h"
+
 namespace vantor::list {
 
 NameMatch::NameMatch(const service::Language& language, std::wstring_view text)
@@ -26,15 +28,21 @@ wchar_t NameMatch::Lower(wchar_t character) const {
 
 message::MessageKey CheckNameListed(const service::Language& language, std::wstring_view name,
                                     const form::ComboBox& nameBox) {
-  NameMatch match(language, name);
+  NameMatch match(language, StoredName(name));
   const auto& names = nameBox.Entries();
-  const bool listed = std::any_of(names.begin(), names.end(), [&](const auto& entry) { return match.Equals(entry); });
+  const bool listed = std::any_of(names.begin(), names.end(), [&](const std::wstring& entry) {
+    return match.Equals(HasQuote(entry) ? StoredName(entry) : entry);
+  });
   return listed ? L"MessageNameAlreadyListed" : L"";
 }
 
-message::MessageKey PathAlreadyListed(std::wstring_view path, const form::ComboBox& pathBox) {
+message::MessageKey PathAlreadyListed(LaunchGroup group, std::wstring_view path, const form::ComboBox& pathBox) {
+  const std::wstring stored = StoredTarget(group, path);
   const auto& paths = pathBox.Entries();
-  return std::find(paths.begin(), paths.end(), path) != paths.end() ? L"MessagePathAlreadyListed" : L"";
+  const bool listed = std::any_of(paths.begin(), paths.end(), [&](const std::wstring& entry) {
+    return HasQuote(entry) ? StoredTarget(group, entry) == stored : entry == stored;
+  });
+  return listed ? L"MessagePathAlreadyListed" : L"";
 }
 
 }  // namespace vantor::list

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "form/ListControl.h"
+#include "list/LaunchList.h"
 #include "message/MessageState.h"
 #include "service/Language.h"
 
@@ -34,10 +34,13 @@ class NameMatch {
   mutable std::array<Remembered, 256> remembered_{};
 };
 
-/// "MessageNameAlreadyListed" when a name of the box equals `name` apart from letter case, else "".
+/// "MessageNameAlreadyListed" when a name of the box equals `name` apart from letter case, or would when both are
+/// saved, else "".
 [[nodiscard]] message::MessageKey CheckNameListed(const service::Language& language, std::wstring_view name,
                                                   const form::ComboBox& nameBox);
-/// "MessagePathAlreadyListed" when a target of the box is exactly `path`, else "".
-[[nodiscard]] message::MessageKey PathAlreadyListed(std::wstring_view path, const form::ComboBox& pathBox);
+/// "MessagePathAlreadyListed" when a target of the group's box is exactly `path`, or would be when both are saved,
+/// else "".
+[[nodiscard]] message::MessageKey PathAlreadyListed(LaunchGroup group, std::wstring_view path,
+                                                    const form::ComboBox& pathBox);
 
 }  // namespace vantor::list

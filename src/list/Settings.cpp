@@ -3,7 +3,6 @@
 #include <array>
 
 #include "text/Numbers.h"
-#include "text/SequentialFile.h"
 
 namespace vantor::list {
 
@@ -34,11 +33,8 @@ bool ReadNumbers(text::SequentialReader& reader, const std::array<Number, Count>
 
 }  // namespace
 
-bool LoadSettings(service::DataFiles& files, const service::Language& language, std::wstring_view path,
-                  Settings& settings) {
-  const auto content = text::ReadTextFile(files, language, path);
-  if (!content) return false;
-  text::SequentialReader reader(*content);
+bool ReadSettings(std::wstring_view text, Settings& settings) {
+  text::SequentialReader reader(text);
   bool whole = ReadNumbers(reader, NumbersBeforeFolder, settings);
   const auto folder = reader.Read();
   if (folder) settings.Folder = folder->Text;
@@ -47,13 +43,12 @@ bool LoadSettings(service::DataFiles& files, const service::Language& language, 
   return whole;
 }
 
-bool SaveSettings(service::DataFiles& files, const service::Language& language, std::wstring_view path,
-                  const Settings& settings) {
+text::SequentialWriter WriteSettings(const Settings& settings) {
   text::SequentialWriter writer;
   for (const Number number : NumbersBeforeFolder) writer.Write(settings.*number);
   writer.Write(settings.Folder);
   for (const Number number : NumbersAfterFolder) writer.Write(settings.*number);
-  return text::WriteTextFile(files, language, path, writer);
+  return writer;
 }
 
 }  // namespace vantor::list

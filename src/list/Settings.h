@@ -4,8 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "service/DataFiles.h"
-#include "service/Language.h"
+#include "text/SequentialFile.h"
 
 namespace vantor::list {
 
@@ -28,12 +27,10 @@ struct Settings {
   std::int16_t MachineProgUpper = NoRecords;
 };
 
-/// Reads the settings file. A short one leaves the values after its end as they are, and a value that is no
-/// 16-bit number leaves that one. False when the file was not read whole.
-bool LoadSettings(service::DataFiles& files, const service::Language& language, std::wstring_view path,
-                  Settings& settings);
-/// Replaces the settings file. False when it could not be written.
-bool SaveSettings(service::DataFiles& files, const service::Language& language, std::wstring_view path,
-                  const Settings& settings);
+/// Takes the values from a settings file's text. A short one leaves the values after its end as they are, and a value
+/// that is no 16-bit number leaves that one. False when the text was not whole.
+bool ReadSettings(std::wstring_view text, Settings& settings);
+/// The settings file's text.
+[[nodiscard]] text::SequentialWriter WriteSettings(const Settings& settings);
 
 }  // namespace vantor::list

@@ -1,6 +1,9 @@
 #include "start/ActiveStart.h"
 
 #include <cmath>
+#include <optional>
+#include <string>
+#include <utility>
 
 #include "command/CodeTables.h"
 #include "list/MachineIdentity.h"
@@ -13,9 +16,10 @@ namespace vantor::start {
 
 void ActiveStart::Run() {
   using Step = void (ActiveStart::*)();
-  for (const Step step : {&ActiveStart::CheckScreen, &ActiveStart::FindPreviousInstance, &ActiveStart::FindPlaces,
-                          &ActiveStart::ChooseRunMode, &ActiveStart::PrepareData, &ActiveStart::AskForName,
-                          &ActiveStart::LoadState, &ActiveStart::LookForCompanions, &ActiveStart::ShowForms}) {
+  for (const Step step :
+       {&ActiveStart::CheckScreen, &ActiveStart::FindPreviousInstance, &ActiveStart::FindPlaces,
+        &ActiveStart::ChooseRunMode, &ActiveStart::PrepareData, &ActiveStart::AskForName, &ActiveStart::LoadState,
+        &ActiveStart::LookForCompanions, &ActiveStart::ShowForms, &ActiveStart::TellWhereSaved}) {
     (this->*step)();
     if (program_.Ui.Ended()) return;
   }
@@ -76,29 +80,37 @@ void ActiveStart::PrepareData() {
   state::Environment& environment = program_.Environment;
   SetDataFiles(environment);
   program_.ListFiles.Restore();
-  std::wstring& userName = program_.MessageState.UserName;
   if (!environment.RunMode) {
-    PrepareDataFolder(program_.Services, environment);
-    userName = LoadUserName(program_.Services, environment);
+    canSave_ = PrepareDataFolder(program_.Services, environment);
+    LoadName();
     return;
   }
   if (const message::MessageKey refusal = PrepareMedia(program_.Services, environment); !refusal.empty()) {
     Stop(refusal);
     return;
   }
-  userName = LoadUserName(program_.Services, environment);  // what comes next may have a question
+  LoadName();
   list::IdentifyMachine(program_.Services, program_.Messages, environment);
+}
+
+void ActiveStart::LoadName() {
+  std::optional<std::wstring> stored;
+  program_.Messages.Trap(L"LoadUserName", [&] { stored = LoadUserName(program_.Services, program_.Environment); });
+  nameUnread_ = !stored;
+  program_.MessageState.UserName = stored.value_or(L"");
 }
 
 void ActiveStart::AskForName() {
   message::MessageState& state = program_.MessageState;
-  if (!state.UserName.empty()) return;
+  if (nameUnread_ || !state.UserName.empty()) return;
+  program_.Environment.FirstStart = true;  // also where the first start was ended at this question
   state.CurrentMessageKey = L"MessageGetUserName";
   program_.Messages.ShowUserMessage();
 }
 
 void ActiveStart::LoadState() {
-  program_.ListFiles.LoadSettings();  // what can't be read stays as it is at a first start
+  // What can't be read stays as it is at a first start.
+  program_.Messages.Trap(L"LoadSettings", [this] { program_.ListFiles.LoadSettings(); });
   command::InitCodeTables(program_.CommandState);
   program_.Options = options::DecodeOptionMask(program_.Settings.OptionMask);
 }
@@ -115,6 +127,18 @@ void ActiveStart::ShowForms() {
   program_.frmChoose.Load();
   program_.frmMain.Show();
   if (program_.Environment.FirstStart) program_.Messages.ShowList(L"MessageFisrtStart");
+}
+
+void ActiveStart::TellWhereSaved() {
+  const state::Environment& environment = program_.Environment;
+  if (!canSave_) program_.Messages.ShowText(L"The list and settings cannot be saved in " + environment.DataFolder);
+  const std::wstring elsewhere = program_.ListFiles.SavedElsewhere();
+  if (elsewhere.empty()) return;
+  program_.Messages.ShowText(
+      L"The list and settings of the last run were not saved in their place, because something there could not be "
+      L"read. They are in " +
+      elsewhere);
+  if (!program_.Ui.Ended()) program_.ListFiles.ForgetSavedElsewhere();
 }
 
 void ActiveStart::Stop(std::wstring_view key) {

@@ -23,13 +23,17 @@ class ActiveStart {
   void PrepareData();
   void AskForName();
 
+  void LoadName();
   void LoadState();
   void LookForCompanions();
   void ShowForms();
+  void TellWhereSaved();
 
   void Stop(std::wstring_view key);
 
   Program& program_;
+  bool canSave_ = true;
+  bool nameUnread_ = false;  // there may be one, which must not be replaced
 };
 
 }  // namespace vantor::start

@@ -1,9 +1,9 @@
 #include "start/DataFolder.h"
 
-#include <optional>
+#include <algorithm>
 
+#include "list/DataFile.h"
 #include "list/Settings.h"
-#include "text/SequentialFile.h"
 
 namespace vantor::start {
 namespace {
@@ -14,84 +14,112 @@ constexpr std::wstring_view MediaSetup = L"Setup";
 constexpr std::wstring_view MediaReady = L"Ready";
 
 struct MediaSet {
-  std::wstring State;
+  std::wstring State;  // "" for a file that is none of the program's
   std::wstring UserName;
 };
 
-std::optional<MediaSet> ReadMediaSet(const service::Services& services, const state::Environment& environment) {
-  const auto text = text::ReadTextFile(services.DataFiles, services.Language, environment.Files.MediaSet);
-  if (!text) return std::nullopt;
-  text::SequentialReader reader(*text);
-  const auto mark = reader.Read();
-  const auto state = reader.Read();
-  const auto name = reader.Read();
-  if (!mark || mark->Text != MediaMark) return std::nullopt;
-  if (!state || (state->Text != MediaSetup && state->Text != MediaReady)) return std::nullopt;
-  return MediaSet{std::wstring(state->Text), std::wstring(name ? name->Text : L"")};
-}
-
-bool WriteMediaSet(const service::Services& services, const state::Environment& environment, std::wstring_view state,
-                   std::wstring_view userName) {
+text::SequentialWriter MediaText(std::wstring_view state, std::wstring_view userName) {
   text::SequentialWriter writer;
   writer.Write(MediaMark);
   writer.Write(state);
   writer.Write(userName);
-  return text::WriteTextFile(services.DataFiles, services.Language, environment.Files.MediaSet, writer);
+  return writer;
+}
+
+/// Nothing when the file is there and can't be read.
+std::optional<MediaSet> ReadMediaSet(const service::Services& services, const state::Environment& environment) {
+  const service::FileRead file = list::ReadPatiently(services.DataFiles, environment.Files.MediaSet);
+  if (file.Failed()) return std::nullopt;
+  const std::wstring text = list::DecodeText(file.Bytes.value_or(""), services.Language);
+  text::SequentialReader reader(text);
+  const auto mark = reader.Read();
+  const auto state = reader.Read();
+  const auto name = reader.Read();
+  if (!mark || mark->Text != MediaMark) return MediaSet{};
+  if (!state || (state->Text != MediaSetup && state->Text != MediaReady)) return MediaSet{};
+  return MediaSet{std::wstring(state->Text), std::wstring(name ? name->Text : L"")};
+}
+
+bool Write(const service::Services& services, std::wstring_view path, const text::SequentialWriter& text) {
+  return services.DataFiles.Write(path, list::EncodeText(text, services.Language));
 }
 
 bool WriteFirstSettings(const service::Services& services, const state::Environment& environment) {
-  return list::SaveSettings(services.DataFiles, services.Language, environment.Files.Set, list::Settings{});
+  return Write(services, environment.Files.Set, list::WriteSettings(list::Settings{}));
+}
+
+/// Whether there is nothing yet, or no more than a first set-up leaves that was ended in its first write.
+bool IsFresh(const service::Services& services, const state::Environment& environment) {
+  const auto names = services.DataFiles.FolderEntries(environment.DataFolder);
+  if (!names) return false;
+  const std::wstring& path = environment.Files.MediaSet;
+  const std::wstring first = services.Language.Lower(path.substr(path.rfind(L'\\') + 1));
+  const bool onlyFirst = std::all_of(names->begin(), names->end(), [&](const std::wstring& name) {
+    const std::wstring lower = services.Language.Lower(name);
+    return lower == first || lower == first + service::UnfinishedEnding;
+  });
+  if (!onlyFirst || names->empty()) return onlyFirst;
+  const service::FileRead file = list::ReadPatiently(services.DataFiles, path);
+  if (!file.Bytes) return file.Missing;
+  const text::SequentialWriter whole = MediaText(MediaSetup, L"");
+  return *file.Bytes != whole.Bytes() && whole.Bytes().starts_with(*file.Bytes);
 }
 
 bool CreateMedia(const service::Services& services, const state::Environment& environment) {
-  return services.DataFiles.MakeFolder(environment.DataFolder) &&
-         WriteMediaSet(services, environment, MediaSetup, L"") && WriteFirstSettings(services, environment) &&
-         WriteMediaSet(services, environment, MediaReady, L"");
+  if (!services.DataFiles.MakeFolder(environment.DataFolder)) return false;
+  const std::wstring& mediaSet = environment.Files.MediaSet;
+  if (Write(services, mediaSet, MediaText(MediaSetup, L"")) && WriteFirstSettings(services, environment) &&
+      Write(services, mediaSet, MediaText(MediaReady, L"")))
+    return true;
+  // Half of it would keep the program from ever running here.
+  for (const std::wstring& path : {environment.Files.Set, mediaSet}) static_cast<void>(services.DataFiles.Remove(path));
+  return false;
 }
 
 }  // namespace
 
-void PrepareDataFolder(const service::Services& services, state::Environment& environment) {
+bool PrepareDataFolder(const service::Services& services, state::Environment& environment) {
   // A settings file that is there but can't be read must not be taken for a first start, and be replaced.
-  if (services.FileSystem.FileExists(environment.Files.Set)) return;
+  if (!services.DataFiles.Read(environment.Files.Set).Missing)
+    return services.DataFiles.CanWrite(environment.Files.Set);
   environment.FirstStart = true;
-  if (services.DataFiles.MakeFolder(environment.DataFolder)) {
-    static_cast<void>(WriteFirstSettings(services, environment));
-  }
+  return services.DataFiles.MakeFolder(environment.DataFolder) && WriteFirstSettings(services, environment);
 }
 
 message::MessageKey PrepareMedia(const service::Services& services, state::Environment& environment) {
-  if (services.DataFiles.FolderIsEmpty(environment.DataFolder)) {
+  if (IsFresh(services, environment)) {
     environment.FirstStart = true;
     return CreateMedia(services, environment) ? L"" : L"MessageMediaCreateError";
   }
+  // Where it can't be read just now, the medium was in use before.
   const auto media = ReadMediaSet(services, environment);
-  if (!media) return L"MessageRecreateMedia";
-  if (media->State == MediaSetup) return L"MessageMediaRunCancel";
-  if (services.FileSystem.FileExists(environment.Files.Set)) return L"";
+  if (media && media->State.empty()) return L"MessageRecreateMedia";
+  if (media && media->State == MediaSetup) return L"MessageMediaRunCancel";
+  if (!services.DataFiles.Read(environment.Files.Set).Missing) return L"";
   environment.FirstStart = true;
   return WriteFirstSettings(services, environment) ? L"" : L"MessageMediaCreateError";
 }
 
-std::wstring LoadUserName(const service::Services& services, const state::Environment& environment) {
+std::optional<std::wstring> LoadUserName(const service::Services& services, const state::Environment& environment) {
   if (environment.RunMode) {
-    const auto media = ReadMediaSet(services, environment);
-    return media ? media->UserName : L"";
+    auto media = ReadMediaSet(services, environment);
+    return media ? std::optional(std::move(media->UserName)) : std::nullopt;
   }
-  const auto text = text::ReadTextFile(services.DataFiles, services.Language, environment.Files.User);
-  if (!text) return L"";
-  const auto name = text::SequentialReader(*text).Read();
+  const service::FileRead file = list::ReadPatiently(services.DataFiles, environment.Files.User);
+  if (file.Failed()) return std::nullopt;
+  const std::wstring text = list::DecodeText(file.Bytes.value_or(""), services.Language);
+  const auto name = text::SequentialReader(text).Read();
   return std::wstring(name ? name->Text : L"");
 }
 
 void SaveUserName(const service::Services& services, const state::Environment& environment, std::wstring_view name) {
   if (environment.RunMode) {
-    static_cast<void>(WriteMediaSet(services, environment, MediaReady, name));
+    static_cast<void>(Write(services, environment.Files.MediaSet, MediaText(MediaReady, name)));
     return;
   }
   text::SequentialWriter writer;
   writer.Write(name);
-  static_cast<void>(text::WriteTextFile(services.DataFiles, services.Language, environment.Files.User, writer));
+  static_cast<void>(Write(services, environment.Files.User, writer));
 }
 
 }  // namespace vantor::start

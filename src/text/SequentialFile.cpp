@@ -10,7 +10,6 @@
 namespace vantor::text {
 namespace {
 
-constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view LineEnd = "\r\n";
 
 constexpr bool IsBlank(wchar_t c) { return c == L' ' || c == L'\t'; }
@@ -122,22 +121,6 @@ std::wstring_view SequentialReader::TakeToDelimiter() {
   else if (!rest_.empty())
     rest_.remove_prefix(1);
   return taken;
-}
-
-std::optional<std::wstring> ReadTextFile(service::DataFiles& files, const service::Language& language,
-                                         std::wstring_view path) {
-  const std::optional<std::string> bytes = files.Read(path);
-  if (!bytes) return std::nullopt;
-  if (bytes->starts_with(ByteOrderMark)) return FromUtf8(std::string_view(*bytes).substr(ByteOrderMark.size()));
-  if (IsAscii(*bytes)) return std::wstring(bytes->begin(), bytes->end());
-  return language.FromCodePage(*bytes);
-}
-
-bool WriteTextFile(service::DataFiles& files, const service::Language& language, std::wstring_view path,
-                   const SequentialWriter& writer) {
-  if (writer.Ascii()) return files.Write(path, writer.Bytes());
-  if (const auto bytes = language.ToCodePage(writer.Text())) return files.Write(path, *bytes);
-  return files.Write(path, std::string(ByteOrderMark).append(writer.Bytes()));
 }
 
 }  // namespace vantor::text

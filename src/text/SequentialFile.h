@@ -5,9 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "service/DataFiles.h"
-#include "service/Language.h"
-
 namespace vantor::text {
 
 /// Builds the text of a sequential file: one record a line, lines ended by CR LF.
@@ -67,14 +64,5 @@ class SequentialReader {
 
   std::wstring_view rest_;
 };
-
-/// The text of a data file, in the system's ANSI code page, or in UTF-8 when it begins with that byte-order
-/// mark. Nothing when it can't be read.
-[[nodiscard]] std::optional<std::wstring> ReadTextFile(service::DataFiles& files, const service::Language& language,
-                                                       std::wstring_view path);
-/// Replaces a data file, in the ANSI code page if that holds every character, else as UTF-8 with a byte-order
-/// mark. False when it could not be written.
-[[nodiscard]] bool WriteTextFile(service::DataFiles& files, const service::Language& language, std::wstring_view path,
-                                 const SequentialWriter& writer);
 
 }  // namespace vantor::text

@@ -89,6 +89,51 @@ TEST_CASE("on a full disk the old list or the new one stays, whole") {
   }
 }
 
+TEST_CASE("a list that another program holds at the start comes back by the guide's recipe, after later runs too") {
+  const std::string old = ListBytes({{"One", "http://one"}, {"Two", "http://two"}});
+  for (const bool heldToTheEnd : {false, true}) {
+    CAPTURE(heldToTheEnd);
+    const Folder folder;
+    folder.WriteSettings({.WebUpper = 1});
+    folder.WriteData("ListWeb", old);
+    HANDLE const held = CreateFileW(Wide(folder.Path("Vantor\\ListWeb.Orbel")).c_str(), GENERIC_READ, 0, nullptr,
+                                    OPEN_EXISTING, 0, nullptr);
+    REQUIRE(held != INVALID_HANDLE_VALUE);
+    {
+      const Program program(folder);
+      program.AwaitBar();
+      if (!heldToTheEnd) CloseHandle(held);
+      const WebBox box{program};
+      input::Press(VK_F1);
+      CHECK_BECOMES(box.Shown(), true);
+      WebBox::Fill(box.Address(), "http://new");
+      WebBox::Fill(box.Name(), "New");
+      input::Press(VK_RETURN);
+      CHECK_BECOMES(window::Text(box.Address()), "");
+      program.Exit();
+    }
+    if (heldToTheEnd) CloseHandle(held);
+    CHECK((folder.Data("ListWeb") == old) == heldToTheEnd);
+    const std::string rescue = folder.Path("Vantor\\Rescue\\1");
+    {
+      const Program program(folder);
+      if (heldToTheEnd)
+        program.ExpectMessage("The list and settings of the last run were not saved in their place, because");
+      const RECT bar = window::Bounds(program.AwaitBar());
+      SetWindowPos(program.Bar(), nullptr, bar.left + 90, bar.top + 60, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+      program.Exit();
+    }
+    StartAndClose(folder);
+    for (const auto& file : std::filesystem::directory_iterator(Wide(rescue))) {
+      const std::wstring place = Wide(folder.Path("Vantor\\")) + file.path().filename().wstring();
+      CHECK(CopyFileW(file.path().c_str(), place.c_str(), FALSE));
+    }
+    StartAndClose(folder);
+    CHECK(folder.Data("ListWeb") == (heldToTheEnd ? ListBytes({{"New", "http://new"}}) : old));
+    CHECK(folder.Data("Set") == folder.Saved({.WebUpper = heldToTheEnd ? 0 : 1}));
+  }
+}
+
 TEST_CASE("Windows ends while a panel or a message is open: all is saved, and in time") {
   const LongList list(32767);
   for (const bool message : {false, true}) {

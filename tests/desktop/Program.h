@@ -231,6 +231,24 @@ class Program {
   PROCESS_INFORMATION process_;
 };
 
+/// The box that unfolds from the bar of a running program.
+struct WebBox {
+  const Program& Running;
+
+  [[nodiscard]] bool Shown() const { return window::OfClass(Running.Bar(), "Edit").size() == 3; }
+  [[nodiscard]] HWND Address() const { return window::OfClass(Running.Bar(), "Edit").at(1); }
+  [[nodiscard]] HWND Name() const { return window::OfClass(Running.Bar(), "Edit").at(2); }
+  [[nodiscard]] HWND Add() const { return window::OfClass(Running.Bar(), "Button").back(); }
+  [[nodiscard]] HWND Banner() const { return Running.Button("Site Added To List : Click To Hide"); }
+
+  static void Fill(HWND box, const std::string& text) {
+    input::Click(box);
+    Await("the focus", [box] { return window::FocusOf(box) == box; });
+    input::Type(text);
+    Await(text, [&] { return window::Text(box) == text; });
+  }
+};
+
 /// A panel of a running program's bar.
 class Panel {
  public:

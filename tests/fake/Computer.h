@@ -48,6 +48,7 @@ class Computer : public service::DataFiles,
   }
 
   FakeDisk Disk;
+  int Paused = 0;                     // milliseconds
   std::wstring Home = L"C:\\Vantor";  // where the program is
   std::wstring Windows = L"C:\\WINDOWS";
   bool Previous = false;  // another copy runs
@@ -79,8 +80,14 @@ class Computer : public service::DataFiles,
 
   // --- files
 
-  std::optional<std::string> Read(Text path) override {
-    return Fails(__func__) || !Disk.HasFile(path) ? std::nullopt : std::optional(Disk.Bytes(path));
+  service::FileRead Read(Text path) override {
+    const bool held = Disk.HasFile(path) && Disk.Find(path)->HeldFor > Paused;
+    if (Fails(__func__) || held) return {};
+    return Disk.HasFile(path) ? service::FileRead{Disk.Bytes(path)} : service::FileRead{std::nullopt, true};
+  }
+  void Pause(int milliseconds) override {
+    static_cast<void>(Fails(__func__));
+    Paused += milliseconds;
   }
   bool Write(Text path, std::string_view bytes) override { return !Fails(__func__) && Disk.Write(path, bytes, false); }
   bool WriteInPlace(Text path, std::string_view bytes) override {
@@ -90,7 +97,13 @@ class Computer : public service::DataFiles,
   }
   bool Remove(Text path) override { return !Fails(__func__) && Disk.RemoveFile(path); }
   bool MakeFolder(Text path) override { return !Fails(__func__) && Disk.MakeFolder(path); }
-  bool FolderIsEmpty(Text path) override { return !Fails(__func__) && Disk.In(path).empty(); }
+  bool CanWrite(Text path) override { return !Fails(__func__) && Disk.MayWrite(path); }
+  std::optional<Texts> FolderEntries(Text path) override {
+    if (Fails(__func__)) return std::nullopt;
+    Texts names;
+    for (const FakeDisk::Entry* entry : Disk.In(path)) names.push_back(entry->Name());
+    return names;
+  }
 
   bool Available() override { return !Fails(__func__); }
   std::optional<int> DriveType(Text root) override {
@@ -240,7 +253,7 @@ class Computer : public service::DataFiles,
     Texts names;
     for (const FakeDisk::Entry* entry : Disk.In(folder)) {
       if (entry->IsFolder != folders || !Lower(entry->Path).ends_with(ending)) continue;
-      names.push_back(entry->Path.substr(entry->Path.rfind(L'\\') + 1));
+      names.push_back(entry->Name());
     }
     return names;
   }

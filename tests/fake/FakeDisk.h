@@ -22,7 +22,10 @@ class FakeDisk {
     std::wstring Path;  // in the letter case it was made with
     bool IsFolder = false;
     bool Writable = true;
+    int HeldFor = 0;  // milliseconds of pauses until it can be read
     std::string Bytes;
+
+    [[nodiscard]] std::wstring Name() const { return Path.substr(Path.rfind(L'\\') + 1); }
   };
   enum class Fault {
     None,
@@ -99,6 +102,9 @@ class FakeDisk {
     }
     Spend(path, bytes.size());
     return fits;
+  }
+  [[nodiscard]] bool MayWrite(std::wstring_view path) const {
+    return HasFile(path) && Find(path)->Writable && !DriveOf(path)->WriteProtected;
   }
   bool RemoveFile(std::wstring_view path) {
     if (!HasFile(path)) return true;

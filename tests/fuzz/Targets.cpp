@@ -67,9 +67,9 @@ void FuzzMedia(Bytes bytes) {
   Choices choices(bytes);
   Choices flags(bytes.first(std::min<std::size_t>(bytes.size(), 1)));
   Wandering wandering(flags);
-  const std::size_t which = choices.Byte() % 4;
+  const std::size_t which = choices.Byte() % 5;
   wandering.Computer.Home = L"E:\\Work";
-  constexpr std::wstring_view names[] = {L"MediaSet", L"Machine", L"User", L"Saving"};
+  constexpr std::wstring_view names[] = {L"MediaSet", L"Machine", L"User", L"Saving", L"Unsaved"};
   const auto path = [](std::wstring_view name) { return L"E:\\Work\\Vantor\\" + std::wstring(name) + L".Orbel"; };
   wandering.Computer.Disk.AddFile(path(names[0]), "\"Vantor Media 1\"\r\n\"Ready\"\r\n\"Ada\"\r\n");
   wandering.Computer.Disk.AddFile(path(names[which]), choices.Rest());

@@ -1,6 +1,7 @@
 #include <doctest/doctest.h>
 
 #include "fake/StoredList.h"
+#include "list/DataFile.h"
 
 namespace vantor::list {
 namespace {
@@ -58,16 +59,29 @@ TEST_CASE("a damaged settings file gives what could be read of it") {
   };
   for (const auto& row : rows) {
     CAPTURE(row.Bytes);
-    fake::Computer computer;
-    computer.Disk.AddFile(DataFile(L"Set"), row.Bytes);
     Settings settings;
-    CHECK(LoadSettings(computer, computer, DataFile(L"Set"), settings) == row.Whole);
+    CHECK(ReadSettings(std::wstring(row.Bytes.begin(), row.Bytes.end()), settings) == row.Whole);
     CHECK(settings.OptionMask == row.OptionMask);
     CHECK(settings.FileUpper == row.FileUpper);
     CHECK(settings.Left == row.Left);
     CHECK(settings.MachineProgUpper == row.MachineProgUpper);
-    CHECK_FALSE(LoadSettings(computer, computer, DataFile(L"none"), settings));
   }
+}
+
+TEST_CASE("a file keeps every character, in the code page or in UTF-8 with its mark") {
+  fake::Computer computer;
+  const std::wstring halfPair{L'x', static_cast<wchar_t>(0xD83D)};
+  const std::pair<std::wstring, std::string> cases[] = {
+      {L"\u00C9t\u00E9 \u20AC", "\"\xC9t\xE9 \x80\"\r\n"},
+      {L"\u0416 \u4E2D \U0001F600", "\xEF\xBB\xBF\"\xD0\x96 \xE4\xB8\xAD \xF0\x9F\x98\x80\"\r\n"},
+      {halfPair, "\xEF\xBB\xBF\"x\xED\xA0\xBD\"\r\n"}};
+  for (const auto& [text, bytes] : cases) {
+    text::SequentialWriter writer;
+    writer.Write(text);
+    CHECK(EncodeText(writer, computer) == bytes);
+    CHECK(DecodeText(bytes, computer) == L"\"" + text + L"\"\r\n");
+  }
+  CHECK(DecodeText("\xEF\xBB\xBF!\xC3(\xF5\xE2\x82", computer) == L"!\uFFFD(\uFFFD\uFFFD\uFFFD");
 }
 
 TEST_CASE("files cut at any byte give the items before the cut, whatever the upper index says") {
@@ -114,7 +128,7 @@ TEST_CASE("loading calls no other computer, and keeps what may be on one as it i
   CHECK(computer.Disk.Bytes(DataFile(L"ListProg")) == kept);
 }
 
-TEST_CASE("four groups of 32,767 items come back whole, and the last of them is completed") {
+TEST_CASE("four groups of 32,767 items come back whole, the last of them is completed, and there is no room for more") {
   constexpr int Count = 32767;
   test::TestProgram program;
   fake::Computer& computer = program.Computer;
@@ -136,6 +150,12 @@ TEST_CASE("four groups of 32,767 items come back whole, and the last of them is 
     CHECK(program.Main.TextMain.Text() == code + std::wstring(L"Item 32766"));
     CHECK(program.Program.CommandState.MatchedItemIndex == Count - 1);
   }
+  bar::AddWebBox& box = program.Main.Web;
+  box.TextWebUrl.SetText(L"http://new");
+  box.TextWebName.SetText(L"new");
+  program.Expect();
+  box.CommandAddWeb.DoClick();
+  CHECK(program.Told == Texts{L"This list is full."});
 }
 
 }  // namespace

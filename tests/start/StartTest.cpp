@@ -146,13 +146,19 @@ TEST_CASE("what can't be read or written does not keep the program from starting
   CHECK(damaged.Program.Settings.OptionMask == 7);
   CHECK(settings == "7\r\n-1");
 
-  TestProgram readOnly;
-  readOnly.Computer.Home = L"D:\\Work";
-  readOnly.Computer.Disk.Drives[L'D'].WriteProtected = true;
-  readOnly.ExpectTyping(L"\r");
-  readOnly.Expect();
-  CHECK(readOnly.Start());
-  CHECK(readOnly.Program.MessageState.UserName == L"myFriend");
+  for (const std::wstring home : {L"C:\\Vantor", L"D:\\Work"}) {
+    TestProgram readOnly;
+    readOnly.Computer.Home = home;
+    readOnly.Computer.Disk.Drives[home[0]].WriteProtected = true;
+    if (home[0] == L'D') {
+      readOnly.ExpectTyping(L"\r");
+      readOnly.Expect();
+    }
+    readOnly.Expect();
+    CHECK(readOnly.Start());
+    CHECK(readOnly.Told.back() == L"The list and settings cannot be saved in " + home + L"\\Vantor");
+    CHECK(readOnly.Computer.Disk.Written.empty());
+  }
 
   TestProgram broken;
   broken.Computer.Let("WindowsDirectory", fake::Outcome::Throws);
@@ -162,27 +168,59 @@ TEST_CASE("what can't be read or written does not keep the program from starting
   CHECK(broken.Desktop.Ended());
 }
 
-TEST_CASE("a first run from a medium that can't write is refused, and told apart from a medium in use afterwards") {
+TEST_CASE("a first run from a medium that can't write is refused, and takes back what it made if it can") {
   // What the disk counts: a call, and the bytes that it writes.
-  constexpr std::size_t Folder = 1;
-  constexpr std::size_t MediaSet = sizeof "'Vantor Media 1'\r\n'Setup'\r\n''\r\n";
-  for (std::size_t bytes = 0; bytes < Folder + 2 * MediaSet + sizeof FirstSettings; bytes += 4) {
-    CAPTURE(bytes);
-    OnMedium program;
-    program.Computer.Disk.Break(fake::FakeDisk::Fault::Pulled, bytes);
-    program.Expect();
-    CHECK_FALSE(program.Start());
-    CHECK(program.Told.at(0).starts_with(L"There was problem writing Data"));
+  constexpr std::size_t Calls = 2;
+  const std::string setup = "\"Vantor Media 1\"\r\n\"Setup\"\r\n\"\"\r\n";
+  using Fault = fake::FakeDisk::Fault;
+  for (const Fault fault : {Fault::Pulled, Fault::Full}) {
+    for (std::size_t bytes = 0; bytes < setup.size() + sizeof FirstSettings; bytes += 4) {
+      CAPTURE(bytes);
+      OnMedium program;
+      fake::FakeDisk& disk = program.Computer.Disk;
+      disk.Break(fault, bytes + (fault == Fault::Full ? disk.Size() : 0));
+      program.Expect();
+      CHECK_FALSE(program.Start());
+      CHECK(program.Told.at(0).starts_with(L"There was problem writing Data"));
 
-    OnMedium next;
-    next.Computer.Disk = program.Computer.Disk;
-    next.Computer.Disk.Break(fake::FakeDisk::Fault::None, 0);
-    next.Computer.Disk.Drives[L'E'].Ready = true;
-    const bool triesAgain = bytes < Folder + MediaSet;
-    if (triesAgain) next.ExpectTyping(L"Ada\r");
+      OnMedium next;
+      next.Computer.Disk = disk;
+      next.Computer.Disk.Break(Fault::None, 0);
+      next.Computer.Disk.Drives[L'E'].Ready = true;
+      const bool triesAgain = fault == Fault::Full || bytes < Calls + setup.size();
+      if (triesAgain) next.ExpectTyping(L"Ada\r");
+      next.Expect();
+      CHECK(next.Start() == triesAgain);
+      if (!triesAgain) CHECK(next.Told.at(0).starts_with(L"To run this Program from a Removable Media there"));
+    }
+  }
+  // Ended in its first write, beside the file or in it.
+  for (const auto* name : {L"MediaSet.Orbel", L"MediaSet.Orbel~"}) {
+    for (std::size_t length = 0; length < setup.size(); length += 6) {
+      OnMedium cut;
+      cut.Computer.Disk.AddFile(std::wstring(L"E:\\Work\\Vantor\\") + name, setup.substr(0, length));
+      cut.ExpectTyping(L"Ada\r");
+      cut.Expect();
+      CHECK(cut.Start());
+    }
+  }
+}
+
+TEST_CASE("a first start that was ended at the name question is still one") {
+  for (const auto* home : {L"D:\\Work", L"E:\\Work"}) {
+    TestProgram first;
+    fake::FakeDisk ended;
+    first.Computer.Home = home;
+    first.Expect([&](auto& /*dialog*/) { ended = first.Computer.Disk; });
+    first.Expect();
+    first.Start();
+    TestProgram next;
+    next.Computer.Home = home;
+    next.Computer.Disk = ended;
+    next.ExpectTyping(L"\x1b");
     next.Expect();
-    CHECK(next.Start() == triesAgain);
-    if (!triesAgain) CHECK(next.Told.at(0).starts_with(L"To run this Program from a Removable Media there"));
+    REQUIRE(next.Start());
+    CHECK(next.Told.at(1).starts_with(L"If you missed it"));
   }
 }
 

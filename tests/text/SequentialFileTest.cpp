@@ -2,7 +2,9 @@
 
 #include <doctest/doctest.h>
 
-#include "fake/Computer.h"
+#include <string>
+#include <vector>
+
 #include "text/Numbers.h"
 
 namespace vantor::text {
@@ -50,26 +52,6 @@ TEST_CASE("numbers are whole fields within their range, and sizes of disks read 
     CHECK(bytes.find_first_not_of("0123456789") == bytes.size() - 2);
     CHECK(ParseDouble(std::wstring(bytes.begin(), bytes.end() - 2)) == size);
   }
-}
-
-TEST_CASE("a file keeps every character, in the code page or in UTF-8 with its mark") {
-  fake::Computer computer;
-  const std::wstring path = L"C:\\Vantor\\x";
-  const std::wstring halfPair{L'x', static_cast<wchar_t>(0xD83D)};
-  const std::pair<std::wstring, std::string> cases[] = {
-      {L"\u00C9t\u00E9 \u20AC", "\"\xC9t\xE9 \x80\"\r\n"},
-      {L"\u0416 \u4E2D \U0001F600", "\xEF\xBB\xBF\"\xD0\x96 \xE4\xB8\xAD \xF0\x9F\x98\x80\"\r\n"},
-      {halfPair, "\xEF\xBB\xBF\"x\xED\xA0\xBD\"\r\n"}};
-  for (const auto& [text, bytes] : cases) {
-    SequentialWriter writer;
-    writer.Write(text);
-    REQUIRE(WriteTextFile(computer, computer, path, writer));
-    CHECK(computer.Disk.Bytes(path) == bytes);
-    CHECK(ReadTextFile(computer, computer, path) == L"\"" + text + L"\"\r\n");
-  }
-  computer.Disk.Bytes(path) = "\xEF\xBB\xBF!\xC3(\xF5\xE2\x82";
-  CHECK(ReadTextFile(computer, computer, path) == L"!\uFFFD(\uFFFD\uFFFD\uFFFD");
-  CHECK_FALSE(ReadTextFile(computer, computer, L"C:\\missing"));
 }
 
 }  // namespace

@@ -77,7 +77,7 @@ TEST_CASE("files and folders are told apart, at any length of the path") {
     CHECK(disk.Files.Files(deep, L"*.txt") == Names{L"x.txt"});
     if (many) disk.Files.EndMany();
   }
-  CHECK(data.Read(deep + L"\\x.txt") == "deep");
+  CHECK(data.Read(deep + L"\\x.txt").Bytes == "deep");
   // What the clean-up of the folder can't reach.
   const std::wstring literal = L"\\\\?\\" + deep;
   CHECK(DeleteFileW((literal + L"\\x.txt").c_str()));
@@ -110,15 +110,15 @@ TEST_CASE("a data file is replaced whole or left whole, in its place too where t
   DataFiles data;
   const std::wstring path = folder / L"Set \x4E2D.Orbel";
   const std::string old("old\r\n\0text", 10);
-  CHECK_FALSE(data.Read(path));
+  CHECK(data.Read(path).Missing);
   CHECK(data.Remove(path));
-  CHECK(data.FolderIsEmpty(folder.Path));
+  CHECK(data.FolderEntries(folder.Path) == Names{});
   REQUIRE(data.Write(path, "longer than the next"));
   CHECK(data.Write(path, ""));
-  CHECK(data.Read(path) == "");
+  CHECK(data.Read(path).Bytes == "");
   CHECK(data.WriteInPlace(path, "longer than the next"));
   REQUIRE(data.WriteInPlace(path, old));
-  CHECK(data.Read(path) == old);
+  CHECK(data.Read(path).Bytes == old);
   const auto write = [&](const std::wstring& file, bool inPlace) {
     return inPlace ? data.WriteInPlace(file, "new") : data.Write(file, "new");
   };
@@ -128,35 +128,42 @@ TEST_CASE("a data file is replaced whole or left whole, in its place too where t
       CHECK_FALSE(write(none, inPlace));
     SetAttributes(path, FILE_ATTRIBUTE_READONLY);
     CHECK_FALSE(write(path, inPlace));
+    CHECK_FALSE(data.CanWrite(path));
     SetAttributes(path, FILE_ATTRIBUTE_NORMAL);
     {
       const FileHandle held(
           CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
       CHECK_FALSE(write(path, inPlace));
       CHECK_FALSE(data.Remove(path));
+      CHECK(data.CanWrite(path));
     }
-    CHECK(data.Read(path) == old);
+    {
+      const FileHandle alone(CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+      CHECK(data.Read(path).Failed());
+    }
+    CHECK(data.Read(path).Bytes == old);
     SetAttributes(path, FILE_ATTRIBUTE_HIDDEN);
     CHECK(write(path, inPlace));
     CHECK((GetFileAttributesW(path.c_str()) & FILE_ATTRIBUTE_HIDDEN) != 0);
-    CHECK(data.Read(path) == "new");
+    CHECK(data.Read(path).Bytes == "new");
     SetAttributes(path, FILE_ATTRIBUTE_NORMAL);
     REQUIRE(data.Write(path, old));
   }
   // No new file can be made beside it.
   std::filesystem::create_directory(path + L"~");
   CHECK(data.Write(path, "new"));
-  CHECK(data.Read(path) == "new");
+  CHECK(data.Read(path).Bytes == "new");
   std::filesystem::remove(path + L"~");
   Apartment com;
   CHECK(FileSystem(com).Files(folder.Path, L"*.*") == Names{L"Set \x4E2D.Orbel"});
 
-  CHECK_FALSE(data.FolderIsEmpty(folder.Path));
+  SetAttributes(path, FILE_ATTRIBUTE_HIDDEN);
+  CHECK(data.FolderEntries(folder.Path) == Names{L"Set \x4E2D.Orbel"});
   for (int time = 0; time < 2; ++time) CHECK(data.MakeFolder(folder / L"made"));
-  CHECK(data.FolderIsEmpty(folder / L"none"));
+  CHECK(data.FolderEntries(folder / L"none") == Names{});
   CHECK_FALSE(data.MakeFolder(path));
   CHECK_FALSE(data.MakeFolder(folder / L"no\\Vantor"));
-  CHECK_FALSE(data.Read(folder.Path));
+  CHECK(data.Read(folder.Path).Failed());
   CHECK(data.Remove(path));
-  CHECK_FALSE(data.Read(path));
+  CHECK(data.Read(path).Missing);
 }

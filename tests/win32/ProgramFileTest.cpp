@@ -49,7 +49,7 @@ TEST_CASE("the program file asks for the mitigations that its tool chain can giv
     const DWORD both = IMAGE_SCN_MEM_EXECUTE | IMAGE_SCN_MEM_WRITE;
     CHECK((section->Characteristics & both) != both);
   }
-  const std::string bytes = vantor::win32::DataFiles().Read(ProgramPath()).value_or("");
+  const std::string bytes = vantor::win32::DataFiles().Read(ProgramPath()).Bytes.value_or("");
   // The way that a function with an overwritten stack takes: mov ecx, 2; int 29h.
   CHECK(bytes.find(std::string("\xB9\x02\0\0\0\xCD\x29", 7)) != std::string::npos);
   CHECK(bytes.size() < 600 * 1024);

@@ -99,8 +99,10 @@ TEST_CASE("a shortcut is saved for any letters and keys, and stands for its targ
   for (const std::wstring name : {L"V\x00E4ntor \x4E2D\x0416.exe", L"Vantor.exe"}) {
     shortcut.TargetPath = folder.Make(name);
     CHECK(shell.SaveShortcut(shortcut));
-    CHECK(DataFiles().Read(shortcut.File).value_or("").find(vantor::desktop::Utf16(vantor::desktop::Narrow(name))) !=
-          std::string::npos);
+    CHECK(DataFiles()
+              .Read(shortcut.File)
+              .Bytes.value_or("")
+              .find(vantor::desktop::Utf16(vantor::desktop::Narrow(name))) != std::string::npos);
   }
   CHECK(ShortcutTarget(shortcut.File) == shortcut.TargetPath);
   CHECK(ShortcutTarget(shortcut.TargetPath) == shortcut.TargetPath);

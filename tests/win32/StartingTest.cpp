@@ -41,7 +41,7 @@ TEST_CASE("a text that names a file starts exactly that file; a command line the
   SUBCASE("on the search path") { CHECK(starts.Plain.StartCommandLine(L"cmd" + arguments)); }
   SUBCASE("in quotes") { CHECK(starts.Plain.StartCommandLine(L"\"C:\\windows\\system32\\cmd.exe\"" + arguments)); }
   SUBCASE("on the path, by the scripting shell") { CHECK(starts.Shell.Run(L"cmd.exe" + arguments)); }
-  CHECK(Eventually([&] { return DataFiles().Read(starts.Ran).value_or("").starts_with("ran"); }));
+  CHECK(Eventually([&] { return DataFiles().Read(starts.Ran).Bytes.value_or("").starts_with("ran"); }));
 }
 
 TEST_CASE("the scripting shell replaces variables, in the name of a file too; what is opened keeps its name") {

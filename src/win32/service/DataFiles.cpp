@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <utility>
+
 #include "win32/base/Handle.h"
 #include "win32/base/LongPath.h"
 
@@ -46,6 +48,8 @@ DWORD MoveOver(const std::wstring& from, const std::wstring& to) {
   });
 }
 
+bool IsMissing(DWORD error) { return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND; }
+
 /// What a write is refused for at once: waiting would not help.
 bool IsRefused(DWORD attributes) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY));
@@ -61,22 +65,21 @@ bool WriteOver(const std::wstring& path, std::string_view bytes) {
 
 }  // namespace
 
-std::optional<std::string> DataFiles::Read(std::wstring_view path) {
-  const std::wstring place = CallPath(path);
-  FileHandle file;
-  const DWORD error = Patiently([&] {
-    file = FileHandle(CreateFileW(place.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                                  nullptr, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
-    return static_cast<bool>(file);
-  });
+service::FileRead DataFiles::Read(std::wstring_view path) {
+  const FileHandle file(CreateFileW(CallPath(path).c_str(), GENERIC_READ,
+                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                                    FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+  if (!file) return {std::nullopt, IsMissing(GetLastError())};
   LARGE_INTEGER size = {};
-  if (error != ERROR_SUCCESS || !GetFileSizeEx(file.Get(), &size) || size.QuadPart > LargestFile) return std::nullopt;
+  if (!GetFileSizeEx(file.Get(), &size) || size.QuadPart > LargestFile) return {};
   std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
   DWORD read = 0;
-  if (!ReadFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr)) return std::nullopt;
+  if (!ReadFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr)) return {};
   bytes.resize(read);
-  return bytes;
+  return {std::move(bytes)};
 }
+
+void DataFiles::Pause(int milliseconds) { Sleep(static_cast<DWORD>(milliseconds)); }
 
 bool DataFiles::Write(std::wstring_view path, std::string_view bytes) {
   if (bytes.size() > LargestFile) return false;
@@ -84,7 +87,7 @@ bool DataFiles::Write(std::wstring_view path, std::string_view bytes) {
   const DWORD attributes = GetFileAttributesW(place.c_str());
   if (IsRefused(attributes)) return false;  // a replacement would not ask
 
-  const std::wstring beside = CallPath(std::wstring(path) + L"~");
+  const std::wstring beside = CallPath(std::wstring(path) + service::UnfinishedEnding);
   FileHandle file = MakeFile(beside, attributes);
   if (!file) return GetLastError() == ERROR_ACCESS_DENIED && WriteOver(place, bytes);
   const bool written = WriteAll(file.Get(), bytes) && FlushFileBuffers(file.Get());
@@ -109,28 +112,35 @@ bool DataFiles::WriteInPlace(std::wstring_view path, std::string_view bytes) {
   return error == ERROR_SUCCESS && WriteAll(file.Get(), bytes) && FlushFileBuffers(file.Get());
 }
 
-bool DataFiles::Remove(std::wstring_view path) {
+bool DataFiles::CanWrite(std::wstring_view path) {
   const std::wstring place = CallPath(path);
-  if (DeleteFileW(place.c_str())) return true;
-  const DWORD error = GetLastError();
-  return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
+  if (IsRefused(GetFileAttributesW(place.c_str()))) return false;
+  const FileHandle file(CreateFileW(place.c_str(), GENERIC_WRITE,
+                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr));
+  return file || GetLastError() == ERROR_SHARING_VIOLATION;
+}
+
+bool DataFiles::Remove(std::wstring_view path) {
+  return DeleteFileW(CallPath(path).c_str()) || IsMissing(GetLastError());
 }
 
 bool DataFiles::MakeFolder(std::wstring_view path) {
   return CreateDirectoryW(CallPath(path).c_str(), nullptr) || IsFolder(path);
 }
 
-bool DataFiles::FolderIsEmpty(std::wstring_view path) {
+std::optional<std::vector<std::wstring>> DataFiles::FolderEntries(std::wstring_view path) {
+  std::vector<std::wstring> names;
   WIN32_FIND_DATAW entry;
   const FindHandle found(FindFirstFileExW(CallPath(std::wstring(path) + L"\\*").c_str(), FindExInfoBasic, &entry,
                                           FindExSearchNameMatch, nullptr, 0));
-  // What is there but may not be looked into is not empty.
-  if (!found) return !IsFolder(path);
+  if (!found) return IsMissing(GetLastError()) ? std::optional(std::move(names)) : std::nullopt;
   do {
     const std::wstring_view name = entry.cFileName;
-    if (name != L"." && name != L"..") return false;
+    if (name != L"." && name != L"..") names.emplace_back(name);
   } while (FindNextFileW(found.Get(), &entry));
-  return true;
+  if (GetLastError() != ERROR_NO_MORE_FILES) return std::nullopt;
+  return names;
 }
 
 }  // namespace vantor::win32

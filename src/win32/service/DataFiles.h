@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "service/DataFiles.h"
 
@@ -11,12 +12,14 @@ namespace vantor::win32 {
 /// The program's own files. Write replaces a file by a finished new one, so that no power cut leaves half of it.
 class DataFiles final : public service::DataFiles {
  public:
-  [[nodiscard]] std::optional<std::string> Read(std::wstring_view path) override;
+  [[nodiscard]] service::FileRead Read(std::wstring_view path) override;
+  void Pause(int milliseconds) override;
   [[nodiscard]] bool Write(std::wstring_view path, std::string_view bytes) override;
   [[nodiscard]] bool WriteInPlace(std::wstring_view path, std::string_view bytes) override;
+  [[nodiscard]] bool CanWrite(std::wstring_view path) override;
   [[nodiscard]] bool Remove(std::wstring_view path) override;
   [[nodiscard]] bool MakeFolder(std::wstring_view path) override;
-  [[nodiscard]] bool FolderIsEmpty(std::wstring_view path) override;
+  [[nodiscard]] std::optional<std::vector<std::wstring>> FolderEntries(std::wstring_view path) override;
 };
 
 }  // namespace vantor::win32

@@ -1,4 +1,4 @@
-#include "list/Backup.h"
+#include "list/Generation.h"
 
 #include <doctest/doctest.h>
 
@@ -156,6 +156,47 @@ TEST_CASE("a list that can't be put back is read where it is kept, until it can"
   }
 }
 
+TEST_CASE(
+    "what is held at the start is waited for, or copied before it is replaced, or left and the new put elsewhere") {
+  const fake::FakeDisk used = Used();
+  const State before = Loaded(used);
+  for (const auto* name : {L"Set", L"ListWeb", L"MachineProg", L"Saving"}) {
+    for (const bool released : {true, false}) {
+      CAPTURE(released);
+      Run run(used);
+      const std::wstring path = Folder + name + L".Orbel";
+      auto& held = run.Disk.AddFile(path, used.HasFile(path) ? used.Find(path)->Bytes : "");
+      held.HeldFor = 2000;
+      CHECK(Loaded(run.Disk) == before);
+      held.HeldFor = 9999;
+      CHECK((run.Load() == before) == (&held == run.Disk.Find(Mark)));
+      CHECK(run.Computer.Paused == 2000);
+      run.List.Add(LaunchGroup::Web, L"new", L"http://new");
+      if (released) held.HeldFor = 0;
+      run.List.Save();
+      held.HeldFor = 0;
+
+      const std::wstring rescue = Folder + L"Rescue\\1";
+      CHECK(Run(run.Disk).List.Files.SavedElsewhere() == (released ? L"" : rescue));
+      if (!released) CHECK(Loaded(run.Disk) == before);
+      fake::FakeDisk later = run.Disk;
+      for (int time = 0; time < 2; ++time) {
+        Run moved(later);
+        moved.Load();
+        ++moved.List.Settings.OptionMask;
+        moved.List.Save();
+        later = moved.Disk;
+      }
+      for (const auto* file : run.Disk.In(rescue)) later.AddFile(Folder + file->Name(), file->Bytes);
+      const State back = Loaded(later);
+      if (released)
+        CHECK(back == before);
+      else
+        CHECK(std::find(back.begin(), back.end(), L"new>http://new") != back.end());
+    }
+  }
+}
+
 TEST_CASE("the generation kept is a whole one, and only what changed is written") {
   Run run(Used());
   auto& written = run.Disk.Written;
@@ -178,6 +219,7 @@ TEST_CASE("the generation kept is a whole one, and only what changed is written"
   CHECK(damaged.Load().size() == before.size() - 1);
   damaged.List.Save();
   CHECK(damaged.Disk.Bytes(Folder + L"Backup\\ListProg.Orbel") == kept);
+  CHECK(damaged.Disk.Bytes(Folder + L"Rescue\\1\\ListProg.Orbel").size() == 9);
 }
 
 }  // namespace
