@@ -1,8 +1,6 @@
-// The bar under real keys and a real mouse: its line, and where it stands.
+// The bar among other windows, and on a screen that changes.
 
 #include <doctest/doctest.h>
-
-#include <sstream>
 
 #include "desktop/Program.h"
 
@@ -21,54 +19,7 @@ bool Near(HWND window, POINT place) {
   return abs(bounds.left - place.x) <= 2 && abs(bounds.top - place.y) <= 2;
 }
 
-/// Drags the bar by the gap between its last two buttons so that its corner would come to a point.
-void DragTo(const Program& program, POINT to) {
-  const RECT bar = window::Bounds(program.Bar());
-  HWND const exit = program.Button("Exit");
-  const POINT spot = {window::Bounds(exit).left - 2, window::Middle(exit).y};
-  input::Drag(spot, {spot.x + to.x - bar.left, spot.y + to.y - bar.top});
-}
-
 }  // namespace
-
-TEST_CASE("the bar is dragged, kept on the screen, saved where it would be restored, and there at the next start") {
-  SKIP_UNLESS(UnderWine(), "a display that can be asked to drag");
-  const Folder folder;
-  const int twips = TwipsPerPixel();
-  const POINT screen = {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
-  folder.WriteSettings({.Left = 32767, .Top = -32768});  // where no screen is
-  {
-    const Program program(folder);
-    HWND bar = program.AwaitBar();
-    const RECT bounds = window::Bounds(bar);
-    CHECK(bounds.right < screen.x);
-    CHECK(bounds.top == 0);
-    const POINT farthest = {screen.x - (bounds.right - bounds.left) - 480 / twips,
-                            screen.y - (bounds.bottom - bounds.top) - 600 / twips};
-    DragTo(program, {farthest.x + 30, farthest.y + 30});
-    CHECK_BECOMES(Near(bar, farthest), true);
-    DragTo(program, {120, 90});
-    CHECK_BECOMES(Near(bar, {120, 90}), true);
-    program.AwaitBar();
-    program.Exit();
-  }
-  int left = 0;
-  int top = 0;
-  std::string others;
-  std::istringstream saved(folder.Data("Set"));
-  saved >> others >> others >> others >> others >> others >> left >> top;
-  CHECK(abs(left - 120 * twips) <= 2 * twips);
-  CHECK(abs(top - 90 * twips) <= 2 * twips);
-  const Program again(folder);
-  HWND bar = again.AwaitBar();
-  CHECK(window::Bounds(bar).left == left / twips);
-  CHECK(window::Bounds(bar).top == top / twips);
-  input::Press(VK_F9);
-  CHECK_BECOMES(window::IsMinimised(bar), true);
-  PostMessageW(bar, WM_CLOSE, 0, 0);
-  CHECK(again.AwaitEnd() == 0);
-  CHECK(folder.Data("Set") == folder.Saved({.Left = left, .Top = top}));
-}
 
 TEST_CASE("the bar climbs back above other windows, and comes along when the screen gets smaller") {
   const Folder folder;

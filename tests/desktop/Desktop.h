@@ -210,9 +210,6 @@ inline COLORREF ColorAt(LONG x, LONG y) {
   return color;
 }
 
-/// The colour just inside the middle of a control's left edge, where it holds no text.
-inline COLORREF Ground(HWND control) { return ColorAt(Bounds(control).left + 4, Middle(control).y); }
-
 inline bool IsEnabled(HWND window) { return IsWindowEnabled(window) != FALSE; }
 inline bool IsMinimised(HWND window) { return IsIconic(window) != FALSE; }
 inline bool IsTopMost(HWND window) { return (GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; }
@@ -283,27 +280,6 @@ inline void Click(HWND window) { Click(window::Middle(window)); }
 inline void DoubleClick(POINT at) {
   Click(at);
   Click(at);
-}
-
-/// Wine only: presses the left button at one point, moves and lets go at the other. The window manager of the X display
-/// moves windows, and looks at the display's own mouse only. It first moves a little, until the window is seen to
-/// follow, and then all the way.
-inline void Drag(POINT from, POINT to) {
-  std::string commandLine = R"script(Z:\bin\bash -c "
-xdotool mousemove $1 $2
-eval $(xdotool getmouselocation --shell)
-eval $(xdotool getwindowgeometry --shell $WINDOW)
-left=$X top=$Y step=8
-xdotool mousedown 1
-while [ $X.$Y = $left.$top -a $SECONDS -lt 10 ]; do
-  step=$((17 - step))
-  xdotool mousemove $(($1 + step)) $2
-  eval $(xdotool getwindowgeometry --shell $WINDOW)
-done
-xdotool mousemove $(($3 + step - X + left)) $(($4 - Y + top))
-xdotool mouseup 1" drag)script";
-  for (const LONG number : {from.x, from.y, to.x, to.y}) commandLine += ' ' + std::to_string(number);
-  CloseHandle(Start(commandLine).hProcess);  // nobody can wait for a program of the host
 }
 
 }  // namespace vantor::desktop::input

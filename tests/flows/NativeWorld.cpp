@@ -113,6 +113,7 @@ class NativeWorld : public World {
     return computer_.Specials[word];
   }
 
+  [[nodiscard]] std::optional<std::string> InCodePage(const Text& text) override { return computer_.ToCodePage(text); }
   void Write(const Text& path, const std::string& bytes) override { computer_.Disk.AddFile(path, bytes); }
   void MakeProgram(const Text& path) override { computer_.Disk.AddFile(path, "program"); }
   void MakeFolder(const Text& path) override { computer_.Disk.AddFolder(path); }

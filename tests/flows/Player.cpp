@@ -39,19 +39,6 @@ std::pair<Text, Text> Cut(const Text& text, std::wstring_view separator = L" ") 
   return {text.substr(0, end), text.substr(end + separator.size())};
 }
 
-/// As the program writes text: in the code page, Latin-1 here, or in UTF-8 with its mark.
-std::string Encode(const Text& text) {
-  if (std::ranges::any_of(text, [](wchar_t c) { return c > 0xFF; })) return "\xEF\xBB\xBF" + Narrow(text);
-  return {text.begin(), text.end()};
-}
-
-/// The records of a file, each a line of its own.
-std::string Records(const Text& records) {
-  Text lines;
-  for (const Text& record : Split(records, L" | ")) lines += record + L"\r\n";
-  return Encode(lines);
-}
-
 constexpr std::pair<std::wstring_view, form::Key> Keys[] = {
     {L"Backspace", form::Key::Back}, {L"Tab", form::Key::Tab},     {L"Enter", form::Key::Enter},
     {L"Escape", form::Key::Escape},  {L"Space", form::Key::Space}, {L"Home", form::Key::Home},
@@ -149,6 +136,18 @@ class Player : public Steps {
     Check("running", L"running", {}, L"no");
   }
 
+  /// As the program writes text: in the code page, or in UTF-8 with its mark where that lacks a character.
+  [[nodiscard]] std::string Encode(const Text& text) const {
+    const auto bytes = world_->InCodePage(text);
+    return bytes ? *bytes : "\xEF\xBB\xBF" + Narrow(text);
+  }
+  /// The records of a file, each a line of its own.
+  [[nodiscard]] std::string Records(const Text& records) const {
+    Text lines;
+    for (const Text& record : Split(records, L" | ")) lines += record + L"\r\n";
+    return Encode(lines);
+  }
+
   // --- what there is
 
   void GiveItem(const Text& rest) {
@@ -170,7 +169,7 @@ class Player : public Steps {
     world_->Write(DataPath(L"User"), "\"Anna\"\r\n");
   }
   /// The settings file, with what is said in the place of the usual values: "OptionMask=6 Left=600".
-  [[nodiscard]] static std::string SettingsBytes(const Text& changes, std::wstring_view folder) {
+  [[nodiscard]] std::string SettingsBytes(const Text& changes, std::wstring_view folder) const {
     std::vector<std::pair<Text, Text>> values;
     for (const auto& [name, value] : SettingNames) values.emplace_back(name, name == L"Folder" ? folder : value);
     for (const Text& change : Words(changes)) {
@@ -286,7 +285,7 @@ std::span<const Player::Verb> Player::Verbs() {
     {L"given read-only", [](Player& p, const Text& rest) { p.world_->Protect(p.PathOf(rest), true); }},
     {L"given writable", [](Player& p, const Text& rest) { p.world_->Protect(p.PathOf(rest), false); }},
     {L"given data",
-     [](Player& p, const Text& rest) { p.world_->Write(p.DataPath(Cut(rest).first), Records(Cut(rest).second)); }},
+     [](Player& p, const Text& rest) { p.world_->Write(p.DataPath(Cut(rest).first), p.Records(Cut(rest).second)); }},
     {L"given screen",
      [](Player& p, const Text& rest) { p.world_->SetScreen(std::stoi(Cut(rest).first), std::stoi(Cut(rest).second)); }},
     {L"given failing", [](Player& p, const Text& rest) { p.world_->Break(rest, L"fails"); }},
@@ -349,11 +348,11 @@ std::span<const Player::Verb> Player::Verbs() {
     {L"see started", [](Player& p, const Text& rest) { p.SeeStarted(rest); }},
     {L"see nothing started", [](Player& p, const Text& /*rest*/) { p.CheckNothingStarted(); }},
     {L"see data",
-     [](Player& p, const Text& rest) { p.CheckBytes(p.DataPath(Cut(rest).first), Records(Cut(rest).second)); }},
+     [](Player& p, const Text& rest) { p.CheckBytes(p.DataPath(Cut(rest).first), p.Records(Cut(rest).second)); }},
     {L"see no data", [](Player& p, const Text& rest) { p.CheckBytes(p.DataPath(rest), {}); }},
     {L"see settings",
      [](Player& p, const Text& rest) {
-       p.CheckBytes(p.DataPath(L"Set"), SettingsBytes(rest, p.world_->Place(L"f")));
+       p.CheckBytes(p.DataPath(L"Set"), p.SettingsBytes(rest, p.world_->Place(L"f")));
      }},
     {L"see file",
      [](Player& p, const Text& rest) {

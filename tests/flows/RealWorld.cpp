@@ -21,12 +21,17 @@ std::wstring OwnPath() {
 
 const char* SystemRecorderName() { return UnderWine() && On64Bit() ? "\\recorder64.exe" : "\\recorder.exe"; }
 
+/// Wine only: keeps the window manager of the X display away, which would take a drag for one of its own mouse.
+void LeaveWindowsToWine() {
+  RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Wine\\X11 Driver", L"Managed", REG_SZ, L"N", 2 * sizeof(wchar_t));
+}
+
 /// The recorder, in the place of all that flows start.
 Recorder& SystemRecorder() {
   static const desktop::Folder folder;
   static Recorder recorder(folder);
-  static const bool replaced = UnderWine() && (recorder.ReplaceSystem(), true);
-  (void)replaced;
+  static const bool prepared = UnderWine() && (recorder.ReplaceSystem(), LeaveWindowsToWine(), true);
+  (void)prepared;
   return recorder;
 }
 
@@ -53,6 +58,7 @@ class RealWorld : public World {
   }
   ~RealWorld() override {
     if (other_ != nullptr) DestroyWindow(other_);
+    if (GetAsyncKeyState(VK_LBUTTON) < 0) input::LetGo(mouse_);  // a flow that failed in a drag
   }
   RealWorld(const RealWorld&) = delete;
   RealWorld& operator=(const RealWorld&) = delete;
@@ -82,6 +88,17 @@ class RealWorld : public World {
         {L"Desktop", CSIDL_DESKTOPDIRECTORY}, {L"MyDocuments", CSIDL_PERSONAL}, {L"SendTo", CSIDL_SENDTO}};
     const auto* const found = std::ranges::find(folders, word, &std::pair<std::wstring_view, int>::first);
     return found != std::end(folders) ? Wide(SystemFolder(found->second)) : Text();
+  }
+
+  [[nodiscard]] std::optional<std::string> InCodePage(const Text& text) override {
+    std::string bytes(text.size() * 4, '\0');
+    BOOL lost = FALSE;
+    const bool utf8 = GetACP() == CP_UTF8;
+    const int size =
+        WideCharToMultiByte(CP_ACP, utf8 ? 0 : WC_NO_BEST_FIT_CHARS, text.data(), static_cast<int>(text.size()),
+                            bytes.data(), static_cast<int>(bytes.size()), nullptr, utf8 ? nullptr : &lost);
+    bytes.resize(static_cast<std::size_t>(size));
+    return lost ? std::nullopt : std::optional(bytes);
   }
 
   void Write(const Text& path, const std::string& bytes) override {
@@ -142,6 +159,7 @@ class RealWorld : public World {
   }
   void Hold(const Text& control) override {
     AwaitInput();
+    Await("the mark to go", [] { return FindWindowW(L"VantorMark", nullptr) == nullptr; });
     mouse_ = Spot(window::Middle(Find(control)));
     input::Hold(mouse_);
   }
@@ -162,10 +180,12 @@ class RealWorld : public World {
   }
   void Drag(int right, int down) override {
     const RECT exit = window::Bounds(Find(L"CommandExit"));
-    const POINT from{exit.left - 2, (exit.top + exit.bottom) / 2};
-    input::Hold(from);
-    for (const int part : {4, 2, 1}) input::Mouse({from.x + right / part, from.y + down / part});
-    input::LetGo({from.x + right, from.y + down});
+    const MouseHeld held(*this, {exit.left - 2, (exit.top + exit.bottom) / 2});
+    mouse_.x += 4;  // the first move begins the drag, which goes by where the mouse is then
+    input::Mouse(mouse_);
+    Await("the bar to be dragged", [this] { return (ThreadOfBar().flags & GUI_INMOVESIZE) != 0; });
+    mouse_ = {mouse_.x + right, mouse_.y + down};
+    input::Mouse(mouse_);
   }
   void Drop(const Texts& /*paths*/) override { throw Failure("nothing can be dropped here"); }
   void Restore() override {
@@ -243,6 +263,24 @@ class RealWorld : public World {
       return found != nullptr;
     });
     return found;
+  }
+  /// The mouse button held down at a point, and let go wherever the mouse is then, also when a step fails.
+  struct MouseHeld {
+    MouseHeld(RealWorld& world, POINT at) : Of(world) {
+      Of.mouse_ = at;
+      input::Hold(at);
+    }
+    ~MouseHeld() { input::LetGo(Of.mouse_); }
+    MouseHeld(const MouseHeld&) = delete;
+    MouseHeld& operator=(const MouseHeld&) = delete;
+    RealWorld& Of;
+  };
+
+  [[nodiscard]] GUITHREADINFO ThreadOfBar() const {
+    GUITHREADINFO thread = {};
+    thread.cbSize = sizeof thread;
+    GetGUIThreadInfo(GetWindowThreadProcessId(Bar(), nullptr), &thread);
+    return thread;
   }
   [[nodiscard]] HWND Bar() const { return program_->Bar(); }
   [[nodiscard]] bool HasInput() const {

@@ -50,6 +50,9 @@ class World {
   /// "other" for the path of another program that shows a window, and the special folders. "" for no such word.
   [[nodiscard]] virtual Text Place(const Text& word) = 0;
 
+  /// The bytes of a text in the system's code page; none where that lacks a character.
+  [[nodiscard]] virtual std::optional<std::string> InCodePage(const Text& text) = 0;
+
   // Files. What is on the way to them is made.
   virtual void Write(const Text& path, const std::string& bytes) = 0;
   virtual void MakeProgram(const Text& path) = 0;
