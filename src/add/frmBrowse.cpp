@@ -269,7 +269,7 @@ void frmBrowse::CommandSelectOK_Click() {
   const std::wstring path = state_.BrowseFolder + FileWork.Text();
   context_.Host.ClosePanel();  // which also takes the selection away
   const bool run = opened == static_cast<int>(panel::menu::List) || IsProgram(context_.Services, path);
-  context_.Messages.ShowList(run ? context_.Starters.RunProgramFile(path) : context_.Starters.OpenWithShell(path));
+  context_.Messages.ShowList(run ? context_.Starters.RunProgramFile(path) : context_.Starters.OpenItem(path));
 }
 
 // --- the finder

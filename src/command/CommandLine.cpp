@@ -138,9 +138,9 @@ message::MessageKey CommandLine::StartBy(const CommandCode& code, const std::wst
     case Starter::Explorer:
       return starters_.RunExplorerCommand(environment_.WindowsFolder + L"explorer.exe " + target);
     case Starter::Shell:
-      return starters_.OpenWithShell(target);
+      return listed ? starters_.OpenItem(target) : starters_.OpenWithShell(target);
     case Starter::Web:
-      return listed ? starters_.OpenWebItem(target) : starters_.OpenWebAddress(target);
+      return listed ? starters_.OpenItem(target) : starters_.OpenWebAddress(target);
     case Starter::ControlPanel:
       return OpenControlPanelApplet(services_, target);
     case Starter::MakerMail:

@@ -54,8 +54,8 @@ message::MessageKey Starters::OpenWebAddress(std::wstring_view address) const {
   return Outcome(IsPlain(address) && services_.ScriptShell.Run(Quoted(address)), StartError);
 }
 
-message::MessageKey Starters::OpenWebItem(std::wstring_view address) const {
-  return Outcome(IsPlain(address) && OpenExactly(address), StartError);
+message::MessageKey Starters::OpenItem(std::wstring_view target) const {
+  return Outcome(IsPlain(target) && OpenExactly(target), StartError);
 }
 
 bool Starters::OpenExactly(std::wstring_view target) const {

@@ -27,10 +27,10 @@ class Starters {
   message::MessageKey RunProgramFile(std::wstring_view path) const;
   message::MessageKey RunExplorerCommand(std::wstring_view commandLine) const;
   message::MessageKey OpenWithShell(std::wstring_view target) const;
-  /// OpenWithShell for a web address as it is typed, and for one of the launch list, which stands for itself: a
-  /// variable's value is not to get into it.
+  /// OpenWithShell for a web address as it is typed, and for a path or an address of the launch list, which stands for
+  /// itself: a variable's value is not to get into it, and where a file is gone nothing else is to be opened.
   message::MessageKey OpenWebAddress(std::wstring_view address) const;
-  message::MessageKey OpenWebItem(std::wstring_view address) const;
+  message::MessageKey OpenItem(std::wstring_view target) const;
 
   /// Opens a mail to `address`, with or without "mailto:". Subject and body are appended as they are. Does not
   /// count as started, so the command line stays.

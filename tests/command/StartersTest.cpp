@@ -16,6 +16,7 @@ TEST_CASE("a name or an address is opened for what it is, and for nothing that a
   line.Add(LaunchGroup::Prog, L"Quoted", L"\\\\host\\a.exe\" /b");
   line.Add(LaunchGroup::File, L"Percent", L"C:\\Work\\%TEMP%.txt");
   line.Add(LaunchGroup::File, L"Work", L"C:\\Work\\");
+  line.Add(LaunchGroup::File, L"Gone", L"C:\\Work\\my letter.doc");
   line.Add(LaunchGroup::Web, L"News", L"http://news.example/?\"%TEMP\"");
   line.Add(LaunchGroup::Web, L"Value", L"http://news.example/%TEMP%");
   line.Add(LaunchGroup::Web, L"Turned", L"http://news.example/\x202Egpj.exe");
@@ -27,6 +28,7 @@ TEST_CASE("a name or an address is opened for what it is, and for nothing that a
       {L"w-t", L""},
       {L"f=edit C:\\Work\\%TEMP%.txt", L"shell edit C:\\Work\\%TEMP%.txt"},
       {L"f-p", L"open C:\\Work\\%TEMP%.txt"},
+      {L"f-g", L"shell \"C:\\Work\\my letter.doc\""},
       {L"f-w", L"shell \"C:\\Work\""},
       {L"p-n", L"run \"C:\\net tool.exe\""},
       {L"p-q", L""},

@@ -72,9 +72,7 @@ form::Control* ListPage::First() {
 void ListPage::Start(LaunchGroup group, std::wstring_view target) {
   Host().ClosePanel();
   const command::Starters& starters = context_.Starters;
-  context_.Messages.ShowList(group == LaunchGroup::Prog  ? starters.RunProgramFile(target)
-                             : group == LaunchGroup::Web ? starters.OpenWebItem(target)
-                                                         : starters.OpenWithShell(target));
+  context_.Messages.ShowList(group == LaunchGroup::Prog ? starters.RunProgramFile(target) : starters.OpenItem(target));
 }
 
 }  // namespace vantor::list
