@@ -151,7 +151,7 @@ endif()
 
 # All flows in one session, on a desktop with every kind of drive.
 add_executable(flows ${VANTOR_FLOW_PLAYER} ${VANTOR_REAL_WORLD})
-target_link_libraries(flows PRIVATE vantor_core vantor_stack_guard ${VANTOR_WINDOWS_LIBRARIES})
+target_link_libraries(flows PRIVATE vantor_core vantor_stack_guard ${VANTOR_WINDOWS_LIBRARIES} oleacc)
 target_include_directories(flows PRIVATE "${PROJECT_SOURCE_DIR}/tests")
 target_link_options(flows PRIVATE ${VANTOR_PLAIN_LINK})
 foreach(program IN ITEMS Vantor recorder recorder64)

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "panel/PanelPlace.h"
+
 namespace vantor::bar {
 
 namespace {
@@ -35,8 +37,8 @@ frmMain::frmMain(form::UserInterface& ui, const BarParts& parts)
     : Form(ui, L"frmMain"),
       Web(*this, parts.List, parts.Services.Language, parts.Messages),
       parts_(parts),
-      commandLine_(*this, TextMain, parts.List, parts.CommandState, parts.Starters, parts.Messages, parts.Services,
-                   parts.Environment) {
+      commandLine_(*this, TextMain, parts.Matches, parts.List, parts.CommandState, parts.Starters, parts.Messages,
+                   parts.Services, parts.Environment) {
   SetCaption(state::ProductName);
   FrameButtons.SetBorder(false);
   parts_.Panels.SetBar(*this);
@@ -83,9 +85,14 @@ void frmMain::HandleEvents() {
   messages.Connect(TextMain.KeyPress, L"TextMain_KeyPress", this, &frmMain::TextMain_KeyPress);
   messages.Connect(TextMain.KeyDown, L"TextMain_KeyDown", this, &frmMain::TextMain_KeyDown);
   messages.Connect(TextMain.Change, L"TextMain_Change", this, &frmMain::TextMain_Change);
+  messages.Connect(TextMain.Wheel, L"TextMain_Wheel", this, &frmMain::TextMain_Wheel);
+  messages.Connect(TextMain.Compose, L"TextMain_Compose", this, &frmMain::TextMain_Compose);
+  messages.Connect(parts_.Matches.ListMatches.Click, L"ListMatches_Click", this, &frmMain::ListMatches_Click);
   messages.Connect(TextMain.DblClick, L"TextMain_DblClick", this, &frmMain::EmptyTextMain);
   messages.Connect(TimerOnTop.Tick, L"TimerOnTop_Timer", this, &frmMain::TimerOnTop_Timer);
   messages.Connect(TimerWatchOnTop.Tick, L"TimerWatchOnTop_Timer", this, &frmMain::TimerWatchOnTop_Timer);
+  parts_.Matches.SetHost(*this);
+  parts_.Matches.Place = [this](form::Size list) { return PlaceAtLine(list); };
   Web.Added = [this] { ClearLine(); };
   parts_.Starters.Started = [this] { EmptyTextMain(); };
 }
@@ -205,6 +212,13 @@ void frmMain::KeepOnScreen() {
   const Twips bottom = screen.Bottom() - Bounds().Height - shown(BottomMargin);
   MoveTo(std::min(std::max(Bounds().Left, screen.Left), right), std::min(std::max(Bounds().Top, screen.Top), bottom));
   parts_.Panels.BarMoved();
+}
+
+form::Rect frmMain::PlaceAtLine(form::Size list) const {
+  const auto shown = [this](Twips length) { return static_cast<Twips>(std::lround(length * Scale())); };
+  const form::Rect& bar = Bounds();
+  const form::Rect line{bar.Left + shown(TextMain.Left()), bar.Top, shown(TextMain.Width()), bar.Height};
+  return panel::PlacePanel(line, {shown(list.Width), shown(list.Height)}, Ui().ScreenAt(bar).WorkArea);
 }
 
 // --- staying on top

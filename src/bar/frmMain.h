@@ -8,6 +8,7 @@
 #include "command/CommandLine.h"
 #include "command/CommandState.h"
 #include "command/Starters.h"
+#include "command/frmMatches.h"
 #include "form/Button.h"
 #include "form/Form.h"
 #include "form/Static.h"
@@ -36,6 +37,7 @@ struct BarParts {
   list::ListFiles& ListFiles;
   command::CommandState& CommandState;
   command::Starters& Starters;
+  command::frmMatches& Matches;
 };
 
 /// The bar: the program's face. Unloading it saves the settings and the launch list and ends the program.
@@ -100,6 +102,8 @@ class frmMain : public form::Form, public panel::MenuBar, private command::LineO
   void ShowWidth();
   /// Also brings the open panel along.
   void KeepOnScreen();
+  /// Where a list of this size stands: under the command line, or above it where there is no room.
+  [[nodiscard]] form::Rect PlaceAtLine(form::Size list) const;
 
   void CommandWeb_Click();
   void CommandMenu_Click(std::size_t index) { parts_.Panels.Click(index); }
@@ -107,6 +111,9 @@ class frmMain : public form::Form, public panel::MenuBar, private command::LineO
   void CommandExit_Click() { Unload(); }
   void TextMain_KeyPress(wchar_t& character) { commandLine_.TextMain_KeyPress(character); }
   void TextMain_KeyDown(form::Key& key) { commandLine_.TextMain_KeyDown(key); }
+  void TextMain_Wheel(int rows) { commandLine_.TextMain_Wheel(rows); }
+  void TextMain_Compose(bool composing) { commandLine_.TextMain_Compose(composing); }
+  void ListMatches_Click(int row) { commandLine_.ListMatches_Click(row); }
   void TextMain_Change() { commandLine_.TextMain_Change(); }
   void WatchForRestore();
   void Minimize() override { CommandMin.DoClick(); }

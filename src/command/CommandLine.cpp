@@ -11,9 +11,9 @@
 
 namespace vantor::command {
 
-CommandLine::CommandLine(LineOwner& owner, form::TextBox& textMain, const list::LaunchList& list, CommandState& state,
-                         const Starters& starters, message::Messages& messages, const service::Services& services,
-                         const state::Environment& environment)
+CommandLine::CommandLine(LineOwner& owner, form::TextBox& textMain, frmMatches& matches, const list::LaunchList& list,
+                         CommandState& state, const Starters& starters, message::Messages& messages,
+                         const service::Services& services, const state::Environment& environment)
     : owner_(owner),
       textMain_(textMain),
       list_(list),
@@ -22,12 +22,14 @@ CommandLine::CommandLine(LineOwner& owner, form::TextBox& textMain, const list::
       messages_(messages),
       services_(services),
       environment_(environment),
-      recall_(textMain, state, list, services.Language, environment) {}
+      recall_(textMain, state, list, services.Language, environment),
+      walk_(textMain, state, matches) {}
 
 void CommandLine::TextMain_KeyPress(wchar_t& character) {
   messages_.State.CurrentMessageKey.clear();
   switch (character) {
     case form::CharEnter:
+      walk_.Hide();
       Enter();
       character = 0;  // a box of one line has no use for it and would beep
       return;
@@ -47,7 +49,7 @@ void CommandLine::TextMain_KeyPress(wchar_t& character) {
 }
 
 void CommandLine::TextMain_KeyDown(form::Key& key) {
-  if (recall_.Walk(key)) key = form::Key::None;
+  if (walk_.Walk(key) || recall_.Walk(key)) key = form::Key::None;
 }
 
 void CommandLine::TextMain_Change() {
@@ -56,13 +58,23 @@ void CommandLine::TextMain_Change() {
   state_.MatchedItemIndex = NoIndex;
   state_.MailTargetIndex = NoIndex;
   recall_.Leave();
-  if (std::exchange(state_.BackspaceFlag, false) || textMain_.Composing()) return;
+  const bool byBackspace = std::exchange(state_.BackspaceFlag, false);
   const std::wstring text = textMain_.Text();  // a copy: completing replaces the box's own
-  if (text.size() <= CodeLength) return;
   const std::wstring_view line(text);
-  if (const CommandCode* code = CodeOf(line)) {
-    CompleteFromTable(line.substr(0, CodeLength), line.substr(CodeLength), {*code, list_, environment_});
-  }
+  const CommandCode* const code = text.size() > CodeLength && !textMain_.Composing() ? CodeOf(line) : nullptr;
+  if (code == nullptr || code->Argument == Argument::Typed) return walk_.Hide();
+  const Candidates table(*code, list_, environment_);
+  const std::wstring_view prefix = line.substr(0, CodeLength);
+  const std::wstring_view typed = line.substr(CodeLength);
+  const bool completed = !byBackspace && CompleteFromTable(prefix, typed, table);
+  textMain_.PaintNow();  // the completion is not to wait for the list
+  walk_.Show(table, prefix, typed, completed);
+}
+
+void CommandLine::ListMatches_Click(int row) {
+  walk_.WalkTo(row);
+  wchar_t enter = form::CharEnter;
+  TextMain_KeyPress(enter);
 }
 
 void CommandLine::Enter() {
@@ -158,14 +170,15 @@ void CommandLine::Escape() {
   }
 }
 
-void CommandLine::CompleteFromTable(std::wstring_view prefix, std::wstring_view typed, const Candidates& table) {
+bool CommandLine::CompleteFromTable(std::wstring_view prefix, std::wstring_view typed, const Candidates& table) {
   const list::NameMatch match(services_.Language, typed);
   for (int index = 0; index < table.Count(); ++index) {
     if (!match.Begins(table.Name(index))) continue;
     PutCompletion(prefix, typed.size(), table.Name(index));
     static_cast<CompletedEntry&>(state_) = table.Record(index);
-    return;
+    return true;
   }
+  return false;
 }
 
 void CommandLine::PutCompletion(std::wstring_view prefix, std::size_t typedLength, std::wstring_view entry) {

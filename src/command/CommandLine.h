@@ -5,6 +5,7 @@
 #include "command/Candidates.h"
 #include "command/CommandCodes.h"
 #include "command/CommandState.h"
+#include "command/MatchWalk.h"
 #include "command/Recall.h"
 #include "command/Starters.h"
 #include "form/TextBox.h"
@@ -30,13 +31,16 @@ class LineOwner {
 class CommandLine {
  public:
   /// All but the services are kept by reference.
-  CommandLine(LineOwner& owner, form::TextBox& textMain, const list::LaunchList& list, CommandState& state,
-              const Starters& starters, message::Messages& messages, const service::Services& services,
-              const state::Environment& environment);
+  CommandLine(LineOwner& owner, form::TextBox& textMain, frmMatches& matches, const list::LaunchList& list,
+              CommandState& state, const Starters& starters, message::Messages& messages,
+              const service::Services& services, const state::Environment& environment);
 
   void TextMain_KeyPress(wchar_t& character);
   void TextMain_KeyDown(form::Key& key);
   void TextMain_Change();
+  void TextMain_Wheel(int rows) { walk_.Scroll(rows); }
+  void TextMain_Compose(bool composing) { walk_.GiveWay(composing); }
+  void ListMatches_Click(int row);
 
  private:
   // What Enter does.
@@ -56,8 +60,8 @@ class CommandLine {
   }
 
   // What type-ahead does.
-  /// Completes to the first entry that begins with `typed`, and records it.
-  void CompleteFromTable(std::wstring_view prefix, std::wstring_view typed, const Candidates& table);
+  /// Completes to the first entry that begins with `typed`, and records it; false when there is none.
+  bool CompleteFromTable(std::wstring_view prefix, std::wstring_view typed, const Candidates& table);
   void PutCompletion(std::wstring_view prefix, std::size_t typedLength, std::wstring_view entry);
 
   LineOwner& owner_;
@@ -69,6 +73,7 @@ class CommandLine {
   service::Services services_;
   const state::Environment& environment_;
   Recall recall_;
+  MatchWalk walk_;
 };
 
 }  // namespace vantor::command

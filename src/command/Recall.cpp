@@ -48,7 +48,7 @@ void Recall::WalkForward() {
 }
 
 bool Recall::Show(std::size_t index) {
-  LineState line{lines_[index], static_cast<int>(lines_[index].size())};
+  LineState line{lines_[index], static_cast<int>(lines_[index].size()), 0, {}};
   const CommandCode* const code = CodeOf(line.Text, language_);
   if (code != nullptr && NamesEntry(code->Argument)) {
     const Candidates candidates(*code, list_, environment_);

@@ -77,7 +77,7 @@ void Control::SetAccessibleName(std::wstring_view name) {
 void Control::SetFocus() {
   if (!IsFocusable() || !IsReachable()) return;
   if (form_.Visible() && !form_.AcceptsInput()) return;
-  form_.activeControl_ = this;
+  form_.SetActiveControl(this);
   if (form_.Visible()) {
     form_.Activate();
     if (window_ != nullptr) window_->TakeFocus();
@@ -88,6 +88,10 @@ bool Control::HasFocus() const { return form_.AcceptsInput() && form_.ActiveCont
 
 Size Control::TextSize(std::wstring_view text, bool bold) const {
   return form_.Ui().MeasureText(text, bold, UserInterface::AnyWidth);
+}
+
+void Control::PaintNow() const {
+  if (window_ != nullptr) window_->PaintNow();
 }
 
 void Control::NotifyWindow(Property property) const {

@@ -19,6 +19,7 @@ class OpenList;
 class Label;
 class Frame;
 class PictureControl;
+class RowList;
 
 /// One function for each kind of control that looks or acts differently.
 class ControlVisitor {
@@ -32,6 +33,7 @@ class ControlVisitor {
   virtual void Visit(Label& label) = 0;
   virtual void Visit(Frame& frame) = 0;
   virtual void Visit(PictureControl& picture) = 0;
+  virtual void Visit(RowList& list) = 0;
 
  protected:
   ControlVisitor() = default;
@@ -54,6 +56,7 @@ enum class Property {
   Value,
   List,  // any change of a list's entries
   ListIndex,
+  Scroll,
 };
 
 /// The window behind a control, if there is one. Back ends derive from it.
@@ -63,6 +66,8 @@ class ControlWindow {
   /// Shows the control's new state. Never raises an event of the control.
   virtual void Changed(Property property) = 0;
   virtual void TakeFocus() = 0;
+  /// Paints what has changed before it returns.
+  virtual void PaintNow() {}
   /// The number by which the system knows the window; 0 for none.
   [[nodiscard]] virtual std::uintptr_t Handle() const { return 0; }
 
@@ -139,6 +144,9 @@ class Control {
   /// that is not shown yet the control gets the focus when it is.
   void SetFocus();
   [[nodiscard]] bool HasFocus() const;
+
+  /// Has what has changed be seen before the program goes on.
+  void PaintNow() const;
 
   // The user's doings, reported by the back end.
   virtual void InputClick() {}

@@ -37,6 +37,7 @@ void Form::TakeWindowAway() {
 }
 
 void Form::Show() {
+  if (host_ != nullptr && (!host_->Active() || !host_->AcceptsInput())) return;
   Load();
   if (window_ == nullptr) window_ = ui_.MakeWindow(*this);
   if (!visible_) {
@@ -67,8 +68,15 @@ void Form::ShowModal() {
 void Form::Hide() {
   if (!visible_) return;
   LeaveModal();
+  HideHanging();
   visible_ = false;
   if (window_ != nullptr) window_->Changed(Property::Visible);
+}
+
+void Form::HideHanging() {
+  for (Form* form : ui_.forms_) {
+    if (form->host_ == this) form->Hide();
+  }
 }
 
 void Form::LeaveModal() {
@@ -92,22 +100,21 @@ void Form::SetBackColor(Color color) {
   if (window_ != nullptr) window_->Changed(Property::Colors);
 }
 
-void Form::MoveTo(Twips left, Twips top) {
-  if (bounds_.Left == left && bounds_.Top == top) return;
+void Form::MoveTo(Twips left, Twips top) { SetPlace(left, top, inside_); }
+
+void Form::SetInside(Size inside) { SetPlace(bounds_.Left, bounds_.Top, inside); }
+
+void Form::SetPlace(Twips left, Twips top, Size inside) {
+  if (bounds_.Left == left && bounds_.Top == top && inside_ == inside) return;
   bounds_.Left = left;
   bounds_.Top = top;
-  Fit();
-  if (window_ != nullptr) window_->Changed(Property::Bounds);
-}
-
-void Form::SetInside(Size inside) {
-  if (inside_ == inside) return;
   inside_ = inside;
   Fit();
   if (window_ != nullptr) window_->Changed(Property::Bounds);
 }
 
 Size Form::RoomNeeded() const {
+  if (host_ != nullptr) return host_->RoomNeeded();
   // As high as it usually is, and as wide as the edges below it.
   constexpr Size TitleBar{240, 600};
   const Size more = borderStyle_ == BorderStyle::Dialog ? TitleBar : Size{};
@@ -130,6 +137,7 @@ void Form::Fit() {
 
 void Form::SetWindowState(form::WindowState state) {
   if (windowState_ == state) return;
+  HideHanging();
   windowState_ = state;
   if (window_ != nullptr) window_->Changed(Property::Value);
 }
@@ -137,6 +145,9 @@ void Form::SetWindowState(form::WindowState state) {
 void Form::SetTopMost(bool topMost) {
   topMost_ = topMost;
   if (window_ != nullptr) window_->SetTopMost(topMost);
+  for (Form* form : ui_.forms_) {
+    if (form->host_ == this && form->visible_ && form->window_ != nullptr) form->window_->SetTopMost(topMost);
+  }
 }
 
 void Form::MoveInto(const Rect& area) {
@@ -146,13 +157,15 @@ void Form::MoveInto(const Rect& area) {
 
 void Form::Drag() {
   if (window_ == nullptr) return;
+  HideHanging();
   const Scoped dragging(dragging_, true);
   window_->Drag();
 }
 
 void Form::Activate() {
   // A minimised window stays so.
-  if (window_ != nullptr && AcceptsInput() && windowState_ != WindowState::Minimized) window_->Activate();
+  if (window_ != nullptr && host_ == nullptr && AcceptsInput() && windowState_ != WindowState::Minimized)
+    window_->Activate();
 }
 
 void Form::MoveFocus(bool backwards) {
@@ -176,6 +189,7 @@ void Form::MoveFocus(bool backwards) {
 }
 
 void Form::InputKeyUp(Key key) {
+  if (key >= Key::F1 && key <= Key::F12) HideHanging();
   if (AcceptsInput()) Form_KeyUp(key);
 }
 
@@ -184,6 +198,7 @@ void Form::InputMouseMove(MouseButton held) {
 }
 
 void Form::InputMoved(Twips left, Twips top) {
+  HideHanging();
   bounds_.Left = left;
   bounds_.Top = top;
   Fit();
@@ -192,11 +207,23 @@ void Form::InputMoved(Twips left, Twips top) {
 
 void Form::InputWindowState(form::WindowState state) {
   if (windowState_ == state) return;
+  HideHanging();
   windowState_ = state;
   if (state == WindowState::Minimized) Form_Minimized();
 }
 
+void Form::InputActive(bool active) {
+  active_ = active;
+  if (!active) HideHanging();
+}
+
+void Form::InputResolution() {
+  HideHanging();
+  Fit();
+}
+
 void Form::InputScreensChanged() {
+  HideHanging();
   Fit();
   if (visible_) Form_ScreensChanged();
 }
@@ -208,11 +235,13 @@ void Form::InputClose() {
 }
 
 void Form::InputDrop(const DroppedItems& items) {
-  if (acceptsDrops_ && AcceptsInput()) Dropped(items);
+  if (!acceptsDrops_ || !AcceptsInput()) return;
+  HideHanging();
+  Dropped(items);
 }
 
 void Form::InputFocus(Control* control) {
-  if (control == nullptr || control->AcceptsInput()) activeControl_ = control;
+  if (control == nullptr || control->AcceptsInput()) SetActiveControl(control);
 }
 
 void Form::AddControl(Control& control) { controls_.push_back(&control); }
@@ -222,11 +251,17 @@ void Form::RemoveControl(Control& control) {
   if (activeControl_ == &control) activeControl_ = nullptr;
 }
 
+void Form::SetActiveControl(Control* control) {
+  if (activeControl_ == control) return;
+  activeControl_ = control;
+  HideHanging();
+}
+
 void Form::LeaveUnreachable() {
   if (activeControl_ == nullptr || activeControl_->IsReachable()) return;
   if (visible_) MoveFocus(false);
   // No other control can take the focus.
-  if (activeControl_ != nullptr && !activeControl_->IsReachable()) activeControl_ = nullptr;
+  if (activeControl_ != nullptr && !activeControl_->IsReachable()) SetActiveControl(nullptr);
 }
 
 }  // namespace vantor::form

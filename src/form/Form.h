@@ -70,6 +70,14 @@ class Form {
   /// Shown, and no modal form stands before it.
   [[nodiscard]] bool AcceptsInput() const;
 
+  /// The form that this one hangs on, as a drop-down list does; null for none. Such a form never has the focus and is
+  /// never activated, is on no taskbar, stands directly above its host and is topmost exactly when that is. It can be
+  /// shown while the host is active, and is hidden as soon as the user turns to anything else: moves the focus, presses
+  /// a function key, clicks beside the controls, moves, minimises, leaves or closes the host, drops something on it;
+  /// and when the screens change.
+  [[nodiscard]] Form* Host() const { return host_; }
+  void SetHost(Form& host) { host_ = &host; }  // before the form is shown
+
   [[nodiscard]] const std::wstring& Caption() const { return caption_; }
   void SetCaption(std::wstring_view caption);
   [[nodiscard]] Color BackColor() const { return backColor_; }
@@ -81,6 +89,8 @@ class Form {
   [[nodiscard]] const Rect& Bounds() const { return bounds_; }
   /// Moves the form's top left corner to a place on the desktop.
   void MoveTo(Twips left, Twips top);
+  /// Moves it and changes its size at once.
+  void SetPlace(Twips left, Twips top, Size inside);
   /// The size of the form's inside, in the twips of its controls.
   [[nodiscard]] Size Inside() const { return inside_; }
   void SetInside(Size inside);
@@ -90,13 +100,15 @@ class Form {
   [[nodiscard]] form::WindowState WindowState() const { return windowState_; }
   void SetWindowState(form::WindowState state);
   /// Whether the window is to stand above all windows that are not topmost. Setting it again asserts it anew.
-  [[nodiscard]] bool TopMost() const { return topMost_; }
+  [[nodiscard]] bool TopMost() const { return host_ != nullptr ? host_->TopMost() : topMost_; }
   void SetTopMost(bool topMost);
   /// Moves the form as little as brings it into an area.
   void MoveInto(const Rect& area);
   /// Lets the user move the form with the mouse button that is held; Bounds are the new ones on return.
   void Drag();
   void Activate();
+  /// Whether the user works in the form.
+  [[nodiscard]] bool Active() const { return active_; }
 
   /// Whether things can be dropped on the form; they are told by Dropped.
   [[nodiscard]] bool AcceptsDrops() const { return acceptsDrops_; }
@@ -114,12 +126,16 @@ class Form {
   /// A key let go, seen by the form whichever control has the focus.
   void InputKeyUp(Key key);
   void InputMouseMove(MouseButton held);
+  /// The mouse was pressed over a free spot.
+  void InputMouseDown() { HideHanging(); }
   void InputMoved(Twips left, Twips top);
   /// The screen that the form is on has another resolution now, or its texts another size.
-  void InputResolution() { Fit(); }
+  void InputResolution();
   void InputScreensChanged();
   /// The user minimised the window by other means than the program's own, or restored it.
   void InputWindowState(form::WindowState state);
+  /// The window that the user works in is this one now, or another one.
+  void InputActive(bool active);
   /// The user closes the window, or Windows ends.
   void InputClose();
   void InputDrop(const DroppedItems& items);
@@ -153,9 +169,12 @@ class Form {
   void TakeWindowAway();
   void AddControl(Control& control);
   void RemoveControl(Control& control);
+  void SetActiveControl(Control* control);
   /// Moves the focus on when the control that has it was just hidden or disabled.
   void LeaveUnreachable();
   void LeaveModal();
+  /// Hides the forms that hang on this one.
+  void HideHanging();
   /// Shows the form at the scale that fits the screen it is on.
   void Fit();
 
@@ -168,7 +187,9 @@ class Form {
   Color backColor_ = Color::ButtonFace;
   form::BorderStyle borderStyle_ = form::BorderStyle::None;
   form::WindowState windowState_ = form::WindowState::Normal;
+  Form* host_ = nullptr;
   bool topMost_ = false;
+  bool active_ = false;
   bool dragging_ = false;
   bool acceptsDrops_ = false;
   bool loaded_ = false;

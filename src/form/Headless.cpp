@@ -38,15 +38,19 @@ class Headless::Window : public FormWindow {
  public:
   Window(Headless& desktop, Form& form) : desktop_(desktop), form_(form) {}
 
-  void Changed(Property /*property*/) override {}
+  void Changed(Property property) override {
+    const bool gone = property == Property::Visible && !form_.Visible() && form_.Host() == nullptr;
+    if (gone) desktop_.TellActive(desktop_.ActiveForm());
+  }
   void SetTopMost(bool /*topMost*/) override {}
   void Drag() override {
     const Rect& bounds = form_.Bounds();
     form_.InputMoved(bounds.Left + std::exchange(desktop_.dragX_, 0), bounds.Top + std::exchange(desktop_.dragY_, 0));
   }
   void Activate() override {
-    desktop_.FormGone(form_);
+    std::erase(desktop_.activated_, &form_);
     desktop_.activated_.push_back(&form_);
+    desktop_.TellActive(&form_);
   }
 
  private:
@@ -128,6 +132,24 @@ void Headless::DoubleClick(Control& control) {
   control.InputDblClick();
 }
 
+void Headless::ClickRow(RowList& list, int row) { list.InputRowClick(row); }
+
+void Headless::Wheel(Control& control, int rows) {
+  if (auto* list = dynamic_cast<RowList*>(&control)) {
+    list->InputScroll(list->TopRow() + rows);
+  } else {
+    dynamic_cast<TextBox&>(control).InputWheel(rows);
+  }
+}
+
+void Headless::Leave() { TellActive(nullptr); }
+
+void Headless::TellActive(Form* active) {
+  if (active == toldActive_) return;
+  if (Form* const before = std::exchange(toldActive_, active)) before->InputActive(false);
+  if (active != nullptr) active->InputActive(true);
+}
+
 void Headless::DragBy(Form& form, Twips x, Twips y) {
   dragX_ = x;
   dragY_ = y;
@@ -175,6 +197,9 @@ std::unique_ptr<FormWindow> Headless::MakeWindow(Form& form) { return std::make_
 
 void Headless::Discard(std::unique_ptr<FormWindow> window) { window.reset(); }
 
-void Headless::FormGone(Form& form) { std::erase(activated_, &form); }
+void Headless::FormGone(Form& form) {
+  std::erase(activated_, &form);
+  if (toldActive_ == &form) toldActive_ = nullptr;
+}
 
 }  // namespace vantor::form

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "form/RowList.h"
 #include "form/TextBox.h"
 #include "form/UserInterface.h"
 
@@ -43,6 +44,12 @@ class Headless : public UserInterface {
   void Press(Key key);
   void Click(Control& control);
   void DoubleClick(Control& control);
+  /// Presses the mouse over a row and lets it go there.
+  void ClickRow(RowList& list, int row);
+  /// Turns the wheel by so many rows over a text box or a row list.
+  void Wheel(Control& control, int rows);
+  /// Works in another program, until a form is activated again.
+  void Leave();
   /// Drags the form by (x, y) twips, by a free spot of it.
   void DragBy(Form& form, Twips x, Twips y);
 
@@ -70,8 +77,11 @@ class Headless : public UserInterface {
   };
 
   void TypeCharacter(wchar_t character);
+  /// Tells forms which of them the user works in now.
+  void TellActive(Form* active);
 
   std::vector<RunningTimer> timers_;
+  Form* toldActive_ = nullptr;
   std::vector<Form*> activated_;  // the last one most recently; a hidden form gives way to the one before
   Twips dragX_ = 0;
   Twips dragY_ = 0;

@@ -10,6 +10,8 @@ enum class Key : int {
   Enter = 0x0D,
   Escape = 0x1B,
   Space = 0x20,
+  PageUp = 0x21,
+  PageDown = 0x22,
   End = 0x23,
   Home = 0x24,
   Left = 0x25,

@@ -50,10 +50,16 @@ void TextBox::InputSelection(int selStart, int selLength) {
 void TextBox::InputComposing(bool composing) {
   if (composing_ == composing) return;
   composing_ = composing;
-  if (composing_)
-    textBeforeComposing_ = text_;
-  else if (text_ != textBeforeComposing_)
+  if (composing_) textBeforeComposing_ = text_;
+  if (composing_ || text_ == textBeforeComposing_) {
+    Compose(composing_);
+  } else {
     Change();
+  }
+}
+
+void TextBox::InputWheel(int rows) {
+  if (AcceptsInput()) Wheel(rows);
 }
 
 void TextBox::InputCharacter(wchar_t character) {

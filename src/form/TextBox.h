@@ -40,6 +40,9 @@ class TextBox : public Control {
   /// A key that moves the caret was pressed alone; None in its place swallows it. Not told while an input method
   /// composes, whose keys they are then.
   Event<Key&> KeyDown;
+  Event<int /*rows*/> Wheel;  // turned over the box; down is positive
+  /// An input method begins to compose (true), or ends without having changed the text (false).
+  Event<bool> Compose;
   Event<> DblClick;
 
   void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
@@ -58,6 +61,7 @@ class TextBox : public Control {
   void InputComposing(bool composing);
   void InputDblClick() override;
   void InputCharacter(wchar_t character) override;
+  void InputWheel(int rows);
 
  private:
   std::wstring text_;

@@ -6,15 +6,40 @@
 
 namespace vantor::list {
 
+namespace {
+
+/// Whether a character stands between words: blanks, marks and signs, of ASCII and of Unicode's general punctuation
+/// (U+2000 to U+206F) and that of Chinese and Japanese (U+3000 to U+303F).
+bool PartsWords(wchar_t c) {
+  if (c < 0x80) return !((c >= L'0' && c <= L'9') || (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z'));
+  return c <= 0xA9 || c == 0xAB || c == 0xB7 || c == 0xBB || (c >= 0x2000 && c <= 0x206F) ||
+         (c >= 0x3000 && c <= 0x303F);
+}
+
+}  // namespace
+
 NameMatch::NameMatch(const service::Language& language, std::wstring_view text)
     : language_(language), lower_(language.Lower(text)) {}
 
-bool NameMatch::Begins(std::wstring_view name) const {
-  if (name.size() < lower_.size()) return false;
+bool NameMatch::StandsAt(std::wstring_view name, std::size_t start) const {
   for (std::size_t i = 0; i < lower_.size(); ++i) {
-    if (name[i] != lower_[i] && Lower(name[i]) != lower_[i]) return false;
+    if (name[start + i] != lower_[i] && Lower(name[start + i]) != lower_[i]) return false;
   }
   return true;
+}
+
+NameMatch::Place NameMatch::Find(std::wstring_view name) const {
+  Place inside;
+  const wchar_t first = lower_.empty() ? L'\0' : lower_.front();
+  for (std::size_t start = 0; start + lower_.size() <= name.size(); ++start) {
+    const wchar_t c = name[start];
+    if (c < 128 && first < 128 && c != first && (c | 0x20) != first) continue;  // mostly so
+    if (!StandsAt(name, start)) continue;
+    if (start == 0) return {Fit::Begins, 0};
+    if (PartsWords(name[start - 1])) return {Fit::WordBegins, start};
+    if (inside.How == Fit::None) inside = {Fit::Contains, start};
+  }
+  return inside;
 }
 
 wchar_t NameMatch::Lower(wchar_t character) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -10,6 +11,9 @@
 
 namespace vantor::list {
 
+/// How a name fits a text, the closest first.
+enum class Fit { Begins, WordBegins, Contains, None };
+
 /// Compares many names with one text without regard to letter case, as the user's system has it. Nothing is
 /// allocated per name, and the system is asked once for each letter beyond ASCII.
 class NameMatch {
@@ -17,9 +21,16 @@ class NameMatch {
   NameMatch(const service::Language& language, std::wstring_view text);
 
   /// The name's first characters are the text.
-  [[nodiscard]] bool Begins(std::wstring_view name) const;
+  [[nodiscard]] bool Begins(std::wstring_view name) const { return name.size() >= lower_.size() && StandsAt(name, 0); }
   /// The name is the text.
   [[nodiscard]] bool Equals(std::wstring_view name) const { return name.size() == lower_.size() && Begins(name); }
+
+  struct Place {
+    Fit How = Fit::None;
+    std::size_t Start = 0;  // of the characters that fit
+  };
+  /// Where in the name the text stands: the first place of those where it fits most closely.
+  [[nodiscard]] Place Find(std::wstring_view name) const;
 
  private:
   struct Remembered {
@@ -27,6 +38,8 @@ class NameMatch {
     wchar_t Lower = 0;
   };
 
+  /// The text stands at a place that leaves room for it.
+  [[nodiscard]] bool StandsAt(std::wstring_view name, std::size_t start) const;
   [[nodiscard]] wchar_t Lower(wchar_t character) const;
 
   const service::Language& language_;

@@ -63,8 +63,9 @@ HelpPage::HelpPage(frmChoose& form, const PanelContext& context)
       environment_(context.Environment),
       typing_{text_.Add(Frame, L"Type a code and what it is about, then press Enter", true), text_.Add(Frame, {}),
               text_.Add(Frame, {})},
-      completion_(text_.Add(
-          Frame, L"Names and words complete while you type. Enter takes the completion, Backspace drops it.")),
+      completion_(text_.Add(Frame,
+                            L"Names and words complete while you type. Enter takes the completion, Backspace drops it; "
+                            L"Down walks through all that fits.")),
       buttons_{text_.Add(Frame, L"Buttons and keys", true), text_.Add(Frame, {}), text_.Add(Frame, {})},
       adding_{text_.Add(Frame, L"Adding to your list", true),
               text_.Add(Frame,

@@ -4,6 +4,7 @@
 #include "bar/frmMain.h"
 #include "command/CommandState.h"
 #include "command/Starters.h"
+#include "command/frmMatches.h"
 #include "form/UserInterface.h"
 #include "list/ListFiles.h"
 #include "list/Settings.h"
@@ -60,8 +61,9 @@ class Program {
   add::frmBrowse frmBrowse{Ui, Context, ListPage.List};
   add::BrowsePanel AddPanel{Panels, panel::menu::Add, frmBrowse, add::BrowseUse::Add};
   add::BrowsePanel OpenPanel{Panels, panel::menu::Open, frmBrowse, add::BrowseUse::Open};
+  command::frmMatches frmMatches{Ui, Services.Language};
   bar::frmMain frmMain{Ui, bar::BarParts{Services, Environment, Messages, Settings, Options, Panels, frmChoose,
-                                         ListPage.List, ListFiles, CommandState, Starters}};
+                                         ListPage.List, ListFiles, CommandState, Starters, frmMatches}};
 
  private:
   void ConnectMessages();

@@ -7,6 +7,7 @@
 #include "form/Button.h"
 #include "form/Headless.h"
 #include "form/ListControl.h"
+#include "form/RowList.h"
 #include "form/Static.h"
 #include "form/TextBox.h"
 #include "start/Program.h"
@@ -151,6 +152,12 @@ class NativeWorld : public World {
   }
   void Click(const Text& name, const Text& entry, bool twice) override {
     form::Control& control = Reachable(name);
+    if (auto* rows = dynamic_cast<form::RowList*>(&control)) {
+      for (int row = 0; row < rows->RowCount(); ++row) {
+        if (rows->RowAt(row).Text == entry) return desk_->ClickRow(*rows, row);
+      }
+      throw Failure("there is no such row");
+    }
     if (!entry.empty()) {
       auto& list = dynamic_cast<form::ListControl&>(control);
       const auto found = std::ranges::find(list.Entries(), entry);
@@ -162,6 +169,8 @@ class NativeWorld : public World {
     }
     if (twice) desk_->DoubleClick(control);
   }
+  void Turn(const Text& control, int rows) override { desk_->Wheel(Reachable(control), rows); }
+  void Leave() override { desk_->Leave(); }
   void Hold(const Text& control) override {
     Reachable(control).SetFocus();
     dynamic_cast<form::CommandButton&>(Reachable(control)).InputMouseDown(form::MouseButton::Left);
@@ -224,7 +233,10 @@ class NativeWorld : public World {
     if (control == nullptr) return what == L"text" ? L"" : L"not shown";
     if (what == L"enabled") return yes(control->Enabled());
     if (what == L"ticked") return yes(dynamic_cast<const form::ChoiceButton&>(*control).Value());
-    if (what == L"entries") return Joined(dynamic_cast<const form::ListControl&>(*control).Entries());
+    if (what == L"entries") {
+      const auto* const rows = dynamic_cast<const form::RowList*>(control);
+      return Joined(rows != nullptr ? InSight(*rows) : dynamic_cast<const form::ListControl&>(*control).Entries());
+    }
     return TextOf(*control);
   }
   [[nodiscard]] Texts Started() override { return computer_.Starts; }
@@ -240,7 +252,15 @@ class NativeWorld : public World {
     line.insert(static_cast<std::size_t>(box.SelStart()) + static_cast<std::size_t>(box.SelLength()), L"]");
     return line.insert(static_cast<std::size_t>(box.SelStart()), L"[");
   }
+  static Texts InSight(const form::RowList& list) {
+    Texts rows;
+    for (int row = list.TopRow(); row < std::min(list.TopRow() + list.PageRows(), list.RowCount()); ++row)
+      rows.push_back(list.RowAt(row).Text);
+    return rows;
+  }
   static Text TextOf(const form::Control& control) {
+    if (const auto* rows = dynamic_cast<const form::RowList*>(&control))
+      return rows->CurrentRow() != -1 ? rows->SpokenRow(rows->CurrentRow()) : Text();
     if (const auto* box = dynamic_cast<const form::TextBox*>(&control)) return box->Text();
     if (const auto* list = dynamic_cast<const form::ListControl*>(&control)) return list->Text();
     if (const auto* label = dynamic_cast<const form::Label*>(&control)) return label->Caption();

@@ -39,15 +39,32 @@ std::pair<Text, Text> Cut(const Text& text, std::wstring_view separator = L" ") 
   return {text.substr(0, end), text.substr(end + separator.size())};
 }
 
-constexpr std::pair<std::wstring_view, form::Key> Keys[] = {
-    {L"Backspace", form::Key::Back}, {L"Tab", form::Key::Tab},     {L"Enter", form::Key::Enter},
-    {L"Escape", form::Key::Escape},  {L"Space", form::Key::Space}, {L"Home", form::Key::Home},
-    {L"End", form::Key::End},        {L"Up", form::Key::Up},       {L"Down", form::Key::Down},
-    {L"Left", form::Key::Left},      {L"Right", form::Key::Right}, {L"Delete", form::Key::Delete},
-    {L"F1", form::Key::F1},          {L"F2", form::Key::F2},       {L"F3", form::Key::F3},
-    {L"F4", form::Key::F4},          {L"F5", form::Key::F5},       {L"F6", form::Key::F6},
-    {L"F7", form::Key::F7},          {L"F8", form::Key::F8},       {L"F9", form::Key::F9},
-    {L"F10", form::Key::F10},        {L"F11", form::Key::F11},     {L"F12", form::Key::F12}};
+constexpr std::pair<std::wstring_view, form::Key> Keys[] = {{L"Backspace", form::Key::Back},
+                                                            {L"Tab", form::Key::Tab},
+                                                            {L"Enter", form::Key::Enter},
+                                                            {L"Escape", form::Key::Escape},
+                                                            {L"Space", form::Key::Space},
+                                                            {L"Home", form::Key::Home},
+                                                            {L"End", form::Key::End},
+                                                            {L"Up", form::Key::Up},
+                                                            {L"Down", form::Key::Down},
+                                                            {L"PageUp", form::Key::PageUp},
+                                                            {L"PageDown", form::Key::PageDown},
+                                                            {L"Left", form::Key::Left},
+                                                            {L"Right", form::Key::Right},
+                                                            {L"Delete", form::Key::Delete},
+                                                            {L"F1", form::Key::F1},
+                                                            {L"F2", form::Key::F2},
+                                                            {L"F3", form::Key::F3},
+                                                            {L"F4", form::Key::F4},
+                                                            {L"F5", form::Key::F5},
+                                                            {L"F6", form::Key::F6},
+                                                            {L"F7", form::Key::F7},
+                                                            {L"F8", form::Key::F8},
+                                                            {L"F9", form::Key::F9},
+                                                            {L"F10", form::Key::F10},
+                                                            {L"F11", form::Key::F11},
+                                                            {L"F12", form::Key::F12}};
 
 /// The settings file's values in its order, as they are when nothing else is said.
 constexpr std::pair<std::wstring_view, std::wstring_view> SettingNames[] = {{L"OptionMask", L"2"},
@@ -311,6 +328,8 @@ std::span<const Player::Verb> Player::Verbs() {
     {L"click", [](Player& p, const Text& rest) { p.world_->Click(rest, L"", false); }},
     {L"choose", [](Player& p, const Text& rest) { p.world_->Click(Cut(rest).first, Cut(rest).second, false); }},
     {L"double-click", [](Player& p, const Text& rest) { p.world_->Click(Cut(rest).first, Cut(rest).second, true); }},
+    {L"turn", [](Player& p, const Text& rest) { p.world_->Turn(Cut(rest).first, std::stoi(Cut(rest).second)); }},
+    {L"leave", [](Player& p, const Text& /*rest*/) { p.world_->Leave(); }},
     {L"hold", [](Player& p, const Text& rest) { p.world_->Hold(rest); }},
     {L"move over", [](Player& p, const Text& rest) { p.world_->MoveOver(rest); }},
     {L"release", [](Player& p, const Text& /*rest*/) { p.world_->Release(); }},

@@ -2,7 +2,8 @@
 // installation that is not the test's own, or needs drives of certain kinds, is left to Wine.
 
 #include <windows.h>
-// Needs the one before it.
+// These need the one before them.
+#include <oleacc.h>
 #include <shlobj.h>
 
 #include "desktop/System.h"
@@ -50,6 +51,74 @@ class TrueFolders {
   bool switched_;
 };
 
+/// A list whose rows are drawn, so that they are learnt as a screen reader does.
+class ReadList {
+ public:
+  explicit ReadList(HWND window) {
+    CoInitialize(nullptr);
+    void* object = nullptr;
+    if (FAILED(AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible, &object))) return;
+    object_ = static_cast<IAccessible*>(object);
+    object_->get_accChildCount(&count_);
+  }
+  ~ReadList() {
+    if (object_ != nullptr) object_->Release();
+  }
+  ReadList(const ReadList&) = delete;
+  ReadList& operator=(const ReadList&) = delete;
+
+  /// The rows in sight.
+  [[nodiscard]] Texts Rows() const {
+    Texts rows;
+    for (long row = 1; row <= count_; ++row) {
+      if (InSight(row)) rows.push_back(TextOf(row));
+    }
+    return rows;
+  }
+  /// All that is said of the current row.
+  [[nodiscard]] Text Current() const {
+    VARIANT selected{};
+    const bool has = object_ != nullptr && object_->get_accSelection(&selected) == S_OK && selected.vt == VT_I4;
+    return has ? NameOf(selected.lVal) : Text();
+  }
+  [[nodiscard]] std::optional<POINT> Middle(const Text& text) const {
+    for (long row = 1; row <= count_; ++row) {
+      RECT at{};
+      if (!InSight(row) || TextOf(row) != text) continue;
+      if (FAILED(object_->accLocation(&at.left, &at.top, &at.right, &at.bottom, Part(row)))) continue;
+      return POINT{at.left + at.right / 2, at.top + at.bottom / 2};
+    }
+    return {};
+  }
+
+ private:
+  static VARIANT Part(long row) {
+    VARIANT part{};
+    part.vt = VT_I4;
+    part.lVal = row;
+    return part;
+  }
+  [[nodiscard]] bool InSight(long row) const {
+    VARIANT state{};
+    object_->get_accState(Part(row), &state);
+    return state.vt == VT_I4 && (state.lVal & STATE_SYSTEM_OFFSCREEN) == 0;
+  }
+  [[nodiscard]] Text NameOf(long row) const {
+    BSTR name = nullptr;
+    object_->get_accName(Part(row), &name);
+    Text text = name != nullptr ? Text(name) : Text();
+    SysFreeString(name);
+    return text;
+  }
+  [[nodiscard]] Text TextOf(long row) const {
+    const Text name = NameOf(row);
+    return name.substr(0, name.rfind(L", "));
+  }
+
+  IAccessible* object_ = nullptr;
+  long count_ = 0;
+};
+
 class RealWorld : public World {
  public:
   explicit RealWorld() : recorder_(SystemRecorder()), before_(recorder_.Lines().size()) {
@@ -57,7 +126,9 @@ class RealWorld : public World {
     if (UnderWine()) RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, RunKey, RunValue);
   }
   ~RealWorld() override {
-    if (other_ != nullptr) DestroyWindow(other_);
+    for (HWND window : {other_, front_}) {
+      if (window != nullptr) DestroyWindow(window);
+    }
     if (GetAsyncKeyState(VK_LBUTTON) < 0) input::LetGo(mouse_);  // a flow that failed in a drag
   }
   RealWorld(const RealWorld&) = delete;
@@ -150,12 +221,33 @@ class RealWorld : public World {
     HWND const window = Find(control);
     POINT at = window::Middle(window);
     if (!entry.empty() && window::ClassName(window) == "ComboBox") return Choose(window, entry);
-    if (!entry.empty()) at = EntryOf(window, window, entry);
+    if (!entry.empty() && IsReadList(window)) {
+      Await("the row", [&] {
+        const auto row = ReadList(window).Middle(entry);
+        if (row) at = *row;
+        return row.has_value();
+      });
+    } else if (!entry.empty()) {
+      at = EntryOf(window, window, entry);
+    }
     AwaitInput();
     if (twice)
       input::DoubleClick(Spot(at));
     else
       input::Click(Spot(at));
+  }
+  void Turn(const Text& control, int rows) override {
+    AwaitInput();
+    input::Mouse(window::Middle(Find(control)));
+    mouse_event(MOUSEEVENTF_WHEEL, 0, 0, static_cast<DWORD>(-rows / 3 * WHEEL_DELTA), 0);
+  }
+  void Leave() override {
+    if (front_ == nullptr) {
+      front_ = CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE | SS_NOTIFY, 700, 500, 100, 100, nullptr,
+                               nullptr, GetModuleHandleW(nullptr), nullptr);
+    }
+    input::Click(front_);
+    Await("the other program to be in front", [this] { return GetForegroundWindow() == front_; });
   }
   void Hold(const Text& control) override {
     AwaitInput();
@@ -224,7 +316,8 @@ class RealWorld : public World {
     if (window == nullptr) return what == L"text" ? L"" : L"not shown";
     if (what == L"enabled") return yes(window::IsEnabled(window));
     if (what == L"ticked") return yes(SendMessageW(window, BM_GETCHECK, 0, 0) == BST_CHECKED);
-    if (what == L"entries") return Joined(Entries(window));
+    if (what == L"entries") return Joined(IsReadList(window) ? ReadList(window).Rows() : Entries(window));
+    if (what == L"text" && IsReadList(window)) return ReadList(window).Current();
     if (window::ClassName(window) == "ListBox") {
       const LRESULT selected = SendMessageW(window, LB_GETCURSEL, 0, 0);
       return selected == LB_ERR ? L"" : EntryText(window, static_cast<WPARAM>(selected));
@@ -301,6 +394,7 @@ class RealWorld : public World {
     const std::size_t end = HIWORD(selection);
     return begin < end && end <= text.size() ? text.insert(end, L"]").insert(begin, L"[") : text;
   }
+  static bool IsReadList(HWND list) { return GetWindowLongW(list, GWL_ID) == win32::ControlId(L"ListMatches"); }
   static bool IsCombo(HWND list) { return window::ClassName(list) == "ComboBox"; }
   static Text EntryText(HWND list, WPARAM index) {
     const LRESULT length = SendMessageW(list, IsCombo(list) ? CB_GETLBTEXTLEN : LB_GETTEXTLEN, index, 0);
@@ -362,6 +456,7 @@ class RealWorld : public World {
   std::vector<std::unique_ptr<desktop::Folder>> folders_;
   std::unique_ptr<Program> program_;
   HWND other_ = nullptr;
+  HWND front_ = nullptr;
   POINT mouse_{};
   POINT lastClick_{};
 };

@@ -70,6 +70,10 @@ class World {
   virtual void Compose(bool begins, const Text& text) = 0;
   /// On an entry of a list, or in the control's middle for "".
   virtual void Click(const Text& control, const Text& entry, bool twice) = 0;
+  /// Turns the wheel over a control by a multiple of 3 rows; down is positive.
+  virtual void Turn(const Text& control, int rows) = 0;
+  /// Another program comes to the front.
+  virtual void Leave() = 0;
   /// The mouse button goes down on a control; then the mouse moves over a window: that of the other program
   /// ("other"), or the one with a control; then the button goes up.
   virtual void Hold(const Text& control) = 0;

@@ -40,7 +40,8 @@ class Wanderer : public form::Headless {
   void Act() {
     form::Form& form = *Forms[choices_.Below(Forms.size())];
     const std::vector<form::Control*>& controls = form.Controls();
-    constexpr form::Key keys[] = {form::Key::Tab, form::Key::Enter, form::Key::Escape, form::Key::Up, form::Key::Down};
+    constexpr form::Key keys[] = {form::Key::Tab,  form::Key::Enter,  form::Key::Escape,  form::Key::Up,
+                                  form::Key::Down, form::Key::PageUp, form::Key::PageDown};
     switch (choices_.Below(16)) {
       case 0:
       case 1:
@@ -95,7 +96,10 @@ class Wanderer : public form::Headless {
       default:
         Click(control);
     }
-    if (auto* list = dynamic_cast<form::ListControl*>(&control)) {
+    if (auto* rows = dynamic_cast<form::RowList*>(&control)) {
+      Wheel(*rows, static_cast<int>(choices_.Byte()) - 128);
+      ClickRow(*rows, static_cast<int>(choices_.Below(4)));
+    } else if (auto* list = dynamic_cast<form::ListControl*>(&control)) {
       const auto count = static_cast<std::size_t>(list->ListCount());
       if (count > 0) list->InputSelect(static_cast<int>(choices_.Below(count)));
     } else if (auto* box = dynamic_cast<form::TextBox*>(&control)) {
@@ -178,7 +182,7 @@ struct Wandering {
       };
     }
     if ((flags & 32) != 0) add(L"Saving", "\"Saving\"\r\n");
-    Desktop.Forms = {&Program.frmMain, &Program.frmBrowse, &Program.frmChoose};
+    Desktop.Forms = {&Program.frmMatches, &Program.frmMain, &Program.frmBrowse, &Program.frmChoose};
   }
 
   /// Starts, does what the bytes say, and ends. Requires what must hold whatever happens.
@@ -206,6 +210,9 @@ struct Wandering {
     const int open = Program.CommandState.OpenPanelIndex;
     Require(open >= command::NoIndex && open < static_cast<int>(panel::menu::Count),
             "the open panel is one of the panels");
+    Require(!Program.frmMatches.Visible() || Desktop.Ended() ||
+                (Program.frmMain.TextMain.HasFocus() && Program.frmMain.Active() && open == command::NoIndex),
+            "what fits is listed only while the line is used");
     Require(Desktop.Ended() || Program.MessageState.MessageBody.empty(), "a message leaves nothing behind");
     Require(Computer.Held == 0, "every object is released");
     for (const std::wstring& target : Computer.Asked) {

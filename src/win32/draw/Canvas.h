@@ -37,6 +37,8 @@ class Canvas {
  public:
   /// Size in pixels, at least 1 by 1. Throws std::bad_alloc when the system gives no memory for it.
   Canvas(int width, int height);
+  /// For what the system draws into the picture.
+  [[nodiscard]] HDC Dc() const { return dc_.Get(); }
   [[nodiscard]] int Width() const { return width_; }
   [[nodiscard]] int Height() const { return height_; }
   [[nodiscard]] Box Whole() const { return {0, 0, double(width_), double(height_)}; }

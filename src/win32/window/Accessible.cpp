@@ -9,6 +9,7 @@
 #include "win32/base/ComObject.h"
 #include "win32/base/SystemLibrary.h"
 #include "win32/window/AccessibleState.h"
+#include "win32/window/ControlWindow.h"
 
 namespace vantor::win32 {
 
@@ -36,12 +37,13 @@ class Accessible final : public ComObject<IAccessible, IID_IDispatch, IID_IAcces
   Accessible(HWND window, ComPointer<IAccessible> standard) : window_(window), standard_(std::move(standard)) {}
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-    // The windows inside, and whose window it is, are the system's to tell.
-    if (id == IID_IEnumVARIANT || id == IID_IOleWindow) return standard_->QueryInterface(id, object);
+    // The windows inside, and whose window it is, are the system's to tell. Without the first, parts are counted.
+    const bool counted = id == IID_IEnumVARIANT && WindowWithParts(window_) != nullptr;
+    if ((id == IID_IEnumVARIANT && !counted) || id == IID_IOleWindow) return standard_->QueryInterface(id, object);
     return ComObject::QueryInterface(id, object);
   }
 
-  // What is read here, of the window itself. Of its parts, the entries of a list say, the system tells.
+  // What is read here, of the window itself and of rows. Of other parts, the entries of a list say, the system tells.
 
   HRESULT STDMETHODCALLTYPE get_accName(VARIANT child, BSTR* text) override {
     return Tell(child, &AccessibleState::Name, text, [&] { return standard_->get_accName(child, text); });
@@ -63,22 +65,51 @@ class Accessible final : public ComObject<IAccessible, IID_IDispatch, IID_IAcces
     return Count(child, &AccessibleState::State, state, [&] { return standard_->get_accState(child, state); });
   }
   HRESULT STDMETHODCALLTYPE accDoDefaultAction(VARIANT child) override {
-    const std::optional<AccessibleState> state = Read(child);
-    if (!state || *state->Action == L'\0') return standard_->accDoDefaultAction(child);
-    ActOn(window_);
+    const std::optional<AccessibleState> reading = Read(child);
+    if (!reading || *reading->Action == L'\0') return standard_->accDoDefaultAction(child);
+    if (child.lVal == CHILDID_SELF) {
+      ActOn(window_);
+    } else {
+      WindowWithParts(window_)->ActOnPart(child.lVal);
+    }
+    return S_OK;
+  }
+  HRESULT STDMETHODCALLTYPE get_accDescription(VARIANT child, BSTR* text) override {
+    if (!ReadPart(child)) return standard_->get_accDescription(child, text);
+    return Tell(child, &AccessibleState::Description, text, [] { return S_FALSE; });
+  }
+  HRESULT STDMETHODCALLTYPE get_accChildCount(LONG* count) override {
+    const ControlWindow* const window = WindowWithParts(window_);
+    if (window == nullptr) return standard_->get_accChildCount(count);
+    *count = window->PartCount();
+    return S_OK;
+  }
+  HRESULT STDMETHODCALLTYPE get_accChild(VARIANT child, IDispatch** object) override {
+    if (!ReadPart(child)) return standard_->get_accChild(child, object);
+    *object = nullptr;  // a part has no object of its own
+    return S_FALSE;
+  }
+  HRESULT STDMETHODCALLTYPE get_accSelection(VARIANT* children) override {
+    const ControlWindow* const window = WindowWithParts(window_);
+    if (window == nullptr) return standard_->get_accSelection(children);
+    children->vt = static_cast<VARTYPE>(window->SelectedPart() != 0 ? VT_I4 : VT_EMPTY);
+    children->lVal = window->SelectedPart();
+    return window->SelectedPart() != 0 ? S_OK : S_FALSE;
+  }
+  HRESULT STDMETHODCALLTYPE accLocation(LONG* left, LONG* top, LONG* width, LONG* height, VARIANT child) override {
+    if (!ReadPart(child)) return standard_->accLocation(left, top, width, height, child);
+    RECT area = WindowWithParts(window_)->PartArea(child.lVal);
+    MapWindowPoints(window_, nullptr, reinterpret_cast<POINT*>(&area), 2);
+    *left = area.left;
+    *top = area.top;
+    *width = area.right - area.left;
+    *height = area.bottom - area.top;
     return S_OK;
   }
 
   // What the system tells.
 
   HRESULT STDMETHODCALLTYPE get_accParent(IDispatch** parent) override { return standard_->get_accParent(parent); }
-  HRESULT STDMETHODCALLTYPE get_accChildCount(LONG* count) override { return standard_->get_accChildCount(count); }
-  HRESULT STDMETHODCALLTYPE get_accChild(VARIANT child, IDispatch** object) override {
-    return standard_->get_accChild(child, object);
-  }
-  HRESULT STDMETHODCALLTYPE get_accDescription(VARIANT child, BSTR* text) override {
-    return standard_->get_accDescription(child, text);
-  }
   HRESULT STDMETHODCALLTYPE get_accHelp(VARIANT child, BSTR* text) override {
     return standard_->get_accHelp(child, text);
   }
@@ -86,13 +117,7 @@ class Accessible final : public ComObject<IAccessible, IID_IDispatch, IID_IAcces
     return standard_->get_accHelpTopic(file, child, topic);
   }
   HRESULT STDMETHODCALLTYPE get_accFocus(VARIANT* child) override { return standard_->get_accFocus(child); }
-  HRESULT STDMETHODCALLTYPE get_accSelection(VARIANT* children) override {
-    return standard_->get_accSelection(children);
-  }
   HRESULT STDMETHODCALLTYPE accSelect(LONG flags, VARIANT child) override { return standard_->accSelect(flags, child); }
-  HRESULT STDMETHODCALLTYPE accLocation(LONG* left, LONG* top, LONG* width, LONG* height, VARIANT child) override {
-    return standard_->accLocation(left, top, width, height, child);
-  }
   HRESULT STDMETHODCALLTYPE accNavigate(LONG direction, VARIANT start, VARIANT* end) override {
     return standard_->accNavigate(direction, start, end);
   }
@@ -124,10 +149,16 @@ class Accessible final : public ComObject<IAccessible, IID_IDispatch, IID_IAcces
   }
 
  private:
-  /// Nothing for a part of the window, or when the window is gone.
+  /// Nothing for a part of which the system tells, or when the window is gone.
   [[nodiscard]] std::optional<AccessibleState> Read(const VARIANT& child) const {
-    if (child.vt != VT_I4 || child.lVal != CHILDID_SELF) return {};
-    return StateOf(window_);
+    if (child.vt == VT_I4 && child.lVal == CHILDID_SELF) return StateOf(window_);
+    return ReadPart(child);
+  }
+  /// Nothing for the window itself, too.
+  [[nodiscard]] std::optional<AccessibleState> ReadPart(const VARIANT& child) const {
+    const ControlWindow* const window = WindowWithParts(window_);
+    if (window == nullptr || child.vt != VT_I4 || child.lVal < 1 || child.lVal > window->PartCount()) return {};
+    return window->DescribePart(child.lVal);
   }
 
   template <class Member, class Otherwise>

@@ -42,6 +42,11 @@ std::optional<AccessibleState> StateOf(HWND handle) {
   return {};
 }
 
+ControlWindow* WindowWithParts(HWND handle) {
+  ControlWindow* const window = ControlWindow::From(handle);
+  return window != nullptr && !window->Owner().Retired() && window->PartCount() >= 0 ? window : nullptr;
+}
+
 void ActOn(HWND handle) {
   ControlWindow* const window = ControlWindow::From(handle);
   if (window != nullptr && !window->Owner().Retired()) window->Act();

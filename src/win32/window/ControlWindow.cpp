@@ -6,6 +6,7 @@
 #include "win32/draw/Pictures.h"
 #include "win32/draw/Screens.h"
 #include "win32/window/Accessible.h"
+#include "win32/window/AccessibleState.h"
 #include "win32/window/ButtonWindow.h"
 #include "win32/window/ChoiceWindow.h"
 #include "win32/window/ComboWindow.h"
@@ -13,6 +14,7 @@
 #include "win32/window/ControlId.h"
 #include "win32/window/EditWindow.h"
 #include "win32/window/ListWindow.h"
+#include "win32/window/RowListWindow.h"
 #include "win32/window/StaticWindow.h"
 #include "win32/window/WindowsDesktop.h"
 
@@ -41,6 +43,7 @@ class Maker final : public form::ControlVisitor {
   void Visit(form::Label& label) override { Make<LabelWindow>(label); }
   void Visit(form::Frame& frame) override { Make<FrameWindow>(frame); }
   void Visit(form::PictureControl& picture) override { Make<PictureWindow>(picture); }
+  void Visit(form::RowList& list) override { Make<RowListWindow>(list); }
 
  private:
   template <class Window, class Control>
@@ -185,6 +188,10 @@ void ControlWindow::LeaveFocus() const {
 void ControlWindow::TakeFocus() {
   if (IsWindowVisible(handle_) != FALSE && GetFocus() != handle_) ::SetFocus(handle_);
 }
+
+AccessibleState ControlWindow::DescribePart(long /*part*/) const { return {}; }
+
+void ControlWindow::PaintNow() { UpdateWindow(handle_); }
 
 void ControlWindow::Refresh() {
   SendMessageW(handle_, WM_SETFONT, reinterpret_cast<WPARAM>(Font()), FALSE);

@@ -28,6 +28,7 @@ class ControlWindow : public form::ControlWindow {
 
   void Changed(form::Property property) final;
   void TakeFocus() override;
+  void PaintNow() override;
   [[nodiscard]] std::uintptr_t Handle() const override { return reinterpret_cast<std::uintptr_t>(handle_); }
 
   [[nodiscard]] HWND Hwnd() const { return handle_; }
@@ -51,6 +52,16 @@ class ControlWindow : public form::ControlWindow {
   virtual void Describe(AccessibleState& state) const = 0;
   /// Does what the description's Action says. Posts it, so that the caller has its answer first.
   virtual void Act() {}
+
+  // The parts that readers are told of, rows say, counted from 1 as they do.
+
+  /// -1: the window's class tells of its parts, if it has any.
+  [[nodiscard]] virtual long PartCount() const { return -1; }
+  /// 0 for none.
+  [[nodiscard]] virtual long SelectedPart() const { return 0; }
+  [[nodiscard]] virtual AccessibleState DescribePart(long part) const;
+  [[nodiscard]] virtual RECT PartArea(long /*part*/) const { return {}; }
+  virtual void ActOnPart(long /*part*/) {}
 
   // What the window tells its parent, handed back.
 

@@ -1,5 +1,7 @@
 #include "win32/window/EditWindow.h"
 
+#include <windowsx.h>
+
 #include <oleacc.h>
 
 #include <algorithm>
@@ -127,6 +129,8 @@ LRESULT EditWindow::Process(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_CHAR:
       return OnCharacter(wParam, lParam);
+    case WM_MOUSEWHEEL:
+      return OnWheel(wParam, lParam);
     case WM_LBUTTONDBLCLK: {
       const LRESULT result = Default(message, wParam, lParam);
       box_.InputDblClick();
@@ -166,6 +170,19 @@ LRESULT EditWindow::Process(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
   }
   return ControlWindow::OnMessage(message, wParam, lParam);
+}
+
+/// Older Windows tell the window with the focus, wherever the mouse is.
+LRESULT EditWindow::OnWheel(WPARAM wParam, LPARAM lParam) {
+  constexpr int PageRows = 8;  // where the user scrolls by pages, whose length is not known here
+  const HWND under = WindowFromPoint({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+  const ControlWindow* const control = ControlWindow::From(under);
+  if (control != nullptr && control->PartCount() >= 0) {
+    return SendMessageW(under, WM_MOUSEWHEEL, wParam, lParam);
+  }
+  if (control != this) return Default(WM_MOUSEWHEEL, wParam, lParam);
+  if (const int rows = wheel_.Rows(wParam, PageRows); rows != 0) box_.InputWheel(rows);
+  return 0;
 }
 
 LRESULT EditWindow::OnCharacter(WPARAM character, LPARAM lParam) {

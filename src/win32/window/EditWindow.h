@@ -2,6 +2,7 @@
 
 #include "form/TextBox.h"
 #include "win32/window/ControlWindow.h"
+#include "win32/window/Wheel.h"
 
 namespace vantor::win32 {
 
@@ -25,6 +26,7 @@ class EditWindow final : public ControlWindow {
   /// What a message comes to; the edit's own work is done when it returns.
   LRESULT Process(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT OnCharacter(WPARAM character, LPARAM lParam);
+  LRESULT OnWheel(WPARAM wParam, LPARAM lParam);
   void Report();
   [[nodiscard]] std::wstring ShownText() const;
   void ShowText();
@@ -37,6 +39,7 @@ class EditWindow final : public ControlWindow {
   bool edited_ = false;    // the text changed by the user since it was last reported
   bool composed_ = false;  // an input method has ended composing, not told yet
   bool showing_ = false;
+  Wheel wheel_;
 };
 
 }  // namespace vantor::win32

@@ -12,6 +12,7 @@ WindowStyles StylesOf(const form::Form& form) {
   if (form.BorderStyle() == form::BorderStyle::Dialog) {
     return {WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN, WS_EX_DLGMODALFRAME};
   }
+  if (form.Host() != nullptr) return {WS_POPUP | WS_CLIPCHILDREN, WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW};
   // The box and the menu are not drawn, but let the taskbar minimise the window.
   return {WS_POPUP | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN, 0};
 }

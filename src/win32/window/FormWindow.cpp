@@ -113,6 +113,7 @@ void FormWindow::ShowVisible() {
     SetOwnerWindow(desktop_.OwnerFor(*this));
     placement_.Apply();
     if (placement_.TakeScreenDpi()) TakeScale();  // a hidden window may not be told
+    if (form_.Host() != nullptr) return ShowOnHost();
     SetWindowPos(Hwnd(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
     if (form_.WindowState() == form::WindowState::Minimized) {
       ShowWindow(Hwnd(), SW_MINIMIZE);
@@ -132,6 +133,14 @@ void FormWindow::ShowVisible() {
   desktop_.WakeUp();
 }
 
+/// Without taking the keyboard from the host.
+void FormWindow::ShowOnHost() {
+  SetWindowPos(Hwnd(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  SetTopMost(form_.TopMost());
+  ShowWindow(Hwnd(), SW_SHOWNA);
+  RedrawWindow(Hwnd(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+}
+
 void FormWindow::ShowEnabled() {
   const form::Form* const modal = desktop_.ModalForm();
   EnableWindow(Hwnd(), modal == nullptr || modal == &form_);
@@ -140,6 +149,10 @@ void FormWindow::ShowEnabled() {
 void FormWindow::SetTopMost(bool topMost) {
   SetWindowPos(Hwnd(), topMost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   if (topMost) tips_.Raise();
+  if (const auto* host = form_.Host() != nullptr ? static_cast<FormWindow*>(form_.Host()->Window()) : nullptr) {
+    SetWindowPos(host->Hwnd(), Hwnd(), 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+    desktop_.StandBehind(*host);
+  }
   desktop_.StandBehind(*this);
 }
 
@@ -244,6 +257,7 @@ void FormWindow::PaintBackground(HDC dc) const {
 }
 
 void FormWindow::OnActivate(bool active) {
+  form_.InputActive(active);
   if (active) {
     desktop_.Activated(*this);
     desktop_.StandBehind(*this);  // other programs' windows may have come between
@@ -259,7 +273,11 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_ERASEBKGND:
       PaintBackground(reinterpret_cast<HDC>(wParam));
       return 1;
+    case WM_MOUSEACTIVATE:
+      if (form_.Host() != nullptr) return MA_NOACTIVATE;
+      break;
     case WM_LBUTTONDOWN:
+      form_.InputMouseDown();
       SetCapture(Hwnd());  // a narrow gap between buttons is soon left
       return 0;
     case WM_LBUTTONUP:

@@ -82,6 +82,7 @@ class FormWindow final : public form::FormWindow {
   void PaintBackground(HDC dc) const;
   void GiveFocus() const;
   void ShowVisible();
+  void ShowOnHost();
 
   win32::Desktop& desktop_;
   form::Form& form_;

@@ -46,6 +46,9 @@ LRESULT StaticWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_ERASEBKGND:
       return 1;
+    case WM_LBUTTONDOWN:
+      Owner().Form().InputMouseDown();
+      return 0;
     case WM_MOUSEMOVE:
       Owner().MouseMoves(wParam);
       return 0;
@@ -109,6 +112,7 @@ LRESULT FrameWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       return 1;
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
+      Owner().Form().InputMouseDown();
       pressed_ = true;
       pressedAt_ = point;
       SetCapture(Hwnd());  // a narrow gap between buttons is soon left

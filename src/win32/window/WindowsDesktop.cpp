@@ -201,6 +201,8 @@ void Desktop::ModalChanged() {
 HWND Desktop::OwnerFor(const FormWindow& window) const {
   // Wine does not let a window out of the topmost band while its owner stands directly behind it.
   if (IsMain(window)) return nullptr;
+  // Nor one into it that owns another above it. One that hangs on another is placed by hand.
+  if (window.Form().Host() != nullptr) return nullptr;
   const FormWindow* owner = main_;
   if (ModalForm() == &window.Form() && active_ != nullptr && active_ != &window) owner = active_;
   // What a minimised or hidden window owns can't be seen.
@@ -216,8 +218,9 @@ void Desktop::StandBehind(const FormWindow& window) const {
 
 FormWindow* Desktop::SuccessorOf(const FormWindow& window) const {
   const auto suits = [&](const FormWindow* other) {
-    return other != nullptr && other != &window && IsWindowVisible(other->Hwnd()) != FALSE &&
-           IsWindowEnabled(other->Hwnd()) != FALSE && IsIconic(other->Hwnd()) == FALSE;
+    return other != nullptr && other != &window && other->Form().Host() == nullptr &&
+           IsWindowVisible(other->Hwnd()) != FALSE && IsWindowEnabled(other->Hwnd()) != FALSE &&
+           IsIconic(other->Hwnd()) == FALSE;
   };
   FormWindow* const owner = FormWindow::From(window.OwnerWindow());
   if (suits(owner)) return owner;

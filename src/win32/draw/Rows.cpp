@@ -1,0 +1,122 @@
+#include "win32/draw/Rows.h"
+
+#include <algorithm>
+#include <climits>
+#include <cmath>
+#include <numeric>
+#include <vector>
+
+#include "win32/draw/Text.h"
+
+namespace vantor::win32 {
+
+namespace {
+
+// Pixels at 96 dots per inch.
+constexpr int Margin = 6;
+constexpr int DetailGap = 10;
+
+/// The detail's size beside the text's.
+constexpr double SmallFont = 0.88;
+/// How much of the ground is in the detail's ink.
+constexpr double Faintness = 0.36;
+
+COLORREF Mix(COLORREF ink, COLORREF ground, double share) {
+  const auto mix = [&](int from, int to) { return static_cast<BYTE>(std::lround(from + (to - from) * share)); };
+  return RGB(mix(GetRValue(ink), GetRValue(ground)), mix(GetGValue(ink), GetGValue(ground)),
+             mix(GetBValue(ink), GetBValue(ground)));
+}
+
+/// A row's text, cut to its room, where each character ends.
+struct Measured {
+  std::wstring Text;
+  std::vector<int> Ends;  // pixels from the text's beginning
+};
+
+Measured Measure(HDC dc, const std::wstring& text, int room) {
+  constexpr wchar_t Ellipsis = 0x2026;
+  Measured measured{text, std::vector<int>(text.size() + 1)};
+  int fit = 0;
+  SIZE size{};
+  GetTextExtentExPointW(dc, text.data(), static_cast<int>(text.size()), room, &fit, measured.Ends.data(), &size);
+  if (size.cx > room) {
+    SIZE dots{};
+    GetTextExtentPoint32W(dc, &Ellipsis, 1, &dots);
+    GetTextExtentExPointW(dc, text.data(), static_cast<int>(text.size()), std::max<int>(room - dots.cx, 0), &fit,
+                          nullptr, &size);
+    measured.Text = text.substr(0, static_cast<std::size_t>(fit)) + Ellipsis;
+    GetTextExtentExPointW(dc, measured.Text.data(), fit + 1, INT_MAX, nullptr, measured.Ends.data(), &size);
+  }
+  measured.Ends.resize(measured.Text.size());
+  return measured;
+}
+
+/// Draws the row's text with a line under its marked part.
+void DrawMarked(Canvas& canvas, const form::Row& row, const RECT& area, HFONT font, COLORREF ink, COLORREF mark,
+                double scale) {
+  const HDC dc = canvas.Dc();
+  const HGDIOBJ oldFont = SelectObject(dc, font);
+  SetBkMode(dc, TRANSPARENT);
+  SetTextColor(dc, ink);
+  TEXTMETRICW metrics{};
+  GetTextMetricsW(dc, &metrics);
+  const Measured text = Measure(dc, row.Text, area.right - area.left);
+  const int top = (canvas.Height() - metrics.tmHeight) / 2;
+  // Not every Windows draws as wide as it measures. Letters that are shaped or turned are left to it all the same.
+  const bool placed = std::all_of(row.Text.begin(), row.Text.end(), [](wchar_t c) { return c < 0x0590; });
+  std::vector<int> widths(text.Ends);
+  std::adjacent_difference(text.Ends.begin(), text.Ends.end(), widths.begin());
+  ExtTextOutW(dc, area.left, top, 0, nullptr, text.Text.data(), static_cast<UINT>(text.Text.size()),
+              placed ? widths.data() : nullptr);
+  SelectObject(dc, oldFont);
+  const auto endOf = [&](std::size_t count) {
+    return count == 0 || text.Ends.empty() ? 0 : text.Ends[std::min(count, text.Ends.size()) - 1];
+  };
+  const int from = endOf(row.MarkStart);
+  const int to = endOf(row.MarkStart + row.MarkLength);
+  const double thickness = std::max(std::floor(1.5 * scale), 1.0);
+  const double line = std::min(top + metrics.tmAscent + thickness, canvas.Height() - thickness);
+  canvas.Shade({double(area.left + from), line, double(to - from), thickness}, mark, mark);
+}
+
+}  // namespace
+
+void DrawMarkedRow(Canvas& canvas, const form::Row& row, RowState state, COLORREF ground, COLORREF ink,
+                   const Theme& theme, int dpi) {
+  const Palette& colors = theme.Colors();
+  const double scale = dpi / 96.0;
+  COLORREF mark = colors.Focus;
+  if (state != RowState::Plain) {
+    const Palette::Face& face = state == RowState::Current ? colors.Open : colors.Hot;
+    ground = face.Fill;
+    ink = face.Text;
+    mark = ink;
+    canvas.Clear(state == RowState::Hot ? face.Edge : ground);
+    if (state == RowState::Hot) {
+      const double edge = std::max(std::floor(scale), 1.0);
+      canvas.Shade(canvas.Whole().Inset(edge), ground, ground);
+    }
+  } else {
+    canvas.Clear(ground);
+  }
+  if (colors.HighContrast) mark = ink;
+
+  const HFONT font = theme.Font(dpi, false);
+  const HFONT small = theme.Font(static_cast<int>(std::lround(dpi * SmallFont)), false);
+  const LONG left = std::lround(Margin * scale);
+  const LONG right = canvas.Width() - left;
+  const LONG gap = std::lround(DetailGap * scale);
+  const LONG textWidth = TextSize(row.Text, font).cx;
+  const LONG detailWidth = row.Detail.empty() ? 0 : TextSize(row.Detail, small).cx + gap;
+  // Of two that are too long the text keeps more than half.
+  const LONG room = std::max((right - left) * 3 / 5, right - left - detailWidth);
+  const LONG textEnd = left + std::min(textWidth, room);
+  constexpr UINT OneLine = DT_SINGLELINE | DT_VCENTER;
+  DrawMarked(canvas, row, {left, 0, textEnd, canvas.Height()}, font, ink, mark, scale);
+  const bool isPath = row.Detail.find(L'\\') != row.Detail.npos;
+  canvas.Text(row.Detail, {textEnd + gap, 0, right, canvas.Height()}, small,
+              colors.HighContrast ? ink : Mix(ink, ground, Faintness),
+              OneLine | static_cast<UINT>(isPath ? DT_PATH_ELLIPSIS : DT_END_ELLIPSIS));
+}
+
+}  // namespace vantor::win32

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "form/RowList.h"
+#include "win32/draw/Canvas.h"
+#include "win32/draw/Theme.h"
+
+namespace vantor::win32 {
+
+/// How a row stands out.
+enum class RowState { Plain, Hot, Current };
+
+/// Draws a row over the whole canvas: its text with a line under the marked part, and the detail after it, smaller and
+/// fainter. What is too long is cut with an ellipsis, a path in its middle.
+void DrawMarkedRow(Canvas& canvas, const form::Row& row, RowState state, COLORREF ground, COLORREF ink,
+                   const Theme& theme, int dpi);
+
+}  // namespace vantor::win32

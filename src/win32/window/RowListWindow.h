@@ -1,0 +1,65 @@
+#pragma once
+
+#include <vector>
+
+#include "form/RowList.h"
+#include "win32/draw/Rows.h"
+#include "win32/window/AccessibleState.h"
+#include "win32/window/ControlWindow.h"
+#include "win32/window/Wheel.h"
+
+namespace vantor::win32 {
+
+/// A list of drawn rows. It remembers the rows that it shows, so that only those that changed are painted.
+class RowListWindow final : public ControlWindow {
+ public:
+  RowListWindow(FormWindow& owner, form::RowList& list);
+
+  void Refresh() override;
+  void Describe(AccessibleState& state) const override;
+  /// The text of a row on the window, counted from the top; "" for none.
+  [[nodiscard]] std::wstring ShownText(std::size_t place) const;
+  [[nodiscard]] long PartCount() const override { return list_.RowCount(); }
+  [[nodiscard]] long SelectedPart() const override { return list_.CurrentRow() + 1; }
+  [[nodiscard]] AccessibleState DescribePart(long part) const override;
+  [[nodiscard]] RECT PartArea(long part) const override;
+  void ActOnPart(long part) override;
+
+ protected:
+  LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+  void Show(form::Property property) override;
+  void ApplyBounds() override;
+
+ private:
+  struct ShownRow {
+    form::Row Row;
+    RowState State = RowState::Plain;
+
+    friend bool operator==(const ShownRow&, const ShownRow&) = default;
+  };
+
+  /// Asks for the rows in sight.
+  void Update();
+  void UpdateScrollBar();
+  /// A row's place on the window, by its number from the top.
+  [[nodiscard]] RECT AreaOf(int place) const;
+  /// The row under a point of the window; -1 for none.
+  [[nodiscard]] int RowAt(LPARAM point) const;
+  void PaintRows();
+  void SayCurrent() const;
+  void OnMove(LPARAM point);
+  void SetHot(int row);
+  void OnRelease(LPARAM point);
+  void OnScroll(WORD what);
+
+  form::RowList& list_;
+  std::vector<ShownRow> shown_;
+  Wheel wheel_;
+  int hot_ = -1;     // the row that the mouse is over
+  POINT stillAt_{};  // where the mouse was when the rows came, on the screen
+  int width_ = 0;
+  bool pressed_ = false;
+  int pressedRow_ = -1;
+};
+
+}  // namespace vantor::win32
