@@ -86,8 +86,8 @@ class frmBrowse : public form::Form {
   // layout
   void Dress();
   void LayOut();
-  void LayOutLists(form::Twips top, form::Twips bottom);
-  form::Twips LayOutAddFrames(form::Twips top);
+  void LayOutLists(form::Twips top, form::Twips bottom, form::Twips width);
+  form::Twips LayOutAddFrames(form::Twips top, form::Twips width);
 
   // events
   void ConnectEvents();

@@ -1,9 +1,11 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "add/ItemGroup.h"
 #include "add/frmBrowse.h"
 #include "form/PictureButton.h"
 #include "panel/Grid.h"
+#include "panel/PageText.h"
 
 namespace vantor::add {
 namespace {
@@ -15,15 +17,10 @@ using form::Twips;
 using panel::CheckHeight;
 using panel::FrameTop;
 using panel::Gap;
-using panel::LabelHeight;
 using panel::LineHeight;
 using panel::Margin;
 
-constexpr Twips BoxWidth = 5040;
-constexpr Twips InnerWidth = BoxWidth - 2 * Margin;
-constexpr Twips ButtonWidth = 960;
-constexpr Twips FindButtonWidth = 1620;
-constexpr Twips ColumnWidth = (InnerWidth - Margin) / 2;
+constexpr Twips LeastWidth = 5040;
 constexpr Twips LeastListsHeight = 2100;
 constexpr Twips MostListsHeight = 3600;
 constexpr Twips BarRoom = 600;  // of the screen, for the bar that the box stands by
@@ -68,7 +65,7 @@ void frmBrowse::Dress() {
   FrameAddToList.SetCaption(L"Type a Launch Name");
   TextAddName.SetAccessibleName(L"Type a Launch Name");
   DressButton(CommandAddOK, LabelAddOK, L"Add");
-  FrameAddedInfo.SetCaption(L"Program Added To List :: Click To Hide");
+  FrameAddedInfo.SetCaption(BannerOf(list::LaunchGroup::Prog));  // the longest
   FrameAddedInfo.SetBanner(true);
   FrameAddedInfo.SetBackColor(form::Color::LineBlue);
   FrameAddedInfo.SetVisible(false);
@@ -90,66 +87,76 @@ void frmBrowse::LayOut() {
   }
   FrameSelect.SetVisible(opening);
 
+  const Twips cancelWidth = form::ButtonWidth(LabelAddCancel);
+  const Twips width = std::max(
+      {LeastWidth, CancelLeft + cancelWidth + Margin, AddedInfoLeft + FrameAddedInfo.LeastSize().Width + Margin});
+  const Twips boxTop = FrameBrowseBack.HeightFor(FrameTop);
   Twips top = SelectTop;
   if (opening) {
-    LayOutLists(FrameTop, SelectTop - Margin);
+    LayOutLists(boxTop, SelectTop - Margin, width);
   } else {
-    constexpr Twips OptionWidth = (InnerWidth - Margin) / 3;
-    FrameWhatToAdd.SetBounds({Margin, FrameTop, InnerWidth, FrameTop + CheckHeight + Gap});
+    const Twips innerWidth = width - 2 * Margin;
+    const Twips optionWidth = (innerWidth - Margin) / 3;
+    const Twips optionHeight = OptionBrowse[0].HeightFor(CheckHeight);
+    const Twips optionTop = FrameWhatToAdd.HeightFor(FrameTop);
+    FrameWhatToAdd.SetBounds({Margin, boxTop, innerWidth, optionTop + optionHeight + Gap});
     for (std::size_t i = 0; i < OptionBrowse.size(); ++i) {
-      const Twips left = Margin + static_cast<Twips>(i) * OptionWidth;
-      OptionBrowse[i].SetBounds({left, FrameTop, OptionWidth - Gap, CheckHeight});
+      const Twips left = Margin + static_cast<Twips>(i) * optionWidth;
+      OptionBrowse[i].SetBounds({left, optionTop, optionWidth - Gap, optionHeight});
     }
     const Twips listsTop = FrameWhatToAdd.Bottom() + Margin;
-    const Twips leastBottom = LayOutAddFrames(listsTop + LeastListsHeight + Margin) + ButtonHeight + Margin;
+    const Twips leastBottom = LayOutAddFrames(listsTop + LeastListsHeight + Margin, innerWidth) + ButtonHeight + Margin;
     const Twips spare = Ui().ScreenAt(Bounds()).WorkArea.Height - BarRoom - leastBottom;
     const Twips listsHeight = std::clamp(LeastListsHeight + spare, LeastListsHeight, MostListsHeight);
-    LayOutLists(listsTop, listsTop + listsHeight);
-    top = LayOutAddFrames(listsTop + listsHeight + Margin);
+    LayOutLists(listsTop, listsTop + listsHeight, width);
+    top = LayOutAddFrames(listsTop + listsHeight + Margin, innerWidth);
   }
-  FrameSelect.SetBounds({SelectLeft, SelectTop, ButtonWidth, ButtonHeight});
-  PlaceButton(CommandSelectOK, LabelSelectOK, {0, 0, ButtonWidth, ButtonHeight});
-  FrameAddCancel.SetBounds({CancelLeft, top, ButtonWidth, ButtonHeight});
-  PlaceButton(CommandAddCancel, LabelAddCancel, {0, 0, ButtonWidth, ButtonHeight});
+  const Twips selectWidth = form::ButtonWidth(LabelSelectOK);
+  FrameSelect.SetBounds({SelectLeft, SelectTop, selectWidth, ButtonHeight});
+  PlaceButton(CommandSelectOK, LabelSelectOK, {0, 0, selectWidth, ButtonHeight});
+  FrameAddCancel.SetBounds({CancelLeft, top, cancelWidth, ButtonHeight});
+  PlaceButton(CommandAddCancel, LabelAddCancel, {0, 0, cancelWidth, ButtonHeight});
 
-  FrameBrowseBack.SetBounds({0, 0, BoxWidth, FrameAddCancel.Bottom() + Margin});
+  FrameBrowseBack.SetBounds({0, 0, width, FrameAddCancel.Bottom() + Margin});
   PictureNo.SetBounds({Margin, FrameAddCancel.Top(), Gap / 4, Gap / 4});
   SetInside({FrameBrowseBack.Width(), FrameBrowseBack.Height()});
 }
 
-void frmBrowse::LayOutLists(Twips top, Twips bottom) {
-  constexpr Twips SecondLeft = BoxWidth - Margin - ColumnWidth;
-  LabelFolderSelect.SetBounds({Margin, top, ColumnWidth, LabelHeight});
-  LabelAddSelect.SetBounds({SecondLeft, top, ColumnWidth, LabelHeight});
-  const Twips listTop = top + LabelHeight + Gap / 2;
-  DriveWork.SetBounds({Margin, listTop, ColumnWidth, LineHeight});
+void frmBrowse::LayOutLists(Twips top, Twips bottom, Twips width) {
+  const Twips columnWidth = (width - 3 * Margin) / 2;
+  const Twips secondLeft = width - Margin - columnWidth;
+  const Twips listTop = std::max(panel::Place(LabelFolderSelect, Margin, top, columnWidth),
+                                 panel::Place(LabelAddSelect, secondLeft, top, columnWidth)) +
+                        Gap / 2;
+  DriveWork.SetBounds({Margin, listTop, columnWidth, DriveWork.HeightFor(LineHeight)});
   const Twips folderTop = DriveWork.Bottom() + Gap;
-  DirWork.SetBounds({Margin, folderTop, ColumnWidth, bottom - folderTop});
-  FileWork.SetBounds({SecondLeft, listTop, ColumnWidth, bottom - listTop});
+  DirWork.SetBounds({Margin, folderTop, columnWidth, bottom - folderTop});
+  FileWork.SetBounds({secondLeft, listTop, columnWidth, bottom - listTop});
 }
 
 /// Returns where the row of the box's own buttons begins.
-Twips frmBrowse::LayOutAddFrames(Twips top) {
-  const Twips findTextLeft = Margin + FindButtonWidth + Margin;
-  const Twips findTextWidth = InnerWidth - findTextLeft - Margin;
-  const Twips howHeight = Ui().MeasureText(LabelFindHow.Caption(), false, findTextWidth).Height;
-  const Twips resultHeight = Ui().MeasureText(LabelFindResult.Caption(), false, findTextWidth).Height;
-  PlaceButton(CommandFindPath, LabelFindPath, {Margin, FrameTop + Gap / 2, FindButtonWidth, ButtonHeight});
-  LabelFindHow.SetBounds({findTextLeft, FrameTop, findTextWidth, howHeight});
-  LabelFindResult.SetBounds({findTextLeft, LabelFindHow.Bottom() + Gap, findTextWidth, resultHeight});
-  FrameFindPath.SetBounds({Margin, top, InnerWidth, LabelFindResult.Bottom() + Margin});
+Twips frmBrowse::LayOutAddFrames(Twips top, Twips width) {
+  const Twips inTop = FrameFindPath.HeightFor(FrameTop);
+  const Twips lineHeight = TextAddPath.HeightFor(LineHeight);
+  const Twips findButtonWidth = form::ButtonWidth(LabelFindPath);
+  const Twips findTextLeft = Margin + findButtonWidth + Margin;
+  const Twips findTextWidth = width - findTextLeft - Margin;
+  PlaceButton(CommandFindPath, LabelFindPath, {Margin, inTop + Gap / 2, findButtonWidth, ButtonHeight});
+  const Twips resultTop = panel::Place(LabelFindHow, findTextLeft, inTop, findTextWidth) + Gap;
+  const Twips findBottom = panel::Place(LabelFindResult, findTextLeft, resultTop, findTextWidth);
+  FrameFindPath.SetBounds({Margin, top, width, findBottom + Margin});
 
-  TextAddPath.SetBounds({Margin, FrameTop, InnerWidth - 2 * Margin, LineHeight});
-  LabelAddPath.SetBounds({Margin, TextAddPath.Bottom() + Gap / 2, InnerWidth - 2 * Margin, LabelHeight});
-  FrameAddPath.SetBounds({Margin, FrameFindPath.Bottom() + Gap, InnerWidth, LabelAddPath.Bottom() + Gap});
+  TextAddPath.SetBounds({Margin, inTop, width - 2 * Margin, lineHeight});
+  const Twips pathBottom = panel::Place(LabelAddPath, Margin, TextAddPath.Bottom() + Gap / 2, width - 2 * Margin);
+  FrameAddPath.SetBounds({Margin, FrameFindPath.Bottom() + Gap, width, pathBottom + Gap});
 
-  const Twips nameWidth = InnerWidth - ButtonWidth - 3 * Margin;
-  TextAddName.SetBounds({Margin, FrameTop, nameWidth, LineHeight});
-  PlaceButton(CommandAddOK, LabelAddOK, {TextAddName.Right() + Margin, FrameTop - Gap, ButtonWidth, ButtonHeight});
-  FrameAddToList.SetBounds({Margin, FrameAddPath.Bottom() + Gap, InnerWidth, TextAddName.Bottom() + Margin});
+  const Twips addWidth = form::ButtonWidth(LabelAddOK);
+  const Twips nameWidth = width - addWidth - 3 * Margin;
+  TextAddName.SetBounds({Margin, inTop, nameWidth, lineHeight});
+  PlaceButton(CommandAddOK, LabelAddOK, {TextAddName.Right() + Margin, inTop - Gap, addWidth, ButtonHeight});
+  FrameAddToList.SetBounds({Margin, FrameAddPath.Bottom() + Gap, width, TextAddName.Bottom() + Margin});
 
-  FrameAddedInfo.SetBounds(
-      {AddedInfoLeft, FrameAddToList.Bottom() + Gap, BoxWidth - Margin - AddedInfoLeft, LineHeight});
+  FrameAddedInfo.SetBounds({AddedInfoLeft, FrameAddToList.Bottom() + Gap, width + Margin - AddedInfoLeft, lineHeight});
   return FrameAddedInfo.Bottom() + Gap;
 }
 

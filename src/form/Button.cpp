@@ -43,7 +43,7 @@ void CommandButton::SetSign(bool sign) {
 }
 
 Size CommandButton::LeastSize() const {
-  constexpr Size Padding{360, 195};
+  constexpr Size Padding{360, 105};
   const Size text = TextSize(faceLabel_ != nullptr ? faceLabel_->Caption() : caption_, sign_);
   return {text.Width + Padding.Width, text.Height + Padding.Height};
 }
@@ -75,7 +75,7 @@ void ChoiceButton::SetCaption(std::wstring_view caption) {
 }
 
 Size ChoiceButton::LeastSize() const {
-  constexpr Size Mark{420, 75};  // beside the caption, and around it
+  constexpr Size Mark{420, 15};  // beside the caption, and around it
   const Size text = TextSize(caption_);
   return {text.Width + Mark.Width, text.Height + Mark.Height};
 }

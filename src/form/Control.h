@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -111,6 +112,8 @@ class Control {
 
   /// The size that shows the control's caption whole on one line, or one line of a box, in the user's font.
   [[nodiscard]] virtual Size LeastSize() const { return {}; }
+  /// The height that is usual for the control, or what the user's font makes of it.
+  [[nodiscard]] Twips HeightFor(Twips usual) const { return std::max(usual, LeastSize().Height); }
 
   [[nodiscard]] bool Visible() const { return visible_; }
   void SetVisible(bool visible);

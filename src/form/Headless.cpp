@@ -161,14 +161,13 @@ Screen Headless::ScreenAt(const Rect& /*place*/) const { return Desktop; }
 Screen Headless::PrimaryScreen() const { return Desktop; }
 
 Size Headless::MeasureText(std::wstring_view text, bool /*bold*/, Twips width) const {
-  constexpr Twips lineHeight = 195;
   const std::size_t charactersPerLine = static_cast<std::size_t>(std::max(width / CharacterWidth, 1));
   Size size;
   for (std::size_t start = 0; start <= text.size();) {
     const std::size_t end = std::min(text.find(L"\r\n", start), text.size());
     const std::size_t length = end - start;
     const std::size_t lines = std::max<std::size_t>((length + charactersPerLine - 1) / charactersPerLine, 1);
-    size.Height += lineHeight * static_cast<Twips>(lines);
+    size.Height += LineHeight * static_cast<Twips>(lines);
     size.Width = std::max(size.Width, CharacterWidth * static_cast<Twips>(std::min(length, charactersPerLine)));
     start = end + 2;
   }

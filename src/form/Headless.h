@@ -21,8 +21,9 @@ class Headless : public UserInterface {
 
   /// The one screen, 1024 by 768 pixels of 15 twips at first.
   Screen Desktop;
-  /// How wide the user's font is.
+  /// How wide and how high the user's font is.
   Twips CharacterWidth = 90;
+  Twips LineHeight = 195;
 
   /// Lets time pass, raising the ticks that fall into it in order.
   void Advance(int milliseconds);
@@ -55,7 +56,7 @@ class Headless : public UserInterface {
 
   [[nodiscard]] Screen ScreenAt(const Rect& place) const override;
   [[nodiscard]] Screen PrimaryScreen() const override;
-  /// Every character is CharacterWidth wide, every line 195 twips high.
+  /// Every character is CharacterWidth wide, every line LineHeight high.
   [[nodiscard]] Size MeasureText(std::wstring_view text, bool bold, Twips width) const override;
   void RunModal(Form& form) override;
   void Run() override;

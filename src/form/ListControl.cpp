@@ -34,7 +34,7 @@ void ListControl::ReplaceEntries(std::vector<std::wstring> entries) {
 }
 
 Size DropDownList::LeastSize() const {
-  constexpr Twips AroundText = 135;
+  constexpr Twips AroundText = 75;
   return {0, TextSize(L"x").Height + AroundText};
 }
 

@@ -83,7 +83,7 @@ void TextBox::InputCharacter(wchar_t character) {
 }
 
 Size TextBox::LeastSize() const {
-  constexpr Twips AroundText = 135;
+  constexpr Twips AroundText = 60;  // the edges
   return {0, TextSize(L"x").Height + AroundText};
 }
 

@@ -101,9 +101,9 @@ void frmMessage::Arrange(const form::Screen& screen) {
   };
   place(LabelHead, Ui().MeasureText(LabelHead.Caption(), true, width).Height);
   // The name prompts call the input "the above box".
-  if (TextInput0.Visible()) place(TextInput0, InputHeight);
+  if (TextInput0.Visible()) place(TextInput0, TextInput0.HeightFor(InputHeight));
   place(LabelMessage, Ui().MeasureText(text, false, width).Height);
-  if (CheckDoNotShow.Visible()) place(CheckDoNotShow, CheckHeight);
+  if (CheckDoNotShow.Visible()) place(CheckDoNotShow, CheckDoNotShow.HeightFor(CheckHeight));
 
   top += Gap;
   CommandCancel.SetBounds({left + width - ButtonWidth, top, ButtonWidth, form::ButtonHeight});

@@ -5,7 +5,6 @@
 
 #include "form/Form.h"
 #include "form/PictureButton.h"
-#include "form/UserInterface.h"
 #include "list/MachineIdentity.h"
 #include "panel/Grid.h"
 #include "panel/frmChoose.h"
@@ -21,7 +20,6 @@ using panel::CheckHeight;
 using panel::Gap;
 using panel::Margin;
 
-constexpr Twips CheckMark = 420;  // what a check box takes beside its caption
 constexpr Twips LeastWidth = 3600;
 
 constexpr std::array<std::wstring_view, OptionsPage::Count> Captions{L"Start With Windows", L"Always On Top",
@@ -71,17 +69,15 @@ form::Size OptionsPage::LayOut() {
   CommandOptionRemember.SetVisible(context_.Environment.RunMode);
   Twips width = LeastWidth;
   for (const form::CheckBox& box : CheckOptionMain) {
-    const Twips text =
-        FrameOptions.OwnerForm().Ui().MeasureText(box.Caption(), false, form::UserInterface::AnyWidth).Width;
-    width = std::max(width, CheckMark + text + 2 * Margin);
+    width = std::max(width, box.LeastSize().Width + 2 * Margin);
   }
   for (const form::Label* label : {&LabelOptionShortcut, &LabelOptionRemember}) {
     width = std::max(width, form::ButtonWidth(*label) + 2 * Margin);
   }
   Twips top = panel::FrameTop;
   for (form::CheckBox& box : CheckOptionMain) {
-    box.SetBounds({Margin, top, width - 2 * Margin, CheckHeight});
-    top += CheckHeight + Gap;
+    box.SetBounds({Margin, top, width - 2 * Margin, box.HeightFor(CheckHeight)});
+    top = box.Bottom() + Gap;
   }
   top += Gap;
   const auto placeWide = [&](form::CommandButton& button, form::Label& label) {

@@ -106,7 +106,7 @@ form::Size HelpPage::LayOut() {
   left += tablesWidth + ColumnGap;
   Twips y = adding_.PlaceAt(left, FrameTop, ProseWidth);
   y = data_.PlaceAt(left, y + SectionGap, ProseWidth);
-  TextHelpFolder.SetBounds({left, y + UnderHead, ProseWidth, LineHeight});
+  TextHelpFolder.SetBounds({left, y + UnderHead, ProseWidth, TextHelpFolder.HeightFor(LineHeight)});
   y = stick_.PlaceAt(left, TextHelpFolder.Bottom() + SectionGap, ProseWidth);
   return {left + ProseWidth + Margin, std::max(bottom, y) + Margin};
 }

@@ -186,25 +186,53 @@ TEST_CASE("no panel is larger than the work area; where there is room it has its
   }
 }
 
-TEST_CASE("the help and code pages have their texts whole and apart") {
-  test::TestProgram program;
-  program.Computer.Disk.AddFile(L"C:\\Vantor\\VantorHelp.exe");  // of which there are lines too
-  program.Start();
-  const panel::frmChoose& panel = program.Choose;
-  for (const auto& [key, frame] :
-       {std::pair(Key::F7, &program.Program.HelpPage.Frame), std::pair(Key::F8, &program.Program.CodePage.Frame)}) {
-    program.Desktop.Press(key);
-    std::vector<const form::Control*> texts;
-    for (const form::Control* text : panel.Controls()) {
-      if (text->Container() != frame) continue;
-      CHECK((text->Right() <= frame->Width() && text->Bottom() <= frame->Height()));
-      for (const form::Control* other : texts) {
-        CHECK((text->Right() <= other->Left() || other->Right() <= text->Left() || text->Bottom() <= other->Top() ||
-               other->Bottom() <= text->Top()));
-      }
-      texts.push_back(text);
+bool IsShown(const form::Control& control) {
+  return control.Visible() && (control.Container() == nullptr || IsShown(*control.Container()));
+}
+
+void CheckFits(const form::Form& form) {
+  std::vector<const form::Control*> shown;
+  for (const form::Control* control : form.Controls()) {
+    const form::Control* const in = control->Container();
+    if (!control->WantsWindow() || !IsShown(*control)) continue;
+    CAPTURE(control->Name());
+    const auto* const label = dynamic_cast<const form::Label*>(control);
+    const form::Size least =
+        label == nullptr ? control->LeastSize()
+                         : form.Ui().MeasureText(label->Caption(), label->Bold(), label->Width());  // of several lines
+    CHECK(control->Width() >= least.Width);
+    CHECK(control->Height() >= least.Height);
+    CHECK(control->Right() <= (in != nullptr ? in->Width() : form.Inside().Width));
+    CHECK(control->Bottom() <= (in != nullptr ? in->Height() : form.Inside().Height));
+    for (const form::Control* other : shown) {
+      CAPTURE(other->Name());
+      CHECK((other->Container() != in || control->Right() <= other->Left() || other->Right() <= control->Left() ||
+             control->Bottom() <= other->Top() || other->Bottom() <= control->Top()));
     }
-    CHECK(texts.size() > 2);
+    shown.push_back(control);
+  }
+}
+
+TEST_CASE("everything has its texts whole and apart in narrow and wide, low and high fonts") {
+  // The letters at 9 points, on average, in twips: Tahoma, Arial (by Liberation Sans) and Verdana (by DejaVu Sans).
+  for (const form::Size font : {form::Size{99, 210}, {105, 225}, {111, 240}}) {
+    CAPTURE(font.Width);
+    test::TestProgram program;
+    program.Desktop.CharacterWidth = font.Width;
+    program.Desktop.LineHeight = font.Height;
+    program.Computer.Disk.AddFile(L"C:\\Orbel\\Draw\\Draw.exe");
+    program.Computer.Disk.AddFile(L"C:\\Vantor\\VantorHelp.exe");  // of which there are lines too
+    program.Start();
+    program.Add(list::LaunchGroup::Web, L"a", L"b");
+    for (const Key key : {Key::F2, Key::F3, Key::F4, Key::F5, Key::F6, Key::F7, Key::F8}) {
+      program.Desktop.Press(key);
+      program.Page.Web.Rename.DoClick();
+      const form::Form& panel = *program.Desktop.ActiveForm();
+      CHECK(&panel != &program.Main);
+      CheckFits(panel);
+    }
+    program.Expect([](const message::frmMessage& dialog) { CheckFits(dialog); });
+    program.Type(L"p=nosuchprogram\r");
   }
 }
 

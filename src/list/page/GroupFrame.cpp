@@ -18,11 +18,8 @@ using form::Twips;
 
 using panel::FrameTop;
 using panel::Gap;
-using panel::LabelHeight;
 using panel::LineHeight;
 using panel::Margin;
-
-constexpr Twips LabelTop = 75;  // brings a label's text to the height of the text in the box beside it
 
 std::wstring ControlName(std::wstring_view kind, std::wstring_view code, std::wstring_view what) {
   return std::wstring(kind).append(L"List").append(code).append(what);
@@ -90,20 +87,28 @@ void GroupFrame::ConnectEvents() {
   on(RenCancel, RenCancel.Click, L"_Click", &GroupFrame::RenCancel_Click);
 }
 
+Twips GroupFrame::LabelWidth() const {
+  return std::max({LabelName.LeastSize().Width, LabelPath.LeastSize().Width, LabelNewName.LeastSize().Width});
+}
+
+Twips GroupFrame::LeastWidth() const {
+  return Margin + LabelWidth() + Margin + form::ButtonWidth(LabelOpen) + Gap + form::ButtonWidth(LabelRename) + Gap +
+         form::ButtonWidth(LabelRemove) + Margin;
+}
+
 Twips GroupFrame::LayOut(Twips left, Twips top, Twips width) {
-  const form::UserInterface& ui = Frame.OwnerForm().Ui();
-  Twips labelWidth = 0;
-  for (const form::Label* label : {&LabelName, &LabelPath, &LabelNewName}) {
-    labelWidth = std::max(labelWidth, ui.MeasureText(label->Caption(), false, width).Width);
-  }
+  const Twips labelWidth = LabelWidth();
+  const Twips labelHeight = LabelName.LeastSize().Height;
+  const Twips lineHeight = Name.HeightFor(LineHeight);
+  const Twips labelTop = (lineHeight - labelHeight) / 2;
   const Twips boxLeft = Margin + labelWidth + Margin;
   const Twips boxWidth = width - boxLeft - Margin;
-  Twips y = FrameTop;
-  LabelName.SetBounds({Margin, y + LabelTop, labelWidth, LabelHeight});
-  Name.SetBounds({boxLeft, y, boxWidth, LineHeight});
+  Twips y = Frame.HeightFor(FrameTop);
+  LabelName.SetBounds({Margin, y + labelTop, labelWidth, labelHeight});
+  Name.SetBounds({boxLeft, y, boxWidth, lineHeight});
   y = Name.Bottom() + Gap;
-  LabelPath.SetBounds({Margin, y + LabelTop, labelWidth, LabelHeight});
-  Path.SetBounds({boxLeft, y, boxWidth, LineHeight});
+  LabelPath.SetBounds({Margin, y + labelTop, labelWidth, labelHeight});
+  Path.SetBounds({boxLeft, y, boxWidth, lineHeight});
   y = Path.Bottom() + Margin;
 
   Twips x = boxLeft;
@@ -118,11 +123,11 @@ Twips GroupFrame::LayOut(Twips left, Twips top, Twips width) {
 
   FrameRename.SetBounds({Gap, y, width - 2 * Gap, form::ButtonHeight});
   const Twips inside = Margin - Gap;
-  LabelNewName.SetBounds({inside, (form::ButtonHeight - LabelHeight) / 2, labelWidth, LabelHeight});
+  LabelNewName.SetBounds({inside, (form::ButtonHeight - labelHeight) / 2, labelWidth, labelHeight});
   const Twips buttons = form::ButtonWidth(LabelRenOK) + Gap + form::ButtonWidth(LabelRenCancel);
   const Twips textLeft = boxLeft - Gap;
   x = FrameRename.Width() - inside - buttons;
-  TextRename.SetBounds({textLeft, (form::ButtonHeight - LineHeight) / 2, x - Gap - textLeft, LineHeight});
+  TextRename.SetBounds({textLeft, (form::ButtonHeight - lineHeight) / 2, x - Gap - textLeft, lineHeight});
   place(RenOK, LabelRenOK, 0);
   place(RenCancel, LabelRenCancel, 0);
 

@@ -49,6 +49,8 @@ class GroupFrame {
   form::CommandButton RenCancel;
   form::Label LabelRenCancel;
 
+  /// The width, in twips, that shows the texts of its labels and buttons whole.
+  [[nodiscard]] form::Twips LeastWidth() const;
   /// Places the controls in a frame of the given width with its corner at (left, top), in twips. Returns the height.
   form::Twips LayOut(form::Twips left, form::Twips top, form::Twips width);
   /// Selects an entry if there is one.
@@ -68,6 +70,7 @@ class GroupFrame {
   void RenOK_Click();
   void RenCancel_Click();
 
+  [[nodiscard]] form::Twips LabelWidth() const;
   void ShowRename(bool visible);
   void EnableByCount();
 

@@ -52,10 +52,11 @@ void ListPage::Load() {
 }
 
 form::Size ListPage::LayOut() {
-  constexpr Twips Second = GroupWidth + panel::Margin;
-  const Twips lowerTop = std::max(Prog.LayOut(0, 0, GroupWidth), File.LayOut(Second, 0, GroupWidth)) + panel::Margin;
-  const Twips lower = std::max(Fold.LayOut(0, lowerTop, GroupWidth), Web.LayOut(Second, lowerTop, GroupWidth));
-  return {Second + GroupWidth, lowerTop + lower};
+  const Twips width = std::max(GroupWidth, Prog.LeastWidth());  // all have the same labels and buttons
+  const Twips second = width + panel::Margin;
+  const Twips lowerTop = std::max(Prog.LayOut(0, 0, width), File.LayOut(second, 0, width)) + panel::Margin;
+  const Twips lower = std::max(Fold.LayOut(0, lowerTop, width), Web.LayOut(second, lowerTop, width));
+  return {second + width, lowerTop + lower};
 }
 
 void ListPage::Prepare() {
