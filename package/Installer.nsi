@@ -5,6 +5,8 @@
 ;                                            and is started again
 ;   Uninstall.exe /S [/DELETEDATA]           removes; the user's list and settings stay unless that is asked for
 ;
+;   /DESKTOPSHORTCUT                         puts the shortcut on the desktop in a quiet installation too
+;
 ; Exit code 0: done; 1: the user stopped it; 2: it could not be done, and an older copy is as it was.
 
 Unicode true
@@ -45,6 +47,13 @@ VIAddVersionKey "ProductVersion" "${VERSION}"
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
 !define MUI_WELCOMEFINISHPAGE_BITMAP "${PICTURE}"
+!define MUI_COMPONENTSPAGE_NODESC
+!define MUI_PAGE_HEADER_TEXT "Install Vantor"
+!define MUI_PAGE_HEADER_SUBTEXT "Choose whether one key is to bring it up."
+!define MUI_COMPONENTSPAGE_TEXT_TOP "With the shortcut on the desktop, Ctrl+Shift+L brings Vantor up from anywhere."
+!define MUI_COMPONENTSPAGE_TEXT_INSTTYPE " "
+!define MUI_COMPONENTSPAGE_TEXT_COMPLIST " "
+!insertmacro MUI_PAGE_COMPONENTS
 !define MUI_DIRECTORYPAGE_TEXT_TOP "Vantor keeps your list and settings in its own folder. Choose one that you may write to."
 !define MUI_PAGE_CUSTOMFUNCTION_LEAVE RefuseForeignFolder
 !insertmacro MUI_PAGE_DIRECTORY
@@ -55,7 +64,6 @@ VIAddVersionKey "ProductVersion" "${VERSION}"
 !define MUI_FINISHPAGE_SHOWREADME_NOTCHECKED
 !insertmacro MUI_PAGE_FINISH
 
-!define MUI_COMPONENTSPAGE_NODESC
 !define MUI_COMPONENTSPAGE_TEXT_TOP "Vantor will be removed. Your list and settings stay where they are unless you tick them too."
 !define MUI_PAGE_HEADER_TEXT "Remove Vantor"
 !define MUI_PAGE_HEADER_SUBTEXT "Choose what goes."
@@ -121,11 +129,8 @@ Function RefuseForeignFolder
   ${EndIf}
 FunctionEnd
 
-Function .onInit
-  StrCpy $WasRunning 0
-FunctionEnd
-
 Section "Vantor" SectionProgram
+  SectionIn RO
   Call TryFolder
   ${IfThen} ${Errors} ${|} Abort "No right to write to $INSTDIR." ${|}
   ReadRegStr $R0 HKCU "${UNINSTALL_KEY}" "InstallLocation"
@@ -179,7 +184,31 @@ Section "Vantor" SectionProgram
   ${EndIf}
 SectionEnd
 
-; Removes the shortcut that the preferences page makes, when it leads here.
+; The same file, with the same properties, as "Create Desktop Shortcut" of the preferences makes.
+Section "Shortcut on the desktop (Ctrl+Shift+L)" SectionShortcut
+  SetOutPath "$INSTDIR" ; where the program starts
+  CreateShortcut "$DESKTOP\Vantor.lnk" "$INSTDIR\Vantor.exe" "" "$INSTDIR\Vantor.exe" 0 SW_SHOWNORMAL CONTROL|SHIFT|L "Vantor"
+SectionEnd
+
+Function .onInit
+  StrCpy $WasRunning 0
+  ; Without a person before it only who asks gets the shortcut; and one that the user removed stays away.
+  ReadRegStr $0 HKCU "${UNINSTALL_KEY}" "InstallLocation"
+  ${If} ${Silent}
+    !insertmacro UnselectSection ${SectionShortcut}
+  ${ElseIf} $0 != ""
+  ${AndIfNot} ${FileExists} "$DESKTOP\Vantor.lnk"
+    !insertmacro UnselectSection ${SectionShortcut}
+  ${EndIf}
+  ${GetParameters} $0
+  ClearErrors
+  ${GetOptions} $0 "/DESKTOPSHORTCUT" $1
+  ${IfNot} ${Errors}
+    !insertmacro SelectSection ${SectionShortcut}
+  ${EndIf}
+FunctionEnd
+
+; Removes the shortcut that the setup or the preferences page makes, when it leads here.
 Function un.RemoveDesktopShortcut
   !insertmacro ComHlpr_CreateInProcInstance ${CLSID_ShellLink} ${IID_IShellLink} r0 ""
   ${IfThen} $0 P= 0 ${|} Return ${|}

@@ -80,8 +80,8 @@ void frmBrowse::Open(BrowseUse use) {
     if (Opening()) {
       FrameAddedInfo.SetVisible(false);
       OfferFiles(EveryFile, true);
-    } else if (before == BrowseUse::Open) {
-      ShowChosenKind();  // the path may be one of a folder that is not shown any more
+    } else if (before == BrowseUse::Open || (ChoosesFolder() && TextAddPath.Text().empty())) {
+      ShowChosenKind();  // the path may be one of a folder that is not shown any more, or was added
     }
     CommandSelectOK.SetEnabled(false);
     LayOut();
@@ -124,7 +124,7 @@ void frmBrowse::OptionBrowse_Click(AddKind kind) {
 }
 
 void frmBrowse::ShowChosenKind() {
-  const bool folder = state_.WhatToAdd == AddKind::Folder;
+  const bool folder = ChoosesFolder();
   CommandFindPath.SetEnabled(state_.WhatToAdd == AddKind::Program);
   if (folder) FileWork.SetListIndex(-1);
   OfferFiles(state_.WhatToAdd == AddKind::File ? EveryFile : Programs, !folder);
@@ -175,8 +175,11 @@ void frmBrowse::DirWork_Change() {
   if (Opening()) CommandSelectOK.SetEnabled(false);
   if (!Adding()) return;
   FrameAddedInfo.SetVisible(false);
-  TextAddPath.SetText(state_.WhatToAdd == AddKind::Folder ? DirWork.Path() : std::wstring());
-  TextAddName.SetFocus();
+  TextAddPath.SetText(ChoosesFolder() ? DirWork.Path() : std::wstring());
+  // By keyboard one goes on through the drives and folders.
+  const bool byKeyboard = DirWork.Input() == form::ListInput::Enter || DriveWork.Input() == form::ListInput::Walk ||
+                          DriveWork.Input() == form::ListInput::Enter;
+  if (!byKeyboard) TextAddName.SetFocus();
 }
 
 void frmBrowse::DirWork_Unreachable() {
@@ -203,6 +206,7 @@ void frmBrowse::NoteFolder() {
 void frmBrowse::FileWork_Click() {
   CommandSelectOK.SetEnabled(FileWork.ListIndex() != -1);
   PickFile(FileWork.Text());
+  if (Adding() && FileWork.Input() != form::ListInput::Walk) TextAddName.SetFocus();
 }
 
 void frmBrowse::PickFile(std::wstring_view name) {
@@ -210,7 +214,6 @@ void frmBrowse::PickFile(std::wstring_view name) {
   if (!Adding()) return;
   TextAddName.SetText({});
   TextAddPath.SetText(std::wstring(state_.BrowseFolder).append(name));
-  TextAddName.SetFocus();
 }
 
 void frmBrowse::FileWork_DblClick() {
@@ -240,14 +243,21 @@ void frmBrowse::CommandAddOK_Click() {
   PictureNo.SetFocus();
   const std::wstring path = TextAddPath.Text();
   if (path.empty()) return FileWork.SetFocus();  // a name is left from before, but nothing is chosen
-  if (RefusedByPlace(path)) return;
+  if (RefusedByPlace(path)) return PathSource().SetFocus();
   const list::LaunchGroup group = GroupOf(context_.Services, state_.WhatToAdd, path);
   const list::AddBox box{TextAddPath, TextAddName, FrameAddedInfo};
   const list::AddResult result =
       list::AddUnlessListed(box, list_, group, BannerOf(group), context_.Messages, context_.Services.Language);
-  const bool showsFiles = state_.WhatToAdd != AddKind::Folder;
-  if (result == list::AddResult::PathListed || (result == list::AddResult::Added && showsFiles)) FileWork.Refresh();
+  if (result == list::AddResult::PathListed || (result == list::AddResult::Added && !ChoosesFolder()))
+    FileWork.Refresh();
+  if (result == list::AddResult::PathListed) PathSource().SetFocus();
   if (result == list::AddResult::Added) context_.Host.ClearLine();
+}
+
+form::Control& frmBrowse::PathSource() {
+  if (ChoosesFolder()) return DirWork;
+  if (state_.PickerDriveType != NoPickerDriveType) return CommandFindPath;
+  return FileWork;
 }
 
 bool frmBrowse::RefusedByPlace(std::wstring_view path) {

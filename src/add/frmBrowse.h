@@ -118,6 +118,9 @@ class frmBrowse : public form::Form {
   void NoteDrive();
   void NoteFolder();
   void PickFile(std::wstring_view name);
+  [[nodiscard]] bool ChoosesFolder() const { return state_.WhatToAdd == AddKind::Folder; }
+  /// What the path in the box was chosen by.
+  [[nodiscard]] form::Control& PathSource();
   [[nodiscard]] bool RefusedByPlace(std::wstring_view path);
   void StopFinder();
   /// False when there is nothing of this path to go to.

@@ -48,6 +48,7 @@ void frmBrowse::ChooseFile(std::wstring_view name) {
     FileWork.SetListIndex(static_cast<int>(found - files.begin()));
   else
     PickFile(name);  // a hidden file is in no list
+  TextAddName.SetFocus();
 }
 
 }  // namespace vantor::add

@@ -88,6 +88,7 @@ void frmMain::HandleEvents() {
   messages.Connect(TextMain.Wheel, L"TextMain_Wheel", this, &frmMain::TextMain_Wheel);
   messages.Connect(TextMain.Compose, L"TextMain_Compose", this, &frmMain::TextMain_Compose);
   messages.Connect(parts_.Matches.ListMatches.Click, L"ListMatches_Click", this, &frmMain::ListMatches_Click);
+  TextMain.KeyDone = [this] { commandLine_.TextMain_KeyDone(); };
   messages.Connect(TextMain.DblClick, L"TextMain_DblClick", this, &frmMain::EmptyTextMain);
   messages.Connect(TimerOnTop.Tick, L"TimerOnTop_Timer", this, &frmMain::TimerOnTop_Timer);
   messages.Connect(TimerWatchOnTop.Tick, L"TimerWatchOnTop_Timer", this, &frmMain::TimerWatchOnTop_Timer);
@@ -284,9 +285,12 @@ void frmMain::CommandWeb_Click() {
   Web.SetShown(addWebShown_);
   ShowWidth();
   ShowWebFace();
+  const form::Rect bar = Bounds();
   if (addWebShown_) {
-    const form::Rect& bar = Bounds();
     MoveTo(std::min(bar.Left, Ui().ScreenAt(bar).Bounds.Right() - bar.Width), bar.Top);
+    pull_ = {bar.Left, Bounds().Left, bar.Top};
+  } else if (bar.Left == pull_.To && bar.Top == pull_.Top) {
+    MoveTo(pull_.From, bar.Top);
   }
   parts_.Panels.BarMoved();
   ClearLine();
@@ -314,7 +318,12 @@ void frmMain::ClearLine() {
 // --- hot keys
 
 void frmMain::Form_KeyUp(form::Key key) {
-  parts_.Messages.Trap(L"Form_KeyUp", [&] { HotKey(key); });
+  parts_.Messages.Trap(L"Form_KeyUp", [&] {
+    if (key != Key::Escape)
+      HotKey(key);
+    else if (ActiveControl() != &TextMain && !Web.Composing())  // the line has had it as a character
+      commandLine_.Escape();
+  });
 }
 
 void frmMain::HotKey(form::Key key) {

@@ -70,6 +70,8 @@ class frmMain : public form::Form, public panel::MenuBar, private command::LineO
 
   /// Unfolds the add-web box with an address in it, ready for the name.
   void OfferWebSite(std::wstring_view address);
+  /// The list has changed: the line is completed by what is in it now.
+  void CompleteLine() { commandLine_.CompleteAgain(); }
 
   [[nodiscard]] form::Rect Place() const override { return Bounds(); }
   void ShowMenuFaces() override;
@@ -131,6 +133,12 @@ class frmMain : public form::Form, public panel::MenuBar, private command::LineO
   form::Twips narrowWidth_ = 0;  // to the right edge of CommandExit
   form::Twips wideWidth_ = 0;    // to the right edge of the unfolded add-web box
   bool addWebShown_ = false;
+  /// What unfolding the add-web box last did to the bar's left edge.
+  struct Pull {
+    form::Twips From = 0;
+    form::Twips To = 0;
+    form::Twips Top = 0;
+  } pull_;
   std::int16_t idleTicks_ = 0;
 };
 

@@ -1,10 +1,12 @@
 #include "command/CommandLine.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
 #include "command/BuiltInActions.h"
 #include "command/CodeTables.h"
+#include "command/LineState.h"
 #include "form/Keys.h"
 #include "form/Scoped.h"
 #include "list/NameMatch.h"
@@ -59,6 +61,7 @@ void CommandLine::TextMain_Change() {
   state_.MailTargetIndex = NoIndex;
   recall_.Leave();
   const bool byBackspace = std::exchange(state_.BackspaceFlag, false);
+  if (!textMain_.Composing() && KeepDigits()) return walk_.Hide();
   const std::wstring text = textMain_.Text();  // a copy: completing replaces the box's own
   const std::wstring_view line(text);
   const CommandCode* const code = text.size() > CodeLength && !textMain_.Composing() ? CodeOf(line) : nullptr;
@@ -168,6 +171,35 @@ void CommandLine::Escape() {
   } else {
     owner_.ClosePanel();
   }
+}
+
+void CommandLine::CompleteAgain() {
+  if (state_.MatchedItemIndex == NoIndex) return;
+  LineState line = ReadLine(textMain_, state_);
+  const CommandCode* const code = CodeOf(line.Text);
+  if (code == nullptr || code->Argument != Argument::ItemName) return;
+  const auto typedEnd = static_cast<std::size_t>(line.SelStart);
+  const bool proposes =
+      typedEnd > CodeLength && typedEnd + static_cast<std::size_t>(line.SelLength) == line.Text.size();
+  if (proposes) line.Text.resize(typedEnd);
+  PutLine({line.Text, proposes ? line.SelStart : static_cast<int>(line.Text.size())}, textMain_, state_);
+  const std::wstring_view typed(line.Text);
+  CompleteFromTable(typed.substr(0, CodeLength), typed.substr(CodeLength), {*code, list_, environment_});
+}
+
+bool CommandLine::KeepDigits() {
+  const CommandCode* const code = CodeOf(textMain_.Text());
+  if (code == nullptr || code->Starter != Starter::Telephone) return false;
+  const auto isOther = [](wchar_t c) { return c < L'0' || c > L'9'; };
+  std::wstring text = textMain_.Text();
+  const auto number = text.begin() + static_cast<std::ptrdiff_t>(CodeLength);
+  const auto caret = std::max(number, text.begin() + textMain_.SelStart());
+  const auto before = std::count_if(number, caret, isOther);
+  const auto end = std::remove_if(number, text.end(), isOther);
+  if (end == text.end()) return false;
+  text.erase(end, text.end());
+  PutLine({text, textMain_.SelStart() - static_cast<int>(before)}, textMain_, state_);
+  return true;
 }
 
 bool CommandLine::CompleteFromTable(std::wstring_view prefix, std::wstring_view typed, const Candidates& table) {

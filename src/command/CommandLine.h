@@ -41,6 +41,12 @@ class CommandLine {
   void TextMain_Wheel(int rows) { walk_.Scroll(rows); }
   void TextMain_Compose(bool composing) { walk_.GiveWay(composing); }
   void ListMatches_Click(int row);
+  void TextMain_KeyDone() { state_.BackspaceFlag = false; }
+  /// Escape, whichever control of the bar has the focus: closes the open panel and empties the line, or minimises.
+  void Escape();
+  /// The list has changed: what the line was completed to is looked for again. Where nothing fits any more, the line
+  /// keeps what was typed.
+  void CompleteAgain();
 
  private:
   // What Enter does.
@@ -53,11 +59,12 @@ class CommandLine {
   void Start(const CommandCode& code, const std::wstring& target);
   [[nodiscard]] message::MessageKey StartBy(const CommandCode& code, const std::wstring& target) const;
 
-  void Escape();
-
   [[nodiscard]] const CommandCode* CodeOf(std::wstring_view text) const {
     return command::CodeOf(text, services_.Language);
   }
+
+  /// Takes out of a telephone number what is no digit. Returns whether there was something.
+  bool KeepDigits();
 
   // What type-ahead does.
   /// Completes to the first entry that begins with `typed`, and records it; false when there is none.

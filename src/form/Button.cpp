@@ -1,6 +1,7 @@
 #include "form/Button.h"
 
 #include "form/Form.h"
+#include "form/Keys.h"
 #include "form/Static.h"
 
 namespace vantor::form {
@@ -97,6 +98,7 @@ void CheckBox::InputClick() {
 
 void CheckBox::InputCharacter(wchar_t character) {
   if (character == L' ') InputClick();
+  if (character == CharEnter && AcceptsInput()) Enter();
 }
 
 std::vector<OptionButton*> OptionButton::Group() {

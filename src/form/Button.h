@@ -98,6 +98,8 @@ class CheckBox : public ChoiceButton {
   template <class Parent>
   CheckBox(Parent& parent, std::wstring_view name) : ChoiceButton(parent, name) {}
 
+  Event<> Enter;  // the key was pressed, which does not tick the box
+
   void SetValue(bool value) override;
   void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
   void InputClick() override;

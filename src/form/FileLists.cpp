@@ -67,6 +67,8 @@ void DriveList::SetDrive(std::wstring_view path) {
   SetListIndex(static_cast<int>(found - list_.begin()));
 }
 
+bool DriveList::Ready(int index) const { return files_.DriveReady(TidyFolder(text::DriveName(List(index)))); }
+
 bool FolderList::SetPath(std::wstring_view path) {
   std::wstring folder = TidyFolder(path);
   if (folder == path_) return true;

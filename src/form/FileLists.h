@@ -24,6 +24,10 @@ class DriveList : public DropDownList {
   /// one that is not in the list is added to it.
   void SetDrive(std::wstring_view path);
 
+  [[nodiscard]] bool ChoosesAtEnd() const override { return true; }
+  /// Whether the drive can be read now.
+  [[nodiscard]] bool Ready(int index) const override;
+
   Event<> Change;
 
  protected:
@@ -81,6 +85,12 @@ class FileList : public OpenList {
   void SetPattern(std::wstring_view pattern);
   /// Reads the folder anew; none is selected then. A folder that can't be read shows as empty.
   void Refresh();
+
+ protected:
+  /// Enter on a file is as good as a click on it.
+  void EnterPressed() override {
+    if (ListIndex() != -1) Click();
+  }
 
  private:
   service::FileSystem& files_;

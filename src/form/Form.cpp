@@ -85,7 +85,8 @@ void Form::LeaveModal() {
 
 bool Form::AcceptsInput() const {
   const Form* modal = ui_.ModalForm();
-  return visible_ && !ui_.Ended() && (modal == nullptr || modal == this);
+  const bool inSight = visible_ && windowState_ != WindowState::Minimized;
+  return inSight && !ui_.Ended() && (modal == nullptr || modal == this);
 }
 
 void Form::SetCaption(std::wstring_view caption) {
@@ -156,16 +157,14 @@ void Form::MoveInto(const Rect& area) {
 }
 
 void Form::Drag() {
-  if (window_ == nullptr) return;
+  if (window_ == nullptr || dragging_) return;
   HideHanging();
   const Scoped dragging(dragging_, true);
   window_->Drag();
 }
 
 void Form::Activate() {
-  // A minimised window stays so.
-  if (window_ != nullptr && host_ == nullptr && AcceptsInput() && windowState_ != WindowState::Minimized)
-    window_->Activate();
+  if (window_ != nullptr && host_ == nullptr && AcceptsInput()) window_->Activate();
 }
 
 void Form::MoveFocus(bool backwards) {

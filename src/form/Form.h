@@ -67,7 +67,7 @@ class Form {
   void ShowModal();
   void Hide();
   [[nodiscard]] bool Visible() const { return visible_; }
-  /// Shown, and no modal form stands before it.
+  /// Shown and not minimised, and no modal form stands before it.
   [[nodiscard]] bool AcceptsInput() const;
 
   /// The form that this one hangs on, as a drop-down list does; null for none. Such a form never has the focus and is
@@ -104,7 +104,8 @@ class Form {
   void SetTopMost(bool topMost);
   /// Moves the form as little as brings it into an area.
   void MoveInto(const Rect& area);
-  /// Lets the user move the form with the mouse button that is held; Bounds are the new ones on return.
+  /// Lets the user move the form with the mouse button that is held; Bounds are the new ones on return. Does nothing
+  /// while the form is dragged already.
   void Drag();
   void Activate();
   /// Whether the user works in the form.

@@ -108,11 +108,18 @@ void Headless::Press(Key key) {
     MoveCaret(*box, box->InputKeyDown(key));
   } else if (auto* list = dynamic_cast<ListControl*>(control);
              list != nullptr && (key == Key::Up || key == Key::Down)) {
-    list->InputSelect(std::clamp(list->ListIndex() + (key == Key::Down ? 1 : -1), std::min(0, list->ListCount() - 1),
-                                 list->ListCount() - 1));
+    list->InputWalk(list->ListIndex() + (key == Key::Down ? 1 : -1));
   }
   form = ActiveForm();  // the key is let go over whatever has the focus now
   if (form != nullptr) form->InputKeyUp(key);
+}
+
+void Headless::PressControl(Key key) {
+  const Form* const form = ActiveForm();
+  auto* const box = form != nullptr ? dynamic_cast<TextBox*>(form->ActiveControl()) : nullptr;
+  if (box == nullptr || !box->AcceptsInput()) return;
+  if (key == Key::Back) box->InputWordBack();
+  if (key == Key::A) box->InputSelection(0, static_cast<int>(box->Text().size()));
 }
 
 void Headless::Click(Control& control) {

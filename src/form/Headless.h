@@ -43,6 +43,8 @@ class Headless : public UserInterface {
   void Type(std::wstring_view text);
   /// Presses and lets go a key; for the text keys this types their character too.
   void Press(Key key);
+  /// Presses a key with Ctrl: Backspace or A, in a text box.
+  void PressControl(Key key);
   void Click(Control& control);
   void DoubleClick(Control& control);
   /// Presses the mouse over a row and lets it go there.

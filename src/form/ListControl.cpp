@@ -1,9 +1,11 @@
 #include "form/ListControl.h"
 
+#include <algorithm>
 #include <stdexcept>
 #include <utility>
 
 #include "form/Keys.h"
+#include "form/Scoped.h"
 
 namespace vantor::form {
 
@@ -17,12 +19,43 @@ void ListControl::SetListIndex(int index) {
 
 std::wstring ListControl::Text() const { return listIndex_ == -1 ? std::wstring() : List(listIndex_); }
 
-void ListControl::InputSelect(int index) {
-  if (AcceptsInput()) SetListIndex(index);
+void ListControl::InputSelect(int index, ListInput how) {
+  if (!AcceptsInput()) return;
+  const Scoped input(input_, how);
+  const bool walkedHere = std::exchange(walked_, how == ListInput::Walk) && index == listIndex_ && index != -1;
+  if (walkedHere && how != ListInput::Walk)
+    EntrySelected();
+  else
+    SetListIndex(index);
+}
+
+void ListControl::InputWalk(int index) {
+  if (list_.empty()) return;
+  const int wanted = std::clamp(index, 0, ListCount() - 1);
+  const int step = wanted < listIndex_ ? -1 : 1;
+  int entry = wanted;
+  while (entry >= 0 && entry < ListCount() && !Ready(entry)) entry += step;
+  if (entry < 0 || entry >= ListCount()) {
+    entry = wanted;
+    while (entry >= 0 && entry < ListCount() && entry != listIndex_ && !Ready(entry)) entry -= step;
+  }
+  if (entry >= 0 && entry < ListCount()) InputSelect(entry, ListInput::Walk);
 }
 
 void ListControl::InputDblClick() {
   if (!AcceptsInput()) return;
+  const Scoped input(input_, ListInput::Click);
+  ChooseEntry();
+}
+
+void ListControl::InputEnter() {
+  if (!AcceptsInput()) return;
+  const Scoped input(input_, ListInput::Enter);
+  EnterPressed();
+  ChooseEntry();
+}
+
+void ListControl::ChooseEntry() {
   DblClick();
   if (listIndex_ != -1) EntryChosen();
 }
@@ -39,7 +72,7 @@ Size DropDownList::LeastSize() const {
 }
 
 void OpenList::InputCharacter(wchar_t character) {
-  if (character == CharEnter) InputDblClick();
+  if (character == CharEnter) InputEnter();
 }
 
 void ComboBox::AddItem(std::wstring_view text) {

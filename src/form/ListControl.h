@@ -9,6 +9,14 @@
 
 namespace vantor::form {
 
+/// What the user does to a list.
+enum class ListInput {
+  None,
+  Click,  // by mouse
+  Walk,   // from entry to entry, by arrows, letters or the wheel
+  Enter,
+};
+
 /// What the list kinds share: entries in order, and the index of the one that is selected (-1: none).
 class ListControl : public Control {
  public:
@@ -27,9 +35,19 @@ class ListControl : public Control {
   Event<> Click;
   Event<> DblClick;
 
+  /// What the event under way comes from; None for what the program does itself.
+  [[nodiscard]] ListInput Input() const { return input_; }
+  /// Whether the user can walk to an entry. What can't be walked to may still be chosen.
+  [[nodiscard]] virtual bool Ready(int /*index*/) const { return true; }
+
   // The user's doings, reported by the back end.
-  void InputSelect(int index);
+
+  void InputSelect(int index, ListInput how = ListInput::Click);
+  /// Walks to an entry, or to the nearest one that is ready: beyond it, or else before it. An index beyond the ends
+  /// is taken as the end's.
+  void InputWalk(int index);
   void InputDblClick() override;
+  void InputEnter();
 
  protected:
   using Control::Control;
@@ -40,14 +58,24 @@ class ListControl : public Control {
   virtual void EntrySelected() { Click(); }
   /// What a double click, or Enter on an entry, does beyond telling it.
   virtual void EntryChosen() {}
+  /// What Enter does before it counts as a double click.
+  virtual void EnterPressed() {}
 
   std::vector<std::wstring> list_;
   int listIndex_ = -1;
+
+ private:
+  void ChooseEntry();
+
+  ListInput input_ = ListInput::None;
+  bool walked_ = false;  // to the selected entry, which has not been clicked on
 };
 
 /// A list that shows its chosen entry, and the others when it is dropped down.
 class DropDownList : public ListControl {
  public:
+  /// Whether the arrows in the dropped list only show the way, so that Enter or a click chooses.
+  [[nodiscard]] virtual bool ChoosesAtEnd() const { return false; }
   void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
   [[nodiscard]] Size LeastSize() const override;
 

@@ -34,6 +34,21 @@ Key TextBox::InputKeyDown(Key key) {
   return key;
 }
 
+int TextBox::WordStart() const {
+  if (selLength_ > 0) return selStart_;
+  const auto kind = [](wchar_t c) {
+    if (c == L' ') return 0;
+    const bool word = c > 0x7F || (c >= L'0' && c <= L'9') || (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z');
+    return word ? 1 : 2;
+  };
+  auto start = static_cast<std::size_t>(selStart_);
+  while (start > 0 && kind(text_[start - 1]) == 0) --start;
+  if (start == 0) return 0;
+  const int taken = kind(text_[start - 1]);
+  while (start > 0 && kind(text_[start - 1]) == taken) --start;
+  return static_cast<int>(start);
+}
+
 void TextBox::InputEdited(std::wstring_view text, int selStart, int selLength) {
   if (!AcceptsInput() || locked_) return;
   InputSelection(selStart, selLength);
@@ -64,22 +79,26 @@ void TextBox::InputWheel(int rows) {
 
 void TextBox::InputCharacter(wchar_t character) {
   const wchar_t applied = InputKeyPress(character);
-  std::wstring edited = text_;
-  auto start = static_cast<std::size_t>(selStart_);
-  auto length = static_cast<std::size_t>(selLength_);
   if (applied == CharBackspace) {
-    if (length == 0 && start > 0) {
-      --start;
-      length = 1;
-    }
-    edited.erase(start, length);
+    InputErase(selLength_ > 0 ? selStart_ : std::max(selStart_ - 1, 0));
   } else if (applied >= L' ') {
-    edited.replace(start, length, 1, applied);
-    ++start;
-  } else {
-    return;
+    std::wstring edited = text_;
+    edited.replace(static_cast<std::size_t>(selStart_), static_cast<std::size_t>(selLength_), 1, applied);
+    InputEdited(edited, selStart_ + 1, 0);
   }
-  InputEdited(edited, static_cast<int>(start), 0);
+  KeyDone();
+}
+
+void TextBox::InputWordBack() {
+  if (InputKeyPress(CharBackspace) == CharBackspace) InputErase(WordStart());
+  KeyDone();
+}
+
+/// Takes away what is between a place and the selection's end.
+void TextBox::InputErase(int start) {
+  std::wstring edited = text_;
+  edited.erase(static_cast<std::size_t>(start), static_cast<std::size_t>(selStart_ + selLength_ - start));
+  InputEdited(edited, start, 0);
 }
 
 Size TextBox::LeastSize() const {

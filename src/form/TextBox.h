@@ -35,6 +35,10 @@ class TextBox : public Control {
   /// An input method is composing: what stands in the box is not final yet.
   [[nodiscard]] bool Composing() const { return composing_; }
 
+  /// Where that begins which Ctrl and Backspace take: what is selected, or the blanks before the caret and the word, or
+  /// the run of other signs, before those.
+  [[nodiscard]] int WordStart() const;
+
   Event<> Change;
   Event<wchar_t&> KeyPress;  // before the character is applied; 0 swallows it
   /// A key that moves the caret was pressed alone; None in its place swallows it. Not told while an input method
@@ -43,6 +47,8 @@ class TextBox : public Control {
   Event<int /*rows*/> Wheel;  // turned over the box; down is positive
   /// An input method begins to compose (true), or ends without having changed the text (false).
   Event<bool> Compose;
+  /// A character key, or one that edits, has had its effect, if there was any.
+  Event<> KeyDone;
   Event<> DblClick;
 
   void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
@@ -54,6 +60,9 @@ class TextBox : public Control {
   Key InputKeyDown(Key key);
   /// A character key. Returns the character to apply, 0 for none.
   wchar_t InputKeyPress(wchar_t character);
+  void InputKeyDone() { KeyDone(); }
+  /// Ctrl and Backspace.
+  void InputWordBack();
   /// The text as the user's editing left it.
   void InputEdited(std::wstring_view text, int selStart, int selLength);
   void InputSelection(int selStart, int selLength);
@@ -64,6 +73,8 @@ class TextBox : public Control {
   void InputWheel(int rows);
 
  private:
+  void InputErase(int start);
+
   std::wstring text_;
   int selStart_ = 0;
   int selLength_ = 0;

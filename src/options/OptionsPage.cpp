@@ -55,6 +55,7 @@ void OptionsPage::ConnectEvents() {
     CheckOptionMain[i].Click = [this, i] {
       context_.Messages.Trap(L"CheckOptionMain_Click", [&] { CheckOptionMain_Click(i); });
     };
+    CheckOptionMain[i].Enter = [this] { CommandOptionOK.DoClick(); };
   }
   messages.Connect(CommandOptionOK.Click, L"CommandOptionOK_Click", this, &OptionsPage::CommandOptionOK_Click);
   messages.Connect(CommandOptionCancel.Click, L"CommandOptionCancel_Click", this,

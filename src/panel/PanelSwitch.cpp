@@ -28,6 +28,7 @@ void PanelSwitch::Click(std::size_t index) {
     bar_->PauseOnTop();
     if (const message::MessageKey refusal = panel.Refusal(); !refusal.empty()) {
       state_.OpenPanelIndex = command::NoIndex;
+      bar_->ShowMenuFaces();  // the message takes its time
       messages_.ShowList(refusal);
     }
   } else {

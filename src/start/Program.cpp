@@ -11,6 +11,7 @@ Program::Program(form::UserInterface& ui, const service::Services& services) : U
     form->SetAcceptsDrops(true);
     form->Dropped = [this](const form::DroppedItems& items) { Take(items); };
   }
+  ListPage.Changed = [this] { frmMain.CompleteLine(); };
 }
 
 void Program::Main() {

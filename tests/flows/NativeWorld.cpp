@@ -137,6 +137,7 @@ class NativeWorld : public World {
     program_->Main();
   }
   void Press(form::Key key) override { desk_->Press(key); }
+  void PressControl(form::Key key) override { desk_->PressControl(key); }
   void Type(const Text& text) override { desk_->Type(text); }
   void Paste(const Text& text) override {
     form::TextBox& box = FocusedBox();

@@ -53,6 +53,11 @@ constexpr std::pair<std::wstring_view, form::Key> Keys[] = {{L"Backspace", form:
                                                             {L"Left", form::Key::Left},
                                                             {L"Right", form::Key::Right},
                                                             {L"Delete", form::Key::Delete},
+                                                            {L"A", form::Key::A},
+                                                            {L"C", form::Key::C},
+                                                            {L"V", form::Key::V},
+                                                            {L"X", form::Key::X},
+                                                            {L"Z", form::Key::Z},
                                                             {L"F1", form::Key::F1},
                                                             {L"F2", form::Key::F2},
                                                             {L"F3", form::Key::F3},
@@ -203,10 +208,12 @@ class Player : public Steps {
   // --- what the user does
 
   void Press(const Text& rest) {
-    for (const Text& word : Words(rest)) {
+    for (const Text& pressed : Words(rest)) {
+      const bool control = pressed.starts_with(L"Ctrl+");
+      const Text word = control ? pressed.substr(5) : pressed;
       const auto* const key = std::ranges::find(Keys, word, &std::pair<std::wstring_view, form::Key>::first);
       if (key == std::end(Keys)) throw Failure("no such key: " + Narrow(word));
-      world_->Press(key->second);
+      control ? world_->PressControl(key->second) : world_->Press(key->second);
     }
   }
   /// In the place of what stands in the bar's box.

@@ -204,16 +204,19 @@ class RealWorld : public World {
     AwaitInput();
     input::Press(static_cast<WORD>(key));
   }
+  void PressControl(form::Key key) override {
+    AwaitInput();
+    input::Key(VK_CONTROL, 0, 0);
+    input::Press(static_cast<WORD>(key));
+    input::Key(VK_CONTROL, 0, KEYEVENTF_KEYUP);
+  }
   void Type(const Text& text) override {
     AwaitInput();
     input::Type(Narrow(text));
   }
   void Paste(const Text& text) override {
-    AwaitInput();
     PutOnClipboard(text);
-    input::Key(VK_CONTROL, 0, 0);
-    input::Press('V');
-    input::Key(VK_CONTROL, 0, KEYEVENTF_KEYUP);
+    PressControl(form::Key::V);
   }
   void Compose(bool /*begins*/, const Text& /*text*/) override { throw Failure("there is no input method here"); }
   void Click(const Text& control, const Text& entry, bool twice) override {
@@ -272,12 +275,15 @@ class RealWorld : public World {
   }
   void Drag(int right, int down) override {
     const RECT exit = window::Bounds(Find(L"CommandExit"));
-    const MouseHeld held(*this, {exit.left - 2, (exit.top + exit.bottom) / 2});
-    mouse_.x += 4;  // the first move begins the drag, which goes by where the mouse is then
-    input::Mouse(mouse_);
-    Await("the bar to be dragged", [this] { return (ThreadOfBar().flags & GUI_INMOVESIZE) != 0; });
-    mouse_ = {mouse_.x + right, mouse_.y + down};
-    input::Mouse(mouse_);
+    {
+      const MouseHeld held(*this, {exit.left - 2, (exit.top + exit.bottom) / 2});
+      mouse_.x += 4;  // the first move begins the drag, which goes by where the mouse is then
+      input::Mouse(mouse_);
+      Await("the bar to be dragged", [this] { return (ThreadOfBar().flags & GUI_INMOVESIZE) != 0; });
+      mouse_ = {mouse_.x + right, mouse_.y + down};
+      input::Mouse(mouse_);
+    }
+    input::Mouse({mouse_.x, mouse_.y + 60});  // the hand goes on
   }
   void Drop(const Texts& /*paths*/) override { throw Failure("nothing can be dropped here"); }
   void Restore() override {

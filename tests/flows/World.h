@@ -64,6 +64,7 @@ class World {
   // The user.
   virtual void Start() = 0;
   virtual void Press(form::Key key) = 0;
+  virtual void PressControl(form::Key key) = 0;
   virtual void Type(const Text& text) = 0;
   virtual void Paste(const Text& text) = 0;
   /// An input method begins and types, or types and ends.

@@ -183,6 +183,7 @@ void GroupFrame::RenOK_Click() {
   }
   Name.SetList(Name.ListIndex(), newName);
   RenCancel_Click();
+  Changed();
 }
 
 void GroupFrame::RenCancel_Click() {
@@ -197,6 +198,8 @@ void GroupFrame::Remove_Click() {
   Path.RemoveItem(index);
   if (Path.ListCount() > 0) Path.SetListIndex(0);
   EnableByCount();
+  Name.SetFocus();  // not the button, which another key press would remove the next item by
+  Changed();
 }
 
 }  // namespace vantor::list

@@ -28,6 +28,8 @@ class GroupFrame {
 
   /// Starts a target, after the panel has closed.
   form::Event<std::wstring_view /*target*/> Start;
+  /// An item was removed, or has another name.
+  form::Event<> Changed;
 
   form::Frame Frame;
   form::Label LabelName;

@@ -25,6 +25,7 @@ ListPage::ListPage(panel::frmChoose& form, const panel::PanelContext& context, L
       files_(files) {
   for (const LaunchGroup group : LaunchGroups) {
     Of(group).Start = [this, group](std::wstring_view target) { Start(group, target); };
+    Of(group).Changed = [this] { Changed(); };
   }
 }
 

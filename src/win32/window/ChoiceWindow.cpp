@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "form/Keys.h"
+
 namespace vantor::win32 {
 
 ChoiceWindow::ChoiceWindow(FormWindow& owner, form::ChoiceButton& button, DWORD style)
@@ -71,6 +73,15 @@ void CheckWindow::Describe(AccessibleState& state) const {
   state.Role = ROLE_SYSTEM_CHECKBUTTON;
   state.Action = Chosen() ? L"Uncheck" : L"Check";
   if (Chosen()) state.State |= STATE_SYSTEM_CHECKED;
+}
+
+LRESULT CheckWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_KEYDOWN && wParam == VK_RETURN) {
+    const bool first = (HIWORD(lParam) & KF_REPEAT) == 0;
+    if (first) box_.InputCharacter(form::CharEnter);
+    return 0;
+  }
+  return ChoiceWindow::OnMessage(message, wParam, lParam);
 }
 
 void OptionWindow::Describe(AccessibleState& state) const {

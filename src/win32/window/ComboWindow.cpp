@@ -4,8 +4,10 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "form/Scoped.h"
 #include "win32/draw/ListRow.h"
 
 namespace vantor::win32 {
@@ -97,11 +99,17 @@ void ComboWindow::OnCommand(WORD notification) {
       Default(CB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()));
       break;
     case CBN_SELCHANGE:
-      list_.InputSelect(static_cast<int>(Default(CB_GETCURSEL)));
+      if (!list_.ChoosesAtEnd()) list_.InputSelect(static_cast<int>(Default(CB_GETCURSEL)));
+      break;
+    case CBN_SELENDOK:
+      if (list_.ChoosesAtEnd()) chosen_ = static_cast<int>(Default(CB_GETCURSEL));
       break;
     case CBN_CLOSEUP:
       typed_.clear();  // what is typed next begins anew
       Redraw();
+      if (const auto chosen = std::exchange(chosen_, {})) {
+        list_.InputSelect(*chosen, entering_ ? form::ListInput::Enter : form::ListInput::Click);
+      }
       break;
     default:
       break;
@@ -210,33 +218,29 @@ LRESULT CALLBACK ComboWindow::ListProcedure(HWND list, UINT message, WPARAM wPar
   return CallWindowProcW(window.listProcedure_, list, message, wParam, lParam);
 }
 
-void ComboWindow::Choose(int index) {
-  if (list_.ListCount() > 0) list_.InputSelect(std::clamp(index, 0, list_.ListCount() - 1));
-}
-
 /// The keys that choose an entry while the list is not dropped.
 bool ComboWindow::OnKey(WPARAM key) {
   const int index = list_.ListIndex();
   switch (key) {
     case VK_UP:
     case VK_LEFT:
-      Choose(index - 1);
+      list_.InputWalk(index - 1);
       return true;
     case VK_DOWN:
     case VK_RIGHT:
-      Choose(index + 1);
+      list_.InputWalk(index + 1);
       return true;
     case VK_PRIOR:
-      Choose(index - ShownLines);
+      list_.InputWalk(index - ShownLines);
       return true;
     case VK_NEXT:
-      Choose(index + ShownLines);
+      list_.InputWalk(index + ShownLines);
       return true;
     case VK_HOME:
-      Choose(0);
+      list_.InputWalk(0);
       return true;
     case VK_END:
-      Choose(list_.ListCount() - 1);
+      list_.InputWalk(list_.ListCount() - 1);
       return true;
     default:
       return false;
@@ -256,7 +260,12 @@ bool ComboWindow::OnCharacter(wchar_t character) {
   for (int i = 0; i < count; ++i) {
     const int index = (std::max(from, 0) + i) % count;
     if (!BeginsWith(list_.List(index), typed_)) continue;
-    Choose(index);
+    if (IsDropped() && list_.ChoosesAtEnd()) {
+      Default(CB_SETCURSEL, static_cast<WPARAM>(index));
+      break;
+    }
+    if (!list_.Ready(index)) continue;
+    list_.InputWalk(index);
     if (!Retired() && IsDropped()) Default(CB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()));
     break;
   }
@@ -270,13 +279,17 @@ LRESULT ComboWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_KEYDOWN:
       if (wParam == VK_F4) return 0;  // it would drop the list, but belongs to the form; Alt and Down do so as well
       if (!IsDropped() && OnKey(wParam)) return 0;
+      if (wParam == VK_RETURN) {
+        const form::Scoped entering(entering_, true);
+        return OnMessageWithEdge(message, wParam, lParam, LineThickness());
+      }
       break;
     case WM_CHAR:
       if (OnCharacter(static_cast<wchar_t>(wParam))) return 0;
       break;
     case WM_MOUSEWHEEL:
       if (IsDropped()) break;
-      Choose(list_.ListIndex() + (static_cast<short>(HIWORD(wParam)) > 0 ? -1 : 1));
+      list_.InputWalk(list_.ListIndex() + (static_cast<short>(HIWORD(wParam)) > 0 ? -1 : 1));
       return 0;
     case WM_CTLCOLORLISTBOX:
     case WM_CTLCOLOREDIT:

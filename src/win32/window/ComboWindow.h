@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "form/ListControl.h"
 #include "win32/window/ControlWindow.h"
 
@@ -32,7 +35,6 @@ class ComboWindow final : public ControlWindow {
   static LRESULT CALLBACK ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam);
   bool OnKey(WPARAM key);
   bool OnCharacter(wchar_t character);
-  void Choose(int index);
   void FitList();
   void FitWidth();
 
@@ -41,6 +43,8 @@ class ComboWindow final : public ControlWindow {
   int shownCount_ = 0;  // entries of the window's list
   std::wstring typed_;  // the beginning of the entry that is looked for by keys
   DWORD typedAt_ = 0;
+  std::optional<int> chosen_;  // until the list has closed: what comes of the choice may take its time
+  bool entering_ = false;      // Enter is being handled
 };
 
 }  // namespace vantor::win32

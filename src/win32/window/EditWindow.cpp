@@ -14,8 +14,7 @@ namespace vantor::win32 {
 namespace {
 
 constexpr WPARAM LongestText = 0x7FFFFFFE;
-constexpr WPARAM CharSelectAll = 1;       // Ctrl and A
-constexpr WPARAM CharControlBack = 0x7F;  // Ctrl and Backspace, which the edit would show as a box
+constexpr WPARAM CharControlBack = 0x7F;
 
 struct Selection {
   DWORD Start = 0;
@@ -27,6 +26,13 @@ bool MaySelect(UINT message) {
   return (message >= WM_KEYFIRST && message <= WM_KEYLAST) || (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) ||
          message == EM_SETSEL || message == WM_SETFOCUS || message == WM_UNDO || message == EM_UNDO ||
          (message >= WM_CUT && message <= WM_CLEAR) || message == WM_COMMAND || message == WM_CONTEXTMENU;
+}
+
+/// The keys that edit together with Ctrl, and the characters that come of them. They are done with at key down.
+bool IsEditingCharacter(WPARAM character) {
+  const auto of = [](form::Key letter) { return static_cast<WPARAM>(letter) - L'A' + 1; };
+  return character == CharControlBack || character == of(form::Key::A) || character == of(form::Key::C) ||
+         character == of(form::Key::V) || character == of(form::Key::X) || character == of(form::Key::Z);
 }
 
 /// Whether a key moves the caret, being pressed alone.
@@ -94,6 +100,7 @@ LRESULT EditWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   --depth_;
   if (depth_ > 0 || showing_ || Retired()) return result;
   if (edited_ || MaySelect(message)) Report();
+  if ((message == WM_CHAR || message == WM_KEYDOWN) && !Retired()) box_.InputKeyDone();
   if (std::exchange(composed_, false) && !Retired()) box_.InputComposing(false);
   return result;
 }
@@ -125,6 +132,7 @@ std::wstring EditWindow::ShownText() const {
 LRESULT EditWindow::Process(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_KEYDOWN:
+      if (OnEditingKey(static_cast<form::Key>(wParam))) return 0;
       if (MovesCaret(wParam) && box_.InputKeyDown(static_cast<form::Key>(wParam)) == form::Key::None) return 0;
       break;
     case WM_CHAR:
@@ -185,7 +193,39 @@ LRESULT EditWindow::OnWheel(WPARAM wParam, LPARAM lParam) {
   return 0;
 }
 
+/// What Ctrl and a key do, whichever characters the control lets through. Returns whether they do something.
+bool EditWindow::OnEditingKey(form::Key key) {
+  if (GetKeyState(VK_CONTROL) >= 0 || GetKeyState(VK_MENU) < 0 || GetKeyState(VK_SHIFT) < 0) return false;
+  switch (key) {
+    case form::Key::Back:
+      // For the control it is a Backspace that takes more.
+      if (box_.InputKeyPress(form::CharBackspace) == form::CharBackspace && !Retired()) {
+        Default(EM_SETSEL, static_cast<WPARAM>(box_.WordStart()), box_.SelStart() + box_.SelLength());
+        Default(EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L""));
+      }
+      return true;
+    case form::Key::A:
+      Default(EM_SETSEL, 0, -1);
+      return true;
+    case form::Key::C:
+      Default(WM_COPY);
+      return true;
+    case form::Key::V:
+      Default(WM_PASTE);
+      return true;
+    case form::Key::X:
+      Default(WM_CUT);
+      return true;
+    case form::Key::Z:
+      Default(WM_UNDO);
+      return true;
+    default:
+      return false;
+  }
+}
+
 LRESULT EditWindow::OnCharacter(WPARAM character, LPARAM lParam) {
+  if (IsEditingCharacter(character)) return 0;
   const wchar_t typed = box_.InputKeyPress(static_cast<wchar_t>(character));
   if (Retired()) return 0;
   switch (typed) {
@@ -194,10 +234,7 @@ LRESULT EditWindow::OnCharacter(WPARAM character, LPARAM lParam) {
     case L'\n':
     case form::CharEnter:
     case form::CharEscape:
-    case CharControlBack:
       return 0;  // the edit would only beep
-    case CharSelectAll:
-      return SendMessageW(Hwnd(), EM_SETSEL, 0, -1);
     default:
       return Default(WM_CHAR, typed, lParam);
   }

@@ -25,6 +25,7 @@ class EditWindow final : public ControlWindow {
  private:
   /// What a message comes to; the edit's own work is done when it returns.
   LRESULT Process(UINT message, WPARAM wParam, LPARAM lParam);
+  bool OnEditingKey(form::Key key);
   LRESULT OnCharacter(WPARAM character, LPARAM lParam);
   LRESULT OnWheel(WPARAM wParam, LPARAM lParam);
   void Report();

@@ -28,8 +28,11 @@ void RegisterFormClass(WNDPROC procedure) {
   RegisterClassW(&description);
 }
 
+/// After a drag one more move may be told with the button held that is up by now: what counts is the mouse itself.
 form::MouseButton HeldButton(WPARAM buttons) {
-  if ((buttons & MK_LBUTTON) != 0) return form::MouseButton::Left;
+  const int left = GetSystemMetrics(SM_SWAPBUTTON) != 0 ? VK_RBUTTON : VK_LBUTTON;
+  if ((buttons & MK_LBUTTON) != 0)
+    return GetAsyncKeyState(left) < 0 ? form::MouseButton::Left : form::MouseButton::None;
   if ((buttons & MK_RBUTTON) != 0) return form::MouseButton::Right;
   if ((buttons & MK_MBUTTON) != 0) return form::MouseButton::Middle;
   return form::MouseButton::None;

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <string>
 
+#include "form/Scoped.h"
 #include "win32/draw/ListRow.h"
 
 namespace vantor::win32 {
@@ -72,7 +73,8 @@ void ListWindow::ShowIndex() {
 
 void ListWindow::OnCommand(WORD notification) {
   if (notification == LBN_SELCHANGE) {
-    list_.InputSelect(static_cast<int>(SendMessageW(Hwnd(), LB_GETCURSEL, 0, 0)));
+    const auto how = keying_ ? form::ListInput::Walk : form::ListInput::Click;
+    list_.InputSelect(static_cast<int>(SendMessageW(Hwnd(), LB_GETCURSEL, 0, 0)), how);
   } else if (notification == LBN_DBLCLK) {
     list_.InputDblClick();
   }
@@ -80,11 +82,12 @@ void ListWindow::OnCommand(WORD notification) {
 
 LRESULT ListWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_KEYDOWN && wParam == VK_RETURN) {
-    list_.InputDblClick();
+    list_.InputEnter();
     return 0;
   }
   if (message == WM_CHAR && wParam == VK_RETURN) return 0;  // no entry begins with it
-  return OnMessageWithEdge(message, wParam, lParam, 1);     // as thick as the border that the window has
+  const form::Scoped keying(keying_, keying_ || message == WM_KEYDOWN || message == WM_CHAR);
+  return OnMessageWithEdge(message, wParam, lParam, 1);  // as thick as the border that the window has
 }
 
 void ListWindow::OnDraw(const DRAWITEMSTRUCT& item) {

@@ -24,6 +24,7 @@ class ListWindow final : public ControlWindow {
   void ShowIndex();
 
   form::OpenList& list_;
+  bool keying_ = false;  // a key is being handled
 };
 
 }  // namespace vantor::win32
