@@ -165,16 +165,19 @@ TEST_CASE(
       CAPTURE(released);
       Run run(used);
       const std::wstring path = Folder + name + L".Orbel";
-      auto& held = run.Disk.AddFile(path, used.HasFile(path) ? used.Find(path)->Bytes : "");
-      held.HeldFor = 2000;
+      run.Disk.AddFile(path, used.HasFile(path) ? used.Find(path)->Bytes : "");
+      const auto hold = [&](int milliseconds) {
+        if (run.Disk.HasFile(path)) run.Disk.AddFile(path, run.Disk.Bytes(path)).HeldFor = milliseconds;
+      };
+      hold(2000);
       CHECK(Loaded(run.Disk) == before);
-      held.HeldFor = 9999;
-      CHECK((run.Load() == before) == (&held == run.Disk.Find(Mark)));
+      hold(9999);
+      CHECK((run.Load() == before) == (path == Mark));
       CHECK(run.Computer.Paused == 2000);
       run.List.Add(LaunchGroup::Web, L"new", L"http://new");
-      if (released) held.HeldFor = 0;
+      if (released) hold(0);
       run.List.Save();
-      held.HeldFor = 0;
+      hold(0);
 
       const std::wstring rescue = Folder + L"Rescue\\1";
       CHECK(Run(run.Disk).List.Files.SavedElsewhere() == (released ? L"" : rescue));
