@@ -2,10 +2,12 @@
 
 #include <algorithm>
 
+#include "text/Numbers.h"
+
 namespace vantor::form {
 
 std::wstring RowList::SpokenRow(int index) const {
-  return RowAt(index).Text + L", " + std::to_wstring(index + 1) + L" of " + std::to_wstring(RowCount());
+  return RowAt(index).Text + L", " + text::Decimal(index + 1) + L" of " + text::Decimal(RowCount());
 }
 
 void RowList::ShowRows(int current) {

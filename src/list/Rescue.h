@@ -6,6 +6,7 @@
 
 #include "service/DataFiles.h"
 #include "state/Environment.h"
+#include "text/Numbers.h"
 
 namespace vantor::list {
 
@@ -31,7 +32,7 @@ class Rescue {
   /// Makes the folder, and one in it where the file needs one.
   [[nodiscard]] bool MakeRoomFor(std::wstring_view path);
   [[nodiscard]] std::wstring Parent() const { return environment_.DataFolder + L"\\Rescue"; }
-  [[nodiscard]] std::wstring Folder(int number) const { return Parent() + L'\\' + std::to_wstring(number); }
+  [[nodiscard]] std::wstring Folder(int number) const { return Parent() + L'\\' + text::Decimal(number); }
   /// Where a file of the data folder goes.
   [[nodiscard]] std::wstring PlaceOf(std::wstring_view path) const;
   [[nodiscard]] std::wstring NotePath() const { return environment_.DataFolder + L"\\Unsaved.Orbel"; }

@@ -1,7 +1,9 @@
 #include "text/Numbers.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstdlib>
+#include <iterator>
 
 namespace vantor::text {
 
@@ -49,6 +51,12 @@ long ToLong(std::wstring_view digits, long most) {
 }
 
 }  // namespace
+
+std::wstring Decimal(long long number) {
+  char digits[20];  // of the smallest number, with its sign
+  const auto end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
+  return {std::begin(digits), end};
+}
 
 std::optional<std::int16_t> ParseInt16(std::wstring_view text) {
   NumberText number(text);

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace vantor::text {
@@ -13,6 +14,8 @@ namespace vantor::text {
   return static_cast<std::int16_t>(value);
 }
 
+/// A whole number in decimal digits. std::to_wstring would add 20 KB to the program.
+[[nodiscard]] std::wstring Decimal(long long number);
 /// A whole number, with blanks around it allowed; nothing when the text is something else or beyond 16 bits.
 [[nodiscard]] std::optional<std::int16_t> ParseInt16(std::wstring_view text);
 /// A decimal number with "." as its point, whatever the user's locale; exact for whole numbers below 2^53. Nothing

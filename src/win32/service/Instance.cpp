@@ -4,6 +4,7 @@
 #include <functional>
 #include <vector>
 
+#include "text/Numbers.h"
 #include "win32/base/ApplicationMark.h"
 #include "win32/service/ProcessImage.h"
 
@@ -15,7 +16,7 @@ namespace {
 std::wstring FileNumber() {
   std::wstring path = ImageName(GetCurrentProcessId());
   CharLowerBuffW(path.data(), static_cast<DWORD>(path.size()));
-  return std::to_wstring(std::hash<std::wstring>{}(path));
+  return text::Decimal(static_cast<long long>(std::hash<std::wstring>{}(path)));
 }
 
 std::wstring UserName() {

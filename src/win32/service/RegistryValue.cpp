@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include "text/Numbers.h"
 #include "win32/base/Handle.h"
 
 namespace vantor::win32 {
@@ -49,9 +50,7 @@ std::wstring PlainRegistryRead(std::wstring_view name) {
     DWORD number = 0;
     size = sizeof number;
     RegQueryValueExW(key.Get(), parsed->Value.c_str(), nullptr, nullptr, reinterpret_cast<BYTE*>(&number), &size);
-    wchar_t digits[16];
-    wsprintfW(digits, L"%ld", static_cast<LONG>(number));  // std::to_wstring would add 20 KB
-    return digits;
+    return text::Decimal(static_cast<LONG>(number));
   }
   if (type != REG_SZ && type != REG_EXPAND_SZ) return {};
   std::wstring text(size / sizeof(wchar_t), L'\0');
