@@ -20,10 +20,8 @@ void Generation::Restore() {
   }
   for (const std::wstring& path : All()) {
     const service::FileRead kept = ReadPatiently(files_, KeptPath(path));
-    if (kept.Failed())
-      readKept_ = true;
-    else if (kept.Bytes && files_.Read(path).Bytes != kept.Bytes && !files_.WriteInPlace(path, *kept.Bytes))
-      readKept_ = true;
+    const bool differs = kept.Bytes && files_.Read(path).Bytes != kept.Bytes;
+    readKept_ |= kept.Failed() || (differs && !files_.WriteInPlace(path, *kept.Bytes));
   }
   if (!readKept_) Unmark();
 }

@@ -155,10 +155,10 @@ void ListFiles::SaveLaunchList(const LaunchList& list, form::Twips barLeft, form
 
 ListFiles::Split ListFiles::SplitGroup(const Group& group, const GroupBoxes& boxes) const {
   const bool remembered = group.MachineFile != nullptr && environment_.MachineRemembered;
-  const int total = text::ToInt16(boxes.Path.ListCount() - 1);
+  const int count = text::ToInt16(boxes.Path.ListCount());
   Split split;
-  split.Main.reserve(static_cast<std::size_t>(total + 1));
-  for (int i = 0; i <= total; ++i) {
+  split.Main.reserve(static_cast<std::size_t>(count));
+  for (int i = 0; i < count; ++i) {
     const bool onMain = !remembered || boxes.Item(i).Target.substr(0, 1) == environment_.MediaDriveLetter;
     (onMain ? split.Main : split.Machine).push_back(i);
   }
