@@ -240,19 +240,17 @@ inline void Press(WORD key) {
   Key(key, scan, KEYEVENTF_KEYUP);
 }
 
-/// Types a text by the keys of the keyboard layout; letters that it lacks come as an input method sends them.
+/// Types a text by the keys of the keyboard layout; characters that need more than one key come as an input method
+/// sends them: under Wine, Shift may be let go before the key, when the state of the X server's keys comes in between.
 inline void Type(const std::string& text) {
   for (const wchar_t character : Wide(text)) {
     const SHORT key = VkKeyScanW(character);
-    const int modifiers = key >> 8;
-    if (key == -1 || modifiers > 1) {
+    if (key >> 8 != 0) {
       Key(0, character, KEYEVENTF_UNICODE);
       Key(0, character, KEYEVENTF_UNICODE | KEYEVENTF_KEYUP);
       continue;
     }
-    if (modifiers == 1) Key(VK_SHIFT, 0, 0);
-    Press(static_cast<WORD>(key & 0xFF));
-    if (modifiers == 1) Key(VK_SHIFT, 0, KEYEVENTF_KEYUP);
+    Press(static_cast<WORD>(key));
   }
 }
 
