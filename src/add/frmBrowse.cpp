@@ -160,7 +160,7 @@ void frmBrowse::DriveWork_Change() {
   const bool there = language.Lower(text::DriveName(DirWork.Path())) == language.Lower(drive);
   if (!there && !DirWork.SetPath(drive)) {
     DriveWork.SetDrive(DirWork.Path());
-    context_.Messages.ShowList(L"MessageDriveNotReady");
+    context_.Messages.ShowListMessage(message::MessageDriveNotReady);
     return;
   }
   NoteDrive();
@@ -186,7 +186,7 @@ void frmBrowse::DirWork_Unreachable() {
   if (context_.Services.FileSystem.DriveReady(DirWork.Path()))
     DirWork.Refresh();
   else
-    context_.Messages.ShowList(L"MessageDriveNotReady");
+    context_.Messages.ShowListMessage(message::MessageDriveNotReady);
 }
 
 void frmBrowse::NoteDrive() {
@@ -267,7 +267,7 @@ bool frmBrowse::RefusedByPlace(std::wstring_view path) {
       environment.RunMode ? RemovableMediaRule(state_, environment) : FixedDiskRule(state_);
   if (refusal.empty()) return false;
   if (environment.RunMode) context_.Messages.State.EnableRememberAfterMessage = environment.MachineUnknown;
-  context_.Messages.ShowText(refusal);
+  context_.Messages.ShowTextMessage(refusal);
   return true;
 }
 
@@ -279,7 +279,7 @@ void frmBrowse::CommandSelectOK_Click() {
   const std::wstring path = state_.BrowseFolder + FileWork.Text();
   context_.Host.ClosePanel();  // which also takes the selection away
   const bool run = opened == static_cast<int>(panel::menu::List) || IsProgram(context_.Services, path);
-  context_.Messages.ShowList(run ? context_.Starters.RunProgramFile(path) : context_.Starters.OpenItem(path));
+  context_.Messages.ShowListMessage(run ? context_.Starters.RunProgramFile(path) : context_.Starters.OpenItem(path));
 }
 
 // --- the finder
@@ -305,7 +305,7 @@ void frmBrowse::CommandFindPath_MouseUp(form::MouseButton button) {
   TimerFindPath.SetEnabled(false);
   const std::wstring path = finder_.Release();
   if (path.empty()) {
-    context_.Messages.ShowList(L"MessageExecutableNotFound");
+    context_.Messages.ShowListMessage(message::MessageExecutableNotFound);
     return;
   }
   FileWork.SetListIndex(-1);  // so that a click on the same file chooses it again

@@ -41,7 +41,6 @@ class frmBrowse : public form::Form {
 
   form::Frame FrameFindPath{FrameBrowseBack, L"FrameFindPath"};
   form::CommandButton CommandFindPath{FrameFindPath, L"CommandFindPath"};
-  form::Label LabelFindPath{FrameFindPath, L"LabelFindPath"};
   form::Label LabelFindHow{FrameFindPath, L"LabelFindHow"};
   form::Label LabelFindResult{FrameFindPath, L"LabelFindResult"};
   form::Timer TimerFindPath{*this, 100};
@@ -53,17 +52,14 @@ class frmBrowse : public form::Form {
   form::Frame FrameAddToList{FrameBrowseBack, L"FrameAddToList"};
   form::TextBox TextAddName{FrameAddToList, L"TextAddName"};
   form::CommandButton CommandAddOK{FrameAddToList, L"CommandAddOK"};
-  form::Label LabelAddOK{FrameAddToList, L"LabelAddOK"};
 
   form::Frame FrameAddedInfo{FrameBrowseBack, L"FrameAddedInfo"};
 
   form::Frame FrameSelect{FrameBrowseBack, L"FrameSelect"};
   form::CommandButton CommandSelectOK{FrameSelect, L"CommandSelectOK"};
-  form::Label LabelSelectOK{FrameSelect, L"LabelSelectOK"};
 
   form::Frame FrameAddCancel{FrameBrowseBack, L"FrameAddCancel"};
   form::CommandButton CommandAddCancel{FrameAddCancel, L"CommandAddCancel"};
-  form::Label LabelAddCancel{FrameAddCancel, L"LabelAddCancel"};
 
   form::PictureBox PictureNo{FrameBrowseBack, L"PictureNo"};
 

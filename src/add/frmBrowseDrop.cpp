@@ -14,7 +14,7 @@ void frmBrowse::FillWith(const std::vector<std::wstring>& paths) {
     if (std::any_of(paths.begin(), paths.end(), [this](const auto& path) { return GoToDropped(path); })) {
       Activate();
     } else if (!context_.Services.FileSystem.DriveReady(paths.front())) {
-      context_.Messages.ShowList(L"MessageDriveNotReady");
+      context_.Messages.ShowListMessage(message::MessageDriveNotReady);
     }
   });
 }

@@ -12,7 +12,6 @@ namespace {
 
 using form::ButtonHeight;
 using form::DressButton;
-using form::PlaceButton;
 using form::Twips;
 using panel::CheckHeight;
 using panel::FrameTop;
@@ -50,7 +49,7 @@ void frmBrowse::Dress() {
   }
 
   FrameFindPath.SetCaption(L"To add a running Program :");
-  DressButton(CommandFindPath, LabelFindPath, L"Find Program Path");
+  DressButton(CommandFindPath, L"Find Program Path");
   LabelFindHow.SetCaption(
       L"Left click on \"Find Program Path\" button, keep the mouse button down, place cursor on the open Window of "
       L"the Program that you want to add and release mouse button.");
@@ -64,16 +63,16 @@ void frmBrowse::Dress() {
 
   FrameAddToList.SetCaption(L"Type a Launch Name");
   TextAddName.SetAccessibleName(L"Type a Launch Name");
-  DressButton(CommandAddOK, LabelAddOK, L"Add");
+  DressButton(CommandAddOK, L"Add");
   FrameAddedInfo.SetCaption(BannerOf(list::LaunchGroup::Prog));  // the longest
   FrameAddedInfo.SetBanner(true);
   FrameAddedInfo.SetBackColor(form::Color::LineBlue);
   FrameAddedInfo.SetVisible(false);
 
   FrameSelect.SetBorder(false);
-  DressButton(CommandSelectOK, LabelSelectOK, L"Open");
+  DressButton(CommandSelectOK, L"Open");
   FrameAddCancel.SetBorder(false);
-  DressButton(CommandAddCancel, LabelAddCancel, L"Cancel");
+  DressButton(CommandAddCancel, L"Cancel");
   PictureNo.SetTabStop(false);
   PictureNo.SetTabIndex(CommandAddOK.TabIndex());  // Tab goes on from the button that was pressed
 }
@@ -87,7 +86,7 @@ void frmBrowse::LayOut() {
   }
   FrameSelect.SetVisible(opening);
 
-  const Twips cancelWidth = form::ButtonWidth(LabelAddCancel);
+  const Twips cancelWidth = form::ButtonWidth(CommandAddCancel);
   const Twips width = std::max(
       {LeastWidth, CancelLeft + cancelWidth + Margin, AddedInfoLeft + FrameAddedInfo.LeastSize().Width + Margin});
   const Twips boxTop = FrameBrowseBack.HeightFor(FrameTop);
@@ -111,11 +110,11 @@ void frmBrowse::LayOut() {
     LayOutLists(listsTop, listsTop + listsHeight, width);
     top = LayOutAddFrames(listsTop + listsHeight + Margin, innerWidth);
   }
-  const Twips selectWidth = form::ButtonWidth(LabelSelectOK);
+  const Twips selectWidth = form::ButtonWidth(CommandSelectOK);
   FrameSelect.SetBounds({SelectLeft, SelectTop, selectWidth, ButtonHeight});
-  PlaceButton(CommandSelectOK, LabelSelectOK, {0, 0, selectWidth, ButtonHeight});
+  CommandSelectOK.SetBounds({0, 0, selectWidth, ButtonHeight});
   FrameAddCancel.SetBounds({CancelLeft, top, cancelWidth, ButtonHeight});
-  PlaceButton(CommandAddCancel, LabelAddCancel, {0, 0, cancelWidth, ButtonHeight});
+  CommandAddCancel.SetBounds({0, 0, cancelWidth, ButtonHeight});
 
   FrameBrowseBack.SetBounds({0, 0, width, FrameAddCancel.Bottom() + Margin});
   PictureNo.SetBounds({Margin, FrameAddCancel.Top(), Gap / 4, Gap / 4});
@@ -138,10 +137,10 @@ void frmBrowse::LayOutLists(Twips top, Twips bottom, Twips width) {
 Twips frmBrowse::LayOutAddFrames(Twips top, Twips width) {
   const Twips inTop = FrameFindPath.HeightFor(FrameTop);
   const Twips lineHeight = TextAddPath.HeightFor(LineHeight);
-  const Twips findButtonWidth = form::ButtonWidth(LabelFindPath);
+  const Twips findButtonWidth = form::ButtonWidth(CommandFindPath);
   const Twips findTextLeft = Margin + findButtonWidth + Margin;
   const Twips findTextWidth = width - findTextLeft - Margin;
-  PlaceButton(CommandFindPath, LabelFindPath, {Margin, inTop + Gap / 2, findButtonWidth, ButtonHeight});
+  CommandFindPath.SetBounds({Margin, inTop + Gap / 2, findButtonWidth, ButtonHeight});
   const Twips resultTop = panel::Place(LabelFindHow, findTextLeft, inTop, findTextWidth) + Gap;
   const Twips findBottom = panel::Place(LabelFindResult, findTextLeft, resultTop, findTextWidth);
   FrameFindPath.SetBounds({Margin, top, width, findBottom + Margin});
@@ -150,10 +149,10 @@ Twips frmBrowse::LayOutAddFrames(Twips top, Twips width) {
   const Twips pathBottom = panel::Place(LabelAddPath, Margin, TextAddPath.Bottom() + Gap / 2, width - 2 * Margin);
   FrameAddPath.SetBounds({Margin, FrameFindPath.Bottom() + Gap, width, pathBottom + Gap});
 
-  const Twips addWidth = form::ButtonWidth(LabelAddOK);
+  const Twips addWidth = form::ButtonWidth(CommandAddOK);
   const Twips nameWidth = width - addWidth - 3 * Margin;
   TextAddName.SetBounds({Margin, inTop, nameWidth, lineHeight});
-  PlaceButton(CommandAddOK, LabelAddOK, {TextAddName.Right() + Margin, inTop - Gap, addWidth, ButtonHeight});
+  CommandAddOK.SetBounds({TextAddName.Right() + Margin, inTop - Gap, addWidth, ButtonHeight});
   FrameAddToList.SetBounds({Margin, FrameAddPath.Bottom() + Gap, width, TextAddName.Bottom() + Margin});
 
   FrameAddedInfo.SetBounds({AddedInfoLeft, FrameAddToList.Bottom() + Gap, width + Margin - AddedInfoLeft, lineHeight});

@@ -38,8 +38,7 @@ AddWebBox::AddWebBox(form::Form& bar, const list::LaunchList& list, const servic
   LabelWebName.SetCaption(L"Launch Name");
   LabelWebName.SetTransparent(false);
   TextWebName.SetAccessibleName(L"Launch Name");
-  CommandAddWeb.SetCaption(L"Add");
-  form::DressButton(CommandAddWeb);
+  form::DressButton(CommandAddWeb, L"Add");
   FrameAddedInfo.SetCaption(AddedCaption);
   FrameAddedInfo.SetBanner(true);
   FrameAddedInfo.SetBackColor(form::Color::LineBlue);

@@ -37,7 +37,8 @@ bool IsControlPanelPage(const service::Services& services, std::wstring_view wor
 
 message::MessageKey OpenControlPanelApplet(const service::Services& services, std::wstring_view word) {
   const ControlPanelWord* const page = PageOf(services, word);
-  return page == nullptr || services.Programs.StartCommandLine(page->CommandLine) ? L"" : L"MessagePanelOpenError";
+  const bool started = page == nullptr || services.Programs.StartCommandLine(page->CommandLine);
+  return started ? message::MessageKey() : message::MessagePanelOpenError;
 }
 
 std::wstring DialNumber(const service::Services& services, std::wstring_view number) {

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "message/MessageState.h"
+#include "message/MessageKey.h"
 #include "service/Services.h"
 
 namespace vantor::command {

@@ -106,7 +106,7 @@ void CommandLine::SendMakerMail(std::size_t index) {
   const std::wstring address = L"mailto:" + std::wstring(MailAddresses.at(index));
   const message::MessageKey failure = starters_.SendMailTo(address, MailSubjects.at(index), {});
   if (failure.empty()) recall_.Started(line);
-  messages_.ShowList(failure);
+  messages_.ShowListMessage(failure);
   textMain_.SetText({});
 }
 
@@ -133,7 +133,7 @@ void CommandLine::StartCompanion(const CommandCode& code) {
 void CommandLine::Dial(std::wstring_view number) {
   const std::wstring failure = DialNumber(services_, number);
   if (failure.empty()) recall_.Started(textMain_.Text());
-  messages_.ShowText(failure);
+  messages_.ShowTextMessage(failure);
   textMain_.SetText({});
   textMain_.SetFocus();
 }
@@ -142,7 +142,7 @@ void CommandLine::Start(const CommandCode& code, const std::wstring& target) {
   const std::wstring line = textMain_.Text();  // the start empties the box
   const message::MessageKey failure = StartBy(code, target);
   if (failure.empty()) recall_.Started(line);
-  messages_.ShowList(failure);
+  messages_.ShowListMessage(failure);
 }
 
 message::MessageKey CommandLine::StartBy(const CommandCode& code, const std::wstring& target) const {

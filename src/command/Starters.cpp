@@ -9,7 +9,7 @@ namespace vantor::command {
 
 namespace {
 
-constexpr std::wstring_view StartError = L"MessageProgramStartError";
+constexpr message::MessageKey StartError = message::MessageProgramStartError;
 
 /// A target as the shell takes it in whole. A double quote would end it.
 std::wstring Quoted(std::wstring_view target) {
@@ -29,18 +29,19 @@ bool IsPlain(std::wstring_view text) {
 }
 
 message::MessageKey Starters::RunProgramCommand(std::wstring_view commandLine) const {
-  return Outcome(IsPlain(commandLine) && services_.Programs.StartCommandLine(commandLine), L"MessageProgramRunError");
+  return Outcome(IsPlain(commandLine) && services_.Programs.StartCommandLine(commandLine),
+                 message::MessageProgramRunError);
 }
 
 message::MessageKey Starters::RunProgramFile(std::wstring_view path) const {
   // No path has a double quote. What stands behind one would be taken for the program's arguments.
-  if (path.find(L'"') != path.npos) return Outcome(false, L"MessageProgramRunError");
+  if (path.find(L'"') != path.npos) return Outcome(false, message::MessageProgramRunError);
   return RunProgramCommand(L'"' + std::wstring(path) + L'"');
 }
 
 message::MessageKey Starters::RunExplorerCommand(std::wstring_view commandLine) const {
   return Outcome(IsPlain(commandLine) && services_.Programs.StartCommandLine(commandLine),
-                 L"MessageProgramExplorerError");
+                 message::MessageProgramExplorerError);
 }
 
 message::MessageKey Starters::OpenWithShell(std::wstring_view target) const {
@@ -63,8 +64,8 @@ bool Starters::OpenExactly(std::wstring_view target) const {
   return shell.ExpandVariables(target) == target ? shell.Run(Quoted(target)) : shell.Open(target);
 }
 
-message::MessageKey Starters::Outcome(bool started, std::wstring_view failure) const {
-  if (!started) return message::MessageKey(failure);
+message::MessageKey Starters::Outcome(bool started, message::MessageKey failure) const {
+  if (!started) return failure;
   Started();
   return {};
 }
@@ -82,8 +83,7 @@ message::MessageKey Starters::SendMailTo(std::wstring_view address, std::wstring
   if (!std::equal(Scheme.begin(), Scheme.end(), start.begin(), start.end(), sameLetter)) link.insert(0, Scheme);
   if (!subject.empty()) link.append(L"?subject=").append(subject);
   if (!body.empty()) link.append(subject.empty() ? L"?body=" : L"&body=").append(body);
-  return IsPlain(link) && services_.Programs.ShellOpen(link) > GreatestShellError ? message::MessageKey()
-                                                                                  : message::MessageKey(StartError);
+  return IsPlain(link) && services_.Programs.ShellOpen(link) > GreatestShellError ? message::MessageKey() : StartError;
 }
 
 }  // namespace vantor::command

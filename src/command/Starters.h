@@ -3,7 +3,7 @@
 #include <string_view>
 
 #include "form/Event.h"
-#include "message/MessageState.h"
+#include "message/MessageKey.h"
 #include "service/Services.h"
 
 namespace vantor::command {
@@ -39,7 +39,7 @@ class Starters {
 
  private:
   [[nodiscard]] bool OpenExactly(std::wstring_view target) const;
-  [[nodiscard]] message::MessageKey Outcome(bool started, std::wstring_view failure) const;
+  [[nodiscard]] message::MessageKey Outcome(bool started, message::MessageKey failure) const;
 
   service::Services services_;
 };

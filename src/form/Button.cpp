@@ -2,7 +2,6 @@
 
 #include "form/Form.h"
 #include "form/Keys.h"
-#include "form/Static.h"
 
 namespace vantor::form {
 
@@ -26,11 +25,6 @@ void CommandButton::SetPictures(form::Picture normal, form::Picture down, form::
   NotifyWindow(Property::Picture);
 }
 
-void CommandButton::SetFaceLabel(Label& label) {
-  faceLabel_ = &label;
-  label.PutOnFace();
-}
-
 void CommandButton::SetState(ButtonState state) {
   if (state_ == state) return;
   state_ = state;
@@ -45,7 +39,7 @@ void CommandButton::SetSign(bool sign) {
 
 Size CommandButton::LeastSize() const {
   constexpr Size Padding{360, 105};
-  const Size text = TextSize(faceLabel_ != nullptr ? faceLabel_->Caption() : caption_, sign_);
+  const Size text = TextSize(caption_, sign_);
   return {text.Width + Padding.Width, text.Height + Padding.Height};
 }
 

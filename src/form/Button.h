@@ -10,8 +10,6 @@
 
 namespace vantor::form {
 
-class Label;
-
 /// Pressed: what the button opened is open. Folded and Unfolded: the same of what unfolds beside it.
 enum class ButtonState { Plain, Pressed, Folded, Unfolded };
 
@@ -21,6 +19,7 @@ class CommandButton : public Control {
   template <class Parent>
   CommandButton(Parent& parent, std::wstring_view name) : Control(parent, name) {}
 
+  /// The word on the button, over its picture; also over that of the disabled button.
   [[nodiscard]] const std::wstring& Caption() const { return caption_; }
   void SetCaption(std::wstring_view caption);
 
@@ -30,11 +29,6 @@ class CommandButton : public Control {
   [[nodiscard]] form::Picture DisabledPicture() const { return disabledPicture_; }
   void SetPicture(form::Picture picture);
   void SetPictures(form::Picture normal, form::Picture down, form::Picture disabled);
-
-  /// A label that is drawn over the button's face instead of beside it, also over a disabled face. The label
-  /// then has no window of its own, and its caption is the button's accessible name.
-  [[nodiscard]] Label* FaceLabel() const { return faceLabel_; }
-  void SetFaceLabel(Label& label);
 
   /// What the button says of what it opened; shown on its face and told to screen readers.
   [[nodiscard]] ButtonState State() const { return state_; }
@@ -64,7 +58,6 @@ class CommandButton : public Control {
   form::Picture picture_ = form::Picture::None;
   form::Picture downPicture_ = form::Picture::None;
   form::Picture disabledPicture_ = form::Picture::None;
-  Label* faceLabel_ = nullptr;
   ButtonState state_ = ButtonState::Plain;
   bool sign_ = false;
 };

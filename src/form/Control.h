@@ -92,8 +92,6 @@ class Control {
   Control& operator=(const Control&) = delete;
 
   [[nodiscard]] const std::wstring& Name() const { return name_; }
-  /// Whether a window of its own shows the control.
-  [[nodiscard]] virtual bool WantsWindow() const { return true; }
   /// Calls the visitor's function for this kind of control.
   virtual void Accept(ControlVisitor& visitor) = 0;
   [[nodiscard]] Form& OwnerForm() const { return form_; }

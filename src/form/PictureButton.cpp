@@ -7,25 +7,15 @@
 
 namespace vantor::form {
 
-void DressButton(CommandButton& button) {
+void DressButton(CommandButton& button, std::wstring_view caption) {
+  button.SetCaption(caption);
   button.SetPictures(Picture::ButtonNormal, Picture::ButtonPressed, Picture::ButtonDisabled);
 }
 
-void DressButton(CommandButton& button, Label& label, std::wstring_view caption) {
-  label.SetCaption(caption);
-  button.SetFaceLabel(label);
-  DressButton(button);
-}
-
-void PlaceButton(CommandButton& button, Label& label, const Rect& place) {
-  button.SetBounds(place);
-  label.SetBounds(place);
-}
-
-Twips ButtonWidth(const Label& label) {
+Twips ButtonWidth(const CommandButton& button) {
   constexpr Twips Padding = 180;
   constexpr Twips Least = 960;
-  const Twips text = label.OwnerForm().Ui().MeasureText(label.Caption(), false, UserInterface::AnyWidth).Width;
+  const Twips text = button.OwnerForm().Ui().MeasureText(button.Caption(), false, UserInterface::AnyWidth).Width;
   return std::max(text + 2 * Padding, Least);
 }
 

@@ -3,20 +3,15 @@
 #include <string_view>
 
 #include "form/Button.h"
-#include "form/Static.h"
 
 namespace vantor::form {
 
 /// The height of the panels' buttons, in twips.
 inline constexpr Twips ButtonHeight = 390;
 
-/// Gives a button of the panels and messages its pictures.
-void DressButton(CommandButton& button);
-/// The same, and the label that is its face.
-void DressButton(CommandButton& button, Label& label, std::wstring_view caption);
-/// Places the button and its label.
-void PlaceButton(CommandButton& button, Label& label, const Rect& place);
-/// A button's width that shows the caption whole, in twips.
-[[nodiscard]] Twips ButtonWidth(const Label& label);
+/// Gives a button of the panels and messages its pictures and its word.
+void DressButton(CommandButton& button, std::wstring_view caption);
+/// A button's width that shows its caption whole, in twips.
+[[nodiscard]] Twips ButtonWidth(const CommandButton& button);
 
 }  // namespace vantor::form

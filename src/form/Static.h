@@ -23,9 +23,6 @@ class Label : public Control {
   void SetTransparent(bool transparent);
   [[nodiscard]] bool Bold() const { return bold_; }
   void SetBold(bool bold);
-  /// A button draws the label on its face, so that it has no window of its own.
-  void PutOnFace() { onFace_ = true; }
-  [[nodiscard]] bool WantsWindow() const override { return !onFace_; }
 
   void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
   [[nodiscard]] Size LeastSize() const override { return TextSize(caption_, bold_); }
@@ -34,7 +31,6 @@ class Label : public Control {
   std::wstring caption_;
   bool transparent_ = true;
   bool bold_ = false;
-  bool onFace_ = false;
 };
 
 /// A box that holds other controls, with a caption on its edge when it has a border.

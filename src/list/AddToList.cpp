@@ -15,18 +15,18 @@ constexpr int MostItems = INT16_MAX;
 AddResult AddUnlessListed(const AddBox& box, const LaunchList& list, LaunchGroup group, std::wstring_view banner,
                           message::Messages& messages, const service::Language& language) {
   const GroupBoxes& boxes = list.Of(group);
-  if (auto key = PathAlreadyListed(group, box.Path.Text(), boxes.Path); !key.empty()) {
-    messages.ShowList(std::move(key));
+  if (const auto key = PathAlreadyListed(group, box.Path.Text(), boxes.Path); !key.empty()) {
+    messages.ShowListMessage(key);
     return AddResult::PathListed;
   }
-  if (auto key = CheckNameListed(language, box.Name.Text(), boxes.Name); !key.empty()) {
-    messages.ShowList(std::move(key));
+  if (const auto key = CheckNameListed(language, box.Name.Text(), boxes.Name); !key.empty()) {
+    messages.ShowListMessage(key);
     box.Name.SetText(L"");
     box.Name.SetFocus();
     return AddResult::NameListed;
   }
   if (boxes.Name.ListCount() >= MostItems) {
-    messages.ShowText(L"This list is full.");
+    messages.ShowTextMessage(L"This list is full.");
     return AddResult::Full;
   }
   AddToList(box.Name.Text(), box.Path.Text(), box, boxes, banner);

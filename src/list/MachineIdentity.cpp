@@ -74,7 +74,7 @@ bool RememberMyComputer(const service::Services& services, message::Messages& me
     failed = true;
   }
   if (failed) {
-    messages.ShowText(L"Could not save data for identifying this machine. Reason undetermined");
+    messages.ShowTextMessage(L"Could not save data for identifying this machine. Reason undetermined");
     return false;
   }
   environment.MachineUnknown = false;

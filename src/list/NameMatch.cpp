@@ -58,7 +58,7 @@ message::MessageKey CheckNameListed(const service::Language& language, std::wstr
   const bool listed = std::any_of(names.begin(), names.end(), [&](const std::wstring& entry) {
     return match.Equals(HasQuote(entry) ? StoredName(entry) : entry);
   });
-  return listed ? L"MessageNameAlreadyListed" : L"";
+  return listed ? message::MessageNameAlreadyListed : message::MessageKey();
 }
 
 message::MessageKey PathAlreadyListed(LaunchGroup group, std::wstring_view path, const form::ComboBox& pathBox) {
@@ -67,7 +67,7 @@ message::MessageKey PathAlreadyListed(LaunchGroup group, std::wstring_view path,
   const bool listed = std::any_of(paths.begin(), paths.end(), [&](const std::wstring& entry) {
     return HasQuote(entry) ? StoredTarget(group, entry) == stored : entry == stored;
   });
-  return listed ? L"MessagePathAlreadyListed" : L"";
+  return listed ? message::MessagePathAlreadyListed : message::MessageKey();
 }
 
 }  // namespace vantor::list

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "list/LaunchList.h"
-#include "message/MessageState.h"
+#include "message/MessageKey.h"
 #include "service/Language.h"
 
 namespace vantor::list {

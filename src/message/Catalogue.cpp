@@ -11,47 +11,47 @@ namespace vantor::message {
 namespace {
 
 constexpr CatalogueEntry Catalogue[] = {
-    {Selector::User, L"MessageGetUserName",
+    {Selector::User, MessageGetUserName,
      L"Thank you for trying Vantor.\r\n\r\n"
      L"If you want to be addressed by your name of choice then please enter that name in the above box. Use only "
      L"alphabets please.\r\n\r\n"
      L"Vantor will address you as **myFriend** if you do not enter a name.\r\n\r\n"
      L"orbel\r\n{contact}",
      L"Your Name Please", L"Cancel", L"Input0"},
-    {Selector::User, L"MessageChangeUserName",
+    {Selector::User, MessageChangeUserName,
      L"To change your user name please type the new name in the above box. Please use only alphabets.",
      L"New Name Please", L"Cancel", L"Input0"},
-    {Selector::User, L"MessageMustChoosePicture", L"To change your picture you must choose a Picture file first."},
-    {Selector::User, L"MessageIncorrectPicture",
+    {Selector::User, MessageMustChoosePicture, L"To change your picture you must choose a Picture file first."},
+    {Selector::User, MessageIncorrectPicture,
      L"Selected file either not a Picture file, or not a type of file that this Program can Support. Try a .jpg or "
      L".bmp file please."},
 
-    {Selector::Stop, L"MessageSmallScreen",
+    {Selector::Stop, MessageSmallScreen,
      L"Screen resolution must be at least 1024x768 for Vantor to run correctly. Since your screen resolution is "
      L"smaller than that, Vantor will will exit now."},
-    {Selector::Stop, L"MessageNeedSriptRuntime",
+    {Selector::Stop, MessageNeedSriptRuntime,
      L"Your machine need Microsoft Scripting Runtime update to run this Program.\r\n\r\n"
      L"Please download the installation package of the Program which includes all necessary files need to run "
      L"it.\r\n\r\n"
      L"Installation package is available at {site}."},
-    {Selector::Stop, L"MessageMediaUnknown", L"The Program encountered a problem and will exit now."},
-    {Selector::Stop, L"MessageMediaCDRom",
+    {Selector::Stop, MessageMediaUnknown, L"The Program encountered a problem and will exit now."},
+    {Selector::Stop, MessageMediaCDRom,
      L"This Program runs from Removable Media, such as, Floppy or Flash Drive but not from CD/DVD-ROM.\r\n\r\n"
      L"Program will exit now."},
-    {Selector::Stop, L"MessageMediaRunCancel",
+    {Selector::Stop, MessageMediaRunCancel,
      L"To run this Program from a Removable Media there is a simple setup process to follow. Untill that is done the "
      L"Program may not work from this Media properly.\r\n\r\n"
      L"Please check Help at {site} for setting up this Program to run from a Removable Media."},
-    {Selector::Stop, L"MessageMediaCreateError",
+    {Selector::Stop, MessageMediaCreateError,
      L"There was problem writing Data on the Media from which you are trying to run the Program.\r\n"
      L"Program can not run."},
-    {Selector::Stop, L"MessageRecreateMedia",
+    {Selector::Stop, MessageRecreateMedia,
      L"To run the Program from this Media Program setup need to be Reset. Before you do so the Folders named Orbel in "
      L"the Root of the Media and Vantor in the same Folder with this Program must be Renamed, Moved or "
      L"Removed.\r\n\r\n"
      L"To find out how to setup the Program to run from a Removable Media please check Help at {site}."},
 
-    {Selector::List, L"MessageFisrtStart",
+    {Selector::List, MessageFisrtStart,
      L"If you missed it, main program window is at the top left corner of your screen.\r\n"
      L"You can drag it by clicking left mouse button on small spaces between the buttons or buttons and Text box. "
      L"Buttons from left :\r\n"
@@ -66,23 +66,23 @@ constexpr CatalogueEntry Catalogue[] = {
      L"\r\n"
      L"You will type Code and Command in the Text Box (blue part).\r\n"
      L"For Code and Command please check Help."},
-    {Selector::List, L"MessagePathAlreadyListed",
+    {Selector::List, MessagePathAlreadyListed,
      L"Selected item has already been included in the List. There is no need to add it again."},
-    {Selector::List, L"MessageNameAlreadyListed",
+    {Selector::List, MessageNameAlreadyListed,
      L"The name you typed is listed name for another item in it's group.\r\n\r\n"
      L"Two different items in the same group (Groups : Program, File, Folder and Web Site) can't be listed with same "
      L"name. Type a different name please."},
-    {Selector::List, L"MessageEmptyList",
+    {Selector::List, MessageEmptyList,
      L"Launch List is empty.\r\n\r\n"
      L"To add Program, File, Folder or Web Site in your Launch List please click on 'Add To List' button."},
-    {Selector::List, L"MessageProgramDetermineError",
+    {Selector::List, MessageProgramDetermineError,
      L"There was some error. Could not run the program or the program required to open selected parameter."},
-    {Selector::List, L"MessageProgramExplorerError", L"There was some error. Could not open the Folder."},
-    {Selector::List, L"MessageProgramRunError", L"There was some error. Could not run the program."},
-    {Selector::List, L"MessageProgramStartError", L"There was some error. Could not start the required program."},
-    {Selector::List, L"MessageDriveNotReady", L"The Drive you are trying to select is not ready."},
-    {Selector::List, L"MessageExecutableNotFound", L"Could not find the Executable Path. Reason undetermined."},
-    {Selector::List, L"MessageAddNotFound", L"Seleted item doesn't exist.\r\nFailed to add."},
+    {Selector::List, MessageProgramExplorerError, L"There was some error. Could not open the Folder."},
+    {Selector::List, MessageProgramRunError, L"There was some error. Could not run the program."},
+    {Selector::List, MessageProgramStartError, L"There was some error. Could not start the required program."},
+    {Selector::List, MessageDriveNotReady, L"The Drive you are trying to select is not ready."},
+    {Selector::List, MessageExecutableNotFound, L"Could not find the Executable Path. Reason undetermined."},
+    {Selector::List, MessageAddNotFound, L"Seleted item doesn't exist.\r\nFailed to add."},
 };
 
 constexpr std::wstring_view BugReportQuestion =
@@ -116,7 +116,7 @@ std::wstring Replace(std::wstring_view text, const Replacement (&replacements)[C
 
 }  // namespace
 
-const CatalogueEntry* FindMessage(Selector selector, std::wstring_view key) {
+const CatalogueEntry* FindMessage(Selector selector, MessageKey key) {
   const auto* const found = std::find_if(std::begin(Catalogue), std::end(Catalogue), [&](const CatalogueEntry& entry) {
     return entry.Selector == selector && entry.Key == key;
   });

@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "message/MessageKey.h"
+
 namespace vantor::message {
 
 /// The routine that shows a message.
@@ -11,7 +13,7 @@ enum class Selector { User, Stop, List };
 /// One message of the catalogue.
 struct CatalogueEntry {
   message::Selector Selector;
-  std::wstring_view Key;
+  MessageKey Key;
   std::wstring_view Text;   // with words in braces, which ExpandText replaces
   std::wstring_view Title;  // "" stands for the user's name
   std::wstring_view Buttons = L"OK";
@@ -19,7 +21,7 @@ struct CatalogueEntry {
 };
 
 /// The message of this key, if the selector holds it; else null.
-[[nodiscard]] const CatalogueEntry* FindMessage(Selector selector, std::wstring_view key);
+[[nodiscard]] const CatalogueEntry* FindMessage(Selector selector, MessageKey key);
 
 /// The text with the maker's addresses in it. `companionsPresent`: any of the maker's other programs is there.
 [[nodiscard]] std::wstring ExpandText(std::wstring_view text, bool companionsPresent);

@@ -4,19 +4,20 @@
 
 namespace vantor::message {
 
-/// The name of a message of the catalogue, such as L"MessageEmptyList"; "" for none, which is success.
-using MessageKey = std::wstring;
-
-/// The slots by which the message to show is handed over, and what its answer leaves.
-struct MessageState {
-  MessageKey CurrentMessageKey;
-  std::wstring CurrentMessageText;
+/// One message as the dialog shows it, and what its answer does.
+struct Message {
+  std::wstring CurrentMessageKey;   // a MessageKey's name, or a bug key
+  std::wstring CurrentMessageText;  // a text that stands in no catalogue
   std::wstring MessageTitle;
   std::wstring MessageBody;
   std::wstring MessageButtons;
   std::wstring MessageInputs;
-  bool EndAfterMessage = false;
-  bool BugReportPending = false;
+  bool EndAfterMessage = false;   // OK ends the program
+  bool BugReportPending = false;  // OK opens the mail that reports the bug
+};
+
+/// What the messages keep. The message in it mirrors the one that is open, and is empty when none is.
+struct MessageState : Message {
   bool ShowDoNotShowBox = false;
   bool DoNotShowState = false;
   bool EnableRememberAfterMessage = false;

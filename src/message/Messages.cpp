@@ -10,48 +10,41 @@ namespace {
 
 constexpr std::wstring_view BugKeyPrefix = L"Bug-Vantor-";
 
-bool IsNamePrompt(const MessageKey& key) { return key == L"MessageGetUserName" || key == L"MessageChangeUserName"; }
+bool IsNamePrompt(const Message& message) {
+  return message.CurrentMessageKey == MessageGetUserName.Name() ||
+         message.CurrentMessageKey == MessageChangeUserName.Name();
+}
 
 }  // namespace
 
-void Messages::ShowFromCatalogue(Selector selector) {
-  const CatalogueEntry* const entry = FindMessage(selector, State.CurrentMessageKey);
+void Messages::ShowFromCatalogue(Selector selector, MessageKey key) {
+  const CatalogueEntry* const entry = FindMessage(selector, key);
   if (entry == nullptr) return;
-  if (selector == Selector::Stop) State.EndAfterMessage = true;
-  State.MessageTitle = entry->Title.empty() ? AddresseeTitle() : std::wstring(entry->Title);
-  State.MessageButtons = entry->Buttons;
-  State.MessageInputs = entry->Inputs;
-  State.MessageBody = ExpandText(entry->Text, Hooks.CompanionsPresent && Hooks.CompanionsPresent());
-  OpenMessageDialog(State.MessageTitle, State.MessageBody, State.MessageButtons, State.MessageInputs);
+  Message message = Addressed();
+  message.CurrentMessageKey = key.Name();
+  if (!entry->Title.empty()) message.MessageTitle = entry->Title;
+  message.MessageBody = ExpandText(entry->Text, host_.CompanionsPresent());
+  message.MessageButtons = entry->Buttons;
+  message.MessageInputs = entry->Inputs;
+  message.EndAfterMessage = selector == Selector::Stop;
+  OpenMessageDialog(message);
 }
 
-void Messages::ShowTextMessage() {
-  State.MessageTitle = AddresseeTitle();
-  State.MessageButtons = L"OK";
-  State.MessageInputs.clear();
-  State.MessageBody = State.CurrentMessageText;
-  OpenMessageDialog(State.MessageTitle, State.MessageBody, State.MessageButtons, State.MessageInputs);
-}
-
-void Messages::ShowBugMessage() {
-  State.BugReportPending = true;
-  State.MessageTitle = AddresseeTitle();
-  State.MessageButtons = L"YesNo";
-  State.MessageInputs.clear();
-  State.MessageBody = BugReportText(State.CurrentMessageKey);
-  OpenMessageDialog(State.MessageTitle, State.MessageBody, State.MessageButtons, State.MessageInputs);
-}
-
-void Messages::ShowList(MessageKey key) {
-  if (key.empty()) return;
-  State.CurrentMessageKey = std::move(key);
-  ShowListMessage();
-}
-
-void Messages::ShowText(std::wstring_view text) {
+void Messages::ShowTextMessage(std::wstring_view text) {
   if (text.empty()) return;
-  State.CurrentMessageText = text;
-  ShowTextMessage();
+  Message message = Addressed();
+  message.CurrentMessageText = text;
+  message.MessageBody = text;
+  OpenMessageDialog(message);
+}
+
+void Messages::ShowBugMessage(std::wstring_view key) {
+  Message message = Addressed();
+  message.CurrentMessageKey = key;
+  message.MessageBody = BugReportText(key);
+  message.MessageButtons = L"YesNo";
+  message.BugReportPending = true;
+  OpenMessageDialog(message);
 }
 
 void Messages::Trap(std::wstring_view routine, const std::function<void()>& body) {
@@ -69,22 +62,22 @@ void Messages::ReportBug(std::wstring_view routine) {
   if (askingAboutBug_) return;
   const form::Scoped asking(askingAboutBug_, true);
   try {
-    State.CurrentMessageKey = std::wstring(BugKeyPrefix) += routine;
-    ShowBugMessage();
+    ShowBugMessage(std::wstring(BugKeyPrefix) += routine);
   } catch (...) {
     LeaveMessage();  // a fault of the question or of its report is not asked about in turn
   }
 }
 
-std::wstring Messages::AddresseeTitle() const { return State.UserName.empty() ? NoUserName : State.UserName; }
+Message Messages::Addressed() const {
+  Message message;
+  message.MessageTitle = State.UserName.empty() ? NoUserName : State.UserName;
+  message.MessageButtons = L"OK";
+  return message;
+}
 
-void Messages::OpenMessageDialog(std::wstring_view title, std::wstring_view body, std::wstring_view buttons,
-                                 std::wstring_view inputs) {
+void Messages::OpenMessageDialog(const Message& message) {
   if (ui_.Ended()) return;  // the end came while a service was waited for
-  // What a message that opens meanwhile must not take away.
-  const MessageKey key = State.CurrentMessageKey;
-  const bool endAfter = State.EndAfterMessage;
-  const bool reportBug = std::exchange(State.BugReportPending, false);
+  static_cast<Message&>(State) = message;
 
   frmMessage dialog(ui_);
   dialog.Load();
@@ -92,66 +85,57 @@ void Messages::OpenMessageDialog(std::wstring_view title, std::wstring_view body
   dialog.SetCaption(named ? L"Message For - " + State.UserName : L"myMessage");
   dialog.CheckDoNotShow.SetValue(State.DoNotShowState);
   dialog.CheckDoNotShow.SetVisible(State.ShowDoNotShowBox);
-  dialog.LabelHead.SetCaption(title);
-  dialog.LabelMessage.SetCaption(body);
-  if (IsNamePrompt(key)) dialog.AskForName();
-  const bool buttonsKnown = dialog.ApplyButtonSet(buttons);
-  dialog.ApplyInputSet(inputs);
+  dialog.LabelHead.SetCaption(message.MessageTitle);
+  dialog.LabelMessage.SetCaption(message.MessageBody);
+  if (IsNamePrompt(message)) dialog.AskForName();
+  const bool buttonsKnown = dialog.ApplyButtonSet(message.MessageButtons);
+  dialog.ApplyInputSet(message.MessageInputs);
   if (!buttonsKnown) return;
   State.CurrentMessageText.clear();
   State.ShowDoNotShowBox = false;
 
   {
     const form::Scoped open(openDialogs_, openDialogs_ + 1);
-    if (openDialogs_ == 1) Hooks.PauseOnTop();
-    dialog.Arrange(Hooks.HomeScreen ? Hooks.HomeScreen() : ui_.PrimaryScreen());
+    if (openDialogs_ == 1) host_.PauseOnTop();
+    dialog.Arrange(host_.HomeScreen());
     dialog.ShowModal();
   }
   switch (dialog.Answer()) {
     case Answer::Accepted:
-      if (endAfter)
+      if (message.EndAfterMessage)
         ui_.End();
       else
-        AcceptMessageDialog(key, dialog.TextInput0.Text(), reportBug);
+        AcceptMessageDialog(message, dialog.TextInput0.Text());
       return;
     case Answer::Cancelled:
-      CloseMessageDialog(key);
+      CloseMessageDialog(message);
       return;
     case Answer::None:  // the program has ended
       return;
   }
 }
 
-void Messages::AcceptMessageDialog(const MessageKey& key, std::wstring_view input, bool reportBug) {
-  if (IsNamePrompt(key)) State.UserName = input.empty() ? NoUserName : input;
-  if (std::exchange(State.EnableRememberAfterMessage, false)) Hooks.EnableRemember();
-  if (IsNamePrompt(key)) Hooks.SaveUserName();
+void Messages::AcceptMessageDialog(const Message& message, std::wstring_view input) {
+  if (IsNamePrompt(message)) State.UserName = input.empty() ? NoUserName : input;
+  if (std::exchange(State.EnableRememberAfterMessage, false)) host_.EnableRemember();
+  if (IsNamePrompt(message)) host_.SaveUserName();
   LeaveMessage();
-  if (reportBug) SendBugReport(key);
+  if (!message.BugReportPending) return;
+  const std::wstring address = std::wstring(L"mailto:") += product::BugReportAddress;
+  ShowListMessage(host_.SendMailTo(address, BugMailSubject, message.CurrentMessageKey));
 }
 
-void Messages::CloseMessageDialog(const MessageKey& key) {
-  if (key == L"MessageGetUserName") {
+void Messages::CloseMessageDialog(const Message& message) {
+  if (message.CurrentMessageKey == MessageGetUserName.Name()) {
     State.UserName = NoUserName;
-    Hooks.SaveUserName();
+    host_.SaveUserName();
   }
   LeaveMessage();
 }
 
 void Messages::LeaveMessage() {
-  State.CurrentMessageKey.clear();
-  State.MessageTitle.clear();
-  State.MessageBody.clear();
-  State.MessageButtons.clear();
-  State.MessageInputs.clear();
-  State.CurrentMessageText.clear();
-  if (openDialogs_ == 0) Hooks.ResumeOnTop();
-}
-
-void Messages::SendBugReport(const MessageKey& key) {
-  if (!Hooks.SendMailTo) return;
-  const std::wstring address = std::wstring(L"mailto:") += product::BugReportAddress;
-  ShowList(Hooks.SendMailTo(address, BugMailSubject, key));
+  static_cast<Message&>(State) = {};
+  if (openDialogs_ == 0) host_.ResumeOnTop();
 }
 
 }  // namespace vantor::message

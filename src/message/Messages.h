@@ -5,9 +5,9 @@
 #include <string_view>
 #include <utility>
 
-#include "form/Event.h"
 #include "form/UserInterface.h"
 #include "message/Catalogue.h"
+#include "message/MessageKey.h"
 #include "message/MessageState.h"
 #include "message/frmMessage.h"
 
@@ -15,50 +15,48 @@ namespace vantor::message {
 
 inline constexpr std::wstring_view BugMailSubject = L"Vantor - Found Bug";
 
-/// What a message makes happen elsewhere. Whoever owns those things fills it in; an empty one does nothing.
-struct MessageHooks {
-  /// A message opens: stop the bar's on-top timer and take the bar out of the topmost band, if it runs.
-  form::Event<> PauseOnTop;
-  /// The last open message has closed: when no panel is open, the on-top timer runs exactly when the preference
-  /// says so.
-  form::Event<> ResumeOnTop;
-  /// The screen in whose middle messages open; the primary one without this hook.
-  std::function<form::Screen()> HomeScreen;
-  form::Event<> SaveUserName;
-  /// Opens a mail; returns a MessageKey, "" on success.
-  std::function<MessageKey(std::wstring_view address, std::wstring_view subject, std::wstring_view body)> SendMailTo;
-  /// Enables "Remember My Computer".
-  form::Event<> EnableRemember;
+/// The program, as its messages need it.
+class MessageHost {
+ public:
+  /// A message opens: the bar leaves the topmost band.
+  virtual void PauseOnTop() = 0;
+  /// The last open message has closed: with no panel open, the bar keeps itself on top if the user wants that.
+  virtual void ResumeOnTop() = 0;
+  /// The screen in whose middle messages open.
+  [[nodiscard]] virtual form::Screen HomeScreen() const = 0;
   /// Whether any of the maker's other programs is present.
-  std::function<bool()> CompanionsPresent;
+  [[nodiscard]] virtual bool CompanionsPresent() const = 0;
+  virtual void SaveUserName() = 0;
+  /// Enables "Remember My Computer".
+  virtual void EnableRemember() = 0;
+  /// Opens a mail; returns the message that says why it could not, or none.
+  [[nodiscard]] virtual MessageKey SendMailTo(std::wstring_view address, std::wstring_view subject,
+                                              std::wstring_view body) = 0;
+
+ protected:
+  ~MessageHost() = default;  // nobody owns one by this type
 };
 
 /// The catalogue of messages and the dialog that shows them. Each routine returns when the user has answered
-/// and the answer has been applied; the slots of the state are empty then. A message may open while another is
-/// open, from a timer for instance: each keeps what its answer needs.
+/// and the answer has been applied. A message may open while another is open, from a timer for instance: each keeps
+/// what its answer needs.
 class Messages {
  public:
-  Messages(form::UserInterface& ui, MessageState& state) : State(state), ui_(ui) {}
+  Messages(form::UserInterface& ui, MessageState& state, MessageHost& host) : State(state), ui_(ui), host_(host) {}
 
   MessageState& State;
-  MessageHooks Hooks;
 
-  /// Shows CurrentMessageKey. A key that the routine does not hold shows nothing.
-  void ShowUserMessage() { ShowFromCatalogue(Selector::User); }
-  void ShowStopMessage() { ShowFromCatalogue(Selector::Stop); }  // OK ends the program
-  void ShowListMessage() { ShowFromCatalogue(Selector::List); }
-  /// Shows CurrentMessageText.
-  void ShowTextMessage();
-  /// Asks whether to report CurrentMessageKey, a "Bug-Vantor-…" key, by mail.
-  void ShowBugMessage();
+  /// Each shows a message of its part of the catalogue. One that stands elsewhere, or nowhere, shows nothing.
+  void ShowUserMessage(MessageKey key) { ShowFromCatalogue(Selector::User, key); }
+  void ShowStopMessage(MessageKey key) { ShowFromCatalogue(Selector::Stop, key); }  // OK ends the program
+  void ShowListMessage(MessageKey key) { ShowFromCatalogue(Selector::List, key); }
+  /// Shows a text as it is; nothing for "".
+  void ShowTextMessage(std::wstring_view text);
+  /// Asks whether to report a bug by mail, by its key: "Bug-Vantor-" and a routine's name.
+  void ShowBugMessage(std::wstring_view key);
 
-  /// Sets the key and shows it by ShowListMessage; nothing for "".
-  void ShowList(MessageKey key);
-  /// Sets the text and shows it by ShowTextMessage; nothing for "".
-  void ShowText(std::wstring_view text);
-
-  /// The error trap of a routine: runs `body`; an exception sets the bug key of the routine's name ("Bug-Vantor-"
-  /// and the name) and asks whether to report it.
+  /// The error trap of a routine: runs `body`; an exception asks whether to report the bug by the
+  /// routine's name.
   void Trap(std::wstring_view routine, const std::function<void()>& body);
   /// Makes a member of `owner` the handler of an event, in an error trap of the routine's name.
   template <class Event, class Name, class Owner, class Handler>
@@ -71,17 +69,17 @@ class Messages {
   void ReportBug(std::wstring_view routine);
 
  private:
-  void ShowFromCatalogue(Selector selector);
-  [[nodiscard]] std::wstring AddresseeTitle() const;
+  void ShowFromCatalogue(Selector selector, MessageKey key);
+  /// A message to the user by name, with an OK button.
+  [[nodiscard]] Message Addressed() const;
 
-  void OpenMessageDialog(std::wstring_view title, std::wstring_view body, std::wstring_view buttons,
-                         std::wstring_view inputs);
-  void AcceptMessageDialog(const MessageKey& key, std::wstring_view input, bool reportBug);
-  void CloseMessageDialog(const MessageKey& key);
+  void OpenMessageDialog(const Message& message);
+  void AcceptMessageDialog(const Message& message, std::wstring_view input);
+  void CloseMessageDialog(const Message& message);
   void LeaveMessage();
-  void SendBugReport(const MessageKey& key);
 
   form::UserInterface& ui_;
+  MessageHost& host_;
   int openDialogs_ = 0;
   bool askingAboutBug_ = false;
 };

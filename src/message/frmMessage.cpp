@@ -52,8 +52,8 @@ frmMessage::frmMessage(form::UserInterface& ui) : Form(ui, L"frmMessage") {
   CheckDoNotShow.SetCaption(L"Do not show this message again.");
   CheckDoNotShow.SetForeColor(form::Color::WindowText);
   CheckDoNotShow.SetVisible(false);
-  form::DressButton(CommandOK, LabelOK, {});
-  form::DressButton(CommandCancel, LabelCancel, {});
+  form::DressButton(CommandOK, {});
+  form::DressButton(CommandCancel, {});
   CommandOK.SetEnabled(false);
   CommandCancel.SetEnabled(false);
   TextInput0.SetBackColor(form::Color::LineBlue);
@@ -108,8 +108,6 @@ void frmMessage::Arrange(const form::Screen& screen) {
   top += Gap;
   CommandCancel.SetBounds({left + width - ButtonWidth, top, ButtonWidth, form::ButtonHeight});
   CommandOK.SetBounds({CommandCancel.Left() - Gap - ButtonWidth, top, ButtonWidth, form::ButtonHeight});
-  LabelCancel.SetBounds(CommandCancel.Bounds());
-  LabelOK.SetBounds(CommandOK.Bounds());
 
   const form::Twips formWidth = left + width + Margin;
   const form::Twips formHeight = top + form::ButtonHeight + Margin;

@@ -15,7 +15,7 @@ namespace vantor::message {
 /// How the user left a message. None: the program ended while it was open.
 enum class Answer { None, Accepted, Cancelled };
 
-/// The message box: a head line, a text, two buttons with their words drawn over them, and one input. Each
+/// The message box: a head line, a text, two buttons, and one input. Each
 /// message gets a form of its own; whoever opens it applies the answer.
 class frmMessage : public form::Form {
  public:
@@ -27,8 +27,9 @@ class frmMessage : public form::Form {
   form::CommandButton CommandCancel{*this, L"CommandCancel"};
   form::Timer Timer1{*this, 1000};
   form::TextBox TextInput0{*this, L"TextInput0"};
-  form::Label LabelCancel{*this, L"LabelCancel"};
-  form::Label LabelOK{*this, L"LabelOK"};
+  // The words on the buttons, which are the buttons' captions.
+  form::CommandButton& LabelCancel = CommandCancel;
+  form::CommandButton& LabelOK = CommandOK;
   form::Label LabelMessage{*this, L"LabelMessage"};
   form::Label LabelHead{*this, L"LabelHead"};
 

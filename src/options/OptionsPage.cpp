@@ -42,10 +42,10 @@ OptionsPage::OptionsPage(panel::frmChoose& form, const panel::PanelContext& cont
 
 void OptionsPage::Dress() {
   for (std::size_t i = 0; i < Count; ++i) CheckOptionMain[i].SetCaption(Captions[i]);
-  form::DressButton(CommandOptionShortcut, LabelOptionShortcut, L"Create Desktop Shortcut");
-  form::DressButton(CommandOptionRemember, LabelOptionRemember, L"Remember My Computer");
-  form::DressButton(CommandOptionOK, LabelOptionOK, L"OK");
-  form::DressButton(CommandOptionCancel, LabelOptionCancel, L"Cancel");
+  form::DressButton(CommandOptionShortcut, L"Create Desktop Shortcut");
+  form::DressButton(CommandOptionRemember, L"Remember My Computer");
+  form::DressButton(CommandOptionOK, L"OK");
+  form::DressButton(CommandOptionCancel, L"Cancel");
   CommandOptionRemember.SetEnabled(false);
 }
 
@@ -72,8 +72,8 @@ form::Size OptionsPage::LayOut() {
   for (const form::CheckBox& box : CheckOptionMain) {
     width = std::max(width, box.LeastSize().Width + 2 * Margin);
   }
-  for (const form::Label* label : {&LabelOptionShortcut, &LabelOptionRemember}) {
-    width = std::max(width, form::ButtonWidth(*label) + 2 * Margin);
+  for (const form::CommandButton* button : {&CommandOptionShortcut, &CommandOptionRemember}) {
+    width = std::max(width, form::ButtonWidth(*button) + 2 * Margin);
   }
   Twips top = panel::FrameTop;
   for (form::CheckBox& box : CheckOptionMain) {
@@ -81,19 +81,19 @@ form::Size OptionsPage::LayOut() {
     top = box.Bottom() + Gap;
   }
   top += Gap;
-  const auto placeWide = [&](form::CommandButton& button, form::Label& label) {
+  const auto placeWide = [&](form::CommandButton& button) {
     if (!button.Visible()) return;
-    form::PlaceButton(button, label, {Margin, top, width - 2 * Margin, ButtonHeight});
+    button.SetBounds({Margin, top, width - 2 * Margin, ButtonHeight});
     top += ButtonHeight + Gap;
   };
-  placeWide(CommandOptionShortcut, LabelOptionShortcut);
-  placeWide(CommandOptionRemember, LabelOptionRemember);
+  placeWide(CommandOptionShortcut);
+  placeWide(CommandOptionRemember);
   top += Margin;
-  const Twips cancelWidth = form::ButtonWidth(LabelOptionCancel);
-  const Twips okWidth = form::ButtonWidth(LabelOptionOK);
+  const Twips cancelWidth = form::ButtonWidth(CommandOptionCancel);
+  const Twips okWidth = form::ButtonWidth(CommandOptionOK);
   const Twips cancelLeft = width - Margin - cancelWidth;
-  form::PlaceButton(CommandOptionCancel, LabelOptionCancel, {cancelLeft, top, cancelWidth, ButtonHeight});
-  form::PlaceButton(CommandOptionOK, LabelOptionOK, {cancelLeft - Gap - okWidth, top, okWidth, ButtonHeight});
+  CommandOptionCancel.SetBounds({cancelLeft, top, cancelWidth, ButtonHeight});
+  CommandOptionOK.SetBounds({cancelLeft - Gap - okWidth, top, okWidth, ButtonHeight});
   return {width, top + ButtonHeight + Margin};
 }
 
@@ -155,7 +155,7 @@ void OptionsPage::CommandOptionShortcut_Click() {
                                                   .IconLocation = ProgramFile() + L", 0",
                                                   .Description = name,
                                                   .WorkingDirectory = context_.Environment.ProgramFolder});
-  if (saved) context_.Messages.ShowText(L"A shortcut for " + name + L" has been placed on your Desktop.");
+  if (saved) context_.Messages.ShowTextMessage(L"A shortcut for " + name + L" has been placed on your Desktop.");
 }
 
 void OptionsPage::CommandOptionRemember_Click() {

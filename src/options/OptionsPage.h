@@ -25,13 +25,9 @@ class OptionsPage : public panel::Page {
                                                     form::CheckBox{FrameOptions, L"CheckOptionMain(1)"},
                                                     form::CheckBox{FrameOptions, L"CheckOptionMain(2)"}};
   form::CommandButton CommandOptionShortcut{FrameOptions, L"CommandOptionShortcut"};
-  form::Label LabelOptionShortcut{FrameOptions, L"LabelOptionShortcut"};
   form::CommandButton CommandOptionRemember{FrameOptions, L"CommandOptionRemember"};
-  form::Label LabelOptionRemember{FrameOptions, L"LabelOptionRemember"};
   form::CommandButton CommandOptionOK{FrameOptions, L"CommandOptionOK"};
-  form::Label LabelOptionOK{FrameOptions, L"LabelOptionOK"};
   form::CommandButton CommandOptionCancel{FrameOptions, L"CommandOptionCancel"};
-  form::Label LabelOptionCancel{FrameOptions, L"LabelOptionCancel"};
 
   /// Lets the user remember this computer: adding was refused because none is remembered yet.
   void EnableRemember() { CommandOptionRemember.SetEnabled(true); }

@@ -27,7 +27,7 @@ std::wstring MakersPrograms() { return std::wstring(product::Publisher).append(L
 CompanionPage::CompanionPage(frmChoose& form, const PanelContext& context)
     : Page(form, menu::Companions, {L"FrameRun", MakersPrograms(), MakersPrograms(), L"Cancel"}), context_(context) {
   ListRunName.SetAccessibleName(Title());
-  form::DressButton(CommandRunOpen, LabelRunOpen, L"Open");
+  form::DressButton(CommandRunOpen, L"Open");
   message::Messages& messages = context_.Messages;
   messages.Connect(ListRunName.DblClick, L"ListRunName_DblClick", this, &CompanionPage::CommandRunOpen_Click);
   messages.Connect(CommandRunOpen.Click, L"CommandRunOpen_Click", this, &CompanionPage::CommandRunOpen_Click);
@@ -48,8 +48,8 @@ form::Size CompanionPage::LayOut() {
   }
   const Twips width = std::clamp(nameWidth + BesideName, LeastWidth, GreatestWidth);
   ListRunName.SetBounds({Margin, FrameTop, width, ListHeight});
-  form::PlaceButton(CommandRunOpen, LabelRunOpen,
-                    {Margin, ListRunName.Bottom() + Margin, form::ButtonWidth(LabelRunOpen), form::ButtonHeight});
+  CommandRunOpen.SetBounds(
+      {Margin, ListRunName.Bottom() + Margin, form::ButtonWidth(CommandRunOpen), form::ButtonHeight});
   return {width + 2 * Margin, CommandRunOpen.Bottom() + Margin};
 }
 
@@ -57,7 +57,7 @@ void CompanionPage::CommandRunOpen_Click() {
   if (ListRunName.ListIndex() == -1) return;
   const auto chosen = static_cast<std::size_t>(ListRunName.ListIndex());
   Host().ClosePanel();
-  context_.Messages.ShowList(context_.Starters.RunProgramFile(context_.Environment.Companions.at(chosen).Path));
+  context_.Messages.ShowListMessage(context_.Starters.RunProgramFile(context_.Environment.Companions.at(chosen).Path));
 }
 
 }  // namespace vantor::panel

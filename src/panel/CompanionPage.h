@@ -14,7 +14,6 @@ class CompanionPage : public Page {
 
   form::ListBox ListRunName{Frame, L"ListRunName"};
   form::CommandButton CommandRunOpen{Frame, L"CommandRunOpen"};
-  form::Label LabelRunOpen{Frame, L"LabelRunOpen"};
 
   [[nodiscard]] bool Available() const override { return !context_.Environment.Companions.empty(); }
   form::Size LayOut() override;

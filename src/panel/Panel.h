@@ -3,7 +3,7 @@
 #include <cstddef>
 
 #include "form/Form.h"
-#include "message/MessageState.h"
+#include "message/MessageKey.h"
 #include "panel/MenuButtons.h"
 #include "panel/PanelHost.h"
 

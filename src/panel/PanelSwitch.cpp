@@ -29,7 +29,7 @@ void PanelSwitch::Click(std::size_t index) {
     if (const message::MessageKey refusal = panel.Refusal(); !refusal.empty()) {
       state_.OpenPanelIndex = command::NoIndex;
       bar_->ShowMenuFaces();  // the message takes its time
-      messages_.ShowList(refusal);
+      messages_.ShowListMessage(refusal);
     }
   } else {
     bar_->ResumeOnTop();

@@ -9,7 +9,7 @@ frmChoose::frmChoose(form::UserInterface& ui, PanelHost& host, message::Messages
     : Form(ui, L"frmChoose"), host_(host), messages_(messages) {
   SetBorderStyle(form::BorderStyle::Line);
   FrameCancel.SetBorder(false);
-  form::DressButton(CommandListCancel, LabelListCancel, L"Cancel");
+  form::DressButton(CommandListCancel, L"Cancel");
   messages_.Connect(CommandListCancel.Click, L"CommandListCancel_Click", this, &frmChoose::CommandListCancel_Click);
 }
 
@@ -33,10 +33,10 @@ void frmChoose::ShowPage(Page& page) {
   FrameCancel.SetVisible(closes);
   form::Twips height = size.Height;
   if (closes) {
-    LabelListCancel.SetCaption(page.CloseCaption());
-    const form::Twips width = form::ButtonWidth(LabelListCancel);
+    CommandListCancel.SetCaption(page.CloseCaption());
+    const form::Twips width = form::ButtonWidth(CommandListCancel);
     FrameCancel.SetBounds({size.Width - Margin - width, height, width, form::ButtonHeight});
-    form::PlaceButton(CommandListCancel, LabelListCancel, {0, 0, width, form::ButtonHeight});
+    CommandListCancel.SetBounds({0, 0, width, form::ButtonHeight});
     height += form::ButtonHeight + Margin;
   }
   SetInside({size.Width, height});

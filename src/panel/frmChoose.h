@@ -18,7 +18,6 @@ class frmChoose : public form::Form {
 
   form::Frame FrameCancel{*this, L"FrameCancel"};
   form::CommandButton CommandListCancel{FrameCancel, L"CommandListCancel"};
-  form::Label LabelListCancel{FrameCancel, L"LabelListCancel"};
 
   [[nodiscard]] PanelHost& Host() const { return host_; }
   /// Takes a page whose frame is on this form.

@@ -34,7 +34,7 @@ void ActiveStart::CheckScreen() {
   const form::Screen screen = program_.Ui.PrimaryScreen();
   if (std::lround(screen.Bounds.Width / screen.TwipsPerPixelX) < MinWidth ||
       std::lround(screen.Bounds.Height / screen.TwipsPerPixelY) < MinHeight) {
-    Stop(L"MessageSmallScreen");
+    Stop(message::MessageSmallScreen);
   }
 }
 
@@ -59,20 +59,20 @@ void ActiveStart::FindPlaces() {
   const bool windowsKnown = !environment.WindowsFolderUpper.empty();
   // The stop messages hold no such key, so that the start goes on.
   if (windowsKnown && environment.ProgramFolderUpper.starts_with(environment.WindowsFolderUpper)) {
-    Stop(L"MessageProgInSystem");
+    Stop(message::MessageProgInSystem);
   }
 }
 
 void ActiveStart::ChooseRunMode() {
   state::Environment& environment = program_.Environment;
   if (!program_.Services.FileSystem.Available()) {
-    Stop(L"MessageNeedSriptRuntime");
+    Stop(message::MessageNeedSriptRuntime);
     return;
   }
   environment.DriveTypeText = GetDriveTypeText(program_.Services.FileSystem, environment.DriveRoot);
   const std::wstring& type = environment.DriveTypeText;
-  if (type == L"Unknown" || type == L"Remote") Stop(L"MessageMediaUnknown");
-  if (type == L"CDRom") Stop(L"MessageMediaCDRom");
+  if (type == L"Unknown" || type == L"Remote") Stop(message::MessageMediaUnknown);
+  if (type == L"CDRom") Stop(message::MessageMediaCDRom);
   environment.RunMode = type != L"Fixed";
 }
 
@@ -101,11 +101,9 @@ void ActiveStart::LoadName() {
 }
 
 void ActiveStart::AskForName() {
-  message::MessageState& state = program_.MessageState;
-  if (nameUnread_ || !state.UserName.empty()) return;
+  if (nameUnread_ || !program_.MessageState.UserName.empty()) return;
   program_.Environment.FirstStart = true;  // also where the first start was ended at this question
-  state.CurrentMessageKey = L"MessageGetUserName";
-  program_.Messages.ShowUserMessage();
+  program_.Messages.ShowUserMessage(message::MessageGetUserName);
 }
 
 void ActiveStart::LoadState() {
@@ -126,24 +124,22 @@ void ActiveStart::ShowForms() {
   program_.frmBrowse.Load();
   program_.frmChoose.Load();
   program_.frmMain.Show();
-  if (program_.Environment.FirstStart) program_.Messages.ShowList(L"MessageFisrtStart");
+  if (program_.Environment.FirstStart) program_.Messages.ShowListMessage(message::MessageFisrtStart);
 }
 
 void ActiveStart::TellWhereSaved() {
   const state::Environment& environment = program_.Environment;
-  if (!canSave_) program_.Messages.ShowText(L"The list and settings cannot be saved in " + environment.DataFolder);
+  if (!canSave_)
+    program_.Messages.ShowTextMessage(L"The list and settings cannot be saved in " + environment.DataFolder);
   const std::wstring elsewhere = program_.ListFiles.SavedElsewhere();
   if (elsewhere.empty()) return;
-  program_.Messages.ShowText(
+  program_.Messages.ShowTextMessage(
       L"The list and settings of the last run were not saved in their place, because something there could not be "
       L"read. They are in " +
       elsewhere);
   if (!program_.Ui.Ended()) program_.ListFiles.ForgetSavedElsewhere();
 }
 
-void ActiveStart::Stop(std::wstring_view key) {
-  program_.MessageState.CurrentMessageKey = key;
-  program_.Messages.ShowStopMessage();
-}
+void ActiveStart::Stop(message::MessageKey key) { program_.Messages.ShowStopMessage(key); }
 
 }  // namespace vantor::start

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <string_view>
+#include "message/MessageKey.h"
 
 namespace vantor::start {
 
@@ -29,7 +29,7 @@ class ActiveStart {
   void ShowForms();
   void TellWhereSaved();
 
-  void Stop(std::wstring_view key);
+  void Stop(message::MessageKey key);
 
   Program& program_;
   bool canSave_ = true;

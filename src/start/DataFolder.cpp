@@ -89,15 +89,15 @@ bool PrepareDataFolder(const service::Services& services, state::Environment& en
 message::MessageKey PrepareMedia(const service::Services& services, state::Environment& environment) {
   if (IsFresh(services, environment)) {
     environment.FirstStart = true;
-    return CreateMedia(services, environment) ? L"" : L"MessageMediaCreateError";
+    return CreateMedia(services, environment) ? message::MessageKey() : message::MessageMediaCreateError;
   }
   // Where it can't be read just now, the medium was in use before.
   const auto media = ReadMediaSet(services, environment);
-  if (media && media->State.empty()) return L"MessageRecreateMedia";
-  if (media && media->State == MediaSetup) return L"MessageMediaRunCancel";
-  if (!services.DataFiles.Read(environment.Files.Set).Missing) return L"";
+  if (media && media->State.empty()) return message::MessageRecreateMedia;
+  if (media && media->State == MediaSetup) return message::MessageMediaRunCancel;
+  if (!services.DataFiles.Read(environment.Files.Set).Missing) return {};
   environment.FirstStart = true;
-  return WriteFirstSettings(services, environment) ? L"" : L"MessageMediaCreateError";
+  return WriteFirstSettings(services, environment) ? message::MessageKey() : message::MessageMediaCreateError;
 }
 
 std::optional<std::wstring> LoadUserName(const service::Services& services, const state::Environment& environment) {

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "message/MessageState.h"
+#include "message/MessageKey.h"
 #include "service/Services.h"
 #include "state/Environment.h"
 

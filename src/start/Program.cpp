@@ -6,7 +6,6 @@
 namespace vantor::start {
 
 Program::Program(form::UserInterface& ui, const service::Services& services) : Ui(ui), Services(services) {
-  ConnectMessages();
   for (form::Form* form : {static_cast<form::Form*>(&frmMain), static_cast<form::Form*>(&frmBrowse)}) {
     form->SetAcceptsDrops(true);
     form->Dropped = [this](const form::DroppedItems& items) { Take(items); };
@@ -22,19 +21,12 @@ void Program::Main() {
     Ui.End();
 }
 
-void Program::ConnectMessages() {
-  message::MessageHooks& hooks = Messages.Hooks;
+form::Screen Program::HomeScreen() const {
   // The messages of the start come before there is a bar.
-  hooks.PauseOnTop = [this] { frmMain.PauseOnTop(); };
-  hooks.ResumeOnTop = [this] { frmMain.ResumeOnTop(); };
-  hooks.HomeScreen = [this] { return frmMain.Loaded() ? Ui.ScreenAt(frmMain.Bounds()) : Ui.PrimaryScreen(); };
-  hooks.SaveUserName = [this] { SaveUserName(Services, Environment, MessageState.UserName); };
-  hooks.SendMailTo = [this](std::wstring_view address, std::wstring_view subject, std::wstring_view body) {
-    return Starters.SendMailTo(address, subject, body);
-  };
-  hooks.EnableRemember = [this] { OptionsPage.EnableRemember(); };
-  hooks.CompanionsPresent = [this] { return !Environment.Companions.empty(); };
+  return frmMain.Loaded() ? Ui.ScreenAt(frmMain.Bounds()) : Ui.PrimaryScreen();
 }
+
+void Program::SaveUserName() { start::SaveUserName(Services, Environment, MessageState.UserName); }
 
 void Program::Take(const form::DroppedItems& items) {
   if (!items.Paths.empty())

@@ -25,7 +25,7 @@
 namespace vantor::start {
 
 /// The whole program: all state, and all forms. The entry point makes one; each test makes its own.
-class Program {
+class Program final : private message::MessageHost {
  public:
   /// Keeps both by reference.
   Program(form::UserInterface& ui, const service::Services& services);
@@ -44,7 +44,7 @@ class Program {
   message::MessageState MessageState;
   command::CommandState CommandState;
 
-  message::Messages Messages{Ui, MessageState};
+  message::Messages Messages{Ui, MessageState, *this};
   command::Starters Starters{Services};
   list::ListFiles ListFiles{Services, Environment, Settings};
 
@@ -66,7 +66,16 @@ class Program {
                                          ListPage.List, ListFiles, CommandState, Starters, frmMatches}};
 
  private:
-  void ConnectMessages();
+  void PauseOnTop() override { frmMain.PauseOnTop(); }
+  void ResumeOnTop() override { frmMain.ResumeOnTop(); }
+  [[nodiscard]] form::Screen HomeScreen() const override;
+  [[nodiscard]] bool CompanionsPresent() const override { return !Environment.Companions.empty(); }
+  void SaveUserName() override;
+  void EnableRemember() override { OptionsPage.EnableRemember(); }
+  [[nodiscard]] message::MessageKey SendMailTo(std::wstring_view address, std::wstring_view subject,
+                                               std::wstring_view body) override {
+    return Starters.SendMailTo(address, subject, body);
+  }
   void Take(const form::DroppedItems& items);
 };
 

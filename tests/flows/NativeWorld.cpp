@@ -266,8 +266,7 @@ class NativeWorld : public World {
     if (const auto* list = dynamic_cast<const form::ListControl*>(&control)) return list->Text();
     if (const auto* label = dynamic_cast<const form::Label*>(&control)) return label->Caption();
     if (const auto* frame = dynamic_cast<const form::Frame*>(&control)) return frame->Caption();
-    if (const auto* button = dynamic_cast<const form::CommandButton*>(&control))
-      return button->FaceLabel() != nullptr ? button->FaceLabel()->Caption() : button->Caption();
+    if (const auto* button = dynamic_cast<const form::CommandButton*>(&control)) return button->Caption();
     return dynamic_cast<const form::ChoiceButton&>(control).Caption();
   }
   /// The control of a name that is on the screen; of two, that of the form before the other. Null when there is none.

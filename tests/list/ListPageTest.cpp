@@ -11,10 +11,10 @@ TEST_CASE("names are listed regardless of letter case, paths only when identical
   form::ComboBox& box = program.Page.ComboListProgName;
   for (const auto* entry : {L"Editor", L"\u00C9t\u00E9", L"the \"best\""}) box.AddItem(entry);
   for (const auto* name : {L"EDITOR", L"\u00E9T\u00C9", L"THE 'BEST'", L"the 'best\""})
-    CHECK(CheckNameListed(program.Computer, name, box) == L"MessageNameAlreadyListed");
+    CHECK(CheckNameListed(program.Computer, name, box) == message::MessageNameAlreadyListed);
   for (const auto* name : {L"Edito", L"Editor ", L"\u00CAt\u00E9", L""})
     CHECK(CheckNameListed(program.Computer, name, box).empty());
-  CHECK(PathAlreadyListed(LaunchGroup::Prog, L"Editor", box) == L"MessagePathAlreadyListed");
+  CHECK(PathAlreadyListed(LaunchGroup::Prog, L"Editor", box) == message::MessagePathAlreadyListed);
   CHECK(PathAlreadyListed(LaunchGroup::Prog, L"editor", box).empty());
   // What is the same once it is saved: the name above, and an address.
   CHECK_FALSE(PathAlreadyListed(LaunchGroup::Web, L"the %22best\"", box).empty());

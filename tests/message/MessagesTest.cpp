@@ -16,10 +16,6 @@ struct Desk : test::StartedProgram {
   MessageState& State = Program.MessageState;
   Messages& Shown = Program.Messages;
 
-  void ShowUser(MessageKey key) {
-    State.CurrentMessageKey = std::move(key);
-    Shown.ShowUserMessage();
-  }
   /// All messages came, and left nothing behind.
   [[nodiscard]] bool Done() const {
     return Desktop.ModalScriptsDone() && !State.BugReportPending &&
@@ -39,14 +35,13 @@ TEST_CASE("a message addresses the user, and a key that the routine does not hol
       CHECK((dialog.CommandCancel.Visible() && !dialog.CommandCancel.Enabled()));
       desk.Desktop.Press(form::Key::Enter);
     });
-    desk.Shown.ShowList(L"MessageAddNotFound");
+    desk.Shown.ShowListMessage(MessageAddNotFound);
     CHECK(desk.Told == Texts{L"Seleted item doesn't exist.\r\nFailed to add."});
     CHECK(desk.Done());
-    desk.State.CurrentMessageKey = L"MessageProgInSystem";
-    desk.Shown.ShowStopMessage();
-    desk.Shown.ShowList(L"MessagePanelOpenError");
-    desk.Shown.ShowList(L"MessageSmallScreen");
-    desk.Shown.ShowText(L"");
+    desk.Shown.ShowStopMessage(MessageProgInSystem);
+    desk.Shown.ShowListMessage(MessagePanelOpenError);
+    desk.Shown.ShowListMessage(MessageSmallScreen);
+    desk.Shown.ShowTextMessage(L"");
     CHECK_FALSE((desk.State.EndAfterMessage || desk.Desktop.Ended()));
   }
 }
@@ -63,7 +58,7 @@ TEST_CASE("messages that open over others take nothing from them, and errors do 
     CHECK_FALSE(desk.Main.TopMost());
     desk.Desktop.Type(L"7\r");
   });
-  desk.ShowUser(L"MessageGetUserName");
+  desk.Shown.ShowUserMessage(MessageGetUserName);
   CHECK(desk.State.UserName == L"Eve");
   CHECK(desk.Told.size() == 2);
   CHECK(desk.Done());
@@ -74,7 +69,7 @@ TEST_CASE("the first-start help tells of the missing button, and has room on the
     Desk desk;
     const form::Rect screen{0, 0, 640 * 15, 450 * 15};
     desk.Desktop.Desktop = {screen, screen};
-    desk.Shown.Hooks.CompanionsPresent = [=] { return present; };
+    if (present) desk.Program.Environment.Companions = {{L"Sketch", L"C:\\Sketch.exe"}};
     desk.Expect([&](frmMessage& dialog) {
       const std::wstring line = present ? L"\r\n\r\n\r\n\r\nYou will" : L"#5 button is not visible.\r\n\r\nYou will";
       CHECK(desk.Told.back().find(line) != std::wstring::npos);
@@ -85,7 +80,7 @@ TEST_CASE("the first-start help tells of the missing button, and has room on the
       CHECK(dialog.CommandCancel.Bottom() < dialog.Bounds().Height);
       CHECK((dialog.Bounds().Right() < screen.Width && dialog.Bounds().Bottom() < screen.Height));
     });
-    desk.Shown.ShowList(L"MessageFisrtStart");
+    desk.Shown.ShowListMessage(MessageFisrtStart);
   }
 }
 

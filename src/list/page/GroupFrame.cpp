@@ -35,18 +35,13 @@ GroupFrame::GroupFrame(form::Control& page, const GroupTexts& texts, const servi
       LabelPath(Frame, ControlName(L"Label", texts.Code, L"Path")),
       Path(Frame, ControlName(L"Combo", texts.Code, L"Path")),
       Open(Frame, ControlName(L"Command", texts.Code, L"Open")),
-      LabelOpen(Frame, ControlName(L"Label", texts.Code, L"Open")),
       Rename(Frame, ControlName(L"Command", texts.Code, L"Rename")),
-      LabelRename(Frame, ControlName(L"Label", texts.Code, L"Rename")),
       Remove(Frame, ControlName(L"Command", texts.Code, L"Remove")),
-      LabelRemove(Frame, ControlName(L"Label", texts.Code, L"Remove")),
       FrameRename(Frame, ControlName(L"Frame", texts.Code, L"Rename")),
       LabelNewName(FrameRename, ControlName(L"Label", texts.Code, L"NewName")),
       TextRename(FrameRename, ControlName(L"Text", texts.Code, L"Rename")),
       RenOK(FrameRename, ControlName(L"Command", texts.Code, L"RenOK")),
-      LabelRenOK(FrameRename, ControlName(L"Label", texts.Code, L"RenOK")),
       RenCancel(FrameRename, ControlName(L"Command", texts.Code, L"RenCancel")),
-      LabelRenCancel(FrameRename, ControlName(L"Label", texts.Code, L"RenCancel")),
       language_(language),
       messages_(messages) {
   Dress(texts);
@@ -60,15 +55,15 @@ void GroupFrame::Dress(const GroupTexts& texts) {
   LabelPath.SetCaption(L"Launch Path :");
   Name.SetAccessibleName(item + L" Name");
   Path.SetAccessibleName(item + L" Launch Path");
-  form::DressButton(Open, LabelOpen, L"Open");
-  form::DressButton(Rename, LabelRename, L"Rename");
-  form::DressButton(Remove, LabelRemove, L"Remove From List");
+  form::DressButton(Open, L"Open");
+  form::DressButton(Rename, L"Rename");
+  form::DressButton(Remove, L"Remove From List");
   FrameRename.SetBorder(false);
   FrameRename.SetVisible(false);
   LabelNewName.SetCaption(texts.NewNameLabel);
   TextRename.SetAccessibleName(item + L" New Name");
-  form::DressButton(RenOK, LabelRenOK, L"OK");
-  form::DressButton(RenCancel, LabelRenCancel, L"Cancel");
+  form::DressButton(RenOK, L"OK");
+  form::DressButton(RenCancel, L"Cancel");
   RenOK.SetEnabled(false);
 }
 
@@ -92,8 +87,8 @@ Twips GroupFrame::LabelWidth() const {
 }
 
 Twips GroupFrame::LeastWidth() const {
-  return Margin + LabelWidth() + Margin + form::ButtonWidth(LabelOpen) + Gap + form::ButtonWidth(LabelRename) + Gap +
-         form::ButtonWidth(LabelRemove) + Margin;
+  return Margin + LabelWidth() + Margin + form::ButtonWidth(Open) + Gap + form::ButtonWidth(Rename) + Gap +
+         form::ButtonWidth(Remove) + Margin;
 }
 
 Twips GroupFrame::LayOut(Twips left, Twips top, Twips width) {
@@ -112,24 +107,24 @@ Twips GroupFrame::LayOut(Twips left, Twips top, Twips width) {
   y = Path.Bottom() + Margin;
 
   Twips x = boxLeft;
-  const auto place = [&x](form::CommandButton& button, form::Label& label, Twips at) {
-    form::PlaceButton(button, label, {x, at, form::ButtonWidth(label), form::ButtonHeight});
+  const auto place = [&x](form::CommandButton& button, Twips at) {
+    button.SetBounds({x, at, form::ButtonWidth(button), form::ButtonHeight});
     x += button.Width() + Gap;
   };
-  place(Open, LabelOpen, y);
-  place(Rename, LabelRename, y);
-  place(Remove, LabelRemove, y);
+  place(Open, y);
+  place(Rename, y);
+  place(Remove, y);
   y += form::ButtonHeight + Gap;
 
   FrameRename.SetBounds({Gap, y, width - 2 * Gap, form::ButtonHeight});
   const Twips inside = Margin - Gap;
   LabelNewName.SetBounds({inside, (form::ButtonHeight - labelHeight) / 2, labelWidth, labelHeight});
-  const Twips buttons = form::ButtonWidth(LabelRenOK) + Gap + form::ButtonWidth(LabelRenCancel);
+  const Twips buttons = form::ButtonWidth(RenOK) + Gap + form::ButtonWidth(RenCancel);
   const Twips textLeft = boxLeft - Gap;
   x = FrameRename.Width() - inside - buttons;
   TextRename.SetBounds({textLeft, (form::ButtonHeight - lineHeight) / 2, x - Gap - textLeft, lineHeight});
-  place(RenOK, LabelRenOK, 0);
-  place(RenCancel, LabelRenCancel, 0);
+  place(RenOK, 0);
+  place(RenCancel, 0);
 
   Frame.SetBounds({left, top, width, FrameRename.Bottom() + Margin});
   return Frame.Height();
@@ -176,7 +171,7 @@ void GroupFrame::RenOK_Click() {
   const std::wstring newName = TextRename.Text();
   const message::MessageKey listed = CheckNameListed(language_, newName, Name);
   if (!listed.empty()) {
-    messages_.ShowList(listed);
+    messages_.ShowListMessage(listed);
     TextRename.SetText({});
     TextRename.SetFocus();
     return;

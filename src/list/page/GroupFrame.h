@@ -37,19 +37,14 @@ class GroupFrame {
   form::Label LabelPath;
   form::ComboBox Path;
   form::CommandButton Open;
-  form::Label LabelOpen;
   form::CommandButton Rename;
-  form::Label LabelRename;
   form::CommandButton Remove;
-  form::Label LabelRemove;
 
   form::Frame FrameRename;
   form::Label LabelNewName;
   form::TextBox TextRename;
   form::CommandButton RenOK;
-  form::Label LabelRenOK;
   form::CommandButton RenCancel;
-  form::Label LabelRenCancel;
 
   /// The width, in twips, that shows the texts of its labels and buttons whole.
   [[nodiscard]] form::Twips LeastWidth() const;

@@ -45,7 +45,7 @@ GroupFrame& ListPage::Of(LaunchGroup group) {
 
 message::MessageKey ListPage::Refusal() {
   const int items = Prog.Name.ListCount() + File.Name.ListCount() + Fold.Name.ListCount() + Web.Name.ListCount();
-  return items == 0 ? L"MessageEmptyList" : L"";
+  return items == 0 ? message::MessageEmptyList : message::MessageKey();
 }
 
 void ListPage::Load() {
@@ -74,7 +74,8 @@ form::Control* ListPage::First() {
 void ListPage::Start(LaunchGroup group, std::wstring_view target) {
   Host().ClosePanel();
   const command::Starters& starters = context_.Starters;
-  context_.Messages.ShowList(group == LaunchGroup::Prog ? starters.RunProgramFile(target) : starters.OpenItem(target));
+  context_.Messages.ShowListMessage(group == LaunchGroup::Prog ? starters.RunProgramFile(target)
+                                                               : starters.OpenItem(target));
 }
 
 }  // namespace vantor::list

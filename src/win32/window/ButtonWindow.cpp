@@ -5,7 +5,6 @@
 
 #include <string>
 
-#include "form/Static.h"
 #include "win32/draw/Pictures.h"
 
 namespace vantor::win32 {
@@ -24,7 +23,6 @@ DWORD StyleOf(const form::CommandButton& button) { return HasPictures(button) ? 
 /// The window's text is what a screen reader calls the button; the system's own button also shows it.
 std::wstring NameOf(const form::CommandButton& button) {
   std::wstring name = button.AccessibleName();
-  if (name.empty() && button.FaceLabel() != nullptr) name = button.FaceLabel()->Caption();
   if ((name.empty() || !HasPictures(button)) && !button.Caption().empty()) name = button.Caption();
   return name;
 }
@@ -32,9 +30,7 @@ std::wstring NameOf(const form::CommandButton& button) {
 }  // namespace
 
 ButtonWindow::ButtonWindow(FormWindow& owner, form::CommandButton& button)
-    : ControlWindow(owner, button, {L"BUTTON", WS_TABSTOP | StyleOf(button), NameOf(button)}), button_(button) {
-  if (button_.FaceLabel() != nullptr) button_.FaceLabel()->AttachWindow(&faceLabel_);
-}
+    : ControlWindow(owner, button, {L"BUTTON", WS_TABSTOP | StyleOf(button), NameOf(button)}), button_(button) {}
 
 void ButtonWindow::Describe(AccessibleState& state) const {
   state.Role = ROLE_SYSTEM_PUSHBUTTON;
@@ -85,11 +81,10 @@ void ButtonWindow::OnDraw(const DRAWITEMSTRUCT& item) {
   DrawFace(canvas, canvas.Whole(), colors, face, enabled && (item.itemState & ODS_FOCUS) != 0, Scale());
   DrawGlyph(canvas, button_.Picture(), canvas.Whole(), face.Text, Scale());
 
-  const form::Label* const label = button_.FaceLabel();
-  const std::wstring& caption = label != nullptr ? label->Caption() : button_.Caption();
   RECT area{0, 0, size.cx, size.cy};
   if (!button_.Sign()) InflateRect(&area, -static_cast<int>(4 * Scale()), 0);
-  canvas.Text(caption, area, Font(button_.Sign()), face.Text, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
+  canvas.Text(button_.Caption(), area, Font(button_.Sign()), face.Text,
+              DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
   canvas.Show(item.hDC, item.rcItem.left, item.rcItem.top);
 }
 

@@ -20,22 +20,10 @@ class ButtonWindow final : public ControlWindow {
   void Show(form::Property property) override;
 
  private:
-  /// Stands for the window of the label on the face.
-  class FaceLabel final : public form::ControlWindow {
-   public:
-    explicit FaceLabel(ButtonWindow& button) : button_(button) {}
-    void Changed(form::Property /*property*/) override { button_.Show(form::Property::Caption); }
-    void TakeFocus() override {}
-
-   private:
-    ButtonWindow& button_;
-  };
-
   void SetHot(bool hot);
   LRESULT OnMouseButton(form::MouseButton button, bool down, UINT message, WPARAM wParam, LPARAM lParam);
 
   form::CommandButton& button_;
-  FaceLabel faceLabel_{*this};
   bool hot_ = false;  // the mouse is over it
 };
 

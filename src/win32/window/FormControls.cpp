@@ -22,7 +22,7 @@ void FormControls::Make(const form::Control* container) {
   for (auto next = controls.rbegin(); next != controls.rend(); ++next) {
     form::Control* const control = *next;
     if (control->Container() != container) continue;
-    if (control->Window() == &pending_ && control->Visible() && control->WantsWindow()) {
+    if (control->Window() == &pending_ && control->Visible()) {
       windows_.push_back(win32::ControlWindow::Make(owner_, *control));
       if (others) {
         SetWindowPos(windows_.back()->Hwnd(), before, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
