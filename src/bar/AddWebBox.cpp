@@ -2,7 +2,6 @@
 
 #include "form/Keys.h"
 #include "form/PictureButton.h"
-#include "form/UserInterface.h"
 #include "list/AddToList.h"
 
 namespace vantor::bar {
@@ -12,13 +11,12 @@ namespace {
 using form::Twips;
 
 // The labels stand above the fields, so that the box needs no more height than the bar has.
-constexpr Twips LabelHeight = 180;
+constexpr Twips LabelTop = 15;
+constexpr Twips LabelHeight = 210;
 constexpr Twips Gap = 60;
 constexpr Twips UrlWidth = 1860;
-constexpr Twips NameWidth = 1440;
+constexpr Twips NameWidth = 1500;
 constexpr Twips AddWidth = 480;
-constexpr Twips BottomMargin = 30;
-constexpr Twips BannerHeight = 210;
 
 constexpr std::wstring_view AddedCaption = L"Site Added To List : Click To Hide";
 
@@ -36,7 +34,6 @@ AddWebBox::AddWebBox(form::Form& bar, const list::LaunchList& list, const servic
   FrameWeb.SetVisible(false);
   TextWebUrl.SetAccessibleName(L"Add URL");
   LabelWebName.SetCaption(L"Launch Name");
-  LabelWebName.SetTransparent(false);
   TextWebName.SetAccessibleName(L"Launch Name");
   form::DressButton(CommandAddWeb, L"Add");
   FrameAddedInfo.SetCaption(AddedCaption);
@@ -54,14 +51,15 @@ AddWebBox::AddWebBox(form::Form& bar, const list::LaunchList& list, const servic
 }
 
 void AddWebBox::LayOut(Twips left, Twips height) {
-  const Twips fieldHeight = height - LabelHeight - BottomMargin;
-  TextWebUrl.SetBounds({Gap, LabelHeight, UrlWidth, fieldHeight});
-  TextWebName.SetBounds({TextWebUrl.Right() + Gap, LabelHeight, NameWidth, fieldHeight});
-  CommandAddWeb.SetBounds({TextWebName.Right() + Gap, LabelHeight, AddWidth, fieldHeight});
-  const Twips labelWidth = FrameWeb.OwnerForm().Ui().MeasureText(LabelWebName.Caption(), false, NameWidth).Width;
-  LabelWebName.SetBounds({TextWebName.Left() + Gap, 0, labelWidth + Gap, LabelHeight});
+  constexpr Twips FieldTop = LabelTop + LabelHeight;
+  const Twips fieldHeight = height - FieldTop - Gap;
+  TextWebUrl.SetBounds({0, FieldTop, UrlWidth, fieldHeight});
+  TextWebName.SetBounds({TextWebUrl.Right() + Gap, FieldTop, NameWidth, fieldHeight});
+  CommandAddWeb.SetBounds({TextWebName.Right() + Gap, FieldTop, AddWidth, fieldHeight});
+  LabelWebName.SetBounds({TextWebName.Left(), LabelTop, NameWidth, LabelHeight});
+  FrameWeb.SetCaptionAlone(0, LabelTop);
   FrameWeb.SetBounds({left, 0, CommandAddWeb.Right() + Gap, height});
-  FrameAddedInfo.SetBounds({left, 0, FrameWeb.Width(), BannerHeight});
+  FrameAddedInfo.SetBounds({left, 2 * LabelTop, CommandAddWeb.Right(), LabelHeight - LabelTop});
 }
 
 void AddWebBox::SetShown(bool shown) {

@@ -14,12 +14,12 @@ using form::Twips;
 namespace menu = panel::menu;
 
 // Measures keep to a grid of 60 twips, which is a whole number of pixels on most screens.
-constexpr Twips BarHeight = 480;
+constexpr Twips BarHeight = 540;
 constexpr Twips ButtonWidth = 360;
-constexpr Twips Gap = 60;  // to drag the bar by
-constexpr Twips MarkSize = 240;
-constexpr Twips TextWidth = 2820;  // so that the unfolded bar keeps its margin on a screen of 800 pixels
-constexpr Twips TextHeight = 360;
+constexpr Twips Gap = 60;  // to drag the bar by, and between its edge and what is drawn in it
+constexpr Twips MarkSize = 300;
+constexpr Twips TextWidth = 2700;  // so that the unfolded bar keeps its margin on a screen of 800 pixels
+constexpr Twips TextHeight = 390;
 
 constexpr int PixelsBeforeWebBox = 8;
 // Kept free at the screen's edges, for the boxes that unfold to the right of the bar and below it.
@@ -40,6 +40,7 @@ frmMain::frmMain(form::UserInterface& ui, const BarParts& parts)
       commandLine_(*this, TextMain, parts.Matches, parts.List, parts.CommandState, parts.Starters, parts.Messages,
                    parts.Services, parts.Environment) {
   SetCaption(state::ProductName);
+  SetBorderStyle(form::BorderStyle::Line);
   FrameButtons.SetBorder(false);
   parts_.Panels.SetBar(*this);
   NameControls();
@@ -50,7 +51,6 @@ void frmMain::NameControls() {
   CommandWeb.SetToolTip(L"Show | Hide Add URL---F1");
   for (std::size_t i = 0; i < menu::Count; ++i) {
     CommandMenu[i].SetToolTip(panel::MenuButtons[i].ToolTip);
-    CommandMenu[i].SetSign(true);
   }
   CommandMin.SetToolTip(L"Minimize---F9");
   CommandExit.SetToolTip(L"Exit---F10");
@@ -129,17 +129,19 @@ void frmMain::Form_Load() {
 
 void frmMain::LayOut() {
   TextMain.SetBackColor(form::Color::LineBlue);
-  ImageLauncher.SetPicture(form::Picture::Launcher);
-  const auto dress = [](form::CommandButton& button, form::Picture picture) {
-    button.SetPictures(picture, BButton[1], BButton[2]);
+  ImageLauncher.SetPicture({form::Ground::None, state::picture::Mark});
+  const auto dress = [](form::CommandButton& button, form::Drawing drawing) {
+    button.SetPictures({BButton[0].Ground, drawing}, {BButton[1].Ground, drawing}, {BButton[2].Ground, drawing});
+    button.SetFaceMargins({0, Gap, 0, Gap});
   };
   for (std::size_t i = 0; i < menu::Count; ++i) {
     CommandMenu[i].SetVisible(parts_.Panels.Available(i));
-    dress(CommandMenu[i], BButton[0]);
+    dress(CommandMenu[i], panel::MenuButtons[i].Closed.Picture.Drawing);
   }
-  dress(CommandWeb, BButton[6]);
-  dress(CommandMin, form::Picture::FaceMinimize);
-  dress(CommandExit, form::Picture::FaceExit);
+  dress(CommandWeb, BButton[6].Drawing);
+  dress(CommandMin, state::picture::Minimize);
+  dress(CommandExit, state::picture::Exit);
+  CommandExit.SetFaceMargins({0, Gap, Gap, Gap});
 
   Twips left = Gap;
   const auto place = [&left](form::Control& control, Twips width, Twips height) {
@@ -154,7 +156,7 @@ void frmMain::LayOut() {
     place(CommandMenu[i], ButtonWidth, BarHeight);
   }
   place(CommandMin, ButtonWidth, BarHeight);
-  place(CommandExit, ButtonWidth, BarHeight);
+  place(CommandExit, ButtonWidth + Gap, BarHeight);
 
   narrowWidth_ = CommandExit.Right();
   FrameButtons.SetBounds({0, 0, narrowWidth_, BarHeight});
@@ -271,7 +273,7 @@ void frmMain::TimerWatchOnTop_Timer() {
 
 void frmMain::ShowMenuFaces() {
   for (std::size_t i = 0; i < menu::Count; ++i) {
-    const panel::MenuFace& face = parts_.Panels.FaceOf(i);
+    const panel::MenuFace face = parts_.Panels.FaceOf(i);
     CommandMenu[i].SetCaption(face.Caption);
     CommandMenu[i].SetPicture(face.Picture);
     CommandMenu[i].SetState(face.State);

@@ -21,6 +21,7 @@
 #include "panel/PanelSwitch.h"
 #include "service/Services.h"
 #include "state/Environment.h"
+#include "state/Pictures.h"
 
 namespace vantor::bar {
 
@@ -45,10 +46,16 @@ class frmMain : public form::Form, public panel::MenuBar, private command::LineO
  public:
   /// The pictures of buttons: 0, 1 and 2 normal, pressed and disabled, 5 normal again for the panels'
   /// buttons, 6 and 7 the faces of CommandWeb while its box is folded and unfolded.
-  static constexpr std::array BButton{
-      form::Picture::ButtonNormal, form::Picture::ButtonPressed, form::Picture::ButtonDisabled, form::Picture::None,
-      form::Picture::None,         form::Picture::ButtonNormal,  form::Picture::FaceUnfold,     form::Picture::FaceFold,
-  };
+  static constexpr std::array<form::Picture, 8> BButton{{
+      {form::Ground::Normal},
+      {form::Ground::Pressed},
+      {form::Ground::Disabled},
+      {},
+      {},
+      {form::Ground::Normal},
+      {form::Ground::Normal, state::picture::Unfold},
+      {form::Ground::Normal, state::picture::Fold},
+  }};
 
   frmMain(form::UserInterface& ui, const BarParts& parts);
 

@@ -23,12 +23,17 @@ class CommandButton : public Control {
   [[nodiscard]] const std::wstring& Caption() const { return caption_; }
   void SetCaption(std::wstring_view caption);
 
-  /// The pictures of the button's states. Without any the system's own button is shown.
+  /// The pictures of the button's states. Without any the system's own button is shown. A button with both a drawing
+  /// and a caption has the caption below the drawing, in small letters.
   [[nodiscard]] form::Picture Picture() const { return picture_; }
   [[nodiscard]] form::Picture DownPicture() const { return downPicture_; }
   [[nodiscard]] form::Picture DisabledPicture() const { return disabledPicture_; }
   void SetPicture(form::Picture picture);
   void SetPictures(form::Picture normal, form::Picture down, form::Picture disabled);
+
+  /// Where the drawn face begins inside the bounds. The button can be clicked in all of them.
+  [[nodiscard]] const Margins& FaceMargins() const { return faceMargins_; }
+  void SetFaceMargins(const Margins& margins) { faceMargins_ = margins; }
 
   /// What the button says of what it opened; shown on its face and told to screen readers.
   [[nodiscard]] ButtonState State() const { return state_; }
@@ -55,9 +60,10 @@ class CommandButton : public Control {
 
  private:
   std::wstring caption_;
-  form::Picture picture_ = form::Picture::None;
-  form::Picture downPicture_ = form::Picture::None;
-  form::Picture disabledPicture_ = form::Picture::None;
+  form::Picture picture_;
+  form::Picture downPicture_;
+  form::Picture disabledPicture_;
+  Margins faceMargins_;
   ButtonState state_ = ButtonState::Plain;
   bool sign_ = false;
 };

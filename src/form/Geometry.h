@@ -27,6 +27,14 @@ struct Rect {
   return std::max(std::min(to, otherTo) - std::max(from, otherFrom), 0);
 }
 
+/// What is kept free at the sides of something, in twips.
+struct Margins {
+  Twips Left = 0;
+  Twips Top = 0;
+  Twips Right = 0;
+  Twips Bottom = 0;
+};
+
 struct Size {
   Twips Width = 0;
   Twips Height = 0;
@@ -47,6 +55,8 @@ struct Screen {
 /// A colour: 0x00BBGGRR, or 0x800000nn for the system colour nn, which follows the user's theme.
 enum class Color : std::uint32_t {
   Silver = 0x00C0C0C0,
+  White = 0x00FFFFFF,
+  MarkBlue = 0x00A8482C,  // the ground of the product's mark
   LineBlue = 0x00FFC8B4,  // red 180, green 200, blue 255: the one accent of the product
   WindowBackground = 0x80000005,
   WindowText = 0x80000008,

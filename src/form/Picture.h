@@ -1,19 +1,42 @@
 #pragma once
 
+#include <optional>
+#include <span>
+#include <string_view>
+
+#include "form/Geometry.h"
+
 namespace vantor::form {
 
-/// A picture that the back end draws at whatever size is asked for. None draws nothing.
-enum class Picture {
+/// A part of a drawing, on a square whose sides are 16 long, with y growing downwards.
+struct Shape {
+  /// Path data as in SVG, with the commands M, L, H, V, C and Z alone, each written out, in absolute numbers.
+  std::string_view Path;
+  /// The colour of an area. Without one the path is a line, in the ink and thickness of whatever it is drawn on.
+  std::optional<Color> Fill = {};
+};
+
+/// What is drawn, from the back to the front. Whoever names it keeps it.
+using Drawing = std::span<const Shape>;
+
+/// What a picture is drawn on.
+enum class Ground {
   None,
-  ButtonNormal,
-  ButtonPressed,
-  ButtonDisabled,
-  FaceUnfold,  // the add-web box is folded; a click unfolds it
-  FaceFold,    // the add-web box is unfolded; a click folds it
-  FaceMinimize,
-  FaceExit,
-  Launcher,  // the product's mark
-  MessageBackground,
+  Normal,  // the faces of a button
+  Pressed,
+  Disabled,
+  Band,  // the side band of a message
+};
+
+/// A picture that the back end draws at whatever size is asked for.
+struct Picture {
+  form::Ground Ground = Ground::None;
+  form::Drawing Drawing = {};
+
+  [[nodiscard]] bool Empty() const { return Ground == form::Ground::None && Drawing.empty(); }
+  friend bool operator==(const Picture& a, const Picture& b) {
+    return a.Ground == b.Ground && a.Drawing.data() == b.Drawing.data();
+  }
 };
 
 }  // namespace vantor::form

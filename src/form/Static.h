@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -45,6 +46,9 @@ class Frame : public Control {
   void SetCaption(std::wstring_view caption);
   [[nodiscard]] bool Border() const { return border_; }
   void SetBorder(bool border);
+  /// Leaves the border's edge out, and puts its caption so far from the left and the top.
+  [[nodiscard]] const std::optional<Margins>& CaptionAlone() const { return captionAlone_; }
+  void SetCaptionAlone(Twips left, Twips top) { captionAlone_ = Margins{left, top}; }
   /// A coloured strip that tells something by its caption, and holds nothing else.
   [[nodiscard]] bool Banner() const { return banner_; }
   void SetBanner(bool banner) { banner_ = banner; }  // before the form is shown
@@ -59,6 +63,7 @@ class Frame : public Control {
   std::wstring caption_;
   bool border_ = true;
   bool banner_ = false;
+  std::optional<Margins> captionAlone_;
 };
 
 /// What shows a picture.
@@ -73,7 +78,7 @@ class PictureControl : public Control {
   using Control::Control;
 
  private:
-  form::Picture picture_ = form::Picture::None;
+  form::Picture picture_;
 };
 
 /// A picture. It takes no focus.

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "form/PictureButton.h"
+#include "state/Pictures.h"
 
 namespace vantor::message {
 namespace {
@@ -45,7 +46,7 @@ frmMessage::frmMessage(form::UserInterface& ui) : Form(ui, L"frmMessage") {
   SetBackColor(form::Color::WindowBackground);
   for (form::Control* control : Controls()) control->SetBackColor(form::Color::WindowBackground);
 
-  PictureMessage.SetPicture(form::Picture::MessageBackground);
+  PictureMessage.SetPicture({form::Ground::Band, state::picture::Mark});
   PictureMessage.SetBackColor(form::Color::LineBlue);
   PictureMessage.SetTabStop(false);
   PictureMessage.SetAccessibleName(L"Vantor");

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "form/Button.h"
+#include "state/Pictures.h"
 
 namespace vantor::panel {
 
@@ -33,14 +34,14 @@ struct MenuButton {
 };
 
 inline constexpr std::array<MenuButton, menu::Count> MenuButtons{{
-    {{L"+", form::Picture::ButtonNormal}, L"Show | Hide Add To List---F2"},
-    {{L">", form::Picture::ButtonNormal}, L"Show | Hide Open---F3"},
-    {{L"L", form::Picture::ButtonNormal}, L"Show | Hide Open From List---F4"},
-    {{L"!", form::Picture::ButtonNormal}, L"Show | Hide Run (Orbel's Program)---F5"},
-    {{L"P", form::Picture::ButtonNormal}, L"Show | Hide Preferences---F6"},
-    {{L"?", form::Picture::ButtonNormal}, L"Show | Hide Help---F7"},
-    {{L"C", form::Picture::ButtonNormal}, L"Show | Hide Code List---F8"},
+    {{L"+", {form::Ground::Normal, state::picture::Add}}, L"Show | Hide Add To List---F2"},
+    {{L">", {form::Ground::Normal, state::picture::Open}}, L"Show | Hide Open---F3"},
+    {{L"L", {form::Ground::Normal, state::picture::List}}, L"Show | Hide Open From List---F4"},
+    {{L"!", {form::Ground::Normal, state::picture::Companions}}, L"Show | Hide Run (Orbel's Program)---F5"},
+    {{L"P", {form::Ground::Normal, state::picture::Preferences}}, L"Show | Hide Preferences---F6"},
+    {{L"?", {form::Ground::Normal, state::picture::Help}}, L"Show | Hide Help---F7"},
+    {{L"C", {form::Ground::Normal, state::picture::Code}}, L"Show | Hide Code List---F8"},
 }};
-inline constexpr MenuFace OpenFace{L"||", form::Picture::ButtonNormal, form::ButtonState::Pressed};
+inline constexpr std::wstring_view OpenCaption = L"||";  // an open one keeps its drawing
 
 }  // namespace vantor::panel

@@ -9,8 +9,9 @@ bool PanelSwitch::Available(std::size_t index) const {
   return panel != nullptr && panel->Available();
 }
 
-const MenuFace& PanelSwitch::FaceOf(std::size_t index) const {
-  return IsOpen(index) ? OpenFace : MenuButtons.at(index).Closed;
+MenuFace PanelSwitch::FaceOf(std::size_t index) const {
+  const MenuFace& closed = MenuButtons.at(index).Closed;
+  return IsOpen(index) ? MenuFace{OpenCaption, closed.Picture, form::ButtonState::Pressed} : closed;
 }
 
 Panel* PanelSwitch::OpenOne() const {

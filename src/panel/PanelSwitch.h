@@ -41,7 +41,7 @@ class PanelSwitch final : public PanelHost {
 
   /// Whether a menu button has something to open.
   [[nodiscard]] bool Available(std::size_t index) const;
-  [[nodiscard]] const MenuFace& FaceOf(std::size_t index) const;
+  [[nodiscard]] MenuFace FaceOf(std::size_t index) const;
   /// A click on a menu button: opens its panel, or closes it.
   void Click(std::size_t index);
   /// Closes the open panel, as its button does; the command line stays.

@@ -34,7 +34,7 @@ TEST_CASE("the bar stands as it was left, and comes along when the screen or the
     int Left, Top;
   } rows[] = {{"30000\r\n0", 15360 - 480 - 6960, 0},
               {"-30000\r\n0", 0, 0},
-              {"0\r\n20000", 0, 10440},
+              {"0\r\n20000", 0, 10380},
               {"-60\r\n0", -60, 0},
               {"14000\r\n9", 14000, 9}};
   for (const auto& row : rows) {

@@ -1,7 +1,9 @@
 #include <doctest/doctest.h>
 #include <windows.h>
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "desktop/Desktop.h"
 #include "form/Button.h"
@@ -10,6 +12,7 @@
 #include "form/Static.h"
 #include "form/TextBox.h"
 #include "win32/draw/Screens.h"
+#include "win32/draw/Theme.h"
 #include "win32/window/ControlWindow.h"
 #include "win32/window/WindowsDesktop.h"
 
@@ -103,4 +106,38 @@ TEST_CASE("larger texts enlarge what holds them, as far as it fits the screen, a
   ask(usual.lfMessageFont.lfHeight);
   CheckPixels(desktop, sample, 96);
   sample.Unload();
+}
+
+TEST_CASE("texts and edges stand out from what they are on") {
+  const auto luminance = [](COLORREF color) {
+    const auto linear = [](int part) {
+      return part <= 10 ? part / 3294.6 : std::pow((part / 255.0 + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(GetRValue(color)) + 0.7152 * linear(GetGValue(color)) + 0.0722 * linear(GetBValue(color));
+  };
+  const win32::Screens screens;
+  const win32::Theme theme(screens);
+  const win32::Palette& of = theme.Colors();
+  constexpr COLORREF Panel = RGB(240, 240, 240);
+  constexpr COLORREF Silver = RGB(192, 192, 192);
+  const struct {
+    double Least;
+    COLORREF Color;
+    std::vector<COLORREF> Grounds;
+  } rows[] = {{4.5, of.Disabled.Text, {of.Disabled.Fill, Panel}},
+              {4.5, theme.TextColor(form::Color::WindowText, false, Silver), {Silver}},
+              {4.5, of.Letter, {of.Normal.Fill, of.Hot.Fill, of.Pressed.Fill, of.Open.Fill}},
+              {3, of.Line, {Panel, RGB(255, 255, 255)}},
+              {3, of.Outline, {Panel, RGB(255, 255, 255), RGB(32, 32, 32)}},
+              {3, of.Open.Edge, {of.Open.Fill, Panel}},
+              {3, of.Normal.Edge, {of.Normal.Fill, Panel}}};
+  for (const auto& row : rows) {
+    for (const COLORREF ground : row.Grounds) {
+      CAPTURE(row.Color);
+      CAPTURE(ground);
+      const double one = luminance(row.Color) + 0.05;
+      const double other = luminance(ground) + 0.05;
+      CHECK(std::max(one, other) / std::min(one, other) >= row.Least);
+    }
+  }
 }

@@ -17,14 +17,16 @@ struct Crossing {
   int Direction;
 };
 
-/// Where the outline crosses the horizontal line at `y`, from left to right.
-void FindCrossings(const std::vector<Point>& points, double y, std::vector<Crossing>& crossings) {
+/// Where the outlines cross the horizontal line at `y`, from left to right.
+void FindCrossings(const Outlines& outlines, double y, std::vector<Crossing>& crossings) {
   crossings.clear();
-  for (std::size_t i = 0; i < points.size(); ++i) {
-    const Point& a = points[i];
-    const Point& b = points[(i + 1) % points.size()];
-    if ((a.Y <= y) == (b.Y <= y)) continue;
-    crossings.push_back({a.X + (y - a.Y) * (b.X - a.X) / (b.Y - a.Y), a.Y < b.Y ? 1 : -1});
+  for (const std::vector<Point>& points : outlines) {
+    for (std::size_t i = 0; i < points.size(); ++i) {
+      const Point& a = points[i];
+      const Point& b = points[i + 1 < points.size() ? i + 1 : 0];
+      if ((a.Y <= y) == (b.Y <= y)) continue;
+      crossings.push_back({a.X + (y - a.Y) * (b.X - a.X) / (b.Y - a.Y), a.Y < b.Y ? 1 : -1});
+    }
   }
   std::sort(crossings.begin(), crossings.end(), [](const Crossing& a, const Crossing& b) { return a.X < b.X; });
 }
@@ -43,7 +45,7 @@ void Cover(std::vector<double>& row, double from, double to) {
 bool IsWhole(double number) { return std::floor(number) == number; }
 
 void AddArc(std::vector<Point>& points, Point center, double radius, double from, double to) {
-  const int steps = std::max(4, static_cast<int>(radius));
+  const int steps = static_cast<int>(std::abs(to - from) / Pi * 2 * std::clamp(radius + 1, 3.0, 16.0));
   for (int i = 0; i <= steps; ++i) {
     const double angle = from + (to - from) * i / steps;
     points.push_back({center.X + radius * std::cos(angle), center.Y + radius * std::sin(angle)});
@@ -99,23 +101,27 @@ void Canvas::Blend(int x, int y, double share, COLORREF color) {
   pixel = mix(16, GetRValue(color)) | mix(8, GetGValue(color)) | mix(0, GetBValue(color));
 }
 
-void Canvas::Polygon(const std::vector<Point>& points, COLORREF color) {
-  if (points.size() < 3) return;
+void Canvas::Fill(const Outlines& outlines, COLORREF color) {
+  Point low{double(width_), double(height_)};
+  Point high{0, 0};
+  for (const std::vector<Point>& points : outlines) {
+    for (const Point& point : points) {
+      low = {std::min(low.X, point.X), std::min(low.Y, point.Y)};
+      high = {std::max(high.X, point.X), std::max(high.Y, point.Y)};
+    }
+  }
+  const int left = std::clamp(static_cast<int>(std::floor(low.X)), 0, width_);
+  const int right = std::clamp(static_cast<int>(std::ceil(high.X)), left, width_);
+  const int first = std::max(static_cast<int>(std::floor(low.Y)), 0);
+  const int last = std::min(static_cast<int>(std::ceil(high.Y)), height_);
+  if (left == right || first >= last) return;
   GdiFlush();
-  const auto [low, high] =
-      std::minmax_element(points.begin(), points.end(), [](const Point& a, const Point& b) { return a.Y < b.Y; });
-  const auto [west, east] =
-      std::minmax_element(points.begin(), points.end(), [](const Point& a, const Point& b) { return a.X < b.X; });
-  const int left = std::clamp(static_cast<int>(std::floor(west->X)), 0, width_);
-  const int right = std::clamp(static_cast<int>(std::ceil(east->X)), left, width_);
-  const int first = std::max(static_cast<int>(std::floor(low->Y)), 0);
-  const int last = std::min(static_cast<int>(std::ceil(high->Y)), height_);
   std::vector<double> row(static_cast<std::size_t>(width_));
   std::vector<Crossing> crossings;
   for (int y = first; y < last; ++y) {
     std::fill(row.begin(), row.end(), 0.0);
     for (int line = 0; line < LinesPerRow; ++line) {
-      FindCrossings(points, y + (line + 0.5) / LinesPerRow, crossings);
+      FindCrossings(outlines, y + (line + 0.5) / LinesPerRow, crossings);
       int winding = 0;
       for (std::size_t i = 0; i + 1 < crossings.size(); ++i) {
         winding += crossings[i].Direction;
@@ -143,7 +149,7 @@ void Canvas::RoundedBox(const Box& box, double radius, COLORREF color) {
   if (split) {
     points.push_back({right, box.Top + end});
     points.push_back({box.Left, box.Top + end});
-    Polygon(points, color);
+    Fill({points}, color);
     Shade({box.Left, box.Top + end, box.Width, box.Height - 2 * end}, color, color);
     points.clear();
     points.push_back({box.Left, bottom - end});
@@ -151,7 +157,7 @@ void Canvas::RoundedBox(const Box& box, double radius, COLORREF color) {
   }
   AddArc(points, {right - radius, bottom - radius}, radius, 0, Pi * 0.5);
   AddArc(points, {box.Left + radius, bottom - radius}, radius, Pi * 0.5, Pi);
-  Polygon(points, color);
+  Fill({points}, color);
 }
 
 void Canvas::EdgedBox(const Box& box, double radius, double thickness, COLORREF edge, COLORREF fill) {
@@ -159,34 +165,29 @@ void Canvas::EdgedBox(const Box& box, double radius, double thickness, COLORREF 
   RoundedBox(box.Inset(thickness), std::max(radius - thickness, 0.0), fill);
 }
 
-void Canvas::Line(std::initializer_list<Point> points, double thickness, COLORREF color) {
+void Canvas::Line(const std::vector<Point>& points, double thickness, COLORREF color) {
   const double half = thickness / 2;
+  // Round ends and corners, and a box from each to the next. All turn the same way, so that together they are one area.
+  Outlines outlines;
   const Point* previous = nullptr;
   for (const Point& point : points) {
-    Disc(point, half, color);
+    AddArc(outlines.emplace_back(), point, half, 0, Pi * 2);
     if (previous != nullptr) {
       const double dx = point.X - previous->X;
       const double dy = point.Y - previous->Y;
       const double length = std::hypot(dx, dy);
       if (length > 0) {
-        const double nx = -dy / length * half;
-        const double ny = dx / length * half;
-        Polygon({{previous->X + nx, previous->Y + ny},
-                 {point.X + nx, point.Y + ny},
-                 {point.X - nx, point.Y - ny},
-                 {previous->X - nx, previous->Y - ny}},
-                color);
+        const double nx = dy / length * half;
+        const double ny = -dx / length * half;
+        outlines.push_back({{previous->X + nx, previous->Y + ny},
+                            {point.X + nx, point.Y + ny},
+                            {point.X - nx, point.Y - ny},
+                            {previous->X - nx, previous->Y - ny}});
       }
     }
     previous = &point;
   }
-}
-
-void Canvas::Disc(Point center, double radius, COLORREF color) {
-  std::vector<Point> points;
-  AddArc(points, center, radius, 0, Pi);
-  AddArc(points, center, radius, Pi, Pi * 2);
-  Polygon(points, color);
+  Fill(outlines, color);
 }
 
 void Canvas::Text(std::wstring_view text, RECT area, HFONT font, COLORREF color, UINT format) {

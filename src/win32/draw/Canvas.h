@@ -3,7 +3,6 @@
 #include <windows.h>
 
 #include <cstdint>
-#include <initializer_list>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -26,11 +25,12 @@ struct Box {
   double Height = 0;
 
   [[nodiscard]] Box Inset(double by) const { return {Left + by, Top + by, Width - 2 * by, Height - 2 * by}; }
-  /// The point at a share (0 to 1) of the width and height.
-  [[nodiscard]] Point At(double x, double y) const { return {Left + x * Width, Top + y * Height}; }
   /// The largest square in the middle.
   [[nodiscard]] Box Square() const;
 };
+
+/// The outlines of areas, each closed by a line from its last point to its first.
+using Outlines = std::vector<std::vector<Point>>;
 
 /// A picture in memory, drawn with smooth edges and then shown at once, so that nothing flickers.
 class Canvas {
@@ -46,13 +46,13 @@ class Canvas {
   void Clear(COLORREF color);
   /// Fills between two colours, from top to bottom.
   void Shade(const Box& box, COLORREF top, COLORREF bottom);
-  void Polygon(const std::vector<Point>& points, COLORREF color);
+  /// Fills what lies inside the outlines, and only once where outlines that turn the same way overlap.
+  void Fill(const Outlines& outlines, COLORREF color);
   void RoundedBox(const Box& box, double radius, COLORREF color);
   /// A box with an edge of the given thickness inside it.
   void EdgedBox(const Box& box, double radius, double thickness, COLORREF edge, COLORREF fill);
   /// A line through the points, with round corners and ends.
-  void Line(std::initializer_list<Point> points, double thickness, COLORREF color);
-  void Disc(Point center, double radius, COLORREF color);
+  void Line(const std::vector<Point>& points, double thickness, COLORREF color);
   /// Text as DrawText does it; ampersands are plain characters.
   void Text(std::wstring_view text, RECT area, HFONT font, COLORREF color, UINT format);
 

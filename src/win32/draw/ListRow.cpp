@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "text/DirectionMarks.h"
 #include "win32/draw/Text.h"
 
 namespace vantor::win32 {
@@ -14,17 +15,17 @@ void DrawRow(const DRAWITEMSTRUCT& item, const ListRow& row, COLORREF background
              double scale) {
   const Palette& colors = theme.Colors();
   const bool selected = (item.itemState & ODS_SELECTED) != 0;
-  COLORREF text = theme.TextColor(row.TextColor, row.Enabled);
+  COLORREF color = theme.TextColor(row.TextColor, row.Enabled, background);
   if (selected && row.Enabled) {
     background = colors.Open.Fill;
-    text = colors.Open.Text;
+    color = colors.Open.Text;
   }
   FillRect(item.hDC, &item.rcItem, theme.Brush(background));
   const bool isPath = row.Text.find(L'\\') != std::wstring_view::npos;
   RECT area = item.rcItem;
   InflateRect(&area, -RowMargin(scale), 0);
   area.left += row.Indent;
-  DrawPlainText(item.hDC, row.Text, area, font, text,
+  DrawPlainText(item.hDC, text::WithSignsForMarks(row.Text), area, font, color,
                 DT_SINGLELINE | DT_VCENTER | static_cast<UINT>(isPath ? DT_PATH_ELLIPSIS : DT_END_ELLIPSIS));
   if ((item.itemState & ODS_FOCUS) != 0 && (item.itemState & ODS_NOFOCUSRECT) == 0) {
     SetTextColor(item.hDC, RGB(0, 0, 0));

@@ -2,38 +2,56 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
+
+#include "win32/draw/Path.h"
+#include "win32/draw/WindowEdge.h"
 
 namespace vantor::win32 {
 
 namespace {
 
-using form::Picture;
+using form::Ground;
 
-/// The product's mark: a V whose right arm throws a ball.
-void DrawMark(Canvas& canvas, const Box& box, const Palette& colors) {
-  const Box square = box.Square();
-  const COLORREF paper = colors.HighContrast ? colors.Normal.Fill : RGB(255, 255, 255);
-  canvas.RoundedBox(square, square.Width * 0.22, colors.Deep);
-  canvas.Polygon({square.At(0.14, 0.26), square.At(0.31, 0.26), square.At(0.47, 0.64), square.At(0.58, 0.38),
-                  square.At(0.74, 0.38), square.At(0.54, 0.84), square.At(0.40, 0.84)},
-                 paper);
-  canvas.Disc(square.At(0.745, 0.225), square.Width * 0.105, colors.Accent);
+constexpr double FaceRadius = 4;  // pixels at 96 dots per inch
+
+/// The thickness of a picture's lines: near 1.5 pixels at 96 dots per inch, in half pixels.
+double LineThickness(double scale) { return std::max(std::floor(3 * scale + 0.25) / 2, 1.0); }
+
+COLORREF FillOf(form::Color color, const Palette& colors) {
+  if (!colors.HighContrast) return static_cast<COLORREF>(color);
+  return color == form::Color::MarkBlue ? colors.Normal.Text : colors.Normal.Fill;
 }
 
-/// The side band of a message: the accent, deepening to its foot, with the product's mark at its head.
-void DrawMessageGround(Canvas& canvas, const Box& box, const Palette& colors, double scale) {
+/// Moves a line's middle so that its left or upper edge lies between two pixels.
+double OnPixels(double middle, double thickness) { return std::round(middle - thickness / 2) + thickness / 2; }
+
+/// The side band of a message: the accent, deepening to its foot, with the drawing at its head.
+void DrawBand(Canvas& canvas, const form::Picture& picture, const Box& box, const Palette& colors, double scale) {
   canvas.Shade(box, colors.Accent, colors.AccentFoot);
-  const double side = std::min({box.Width * 0.56, box.Height * 0.56, 32 * scale});
+  const double side = std::round(std::min({box.Width * 0.6, box.Height * 0.6, 32 * scale}));
   const double margin = std::max(std::min((box.Width - side) / 2, 15 * scale), 0.0);
-  DrawMark(canvas, {std::round(box.Left + margin), std::round(box.Top + margin), side, side}, colors);
+  DrawShapes(canvas, picture.Drawing, {std::round(box.Left + margin), std::round(box.Top + margin), side, side}, colors,
+             colors.Normal.Text, scale);
+}
+
+const Palette::Face& FaceOf(Ground ground, const Palette& colors) {
+  switch (ground) {
+    case Ground::Pressed:
+      return colors.Pressed;
+    case Ground::Disabled:
+      return colors.Disabled;
+    default:
+      return colors.Normal;
+  }
 }
 
 }  // namespace
 
 void DrawFace(Canvas& canvas, const Box& box, const Palette& colors, const Palette::Face& face, bool focused,
               double scale) {
-  const double line = std::max(std::floor(scale), 1.0);
-  const double radius = 3 * scale;
+  const double line = EdgeThickness(scale);
+  const double radius = FaceRadius * scale;
   if (focused) {
     canvas.EdgedBox(box, radius, 2 * line, colors.Focus, face.Fill);
   } else {
@@ -41,42 +59,47 @@ void DrawFace(Canvas& canvas, const Box& box, const Palette& colors, const Palet
   }
 }
 
-void DrawGlyph(Canvas& canvas, Picture picture, const Box& box, COLORREF color, double scale) {
-  const double side = std::min({box.Width * 0.5, box.Height * 0.5, 11 * scale});
-  const Box area = Box{box.Left + (box.Width - side) / 2, box.Top + (box.Height - side) / 2, side, side};
-  const double thick = std::max(1.6 * scale, side * 0.14);
-  switch (picture) {
-    case Picture::FaceUnfold:
-      canvas.Line({area.At(0.12, 0.1), area.At(0.52, 0.5), area.At(0.12, 0.9)}, thick, color);
-      canvas.Line({area.At(0.55, 0.1), area.At(0.95, 0.5), area.At(0.55, 0.9)}, thick, color);
-      break;
-    case Picture::FaceFold:
-      canvas.Line({area.At(0.45, 0.1), area.At(0.05, 0.5), area.At(0.45, 0.9)}, thick, color);
-      canvas.Line({area.At(0.88, 0.1), area.At(0.48, 0.5), area.At(0.88, 0.9)}, thick, color);
-      break;
-    case Picture::FaceMinimize:
-      canvas.Line({area.At(0.08, 0.82), area.At(0.92, 0.82)}, thick, color);
-      break;
-    case Picture::FaceExit:
-      canvas.Line({area.At(0.1, 0.1), area.At(0.9, 0.9)}, thick, color);
-      canvas.Line({area.At(0.9, 0.1), area.At(0.1, 0.9)}, thick, color);
-      break;
-    default:
-      break;
+void DrawField(Canvas& canvas, const Box& box, COLORREF edge, COLORREF fill, bool focused, double scale) {
+  const double line = EdgeThickness(scale);
+  const double radius = FaceRadius * scale;
+  canvas.RoundedBox(box, radius, edge);
+  Box inside = box.Inset(line);
+  if (focused) inside.Height -= line;
+  canvas.RoundedBox(inside, radius - line, fill);
+}
+
+void DrawShapes(Canvas& canvas, form::Drawing drawing, const Box& box, const Palette& colors, COLORREF color,
+                double scale) {
+  const Box square = box.Square();
+  const double thickness = LineThickness(scale);
+  for (const form::Shape& shape : drawing) {
+    std::vector<Stretch> stretches = ReadPath(shape.Path, square);
+    if (shape.Fill) {
+      Outlines outlines;
+      for (Stretch& stretch : stretches) {
+        if (!stretch.Curved) {
+          for (Point& point : stretch.Points) point.Y = OnPixels(point.Y, 0);
+        }
+        outlines.push_back(std::move(stretch.Points));
+      }
+      canvas.Fill(outlines, FillOf(*shape.Fill, colors));
+      continue;
+    }
+    for (Stretch& stretch : stretches) {
+      if (!stretch.Curved) {
+        for (Point& point : stretch.Points) point = {OnPixels(point.X, thickness), OnPixels(point.Y, thickness)};
+      }
+      if (stretch.Closed) stretch.Points.emplace_back(stretch.Points.front());
+      canvas.Line(stretch.Points, thickness, color);
+    }
   }
 }
 
-void DrawPicture(Canvas& canvas, Picture picture, const Box& box, const Palette& colors, double scale) {
-  switch (picture) {
-    case Picture::Launcher:
-      DrawMark(canvas, box, colors);
-      break;
-    case Picture::MessageBackground:
-      DrawMessageGround(canvas, box, colors, scale);
-      break;
-    default:  // a button's
-      break;
-  }
+void DrawPicture(Canvas& canvas, const form::Picture& picture, const Box& box, const Palette& colors, double scale) {
+  if (picture.Ground == Ground::Band) return DrawBand(canvas, picture, box, colors, scale);
+  const Palette::Face& face = FaceOf(picture.Ground, colors);
+  if (picture.Ground != Ground::None) DrawFace(canvas, box, colors, face, false, scale);
+  DrawShapes(canvas, picture.Drawing, box, colors, face.Text, scale);
 }
 
 }  // namespace vantor::win32

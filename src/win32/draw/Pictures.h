@@ -6,15 +6,21 @@
 
 namespace vantor::win32 {
 
-/// Draws a picture that stands by itself into a box. `scale` is the number of pixels that stand for one at 96 dots per
-/// inch.
-void DrawPicture(Canvas& canvas, form::Picture picture, const Box& box, const Palette& colors, double scale);
+// `scale` is the number of pixels that stand for one at 96 dots per inch.
+
+/// Draws a picture into a box.
+void DrawPicture(Canvas& canvas, const form::Picture& picture, const Box& box, const Palette& colors, double scale);
 
 /// Draws the ground of a button: its edge, its fill and, with the focus, a ring inside.
 void DrawFace(Canvas& canvas, const Box& box, const Palette& colors, const Palette::Face& face, bool focused,
               double scale);
 
-/// The drawing on a button's ground (fold, minimize, …). Draws nothing for the pictures that are grounds.
-void DrawGlyph(Canvas& canvas, form::Picture picture, const Box& box, COLORREF color, double scale);
+/// Draws the ground of a box for text; with the focus its edge is thicker at the foot.
+void DrawField(Canvas& canvas, const Box& box, COLORREF edge, COLORREF fill, bool focused, double scale);
+
+/// Draws lines and areas into the largest square in the middle of a box. All lines have one thickness, which depends on
+/// the scale alone, and upright and level ones lie on whole pixels.
+void DrawShapes(Canvas& canvas, form::Drawing drawing, const Box& box, const Palette& colors, COLORREF color,
+                double scale);
 
 }  // namespace vantor::win32

@@ -101,8 +101,8 @@ void DrawMarkedRow(Canvas& canvas, const form::Row& row, RowState state, COLORRE
   }
   if (colors.HighContrast) mark = ink;
 
-  const HFONT font = theme.Font(dpi, false);
-  const HFONT small = theme.Font(static_cast<int>(std::lround(dpi * SmallFont)), false);
+  const HFONT font = theme.Font(dpi, FontStyle::Plain);
+  const HFONT small = theme.Font(static_cast<int>(std::lround(dpi * SmallFont)), FontStyle::Plain);
   const LONG left = std::lround(Margin * scale);
   const LONG right = canvas.Width() - left;
   const LONG gap = std::lround(DetailGap * scale);

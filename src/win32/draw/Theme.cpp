@@ -16,16 +16,18 @@ bool HighContrastIsOn() {
 Palette BluePalette() {
   Palette palette{};
   palette.HighContrast = false;
-  palette.Normal = {RGB(243, 247, 255), RGB(150, 174, 236), RGB(28, 44, 96)};
-  palette.Hot = {RGB(224, 234, 255), RGB(104, 136, 220), RGB(20, 34, 86)};
+  palette.Normal = {RGB(246, 249, 255), RGB(106, 131, 210), RGB(24, 38, 92)};
+  palette.Hot = {RGB(224, 234, 255), RGB(80, 108, 200), RGB(20, 34, 86)};
   palette.Pressed = {RGB(150, 176, 246), RGB(66, 96, 190), RGB(12, 24, 70)};
   palette.Open = {RGB(180, 200, 255), RGB(66, 96, 190), RGB(12, 24, 70)};
-  palette.Disabled = {RGB(240, 241, 244), RGB(208, 212, 222), RGB(122, 127, 140)};
-  palette.Line = RGB(150, 174, 236);
+  palette.Disabled = {RGB(240, 241, 244), RGB(198, 203, 214), RGB(98, 103, 116)};
+  palette.Outline = RGB(78, 103, 190);
+  palette.Line = RGB(106, 131, 210);
   palette.Focus = RGB(44, 84, 200);
   palette.Accent = RGB(180, 200, 255);
-  palette.Deep = RGB(44, 72, 168);
   palette.AccentFoot = RGB(158, 182, 248);
+  palette.Letter = RGB(40, 58, 136);
+  palette.DisabledOnSilver = RGB(72, 76, 88);
   return palette;
 }
 
@@ -45,8 +47,10 @@ Palette SystemPalette() {
   palette.Line = GetSysColor(COLOR_WINDOWTEXT);
   palette.Focus = highlight;
   palette.Accent = highlight;
-  palette.Deep = text;
   palette.AccentFoot = highlight;
+  palette.Outline = palette.Line;
+  palette.Letter = text;
+  palette.DisabledOnSilver = gray;
   return palette;
 }
 
@@ -74,8 +78,8 @@ COLORREF Theme::Background(form::Color color) const {
   return GetSysColor(color == form::Color::Silver ? COLOR_BTNFACE : COLOR_WINDOW);
 }
 
-COLORREF Theme::TextColor(form::Color color, bool enabled) const {
-  if (!enabled) return Colors().HighContrast ? GetSysColor(COLOR_GRAYTEXT) : Colors().Disabled.Text;
+COLORREF Theme::TextColor(form::Color color, bool enabled, COLORREF background) const {
+  if (!enabled) return background == Plain(form::Color::Silver) ? Colors().DisabledOnSilver : Colors().Disabled.Text;
   if (!Colors().HighContrast || IsSystemColor(color)) return Plain(color);
   return GetSysColor(COLOR_WINDOWTEXT);
 }
@@ -88,13 +92,14 @@ HBRUSH Theme::Brush(COLORREF color) const {
   return brushes_.back().Brush.Get();
 }
 
-HFONT Theme::Font(int dpi, bool bold) const {
+HFONT Theme::Font(int dpi, FontStyle style) const {
   for (const SizedFont& font : fonts_) {
-    if (font.Dpi == dpi && font.Bold == bold) return font.Font.Get();
+    if (font.Dpi == dpi && font.Style == style) return font.Font.Get();
   }
   LOGFONTW description = screens_.MessageFont(dpi);
-  if (bold) description.lfWeight = FW_BOLD;
-  fonts_.push_back({dpi, bold, FontHandle(CreateFontIndirectW(&description))});
+  if (style != FontStyle::Plain) description.lfWeight = FW_BOLD;
+  if (style == FontStyle::Small) description.lfHeight = MulDiv(description.lfHeight, 3, 4);
+  fonts_.push_back({dpi, style, FontHandle(CreateFontIndirectW(&description))});
   return fonts_.back().Font.Get();
 }
 

@@ -26,12 +26,17 @@ struct Palette {
   Face Pressed;
   Face Open;
   Face Disabled;
-  COLORREF Line;        // edges of frames and boxes
-  COLORREF Focus;       // the edge of what has the focus
-  COLORREF Accent;      // the product's light blue
-  COLORREF AccentFoot;  // what it deepens to at the foot of a large area
-  COLORREF Deep;        // its dark companion, in the product's mark
+  COLORREF Outline;           // the edge of a window
+  COLORREF Line;              // edges of frames and boxes
+  COLORREF Focus;             // the edge of what has the focus
+  COLORREF Accent;            // the product's light blue
+  COLORREF AccentFoot;        // what it deepens to at the foot of a large area
+  COLORREF Letter;            // the small letters below a drawing
+  COLORREF DisabledOnSilver;  // text
 };
+
+/// The user's font for messages, as it is, bold, or small and bold for a single letter.
+enum class FontStyle { Plain, Bold, Small };
 
 /// Colours, brushes and fonts as the user's settings have them, looked up when first needed.
 class Theme {
@@ -44,10 +49,11 @@ class Theme {
   [[nodiscard]] const Palette& Colors() const;
   /// A form's colours on the screen. With high contrast on, only the system's own come through.
   [[nodiscard]] COLORREF Background(form::Color color) const;
-  [[nodiscard]] COLORREF TextColor(form::Color color, bool enabled) const;
+  /// What is disabled has a colour that depends on what it is on.
+  [[nodiscard]] COLORREF TextColor(form::Color color, bool enabled, COLORREF background) const;
   /// Lives as long as the theme.
   [[nodiscard]] HBRUSH Brush(COLORREF color) const;
-  [[nodiscard]] HFONT Font(int dpi, bool bold) const;
+  [[nodiscard]] HFONT Font(int dpi, FontStyle style) const;
 
  private:
   struct ColoredBrush {
@@ -56,7 +62,7 @@ class Theme {
   };
   struct SizedFont {
     int Dpi;
-    bool Bold;
+    FontStyle Style;
     FontHandle Font;
   };
 

@@ -3,19 +3,22 @@
 #include <oleacc.h>
 #include <windowsx.h>
 
+#include <cmath>
 #include <string>
 
 #include "win32/draw/Pictures.h"
+#include "win32/draw/Screens.h"
 
 namespace vantor::win32 {
 
 namespace {
 
-using form::Picture;
+/// The side of a drawing and its distance from the upper edge of a face with a caption, in pixels at 96 dots per inch.
+constexpr double DrawingSize = 16;
+constexpr double DrawingTop = 3;
 
 bool HasPictures(const form::CommandButton& button) {
-  return button.Picture() != Picture::None || button.DownPicture() != Picture::None ||
-         button.DisabledPicture() != Picture::None;
+  return !button.Picture().Empty() || !button.DownPicture().Empty() || !button.DisabledPicture().Empty();
 }
 
 DWORD StyleOf(const form::CommandButton& button) { return HasPictures(button) ? BS_OWNERDRAW : BS_PUSHBUTTON; }
@@ -78,14 +81,34 @@ void ButtonWindow::OnDraw(const DRAWITEMSTRUCT& item) {
                                                                               : colors.Normal;
   Canvas canvas(size.cx, size.cy);
   DrawBackdrop(canvas);
-  DrawFace(canvas, canvas.Whole(), colors, face, enabled && (item.itemState & ODS_FOCUS) != 0, Scale());
-  DrawGlyph(canvas, button_.Picture(), canvas.Whole(), face.Text, Scale());
-
-  RECT area{0, 0, size.cx, size.cy};
-  if (!button_.Sign()) InflateRect(&area, -static_cast<int>(4 * Scale()), 0);
-  canvas.Text(button_.Caption(), area, Font(button_.Sign()), face.Text,
-              DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
+  const form::Margins& margins = button_.FaceMargins();
+  const auto pixels = [&](form::Twips twips) { return Screens::ToPixels(twips, Owner().Dpi()); };
+  const RECT area{pixels(margins.Left), pixels(margins.Top), size.cx - pixels(margins.Right),
+                  size.cy - pixels(margins.Bottom)};
+  const Box box{double(area.left), double(area.top), double(area.right - area.left), double(area.bottom - area.top)};
+  DrawFace(canvas, box, colors, face, enabled && (item.itemState & ODS_FOCUS) != 0, Scale());
+  DrawContent(canvas, area, box, face);
   canvas.Show(item.hDC, item.rcItem.left, item.rcItem.top);
+}
+
+/// A drawing, a caption, or a drawing with the caption below it.
+void ButtonWindow::DrawContent(Canvas& canvas, RECT area, const Box& box, const Palette::Face& face) const {
+  const Palette& colors = Theme().Colors();
+  const form::Drawing drawing = button_.Picture().Drawing;
+  const std::wstring& caption = button_.Caption();
+  if (drawing.empty()) {
+    if (!button_.Sign()) InflateRect(&area, -static_cast<int>(4 * Scale()), 0);
+    canvas.Text(caption, area, Font(button_.Sign() ? FontStyle::Bold : FontStyle::Plain), face.Text,
+                DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
+    return;
+  }
+  const double side = std::round(DrawingSize * Scale());
+  const double above = caption.empty() ? std::round((box.Height - side) / 2) : std::round(DrawingTop * Scale());
+  const Box square{box.Left + std::round((box.Width - side) / 2), box.Top + above, side, side};
+  DrawShapes(canvas, drawing, square, colors, face.Text, Scale());
+  area.top = static_cast<LONG>(square.Top + square.Height);
+  const COLORREF color = button_.Enabled() && !colors.HighContrast ? colors.Letter : face.Text;
+  canvas.Text(caption, area, Font(FontStyle::Small), color, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOCLIP);
 }
 
 void ButtonWindow::SetHot(bool hot) {

@@ -20,6 +20,7 @@ class ButtonWindow final : public ControlWindow {
   void Show(form::Property property) override;
 
  private:
+  void DrawContent(Canvas& canvas, RECT area, const Box& box, const Palette::Face& face) const;
   void SetHot(bool hot);
   LRESULT OnMouseButton(form::MouseButton button, bool down, UINT message, WPARAM wParam, LPARAM lParam);
 

@@ -213,8 +213,8 @@ void ControlWindow::ApplyBounds() {
 }
 
 HBRUSH ControlWindow::OnColor(HDC dc) {
-  SetTextColor(dc, Theme().TextColor(control_.ForeColor(), control_.Enabled()));
   const COLORREF background = BackgroundColor();
+  SetTextColor(dc, Theme().TextColor(control_.ForeColor(), control_.Enabled(), background));
   SetBkColor(dc, background);
   return Theme().Brush(background);
 }
@@ -227,7 +227,7 @@ SIZE ControlWindow::ClientSize() const {
   return {area.right, area.bottom};
 }
 
-HFONT ControlWindow::Font(bool bold) const { return Theme().Font(owner_.Dpi(), bold); }
+HFONT ControlWindow::Font(FontStyle style) const { return Theme().Font(owner_.Dpi(), style); }
 
 void ControlWindow::PostClick() const {
   PostMessageW(GetParent(handle_), WM_COMMAND, MAKEWPARAM(0, BN_CLICKED), reinterpret_cast<LPARAM>(handle_));
@@ -266,7 +266,8 @@ COLORREF ControlWindow::BackgroundColor() const {
 COLORREF ControlWindow::EdgeColor() const {
   const Palette& colors = Theme().Colors();
   if (!control_.Enabled()) return colors.Disabled.Edge;
-  return GetFocus() == handle_ ? colors.Focus : colors.Line;
+  if (GetFocus() == handle_) return colors.Focus;
+  return control_.BackColor() == form::Color::LineBlue ? colors.Open.Edge : colors.Line;  // darker on the accent
 }
 
 LRESULT ControlWindow::OnMessageWithEdge(UINT message, WPARAM wParam, LPARAM lParam, int thickness) {
@@ -293,13 +294,21 @@ void ControlWindow::DrawBackdrop(Canvas& canvas) const {
   canvas.Clear(background);
   RECT here;
   GetWindowRect(handle_, &here);
+  if (owner_.Form().BorderStyle() == form::BorderStyle::Line) {
+    RECT all;
+    GetWindowRect(owner_.Hwnd(), &all);
+    DrawWindowEdge(canvas,
+                   {double(all.left - here.left), double(all.top - here.top), double(all.right - all.left),
+                    double(all.bottom - all.top)},
+                   Theme().Colors(), background, Scale());
+  }
   for (const form::Control* other : owner_.Form().Controls()) {
     if (other == &control_) break;  // those after it stand before it
     const bool below = other == container || (other->Container() == container && other->Visible());
     const ControlWindow* const window = Of(other);
     if (!below || window == nullptr) continue;
     const form::Picture picture = window->ShownPicture();
-    if (picture == form::Picture::None) continue;
+    if (picture.Empty()) continue;
     RECT there;
     GetWindowRect(window->Hwnd(), &there);
     DrawPicture(canvas, picture,

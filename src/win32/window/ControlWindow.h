@@ -11,6 +11,7 @@
 #include "form/Picture.h"
 #include "win32/draw/Canvas.h"
 #include "win32/draw/Theme.h"
+#include "win32/draw/WindowEdge.h"
 #include "win32/window/AccessibleState.h"
 #include "win32/window/FormWindow.h"
 
@@ -35,7 +36,7 @@ class ControlWindow : public form::ControlWindow {
   [[nodiscard]] FormWindow& Owner() const { return owner_; }
   [[nodiscard]] form::Control& Control() const { return control_; }
   /// The picture that the window shows, and that shows through what stands before it; None for most.
-  [[nodiscard]] virtual form::Picture ShownPicture() const { return form::Picture::None; }
+  [[nodiscard]] virtual form::Picture ShownPicture() const { return {}; }
 
   /// Shows all of the control's state; for a new window, and after the resolution or the user's settings changed.
   virtual void Refresh();
@@ -97,9 +98,9 @@ class ControlWindow : public form::ControlWindow {
   [[nodiscard]] const win32::Theme& Theme() const;
   [[nodiscard]] double Scale() const { return owner_.Dpi() / 96.0; }
   /// Of the lines that are drawn, in pixels.
-  [[nodiscard]] int LineThickness() const { return std::max(static_cast<int>(Scale()), 1); }
+  [[nodiscard]] int LineThickness() const { return static_cast<int>(EdgeThickness(Scale())); }
   [[nodiscard]] SIZE ClientSize() const;
-  [[nodiscard]] HFONT Font(bool bold = false) const;
+  [[nodiscard]] HFONT Font(FontStyle style = FontStyle::Plain) const;
   /// Tells the parent later that the window, a button, was clicked.
   void PostClick() const;
   void ShowWindowText(const std::wstring& text);

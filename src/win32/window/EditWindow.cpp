@@ -9,6 +9,9 @@
 #include <string>
 #include <utility>
 
+#include "win32/draw/Pictures.h"
+#include "win32/draw/Text.h"
+
 namespace vantor::win32 {
 
 namespace {
@@ -245,7 +248,7 @@ void EditWindow::LayOut(RECT& inside) const {
   const auto scaled = [&](int pixels) { return std::lround(pixels * Scale()); };
   const LONG height = inside.bottom - inside.top;
   const LONG line = std::min<LONG>(TextHeight(Font()), std::max<LONG>(height - scaled(2), 0));
-  const LONG side = std::min(scaled(5), (inside.right - inside.left) / 2);
+  const LONG side = std::min(scaled(6), (inside.right - inside.left) / 2);
   InflateRect(&inside, -side, 0);
   inside.top += (height - line) / 2;
   inside.bottom = inside.top + line;
@@ -259,14 +262,12 @@ void EditWindow::PaintEdge() {
   MapWindowPoints(Hwnd(), nullptr, reinterpret_cast<POINT*>(&inside), 2);
   OffsetRect(&inside, -whole.left, -whole.top);
   OffsetRect(&whole, -whole.left, -whole.top);
+  Canvas canvas(whole.right, whole.bottom);
+  DrawBackdrop(canvas);
+  DrawField(canvas, canvas.Whole(), EdgeColor(), BackgroundColor(), GetFocus() == Hwnd(), Scale());
   const WindowDc window(Hwnd(), WindowDc::Part::Whole);
-  const HDC dc = window.Get();
-  ExcludeClipRect(dc, inside.left, inside.top, inside.right, inside.bottom);
-  const win32::Theme& theme = Theme();
-  FillRect(dc, &whole, theme.Brush(EdgeColor()));
-  const int thickness = LineThickness();
-  InflateRect(&whole, -thickness, -thickness);
-  FillRect(dc, &whole, theme.Brush(BackgroundColor()));
+  ExcludeClipRect(window.Get(), inside.left, inside.top, inside.right, inside.bottom);
+  canvas.Show(window.Get());
 }
 
 }  // namespace vantor::win32

@@ -1,6 +1,7 @@
 #include "win32/window/FormWindow.h"
 
 #include "win32/draw/Screens.h"
+#include "win32/draw/WindowEdge.h"
 #include "win32/window/Accessible.h"
 #include "win32/window/ControlWindow.h"
 #include "win32/window/WindowsDesktop.h"
@@ -9,23 +10,25 @@ namespace vantor::win32 {
 
 namespace {
 
-constexpr wchar_t FormClass[] = L"VantorForm";
-/// A form's edge, in twips.
-constexpr form::Twips LineThickness = 15;
+constexpr wchar_t DialogClass[] = L"VantorDialog";
+constexpr wchar_t LineClass[] = L"VantorForm";  // without a title bar, but with a shadow
 /// The program's icon in its resources.
 constexpr WORD IconId = 1;
 
-void RegisterFormClass(WNDPROC procedure) {
+const wchar_t* FormClass(form::BorderStyle border, WNDPROC procedure) {
   const HINSTANCE instance = GetModuleHandleW(nullptr);
+  const wchar_t* const name = border == form::BorderStyle::Line ? LineClass : DialogClass;
   WNDCLASSW description{};
-  if (GetClassInfoW(instance, FormClass, &description) != FALSE) return;
+  if (GetClassInfoW(instance, name, &description) != FALSE) return name;
   description = {};
+  if (border == form::BorderStyle::Line) description.style = CS_DROPSHADOW;
   description.lpfnWndProc = procedure;
   description.hInstance = instance;
   description.hIcon = LoadIconW(instance, MAKEINTRESOURCEW(IconId));
   description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-  description.lpszClassName = FormClass;
+  description.lpszClassName = name;
   RegisterClassW(&description);
+  return name;
 }
 
 /// After a drag one more move may be told with the button held that is up by now: what counts is the mouse itself.
@@ -49,13 +52,14 @@ FormWindow::FormWindow(win32::Desktop& desktop, form::Form& form, bool onTaskbar
       controls_(*this),
       tips_(*this),
       drops_(*this) {
-  RegisterFormClass(Procedure);
   const WindowStyles styles = StylesOf(form_);
   const RECT place = placement_.BoundsInPixels();
-  handle_.Reset(CreateWindowExW(styles.Extended | (onTaskbar ? WS_EX_APPWINDOW : 0), FormClass, form_.Caption().c_str(),
-                                styles.Style, place.left, place.top, place.right - place.left, place.bottom - place.top,
-                                owner_, nullptr, GetModuleHandleW(nullptr), nullptr));
+  handle_.Reset(CreateWindowExW(styles.Extended | (onTaskbar ? WS_EX_APPWINDOW : 0),
+                                FormClass(form_.BorderStyle(), Procedure), form_.Caption().c_str(), styles.Style,
+                                place.left, place.top, place.right - place.left, place.bottom - place.top, owner_,
+                                nullptr, GetModuleHandleW(nullptr), nullptr));
   SetWindowLongPtrW(Hwnd(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  Shape();
   controls_.Make(nullptr);
   if (form_.TopMost()) SetTopMost(true);
   if (form_.AcceptsDrops()) drops_.BeginLater();
@@ -180,7 +184,16 @@ void FormWindow::Activate() {
   }
 }
 
+/// Fits the outline to the size.
+void FormWindow::Shape() const {
+  if (form_.BorderStyle() != form::BorderStyle::Line || IsIconic(Hwnd()) != FALSE) return;
+  RoundCorners(Hwnd(), desktop_.Theme().Colors(), Dpi() / 96.0);
+  // The controls at the old edge show a piece of it.
+  RedrawWindow(Hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
 void FormWindow::Refresh() {
+  Shape();
   controls_.Refresh();
   RedrawWindow(Hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
@@ -251,12 +264,12 @@ void FormWindow::PaintBackground(HDC dc) const {
   RECT area;
   GetClientRect(Hwnd(), &area);
   const Theme& theme = desktop_.Theme();
+  const COLORREF background = theme.Background(form_.BackColor());
   if (form_.BorderStyle() == form::BorderStyle::Line) {
-    FillRect(dc, &area, theme.Brush(theme.Colors().Line));
-    const int thickness = Screens::ToPixels(LineThickness, Dpi());
-    InflateRect(&area, -thickness, -thickness);
+    PaintWindow(dc, {area.right, area.bottom}, theme, background, Dpi() / 96.0);
+  } else {
+    FillRect(dc, &area, theme.Brush(background));
   }
-  FillRect(dc, &area, theme.Brush(theme.Background(form_.BackColor())));
 }
 
 void FormWindow::OnActivate(bool active) {
@@ -296,6 +309,7 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       GiveFocus();
       return 0;
     case WM_SIZE:
+      Shape();
       OnSize(wParam);
       break;
     case WM_WINDOWPOSCHANGED:

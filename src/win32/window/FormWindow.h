@@ -80,6 +80,7 @@ class FormWindow final : public form::FormWindow {
   /// Lays all out for the resolution that the form is to be shown at, if that is another one.
   void TakeScale();
   void PaintBackground(HDC dc) const;
+  void Shape() const;
   void GiveFocus() const;
   void ShowVisible();
   void ShowOnHost();

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "win32/draw/Pictures.h"
+#include "win32/draw/Screens.h"
 
 namespace vantor::win32 {
 
@@ -20,8 +21,9 @@ void LabelWindow::Show(form::Property property) {
 void LabelWindow::Paint(Canvas& canvas) {
   DrawBackdrop(canvas);
   if (!label_.Transparent()) canvas.Clear(BackgroundColor());
-  canvas.Text(label_.Caption(), {0, 0, canvas.Width(), canvas.Height()}, Font(label_.Bold()),
-              Theme().TextColor(label_.ForeColor(), label_.Enabled()), DT_WORDBREAK);
+  canvas.Text(label_.Caption(), {0, 0, canvas.Width(), canvas.Height()},
+              Font(label_.Bold() ? FontStyle::Bold : FontStyle::Plain),
+              Theme().TextColor(label_.ForeColor(), label_.Enabled(), BackgroundColor()), DT_WORDBREAK);
 }
 
 void LabelWindow::Describe(AccessibleState& state) const {
@@ -36,7 +38,7 @@ void PictureWindow::Paint(Canvas& canvas) {
 
 void PictureWindow::Describe(AccessibleState& state) const {
   state.Role = ROLE_SYSTEM_GRAPHIC;
-  if (picture_.Picture() == form::Picture::None) state.State |= STATE_SYSTEM_INVISIBLE;
+  if (picture_.Picture().Empty()) state.State |= STATE_SYSTEM_INVISIBLE;
 }
 
 LRESULT StaticWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -73,7 +75,15 @@ void FrameWindow::Paint(Canvas& canvas) {
   DrawBackdrop(canvas);
   const COLORREF background = BackgroundColor();
   if (!frame_.Border()) {
-    canvas.Clear(background);
+    if (frame_.BackColor() != form::Color::ButtonFace) canvas.Clear(background);
+    return;
+  }
+  if (const auto& place = frame_.CaptionAlone()) {
+    const int dpi = Owner().Dpi();
+    canvas.Text(
+        frame_.Caption(),
+        {Screens::ToPixels(place->Left, dpi), Screens::ToPixels(place->Top, dpi), canvas.Width(), canvas.Height()},
+        Font(), Theme().TextColor(frame_.ForeColor(), frame_.Enabled(), background), DT_SINGLELINE | DT_END_ELLIPSIS);
     return;
   }
   if (frame_.Banner()) {
@@ -92,14 +102,15 @@ void FrameWindow::Paint(Canvas& canvas) {
   const LONG right = std::min(left + text.cx + 2 * gap, canvas.Width() - left);
   canvas.Shade({double(left), top, double(right - left), line}, background, background);
   canvas.Text(frame_.Caption(), {left + gap, 0, right, text.cy}, Font(),
-              Theme().TextColor(frame_.ForeColor(), frame_.Enabled()), DT_SINGLELINE | DT_END_ELLIPSIS);
+              Theme().TextColor(frame_.ForeColor(), frame_.Enabled(), background), DT_SINGLELINE | DT_END_ELLIPSIS);
 }
 
 void FrameWindow::PaintBanner(Canvas& canvas) const {
   canvas.EdgedBox(canvas.Whole(), 4 * Scale(), LineThickness(), Theme().Colors().Line, BackgroundColor());
   const LONG margin = std::lround(12 * Scale());
   canvas.Text(frame_.Caption(), {margin, 0, canvas.Width() - std::lround(8 * Scale()), canvas.Height()}, Font(),
-              Theme().TextColor(frame_.ForeColor(), frame_.Enabled()), DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS);
+              Theme().TextColor(frame_.ForeColor(), frame_.Enabled(), BackgroundColor()),
+              DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS);
 }
 
 LRESULT FrameWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -40,7 +40,8 @@ form::Screen Desktop::PrimaryScreen() const { return screens_.Primary(); }
 
 form::Size Desktop::MeasureText(std::wstring_view text, bool bold, form::Twips width) const {
   const int dpi = screens_.SystemDpi();
-  const SIZE size = TextSize(text, theme_.Font(dpi, bold), std::max(win32::Screens::ToPixels(width, dpi), 1));
+  const SIZE size = TextSize(text, theme_.Font(dpi, bold ? FontStyle::Bold : FontStyle::Plain),
+                             std::max(win32::Screens::ToPixels(width, dpi), 1));
   // A little more, for screens of another scale, where the font comes out wider.
   return {win32::Screens::ToTwips(size.cx + size.cx / 20 + 1, dpi), win32::Screens::ToTwips(size.cy + 1, dpi)};
 }
