@@ -155,9 +155,9 @@ void ListFiles::SaveLaunchList(const LaunchList& list, form::Twips barLeft, form
 
 ListFiles::Split ListFiles::SplitGroup(const Group& group, const GroupBoxes& boxes) const {
   const bool remembered = group.MachineFile != nullptr && environment_.MachineRemembered;
-  const int count = text::ToInt16(boxes.Path.ListCount());
+  const std::int16_t count = text::ToInt16(boxes.Path.ListCount());
   Split split;
-  split.Main.reserve(static_cast<std::size_t>(count));
+  split.Main.reserve(static_cast<std::size_t>(boxes.Path.ListCount()));
   for (int i = 0; i < count; ++i) {
     const bool onMain = !remembered || boxes.Item(i).Target.substr(0, 1) == environment_.MediaDriveLetter;
     (onMain ? split.Main : split.Machine).push_back(i);

@@ -41,9 +41,9 @@ TEST_CASE("near the screen's edges a panel opens where it fits, and never under 
     folder.WriteData("ListWeb", ListBytes({{"News", "http://news.example"}}));
     const Program program(folder);
     const RECT bar = window::Bounds(program.AwaitBar());
-    for (const auto& [key, title] : Panels) {
-      CAPTURE(title + std::to_string(at.Top));
-      const Panel panel(program, key, title);
+    for (const auto& shown : Panels) {
+      CAPTURE(shown.second + std::to_string(at.Top));
+      const Panel panel(program, shown.first, shown.second);
       panel.Open();
       const RECT place = window::Bounds(panel.Find());
       RECT both;

@@ -149,7 +149,7 @@ TEST_CASE("the service and Windows both tell where a process has its program") {
   CHECK(processes.ImageName(3).empty());
   if (vantor::desktop::On64Bit()) {
     // By the name under which a 32-bit program, and nobody else, sees the system's folder.
-    const PROCESS_INFORMATION other = vantor::desktop::Start("C:\\windows\\Sysnative\\notepad.exe");
+    const PROCESS_INFORMATION other = vantor::desktop::Start(R"(C:\windows\Sysnative\notepad.exe)");
     const std::wstring known = L"C:\\windows\\system32\\notepad.exe";
     const auto all = processes.ManagedProcesses().value();
     CHECK(std::any_of(all.begin(), all.end(), [&](const auto& process) {

@@ -52,7 +52,7 @@ bool ScriptShell::Run(std::wstring_view target) {
 }
 
 std::wstring ScriptShell::ExpandVariables(std::wstring_view text) {
-  const std::wstring given(text);
+  std::wstring given(text);
   std::wstring expanded(given.size() + 1, L'\0');
   for (;;) {
     const DWORD length = ExpandEnvironmentStringsW(given.c_str(), expanded.data(), static_cast<DWORD>(expanded.size()));

@@ -103,7 +103,7 @@ void RowListWindow::PaintRows() {
     if (RectVisible(dc, &area) == FALSE || area.right <= 0) continue;
     const ShownRow& row = shown_[static_cast<std::size_t>(place)];
     Canvas canvas(area.right, area.bottom - area.top);
-    DrawMarkedRow(canvas, row.Row, row.State, ground, Theme().TextColor(list_.ForeColor(), true), Theme(),
+    DrawMarkedRow(canvas, row.Row, row.State, ground, Theme().TextColor(list_.ForeColor(), true, ground), Theme(),
                   Owner().Dpi());
     canvas.Show(dc, 0, area.top);
   }
