@@ -21,10 +21,10 @@ add_custom_command(
   VERBATIM)
 
 set(icon "${PROJECT_SOURCE_DIR}/src/win32/Vantor.ico")
-set(picture "${package_folder}/Picture.bmp")
+set(picture "${package_folder}/Picture.bmp")  # the mark on the band of the program's messages
 add_custom_command(
   OUTPUT "${picture}"
-  COMMAND "${VANTOR_CONVERT}" -size 164x314 "gradient:#4670d6-#223c8e" "(" "${icon}[7]" -resize 128x128 ")"
+  COMMAND "${VANTOR_CONVERT}" -size 164x314 "gradient:#b4c8ff-#9eb6f8" "(" "${icon}[7]" -resize 128x128 ")"
           -gravity north -geometry +0+64 -composite -type truecolor "BMP3:${picture}"
   DEPENDS "${icon}"
   VERBATIM)

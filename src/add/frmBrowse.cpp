@@ -125,7 +125,12 @@ void frmBrowse::OptionBrowse_Click(AddKind kind) {
 
 void frmBrowse::ShowChosenKind() {
   const bool folder = ChoosesFolder();
-  CommandFindPath.SetEnabled(state_.WhatToAdd == AddKind::Program);
+  const bool program = state_.WhatToAdd == AddKind::Program;
+  for (form::Control* control :
+       {static_cast<form::Control*>(&CommandFindPath), static_cast<form::Control*>(&LabelFindHow),
+        static_cast<form::Control*>(&LabelFindResult)}) {
+    control->SetEnabled(program);
+  }
   if (folder) FileWork.SetListIndex(-1);
   OfferFiles(state_.WhatToAdd == AddKind::File ? EveryFile : Programs, !folder);
   if (!Adding()) return;

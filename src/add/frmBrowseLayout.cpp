@@ -20,6 +20,8 @@ using panel::LineHeight;
 using panel::Margin;
 
 constexpr Twips LeastWidth = 5040;
+constexpr Twips HeadTop = 75;  // of the box's own caption
+constexpr Twips BoxTop = 345;  // from the box's top to what is under its caption
 constexpr Twips LeastListsHeight = 2100;
 constexpr Twips MostListsHeight = 3600;
 constexpr Twips BarRoom = 600;  // of the screen, for the bar that the box stands by
@@ -34,6 +36,7 @@ constexpr Twips CancelLeft = 3960;
 
 void frmBrowse::Dress() {
   SetBorderStyle(form::BorderStyle::Line);
+  FrameBrowseBack.SetCaptionAlone(Margin, HeadTop);  // the form has an edge of its own
   constexpr std::wstring_view KindCaptions[] = {L"Prog.", L"File", L"Folder"};
   FrameWhatToAdd.SetCaption(L"What To Add :");
   for (std::size_t i = 0; i < OptionBrowse.size(); ++i) OptionBrowse[i].SetCaption(KindCaptions[i]);
@@ -89,7 +92,7 @@ void frmBrowse::LayOut() {
   const Twips cancelWidth = form::ButtonWidth(CommandAddCancel);
   const Twips width = std::max(
       {LeastWidth, CancelLeft + cancelWidth + Margin, AddedInfoLeft + FrameAddedInfo.LeastSize().Width + Margin});
-  const Twips boxTop = FrameBrowseBack.HeightFor(FrameTop);
+  const Twips boxTop = FrameBrowseBack.HeightFor(BoxTop);
   Twips top = SelectTop;
   if (opening) {
     LayOutLists(boxTop, SelectTop - Margin, width);

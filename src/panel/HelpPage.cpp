@@ -33,7 +33,7 @@ constexpr Row Typed[] = {{L"p=notepad", L"runs a program"},
                          {L"t=5550100", L"dials a telephone number"},
                          {L"p-  f-  d-  w-", L"and a name: opens it from your list"},
                          {L"r-", L"and a name: runs a program of \"!\"", true}};
-constexpr Row Pressed[] = {{L"F1", L"unfolds the box that adds web sites"},
+constexpr Row Pressed[] = {{L"»   F1", L"unfolds the box that adds web sites"},
                            {L"+   F2", L"adds programs, files and folders to your list"},
                            {L">   F3", L"opens any file"},
                            {L"L   F4", L"opens, renames and removes what is in your list"},
@@ -41,8 +41,8 @@ constexpr Row Pressed[] = {{L"F1", L"unfolds the box that adds web sites"},
                            {L"P   F6", L"preferences"},
                            {L"?   F7", L"this help"},
                            {L"C   F8", L"all codes and their words"},
-                           {L"F9, Esc", L"minimizes the bar; Esc closes an open panel first"},
-                           {L"F10", L"saves and exits"},
+                           {L"–   F9, Esc", L"minimizes the bar; Esc closes an open panel first"},
+                           {L"×   F10", L"saves and exits"},
                            {L"F12", L"empties the line"}};
 
 /// One side of the rows, one line for each.

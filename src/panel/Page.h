@@ -37,6 +37,10 @@ class Page : public Panel {
 
   void Open() override;
 
+ protected:
+  /// The page has another size now: places everything again and fits the form to it, if it is the page that is shown.
+  void Arrange();
+
  private:
   frmChoose& form_;
   std::wstring title_;

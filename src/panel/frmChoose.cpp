@@ -24,10 +24,17 @@ void frmChoose::ShowPage(Page& page) {
   }
   SetCaption(page.Title());
   page.Prepare();
+  Arrange(page);
+  page.Frame.SetVisible(true);
+  form::Control* const first = page.First();
+  Show();
+  (first != nullptr ? *first : CommandListCancel).SetFocus();
+}
+
+void frmChoose::Arrange(Page& page) {
   const form::Size content = page.LayOut();
   page.Frame.SetBounds({Margin, Margin, content.Width, content.Height});
   const form::Size size{content.Width + 2 * Margin, content.Height + 2 * Margin};
-  page.Frame.SetVisible(true);
 
   const bool closes = !page.CloseCaption().empty();
   FrameCancel.SetVisible(closes);
@@ -41,9 +48,6 @@ void frmChoose::ShowPage(Page& page) {
   }
   SetInside({size.Width, height});
   host_.PlaceByBar(*this);
-  form::Control* const first = page.First();
-  Show();
-  (first != nullptr ? *first : CommandListCancel).SetFocus();
 }
 
 void frmChoose::Form_KeyUp(form::Key key) {
@@ -71,5 +75,9 @@ Page::Page(frmChoose& form, std::size_t index, const PageTexts& texts)
 }
 
 void Page::Open() { form_.ShowPage(*this); }
+
+void Page::Arrange() {
+  if (Frame.Visible()) form_.Arrange(*this);
+}
 
 }  // namespace vantor::panel

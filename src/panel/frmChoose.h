@@ -24,6 +24,8 @@ class frmChoose : public form::Form {
   void Add(Page& page) { pages_.push_back(&page); }
   /// Shows a page, and no other one.
   void ShowPage(Page& page);
+  /// Fits the form to a page.
+  void Arrange(Page& page);
   /// Closes the panel.
   void CommandListCancel_Click() { host_.ClosePanel(); }
 

@@ -106,15 +106,23 @@ Twips GroupFrame::LayOut(Twips left, Twips top, Twips width) {
   Path.SetBounds({boxLeft, y, boxWidth, lineHeight});
   y = Path.Bottom() + Margin;
 
+  // The three buttons are together as wide as the boxes, each as much wider or narrower than its caption asks for.
   Twips x = boxLeft;
-  const auto place = [&x](form::CommandButton& button, Twips at) {
-    button.SetBounds({x, at, form::ButtonWidth(button), form::ButtonHeight});
+  const auto place = [&x](form::CommandButton& button, Twips at, Twips more) {
+    button.SetBounds({x, at, form::ButtonWidth(button) + more, form::ButtonHeight});
     x += button.Width() + Gap;
   };
-  place(Open, y);
-  place(Rename, y);
-  place(Remove, y);
-  y += form::ButtonHeight + Gap;
+  const Twips wanted = form::ButtonWidth(Open) + form::ButtonWidth(Rename) + form::ButtonWidth(Remove) + 2 * Gap;
+  const Twips more = (boxWidth - wanted) / 3;
+  place(Open, y, more);
+  place(Rename, y, more);
+  place(Remove, y, boxWidth - wanted - 2 * more);
+  y += form::ButtonHeight;
+  if (!FrameRename.Visible()) {
+    Frame.SetBounds({left, top, width, y + Margin});
+    return Frame.Height();
+  }
+  y += Gap;
 
   FrameRename.SetBounds({Gap, y, width - 2 * Gap, form::ButtonHeight});
   const Twips inside = Margin - Gap;
@@ -123,8 +131,8 @@ Twips GroupFrame::LayOut(Twips left, Twips top, Twips width) {
   const Twips textLeft = boxLeft - Gap;
   x = FrameRename.Width() - inside - buttons;
   TextRename.SetBounds({textLeft, (form::ButtonHeight - lineHeight) / 2, x - Gap - textLeft, lineHeight});
-  place(RenOK, 0);
-  place(RenCancel, 0);
+  place(RenOK, 0, 0);
+  place(RenCancel, 0, 0);
 
   Frame.SetBounds({left, top, width, FrameRename.Bottom() + Margin});
   return Frame.Height();
@@ -155,6 +163,7 @@ void GroupFrame::Rename_Click() {
 void GroupFrame::ShowRename(bool visible) {
   Rename.SetState(visible ? form::ButtonState::Pressed : form::ButtonState::Plain);
   FrameRename.SetVisible(visible);
+  Resized();
 }
 
 void GroupFrame::TextRename_Change() {

@@ -31,6 +31,9 @@ class GroupFrame {
   /// An item was removed, or has another name.
   form::Event<> Changed;
 
+  /// The frame's height has changed: the page has to be laid out again.
+  form::Event<> Resized;
+
   form::Frame Frame;
   form::Label LabelName;
   form::ComboBox Name;

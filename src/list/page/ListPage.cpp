@@ -26,6 +26,7 @@ ListPage::ListPage(panel::frmChoose& form, const panel::PanelContext& context, L
   for (const LaunchGroup group : LaunchGroups) {
     Of(group).Start = [this, group](std::wstring_view target) { Start(group, target); };
     Of(group).Changed = [this] { Changed(); };
+    Of(group).Resized = [this] { Arrange(); };
   }
 }
 
@@ -55,9 +56,14 @@ void ListPage::Load() {
 form::Size ListPage::LayOut() {
   const Twips width = std::max(GroupWidth, Prog.LeastWidth());  // all have the same labels and buttons
   const Twips second = width + panel::Margin;
-  const Twips lowerTop = std::max(Prog.LayOut(0, 0, width), File.LayOut(second, 0, width)) + panel::Margin;
-  const Twips lower = std::max(Fold.LayOut(0, lowerTop, width), Web.LayOut(second, lowerTop, width));
-  return {second + width, lowerTop + lower};
+  const auto layOutBoth = [width, second](GroupFrame& left, GroupFrame& right, Twips top) {
+    const Twips height = std::max(left.LayOut(0, top, width), right.LayOut(second, top, width));
+    for (GroupFrame* group : {&left, &right}) {
+      group->Frame.SetBounds({group->Frame.Left(), top, width, height});  // two beside each other end together
+    }
+    return top + height;
+  };
+  return {second + width, layOutBoth(Fold, Web, layOutBoth(Prog, File, 0) + panel::Margin)};
 }
 
 void ListPage::Prepare() {

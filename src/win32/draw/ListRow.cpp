@@ -1,11 +1,35 @@
 #include "win32/draw/ListRow.h"
 
 #include <cmath>
+#include <string>
 
 #include "text/DirectionMarks.h"
 #include "win32/draw/Text.h"
 
 namespace vantor::win32 {
+
+namespace {
+
+/// A web address that is wider than its room, without a piece behind its host. Any other text as it is.
+std::wstring ShortAddress(const std::wstring& text, HFONT font, int room) {
+  const std::size_t scheme = text.find(L"://");
+  const std::size_t host = scheme != std::wstring::npos ? text.find(L'/', scheme + 3) : std::wstring::npos;
+  if (host == std::wstring::npos || TextSize(text, font).cx <= room) return text;
+  const std::wstring head = text.substr(0, host + 1) + L"\u2026";
+  const int left = room - TextSize(head, font).cx;
+  std::size_t fits = 0;  // characters of the end
+  for (std::size_t most = text.size() - host - 1; fits < most;) {
+    const std::size_t middle = (fits + most + 1) / 2;
+    if (TextSize(std::wstring_view(text).substr(text.size() - middle), font).cx <= left) {
+      fits = middle;
+    } else {
+      most = middle - 1;
+    }
+  }
+  return fits > 0 ? head + text.substr(text.size() - fits) : text;
+}
+
+}  // namespace
 
 int RowHeight(HFONT font, double scale) { return TextHeight(font) + static_cast<int>(std::lround(3 * scale)); }
 
@@ -25,8 +49,8 @@ void DrawRow(const DRAWITEMSTRUCT& item, const ListRow& row, COLORREF background
   RECT area = item.rcItem;
   InflateRect(&area, -RowMargin(scale), 0);
   area.left += row.Indent;
-  DrawPlainText(item.hDC, text::WithSignsForMarks(row.Text), area, font, color,
-                DT_SINGLELINE | DT_VCENTER | static_cast<UINT>(isPath ? DT_PATH_ELLIPSIS : DT_END_ELLIPSIS));
+  DrawPlainText(item.hDC, ShortAddress(text::WithSignsForMarks(row.Text), font, area.right - area.left), area, font,
+                color, DT_SINGLELINE | DT_VCENTER | static_cast<UINT>(isPath ? DT_PATH_ELLIPSIS : DT_END_ELLIPSIS));
   if ((item.itemState & ODS_FOCUS) != 0 && (item.itemState & ODS_NOFOCUSRECT) == 0) {
     SetTextColor(item.hDC, RGB(0, 0, 0));
     SetBkColor(item.hDC, RGB(255, 255, 255));

@@ -72,6 +72,7 @@ void ComboWindow::Show(form::Property property) {
 }
 
 std::wstring ComboWindow::TipText() const {
+  if (IsDropped()) return {};  // it would lie on the list
   if (!list_.ToolTip().empty()) return list_.ToolTip();
   const std::wstring text = list_.Text();
   COMBOBOXINFO info{};
@@ -94,6 +95,7 @@ void ComboWindow::Act() { PostMessageW(Hwnd(), CB_SHOWDROPDOWN, IsDropped() ? FA
 void ComboWindow::OnCommand(WORD notification) {
   switch (notification) {
     case CBN_DROPDOWN:
+      Owner().HideToolTip();
       FitList();
       FitWidth();
       Default(CB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()));

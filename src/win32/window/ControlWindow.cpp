@@ -265,7 +265,7 @@ COLORREF ControlWindow::BackgroundColor() const {
 
 COLORREF ControlWindow::EdgeColor() const {
   const Palette& colors = Theme().Colors();
-  if (!control_.Enabled()) return colors.Disabled.Edge;
+  if (!control_.Enabled()) return control_.BackColor() == form::Color::Silver ? colors.Line : colors.Disabled.Edge;
   if (GetFocus() == handle_) return colors.Focus;
   return control_.BackColor() == form::Color::LineBlue ? colors.Open.Edge : colors.Line;  // darker on the accent
 }

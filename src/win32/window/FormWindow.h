@@ -63,6 +63,7 @@ class FormWindow final : public form::FormWindow {
   bool Preview(const MSG& message);
   /// The mouse moves over a free spot, with the buttons of a mouse message's wParam.
   void MouseMoves(WPARAM buttons);
+  void HideToolTip() const { tips_.Hide(); }
   /// Whether the user may use the form changed.
   void ShowEnabled();
   /// Fonts, colours and places are shown anew.

@@ -46,6 +46,10 @@ void ToolTips::Raise() {
   SetWindowPos(window_.Get(), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
+void ToolTips::Hide() const {
+  if (window_) SendMessageW(window_.Get(), TTM_POP, 0, 0);
+}
+
 bool ToolTips::OnNotify(NMHDR& notification) {
   if (!window_ || notification.hwndFrom != window_.Get() || notification.code != TTN_GETDISPINFOW) return false;
   const ControlWindow* const control = ControlWindow::From(reinterpret_cast<HWND>(notification.idFrom));

@@ -19,6 +19,7 @@ class ToolTips {
   void Relay(const MSG& message);
   /// Puts the tool tip that is shown above all other windows again.
   void Raise();
+  void Hide() const;
   /// The resolution has changed: the next tool tip is made anew.
   void Forget() { window_.Reset(); }
   /// Answers the tool-tip window's question for its text. Returns false for any other notification.
