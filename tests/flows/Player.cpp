@@ -39,50 +39,35 @@ std::pair<Text, Text> Cut(const Text& text, std::wstring_view separator = L" ") 
   return {text.substr(0, end), text.substr(end + separator.size())};
 }
 
-constexpr std::pair<std::wstring_view, form::Key> Keys[] = {{L"Backspace", form::Key::Back},
-                                                            {L"Tab", form::Key::Tab},
-                                                            {L"Enter", form::Key::Enter},
-                                                            {L"Escape", form::Key::Escape},
-                                                            {L"Space", form::Key::Space},
-                                                            {L"Home", form::Key::Home},
-                                                            {L"End", form::Key::End},
-                                                            {L"Up", form::Key::Up},
-                                                            {L"Down", form::Key::Down},
-                                                            {L"PageUp", form::Key::PageUp},
-                                                            {L"PageDown", form::Key::PageDown},
-                                                            {L"Left", form::Key::Left},
-                                                            {L"Right", form::Key::Right},
-                                                            {L"Delete", form::Key::Delete},
-                                                            {L"A", form::Key::A},
-                                                            {L"C", form::Key::C},
-                                                            {L"V", form::Key::V},
-                                                            {L"X", form::Key::X},
-                                                            {L"Z", form::Key::Z},
-                                                            {L"F1", form::Key::F1},
-                                                            {L"F2", form::Key::F2},
-                                                            {L"F3", form::Key::F3},
-                                                            {L"F4", form::Key::F4},
-                                                            {L"F5", form::Key::F5},
-                                                            {L"F6", form::Key::F6},
-                                                            {L"F7", form::Key::F7},
-                                                            {L"F8", form::Key::F8},
-                                                            {L"F9", form::Key::F9},
-                                                            {L"F10", form::Key::F10},
-                                                            {L"F11", form::Key::F11},
-                                                            {L"F12", form::Key::F12}};
+constexpr std::pair<std::wstring_view, form::Key> Keys[] = {
+    {L"Backspace", form::Key::Back},    {L"Tab", form::Key::Tab},
+    {L"Enter", form::Key::Enter},       {L"Escape", form::Key::Escape},
+    {L"Space", form::Key::Space},       {L"Home", form::Key::Home},
+    {L"End", form::Key::End},           {L"Up", form::Key::Up},
+    {L"Down", form::Key::Down},         {L"PageUp", form::Key::PageUp},
+    {L"PageDown", form::Key::PageDown}, {L"Left", form::Key::Left},
+    {L"Right", form::Key::Right},       {L"Delete", form::Key::Delete}};
+
+/// By its name, its letter, or F and its number.
+form::Key KeyOf(const Text& word) {
+  const auto* const key = std::ranges::find(Keys, word, &std::pair<std::wstring_view, form::Key>::first);
+  if (key != std::end(Keys)) return key->second;
+  if (word.size() == 1) return static_cast<form::Key>(word[0]);
+  return static_cast<form::Key>(static_cast<int>(form::Key::F1) - 1 + std::stoi(word.substr(1)));
+}
 
 /// The settings file's values in its order, as they are when nothing else is said.
-constexpr std::pair<std::wstring_view, std::wstring_view> SettingNames[] = {{L"OptionMask", L"2"},
-                                                                            {L"FileUpper", L"-1"},
-                                                                            {L"FoldUpper", L"-1"},
-                                                                            {L"ProgUpper", L"-1"},
-                                                                            {L"WebUpper", L"-1"},
-                                                                            {L"Left", L"0"},
-                                                                            {L"Top", L"0"},
-                                                                            {L"Folder", L""},
-                                                                            {L"MachineFileUpper", L"-1"},
-                                                                            {L"MachineFoldUpper", L"-1"},
-                                                                            {L"MachineProgUpper", L"-1"}};
+constexpr std::wstring_view UsualSettings =
+    L"OptionMask=2 FileUpper=-1 FoldUpper=-1 ProgUpper=-1 WebUpper=-1 Left=0 Top=0 Folder= MachineFileUpper=-1 "
+    L"MachineFoldUpper=-1 MachineProgUpper=-1";
+
+/// What can be seen of controls, or of the bar, and is so or not.
+constexpr struct {
+  std::wstring_view Word, What, Expected;
+} Sights[] = {{L"enabled", L"enabled", L"yes"},     {L"disabled", L"enabled", L"no"}, {L"shown", L"shown", L"yes"},
+              {L"hidden", L"shown", L"no"},         {L"ticked", L"ticked", L"yes"},   {L"cleared", L"ticked", L"no"},
+              {L"minimised", L"minimised", L"yes"}, {L"on top", L"on top", L"yes"},   {L"not on top", L"on top", L"no"},
+              {L"end", L"running", L"no"}};
 
 class Player : public Steps {
  public:
@@ -173,9 +158,11 @@ class Player : public Steps {
   // --- what there is
 
   void GiveItem(const Text& rest) {
-    const auto [list, item] = Cut(rest);
-    const auto [name, target] = Cut(item, L" > ");
-    items_[list] += L"\"" + name + L"\",\"" + target + L"\" | ";
+    const auto [list, items] = Cut(rest);
+    for (const Text& item : Split(items, L" | ")) {
+      const auto [name, target] = Cut(item, L" > ");
+      items_[list] += L"\"" + name + L"\",\"" + target + L"\" | ";
+    }
   }
   /// What the program finds when it is not its first start.
   void WriteGiven() {
@@ -193,7 +180,8 @@ class Player : public Steps {
   /// The settings file, with what is said in the place of the usual values: "OptionMask=6 Left=600".
   [[nodiscard]] std::string SettingsBytes(const Text& changes, std::wstring_view folder) const {
     std::vector<std::pair<Text, Text>> values;
-    for (const auto& [name, value] : SettingNames) values.emplace_back(name, name == L"Folder" ? folder : value);
+    for (const Text& usual : Words(Text(UsualSettings))) values.push_back(Cut(usual, L"="));
+    std::ranges::find(values, L"Folder", &std::pair<Text, Text>::first)->second = folder;
     for (const Text& change : Words(changes)) {
       const auto [name, value] = Cut(change, L"=");
       const auto found = std::ranges::find(values, name, &std::pair<Text, Text>::first);
@@ -205,22 +193,40 @@ class Player : public Steps {
     return Encode(bytes);
   }
 
+  /// Does something with each of several paths.
+  template <class Action>
+  void Each(const Text& paths, Action action) {
+    for (const Text& path : Split(paths, L" | ")) action(PathOf(path));
+  }
+  static int First(const Text& numbers) { return std::stoi(numbers); }
+  static int Second(const Text& numbers) { return std::stoi(Cut(numbers).second); }
+
   // --- what the user does
+
+  void Start() {
+    WriteGiven();
+    world_->Start();
+  }
+  void Exit() {
+    world_->Press(form::Key::F10);
+    Check("running", L"running", {}, L"no");
+  }
 
   void Press(const Text& rest) {
     for (const Text& pressed : Words(rest)) {
       const bool control = pressed.starts_with(L"Ctrl+");
-      const Text word = control ? pressed.substr(5) : pressed;
-      const auto* const key = std::ranges::find(Keys, word, &std::pair<std::wstring_view, form::Key>::first);
-      if (key == std::end(Keys)) throw Failure("no such key: " + Narrow(word));
-      control ? world_->PressControl(key->second) : world_->Press(key->second);
+      control ? world_->PressControl(KeyOf(pressed.substr(5))) : world_->Press(KeyOf(pressed));
     }
   }
   /// In the place of what stands in the bar's box.
-  void WriteLine(const Text& rest) {
+  void WriteLine(const Text& rest, bool enter) {
     world_->Press(form::Key::F12);
     Check("line", L"line", {}, L"");
+    Answer(rest, enter);
+  }
+  void Answer(const Text& rest, bool enter) {
     world_->Type(rest);
+    if (enter) world_->Press(form::Key::Enter);
   }
 
   // --- what is then seen
@@ -232,6 +238,19 @@ class Player : public Steps {
   }
   void CheckAll(std::wstring_view what, const Text& controls, const Text& expected) {
     for (const Text& control : Words(controls)) Check(Narrow(control) + ' ' + Narrow(what), what, control, expected);
+  }
+  void See(const Text& what) {
+    for (const auto& sight : Sights) {
+      if (what == sight.Word) return Check(Narrow(what), sight.What, {}, Text(sight.Expected));
+      if (what.starts_with(Text(sight.Word) + L' '))
+        return CheckAll(sight.What, what.substr(sight.Word.size() + 1), Text(sight.Expected));
+    }
+    for (const std::wstring_view word : {L"line", L"title", L"place", L"run value", L"focus"}) {
+      if (what != word && !what.starts_with(Text(word) + L' ')) continue;
+      const Text expected = what.substr(std::min(word.size() + 1, what.size()));
+      return Check(Narrow(word), word, expected, expected);  // the real world asks whether that control has the focus
+    }
+    throw Failure("nobody can see that");
   }
   void SeeMessage(const Text& text) {
     Text seen;
@@ -250,9 +269,26 @@ class Player : public Steps {
     const Text& seen = started[seenStarts_++];
     if (seen != expected) throw Failure("started was \"" + Narrow(seen) + '"');
   }
+  void Starts(const Text& rest) {
+    WriteLine(Cut(rest, L" > ").first, true);
+    SeeStarted(Cut(rest, L" > ").second);
+    Check("line", L"line", {}, L"");
+  }
+  void Completes(const Text& rest) {
+    WriteLine(Cut(rest, L" > ").first, false);
+    Check("line", L"line", {}, Cut(rest, L" > ").second);
+  }
+  void Told(const Text& text) {
+    SeeMessage(text);
+    world_->Press(form::Key::Enter);
+  }
   void CheckNothingStarted() {
     const Texts started = world_->Started();
     if (started.size() > seenStarts_) throw Failure("started was \"" + Narrow(started[seenStarts_]) + '"');
+  }
+  void SeeSettings(const Text& changes) { CheckBytes(DataPath(L"Set"), SettingsBytes(changes, world_->Place(L"f"))); }
+  void SeeFile(const Text& path) {
+    if (!world_->Becomes([&] { return world_->Read(path).has_value(); })) throw Failure("no such file");
   }
   void CheckBytes(const Text& path, const std::optional<std::string>& expected) {
     std::optional<std::string> seen;
@@ -297,94 +333,68 @@ class Player : public Steps {
 
 std::span<const Player::Verb> Player::Verbs() {
   static constexpr Verb all[] = {
-    {L"given item", [](Player& p, const Text& rest) { p.GiveItem(rest); }},
-    {L"given settings", [](Player& p, const Text& rest) { p.settings_ = rest; }},
-    {L"given first start", [](Player& p, const Text& /*rest*/) { p.firstStart_ = true; }},
-    {L"given drive", [](Player& p, const Text& rest) { p.world_->NeedDrive(rest.at(0), Cut(rest).second); }},
-    {L"given home", [](Player& p, const Text& rest) { p.world_->SetHome(rest.at(0)); }},
-    {L"given file", [](Player& p, const Text& rest) { p.world_->Write(p.PathOf(rest), ""); }},
-    {L"given program", [](Player& p, const Text& rest) { p.world_->MakeProgram(p.PathOf(rest)); }},
-    {L"given folder", [](Player& p, const Text& rest) { p.world_->MakeFolder(p.PathOf(rest)); }},
-    {L"given no file", [](Player& p, const Text& rest) { p.world_->Remove(p.PathOf(rest)); }},
-    {L"given read-only", [](Player& p, const Text& rest) { p.world_->Protect(p.PathOf(rest), true); }},
-    {L"given writable", [](Player& p, const Text& rest) { p.world_->Protect(p.PathOf(rest), false); }},
-    {L"given data",
-     [](Player& p, const Text& rest) { p.world_->Write(p.DataPath(Cut(rest).first), p.Records(Cut(rest).second)); }},
-    {L"given screen",
-     [](Player& p, const Text& rest) { p.world_->SetScreen(std::stoi(Cut(rest).first), std::stoi(Cut(rest).second)); }},
-    {L"given failing", [](Player& p, const Text& rest) { p.world_->Break(rest, L"fails"); }},
-    {L"given throwing", [](Player& p, const Text& rest) { p.world_->Break(rest, L"throws"); }},
-    {L"given nothing failing", [](Player& p, const Text& /*rest*/) { p.world_->Break(L"", L"works"); }},
+      {L"given item", [](Player& p, const Text& rest) { p.GiveItem(rest); }},
+      {L"given settings", [](Player& p, const Text& rest) { p.settings_ = rest; }},
+      {L"given first start", [](Player& p, const Text& /*rest*/) { p.firstStart_ = true; }},
+      {L"given drive", [](Player& p, const Text& rest) { p.world_->NeedDrive(rest.at(0), Cut(rest).second); }},
+      {L"given home", [](Player& p, const Text& rest) { p.world_->SetHome(rest.at(0)); }},
+      {L"given file",
+       [](Player& p, const Text& rest) { p.Each(rest, [&](const Text& at) { p.world_->Write(at, ""); }); }},
+      {L"given program",
+       [](Player& p, const Text& rest) { p.Each(rest, [&](const Text& at) { p.world_->MakeProgram(at); }); }},
+      {L"given folder", [](Player& p, const Text& rest) { p.world_->MakeFolder(p.PathOf(rest)); }},
+      {L"given no file",
+       [](Player& p, const Text& rest) { p.Each(rest, [&](const Text& at) { p.world_->Remove(at); }); }},
+      {L"given read-only", [](Player& p, const Text& rest) { p.world_->Protect(p.PathOf(rest), true); }},
+      {L"given writable", [](Player& p, const Text& rest) { p.world_->Protect(p.PathOf(rest), false); }},
+      {L"given data",
+       [](Player& p, const Text& rest) { p.world_->Write(p.DataPath(Cut(rest).first), p.Records(Cut(rest).second)); }},
+      {L"given screen", [](Player& p, const Text& rest) { p.world_->SetScreen(First(rest), Second(rest)); }},
+      {L"given failing", [](Player& p, const Text& rest) { p.world_->Break(rest, L"fails"); }},
+      {L"given throwing", [](Player& p, const Text& rest) { p.world_->Break(rest, L"throws"); }},
+      {L"given nothing failing", [](Player& p, const Text& /*rest*/) { p.world_->Break(L"", L"works"); }},
 
-    {L"start",
-     [](Player& p, const Text& /*rest*/) {
-       p.WriteGiven();
-       p.world_->Start();
-     }},
-    {L"press", [](Player& p, const Text& rest) { p.Press(rest); }},
-    {L"type", [](Player& p, const Text& rest) { p.world_->Type(rest); }},
-    {L"paste", [](Player& p, const Text& rest) { p.world_->Paste(rest); }},
+      {L"start", [](Player& p, const Text& /*rest*/) { p.Start(); }},
+      {L"press", [](Player& p, const Text& rest) { p.Press(rest); }},
+      {L"type", [](Player& p, const Text& rest) { p.world_->Type(rest); }},
+      {L"answer", [](Player& p, const Text& rest) { p.Answer(rest, true); }},
+      {L"paste", [](Player& p, const Text& rest) { p.world_->Paste(rest); }},
       {L"compose", [](Player& p, const Text& rest) { p.world_->Compose(true, rest); }},
       {L"composed", [](Player& p, const Text& rest) { p.world_->Compose(false, rest); }},
-    {L"line", [](Player& p, const Text& rest) { p.WriteLine(rest); }},
-    {L"enter",
-     [](Player& p, const Text& rest) {
-       p.WriteLine(rest);
-       p.world_->Press(form::Key::Enter);
-     }},
-    {L"click", [](Player& p, const Text& rest) { p.world_->Click(rest, L"", false); }},
-    {L"choose", [](Player& p, const Text& rest) { p.world_->Click(Cut(rest).first, Cut(rest).second, false); }},
-    {L"double-click", [](Player& p, const Text& rest) { p.world_->Click(Cut(rest).first, Cut(rest).second, true); }},
-    {L"turn", [](Player& p, const Text& rest) { p.world_->Turn(Cut(rest).first, std::stoi(Cut(rest).second)); }},
-    {L"leave", [](Player& p, const Text& /*rest*/) { p.world_->Leave(); }},
-    {L"hold", [](Player& p, const Text& rest) { p.world_->Hold(rest); }},
-    {L"move over", [](Player& p, const Text& rest) { p.world_->MoveOver(rest); }},
-    {L"release", [](Player& p, const Text& /*rest*/) { p.world_->Release(); }},
-    {L"drag", [](Player& p, const Text& rest) { p.world_->Drag(std::stoi(Cut(rest).first), std::stoi(Cut(rest).second)); }},
-    {L"drop", [](Player& p, const Text& rest) { p.world_->Drop(Split(rest, L" | ")); }},
-    {L"restore", [](Player& p, const Text& /*rest*/) { p.world_->Restore(); }},
-    {L"close", [](Player& p, const Text& /*rest*/) { p.world_->Close(); }},
-    {L"exit",
-     [](Player& p, const Text& /*rest*/) {
-       p.world_->Press(form::Key::F10);
-       p.Check("running", L"running", {}, L"no");
-     }},
-    {L"wait", [](Player& p, const Text& rest) { p.world_->Wait(std::stoi(rest) * 1000); }},
+      {L"line", [](Player& p, const Text& rest) { p.WriteLine(rest, false); }},
+      {L"enter", [](Player& p, const Text& rest) { p.WriteLine(rest, true); }},
+      {L"completes", [](Player& p, const Text& rest) { p.Completes(rest); }},
+      {L"starts", [](Player& p, const Text& rest) { p.Starts(rest); }},
+      {L"click", [](Player& p, const Text& rest) { p.world_->Click(rest, L"", false); }},
+      {L"choose", [](Player& p, const Text& rest) { p.world_->Click(Cut(rest).first, Cut(rest).second, false); }},
+      {L"double-click", [](Player& p, const Text& rest) { p.world_->Click(Cut(rest).first, Cut(rest).second, true); }},
+      {L"turn", [](Player& p, const Text& rest) { p.world_->Turn(Cut(rest).first, Second(rest)); }},
+      {L"leave", [](Player& p, const Text& /*rest*/) { p.world_->Leave(); }},
+      {L"hold", [](Player& p, const Text& rest) { p.world_->Hold(rest); }},
+      {L"move over", [](Player& p, const Text& rest) { p.world_->MoveOver(rest); }},
+      {L"release", [](Player& p, const Text& /*rest*/) { p.world_->Release(); }},
+      {L"drag", [](Player& p, const Text& rest) { p.world_->Drag(First(rest), Second(rest)); }},
+      {L"drop", [](Player& p, const Text& rest) { p.world_->Drop(Split(rest, L" | ")); }},
+      {L"restore", [](Player& p, const Text& /*rest*/) { p.world_->Restore(); }},
+      {L"close", [](Player& p, const Text& /*rest*/) { p.world_->Close(); }},
+      {L"exit", [](Player& p, const Text& /*rest*/) { p.Exit(); }},
+      {L"wait", [](Player& p, const Text& rest) { p.world_->Wait(First(rest) * 1000); }},
 
-    {L"see text", [](Player& p, const Text& rest) { p.Check("text", L"text", Cut(rest).first, Cut(rest).second); }},
-    {L"see entries",
-     [](Player& p, const Text& rest) { p.Check("entries", L"entries", Cut(rest).first, Cut(rest).second); }},
-    {L"see focus", [](Player& p, const Text& rest) { p.Check("focus", L"focus", rest, rest); }},
-    {L"see line", [](Player& p, const Text& rest) { p.Check("line", L"line", {}, rest); }},
-    {L"see title", [](Player& p, const Text& rest) { p.Check("title", L"title", {}, rest); }},
-    {L"see place", [](Player& p, const Text& rest) { p.Check("place", L"place", {}, rest); }},
-    {L"see run value", [](Player& p, const Text& rest) { p.Check("run value", L"run value", {}, rest); }},
-    {L"see enabled", [](Player& p, const Text& rest) { p.CheckAll(L"enabled", rest, L"yes"); }},
-    {L"see disabled", [](Player& p, const Text& rest) { p.CheckAll(L"enabled", rest, L"no"); }},
-    {L"see shown", [](Player& p, const Text& rest) { p.CheckAll(L"shown", rest, L"yes"); }},
-    {L"see hidden", [](Player& p, const Text& rest) { p.CheckAll(L"shown", rest, L"no"); }},
-    {L"see ticked", [](Player& p, const Text& rest) { p.CheckAll(L"ticked", rest, L"yes"); }},
-    {L"see cleared", [](Player& p, const Text& rest) { p.CheckAll(L"ticked", rest, L"no"); }},
-    {L"see minimised", [](Player& p, const Text& /*rest*/) { p.Check("minimised", L"minimised", {}, L"yes"); }},
-    {L"see on top", [](Player& p, const Text& /*rest*/) { p.Check("on top", L"on top", {}, L"yes"); }},
-    {L"see not on top", [](Player& p, const Text& /*rest*/) { p.Check("on top", L"on top", {}, L"no"); }},
-    {L"see end", [](Player& p, const Text& /*rest*/) { p.Check("running", L"running", {}, L"no"); }},
-    {L"see message", [](Player& p, const Text& rest) { p.SeeMessage(rest); }},
-    {L"see no message", [](Player& p, const Text& /*rest*/) { p.CheckAll(L"shown", L"LabelMessage", L"no"); }},
-    {L"see started", [](Player& p, const Text& rest) { p.SeeStarted(rest); }},
-    {L"see nothing started", [](Player& p, const Text& /*rest*/) { p.CheckNothingStarted(); }},
-    {L"see data",
-     [](Player& p, const Text& rest) { p.CheckBytes(p.DataPath(Cut(rest).first), p.Records(Cut(rest).second)); }},
-    {L"see no data", [](Player& p, const Text& rest) { p.CheckBytes(p.DataPath(rest), {}); }},
-    {L"see settings",
-     [](Player& p, const Text& rest) {
-       p.CheckBytes(p.DataPath(L"Set"), p.SettingsBytes(rest, p.world_->Place(L"f")));
-     }},
-    {L"see file",
-     [](Player& p, const Text& rest) {
-       if (!p.world_->Becomes([&] { return p.world_->Read(p.PathOf(rest)).has_value(); })) throw Failure("no such file");
-     }},
-    {L"see no file", [](Player& p, const Text& rest) { p.CheckBytes(p.PathOf(rest), {}); }},
+      {L"told", [](Player& p, const Text& rest) { p.Told(rest); }},
+      {L"see text", [](Player& p, const Text& rest) { p.Check("text", L"text", Cut(rest).first, Cut(rest).second); }},
+      {L"see entries",
+       [](Player& p, const Text& rest) { p.Check("entries", L"entries", Cut(rest).first, Cut(rest).second); }},
+      {L"see message", [](Player& p, const Text& rest) { p.SeeMessage(rest); }},
+      {L"see no message", [](Player& p, const Text& /*rest*/) { p.CheckAll(L"shown", L"LabelMessage", L"no"); }},
+      {L"see started", [](Player& p, const Text& rest) { p.SeeStarted(rest); }},
+      {L"see nothing started", [](Player& p, const Text& /*rest*/) { p.CheckNothingStarted(); }},
+      {L"see data",
+       [](Player& p, const Text& rest) { p.CheckBytes(p.DataPath(Cut(rest).first), p.Records(Cut(rest).second)); }},
+      {L"see no data", [](Player& p, const Text& rest) { p.CheckBytes(p.DataPath(rest), {}); }},
+      {L"see settings", [](Player& p, const Text& rest) { p.SeeSettings(rest); }},
+      {L"see file", [](Player& p, const Text& rest) { p.SeeFile(p.PathOf(rest)); }},
+      {L"see no file", [](Player& p, const Text& rest) { p.CheckBytes(p.PathOf(rest), {}); }},
+      {L"see", [](Player& p, const Text& rest) { p.See(rest); }},
   };
   return all;
 }
