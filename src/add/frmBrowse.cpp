@@ -37,25 +37,24 @@ frmBrowse::frmBrowse(form::UserInterface& ui, const panel::PanelContext& context
 void frmBrowse::ConnectEvents() {
   message::Messages& messages = context_.Messages;
   for (int index = 0; form::OptionButton & option : OptionBrowse) {
-    option.Click = [this, kind = static_cast<AddKind>(index++)] {
-      context_.Messages.Trap(L"OptionBrowse_Click", [&] { OptionBrowse_Click(kind); });
-    };
+    messages.Connect(option, option.Click, L"Click", this, &frmBrowse::OptionBrowse_Click,
+                     static_cast<AddKind>(index++));
   }
-  messages.Connect(DriveWork.Change, L"DriveWork_Change", this, &frmBrowse::DriveWork_Change);
-  messages.Connect(DirWork.Change, L"DirWork_Change", this, &frmBrowse::DirWork_Change);
-  messages.Connect(DirWork.Unreachable, L"DirWork_Unreachable", this, &frmBrowse::DirWork_Unreachable);
-  messages.Connect(FileWork.Click, L"FileWork_Click", this, &frmBrowse::FileWork_Click);
-  messages.Connect(FileWork.DblClick, L"FileWork_DblClick", this, &frmBrowse::FileWork_DblClick);
-  messages.Connect(TextAddPath.Change, L"TextAddPath_Change", this, &frmBrowse::TextAddPath_Change);
-  messages.Connect(TextAddName.Change, L"TextAddName_Change", this, &frmBrowse::TextAddName_Change);
-  messages.Connect(TextAddName.KeyPress, L"TextAddName_KeyPress", this, &frmBrowse::TextAddName_KeyPress);
-  messages.Connect(CommandAddOK.Click, L"CommandAddOK_Click", this, &frmBrowse::CommandAddOK_Click);
-  messages.Connect(CommandAddCancel.Click, L"CommandAddCancel_Click", this, &frmBrowse::CommandAddCancel_Click);
-  messages.Connect(CommandSelectOK.Click, L"CommandSelectOK_Click", this, &frmBrowse::CommandSelectOK_Click);
+  messages.Connect(DriveWork, DriveWork.Change, L"Change", this, &frmBrowse::DriveWork_Change);
+  messages.Connect(DirWork, DirWork.Change, L"Change", this, &frmBrowse::DirWork_Change);
+  messages.Connect(DirWork, DirWork.Unreachable, L"Unreachable", this, &frmBrowse::DirWork_Unreachable);
+  messages.Connect(FileWork, FileWork.Click, L"Click", this, &frmBrowse::FileWork_Click);
+  messages.Connect(FileWork, FileWork.DblClick, L"DblClick", this, &frmBrowse::FileWork_DblClick);
+  messages.Connect(TextAddPath, TextAddPath.Change, L"Change", this, &frmBrowse::TextAddPath_Change);
+  messages.Connect(TextAddName, TextAddName.Change, L"Change", this, &frmBrowse::TextAddName_Change);
+  messages.Connect(TextAddName, TextAddName.KeyPress, L"KeyPress", this, &frmBrowse::TextAddName_KeyPress);
+  messages.Connect(CommandAddOK, CommandAddOK.Click, L"Click", this, &frmBrowse::CommandAddOK_Click);
+  messages.Connect(CommandAddCancel, CommandAddCancel.Click, L"Click", this, &frmBrowse::CommandAddCancel_Click);
+  messages.Connect(CommandSelectOK, CommandSelectOK.Click, L"Click", this, &frmBrowse::CommandSelectOK_Click);
   messages.Connect(CommandFindPath.MouseDown, L"FindExecutableDown", this, &frmBrowse::CommandFindPath_MouseDown);
   messages.Connect(CommandFindPath.MouseUp, L"FindExecutableUp", this, &frmBrowse::CommandFindPath_MouseUp);
   messages.Connect(TimerFindPath.Tick, L"FindExecutableTick", this, &frmBrowse::TimerFindPath_Timer);
-  messages.Connect(FrameAddedInfo.Click, L"FrameAddedInfo_Click", this, &frmBrowse::FrameAddedInfo_Click);
+  messages.Connect(FrameAddedInfo, FrameAddedInfo.Click, L"Click", this, &frmBrowse::FrameAddedInfo_Click);
 }
 
 // --- loading, opening and closing
@@ -64,8 +63,9 @@ void frmBrowse::Form_Load() {
   context_.Messages.Trap(L"Form_Load", [this] {
     LayOut();
     OptionBrowse[0].SetValue(true);
-    const bool remembered = !context_.Environment.RunMode && OnFixedDrive(context_.Services, context_.Settings.Folder);
-    if (!remembered || !DirWork.SetPath(context_.Settings.Folder))
+    const bool remembered =
+        !context_.Environment.RunMode && OnFixedDrive(context_.Services, context_.Settings.RememberedBrowseFolder);
+    if (!remembered || !DirWork.SetPath(context_.Settings.RememberedBrowseFolder))
       (void)DirWork.SetPath(context_.Environment.ProgramFolder);
     NoteFolder();
   });
@@ -203,7 +203,7 @@ void frmBrowse::NoteDrive() {
 void frmBrowse::NoteFolder() {
   const std::wstring& folder = DirWork.Path();
   state_.LastFixedFolder = state_.BrowseDriveType == FixedDrive ? folder : std::wstring();
-  if (!context_.Environment.RunMode) context_.Settings.Folder = state_.LastFixedFolder;
+  if (!context_.Environment.RunMode) context_.Settings.RememberedBrowseFolder = state_.LastFixedFolder;
   state_.BrowseFolder = folder;
   if (!folder.ends_with(L'\\')) state_.BrowseFolder += L'\\';
 }

@@ -22,11 +22,12 @@ constexpr std::wstring_view AddedCaption = L"Site Added To List : Click To Hide"
 
 }  // namespace
 
-AddWebBox::AddWebBox(form::Form& bar, const list::LaunchList& list, const service::Language& language,
-                     message::Messages& messages)
+AddWebBox::AddWebBox(form::Form& bar, panel::PanelHost& host, const list::LaunchList& list,
+                     const service::Language& language, message::Messages& messages)
     : FrameWeb(bar, L"FrameWeb"),
       FrameAddedInfo(bar, L"FrameAddedInfo"),
       PictureNo(bar, L"PictureNo"),
+      host_(host),
       list_(list),
       language_(language),
       messages_(messages) {
@@ -43,11 +44,11 @@ AddWebBox::AddWebBox(form::Form& bar, const list::LaunchList& list, const servic
   PictureNo.SetTabStop(false);
   EnableByText();
 
-  messages_.Connect(TextWebUrl.Change, L"TextWebUrl_Change", this, &AddWebBox::TextWebUrl_Change);
-  messages_.Connect(TextWebName.Change, L"TextWebName_Change", this, &AddWebBox::TextWebName_Change);
-  messages_.Connect(TextWebName.KeyPress, L"TextWebName_KeyPress", this, &AddWebBox::TextWebName_KeyPress);
-  messages_.Connect(CommandAddWeb.Click, L"CommandAddWeb_Click", this, &AddWebBox::CommandAddWeb_Click);
-  messages_.Connect(FrameAddedInfo.Click, L"FrameAddedInfo_Click", this, &AddWebBox::FrameAddedInfo_Click);
+  messages_.Connect(TextWebUrl, TextWebUrl.Change, L"Change", this, &AddWebBox::TextWebUrl_Change);
+  messages_.Connect(TextWebName, TextWebName.Change, L"Change", this, &AddWebBox::TextWebName_Change);
+  messages_.Connect(TextWebName, TextWebName.KeyPress, L"KeyPress", this, &AddWebBox::TextWebName_KeyPress);
+  messages_.Connect(CommandAddWeb, CommandAddWeb.Click, L"Click", this, &AddWebBox::CommandAddWeb_Click);
+  messages_.Connect(FrameAddedInfo, FrameAddedInfo.Click, L"Click", this, &AddWebBox::FrameAddedInfo_Click);
 }
 
 void AddWebBox::LayOut(Twips left, Twips height) {
@@ -100,7 +101,7 @@ void AddWebBox::CommandAddWeb_Click() {
     case list::AddResult::NameListed:
       break;
     case list::AddResult::Added:
-      Added();
+      host_.ClearLine();
       break;
   }
 }

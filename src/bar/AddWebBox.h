@@ -1,12 +1,12 @@
 #pragma once
 
 #include "form/Button.h"
-#include "form/Event.h"
 #include "form/Form.h"
 #include "form/Static.h"
 #include "form/TextBox.h"
 #include "list/LaunchList.h"
 #include "message/Messages.h"
+#include "panel/PanelHost.h"
 #include "service/Language.h"
 
 namespace vantor::bar {
@@ -14,11 +14,8 @@ namespace vantor::bar {
 /// The box that unfolds from the bar's end, by which a web site is added to the launch list.
 class AddWebBox {
  public:
-  AddWebBox(form::Form& bar, const list::LaunchList& list, const service::Language& language,
+  AddWebBox(form::Form& bar, panel::PanelHost& host, const list::LaunchList& list, const service::Language& language,
             message::Messages& messages);
-
-  /// Runs when a site was added.
-  form::Event<> Added;
 
   form::Frame FrameWeb;
   form::TextBox TextWebUrl{FrameWeb, L"TextWebUrl"};
@@ -46,6 +43,7 @@ class AddWebBox {
   void EnableByText();
   [[nodiscard]] bool BothFilled() const { return !TextWebUrl.Text().empty() && !TextWebName.Text().empty(); }
 
+  panel::PanelHost& host_;
   const list::LaunchList& list_;
   const service::Language& language_;
   message::Messages& messages_;

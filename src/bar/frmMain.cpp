@@ -35,7 +35,7 @@ constexpr std::size_t MenusBeforeText = 4;
 
 frmMain::frmMain(form::UserInterface& ui, const BarParts& parts)
     : Form(ui, L"frmMain"),
-      Web(*this, parts.List, parts.Services.Language, parts.Messages),
+      Web(*this, parts.Panels, parts.List, parts.Services.Language, parts.Messages),
       parts_(parts),
       commandLine_(*this, TextMain, parts.Matches, parts.List, parts.CommandState, parts.Starters, parts.Messages,
                    parts.Services, parts.Environment) {
@@ -74,27 +74,25 @@ void frmMain::NameControls() {
 
 void frmMain::HandleEvents() {
   message::Messages& messages = parts_.Messages;
-  messages.Connect(CommandWeb.Click, L"CommandWeb_Click", this, &frmMain::CommandWeb_Click);
+  messages.Connect(CommandWeb, CommandWeb.Click, L"Click", this, &frmMain::CommandWeb_Click);
   for (std::size_t i = 0; i < menu::Count; ++i) {
-    CommandMenu[i].Click = [this, i] {
-      parts_.Messages.Trap(L"CommandMenu_Click", [this, i] { CommandMenu_Click(i); });
-    };
+    messages.Connect(CommandMenu[i], CommandMenu[i].Click, L"Click", this, &frmMain::CommandMenu_Click, i);
   }
-  messages.Connect(CommandMin.Click, L"CommandMin_Click", this, &frmMain::CommandMin_Click);
-  messages.Connect(CommandExit.Click, L"CommandExit_Click", this, &frmMain::CommandExit_Click);
-  messages.Connect(TextMain.KeyPress, L"TextMain_KeyPress", this, &frmMain::TextMain_KeyPress);
-  messages.Connect(TextMain.KeyDown, L"TextMain_KeyDown", this, &frmMain::TextMain_KeyDown);
-  messages.Connect(TextMain.Change, L"TextMain_Change", this, &frmMain::TextMain_Change);
-  messages.Connect(TextMain.Wheel, L"TextMain_Wheel", this, &frmMain::TextMain_Wheel);
-  messages.Connect(TextMain.Compose, L"TextMain_Compose", this, &frmMain::TextMain_Compose);
-  messages.Connect(parts_.Matches.ListMatches.Click, L"ListMatches_Click", this, &frmMain::ListMatches_Click);
+  messages.Connect(CommandMin, CommandMin.Click, L"Click", this, &frmMain::CommandMin_Click);
+  messages.Connect(CommandExit, CommandExit.Click, L"Click", this, &frmMain::CommandExit_Click);
+  messages.Connect(TextMain, TextMain.KeyPress, L"KeyPress", this, &frmMain::TextMain_KeyPress);
+  messages.Connect(TextMain, TextMain.KeyDown, L"KeyDown", this, &frmMain::TextMain_KeyDown);
+  messages.Connect(TextMain, TextMain.Change, L"Change", this, &frmMain::TextMain_Change);
+  messages.Connect(TextMain, TextMain.Wheel, L"Wheel", this, &frmMain::TextMain_Wheel);
+  messages.Connect(TextMain, TextMain.Compose, L"Compose", this, &frmMain::TextMain_Compose);
+  messages.Connect(TextMain, TextMain.DblClick, L"DblClick", this, &frmMain::EmptyTextMain);
   TextMain.KeyDone = [this] { commandLine_.TextMain_KeyDone(); };
-  messages.Connect(TextMain.DblClick, L"TextMain_DblClick", this, &frmMain::EmptyTextMain);
+  form::RowList& matches = parts_.Matches.ListMatches;
+  messages.Connect(matches, matches.Click, L"Click", this, &frmMain::ListMatches_Click);
   messages.Connect(TimerOnTop.Tick, L"TimerOnTop_Timer", this, &frmMain::TimerOnTop_Timer);
   messages.Connect(TimerWatchOnTop.Tick, L"TimerWatchOnTop_Timer", this, &frmMain::TimerWatchOnTop_Timer);
   parts_.Matches.SetHost(*this);
   parts_.Matches.Place = [this](form::Size list) { return PlaceAtLine(list); };
-  Web.Added = [this] { ClearLine(); };
   parts_.Starters.Started = [this] { EmptyTextMain(); };
 }
 

@@ -234,9 +234,9 @@ void Form::InputClose() {
 }
 
 void Form::InputDrop(const DroppedItems& items) {
-  if (!acceptsDrops_ || !AcceptsInput()) return;
+  if (!AcceptsDrops() || !AcceptsInput()) return;
   HideHanging();
-  Dropped(items);
+  dropHandler_->Take(items);
 }
 
 void Form::InputFocus(Control* control) {

@@ -38,6 +38,15 @@ struct DroppedItems {
   std::wstring Address;
 };
 
+/// Takes what is dropped on forms.
+class DropHandler {
+ public:
+  virtual void Take(const DroppedItems& items) = 0;
+
+ protected:
+  ~DropHandler() = default;  // nobody owns one by this type
+};
+
 enum class WindowState { Normal, Minimized };
 /// Line: a thin edge inside the bounds.
 enum class BorderStyle { None, Line, Dialog };
@@ -111,10 +120,10 @@ class Form {
   /// Whether the user works in the form.
   [[nodiscard]] bool Active() const { return active_; }
 
-  /// Whether things can be dropped on the form; they are told by Dropped.
-  [[nodiscard]] bool AcceptsDrops() const { return acceptsDrops_; }
-  void SetAcceptsDrops(bool accepts) { acceptsDrops_ = accepts; }  // before the form is shown
-  Event<const DroppedItems&> Dropped;
+  /// Whether things can be dropped on the form.
+  [[nodiscard]] bool AcceptsDrops() const { return dropHandler_ != nullptr; }
+  /// Lets things be dropped on the form, and hands them on; before the form is shown.
+  void AcceptDrops(DropHandler& handler) { dropHandler_ = &handler; }
 
   [[nodiscard]] const std::vector<Control*>& Controls() const { return controls_; }
   /// The control that has the focus while the form is active; null for none.
@@ -192,7 +201,7 @@ class Form {
   bool topMost_ = false;
   bool active_ = false;
   bool dragging_ = false;
-  bool acceptsDrops_ = false;
+  DropHandler* dropHandler_ = nullptr;
   bool loaded_ = false;
   bool visible_ = false;
   std::vector<Control*> controls_;

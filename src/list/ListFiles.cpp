@@ -132,7 +132,7 @@ bool ListFiles::TargetExists(const Group& group, std::wstring_view target) const
 void ListFiles::SaveLaunchList(const LaunchList& list, form::Twips barLeft, form::Twips barTop) {
   settings_.Left = text::ToInt16(barLeft);
   settings_.Top = text::ToInt16(barTop);
-  if (environment_.RunMode) settings_.Folder.clear();
+  if (environment_.RunMode) settings_.RememberedBrowseFolder.clear();
   // A computer that came to be remembered during this run takes files that hold what was not read.
   const bool machineListed =
       std::max({settings_.MachineFileUpper, settings_.MachineFoldUpper, settings_.MachineProgUpper}) > NoRecords;

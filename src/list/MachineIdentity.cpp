@@ -60,16 +60,16 @@ bool MachineMatches(const service::Services& services, message::Messages& messag
 }
 
 void IdentifyMachine(const service::Services& services, message::Messages& messages, state::Environment& environment) {
-  environment.MachineUnknown = services.DataFiles.Read(environment.Files.Machine).Missing;
+  environment.MachineUnknown = services.DataFiles.Read(environment.Files.MachineIdentityFile).Missing;
   environment.MachineRemembered =
-      !environment.MachineUnknown && MachineMatches(services, messages, environment.Files.Machine);
+      !environment.MachineUnknown && MachineMatches(services, messages, environment.Files.MachineIdentityFile);
 }
 
 bool RememberMyComputer(const service::Services& services, message::Messages& messages,
                         state::Environment& environment) {
   bool failed = false;
   try {
-    if (!SaveIdentity(services, environment.Files.Machine)) return false;
+    if (!SaveIdentity(services, environment.Files.MachineIdentityFile)) return false;
   } catch (...) {
     failed = true;
   }

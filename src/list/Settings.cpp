@@ -37,7 +37,7 @@ bool ReadSettings(std::wstring_view text, Settings& settings) {
   text::SequentialReader reader(text);
   bool whole = ReadNumbers(reader, NumbersBeforeFolder, settings);
   const auto folder = reader.Read();
-  if (folder) settings.Folder = folder->Text;
+  if (folder) settings.RememberedBrowseFolder = folder->Text;
   whole &= folder.has_value();
   whole &= ReadNumbers(reader, NumbersAfterFolder, settings);
   return whole;
@@ -46,7 +46,7 @@ bool ReadSettings(std::wstring_view text, Settings& settings) {
 text::SequentialWriter WriteSettings(const Settings& settings) {
   text::SequentialWriter writer;
   for (const Number number : NumbersBeforeFolder) writer.Write(settings.*number);
-  writer.Write(settings.Folder);
+  writer.Write(settings.RememberedBrowseFolder);
   for (const Number number : NumbersAfterFolder) writer.Write(settings.*number);
   return writer;
 }

@@ -21,7 +21,7 @@ struct Settings {
   std::int16_t WebUpper = NoRecords;
   std::int16_t Left = 0;  // of the bar, in twips
   std::int16_t Top = 0;
-  std::wstring Folder;  // last shown in the add-to-list dialog; "" in removable-media mode
+  std::wstring RememberedBrowseFolder;  // last shown in the add-to-list dialog; "" in removable-media mode
   std::int16_t MachineFileUpper = NoRecords;
   std::int16_t MachineFoldUpper = NoRecords;
   std::int16_t MachineProgUpper = NoRecords;

@@ -58,12 +58,20 @@ class Messages {
   /// The error trap of a routine: runs `body`; an exception asks whether to report the bug by the
   /// routine's name.
   void Trap(std::wstring_view routine, const std::function<void()>& body);
-  /// Makes a member of `owner` the handler of an event, in an error trap of the routine's name.
-  template <class Event, class Name, class Owner, class Handler>
-  void Connect(Event& event, Name routine, Owner* owner, Handler handler) {
-    event = [this, routine = std::move(routine), owner, handler](auto&&... args) {
-      Trap(routine, [&] { (owner->*handler)(args...); });
+  /// Makes a member of `owner` the handler of an event, in an error trap of the routine's name. `bound` comes first
+  /// among its arguments.
+  template <class Event, class Owner, class Handler, class... Bound>
+  void Connect(Event& event, std::wstring routine, Owner* owner, Handler handler, Bound... bound) {
+    event = [this, routine = std::move(routine), owner, handler, bound...](auto&&... args) {
+      Trap(routine, [&] { (owner->*handler)(bound..., args...); });
     };
+  }
+  /// The same by the control's name without its index: "CommandMin_Click".
+  template <class Event, class Owner, class Handler, class... Bound>
+  void Connect(const form::Control& control, Event& event, std::wstring_view what, Owner* owner, Handler handler,
+               Bound... bound) {
+    const std::wstring& name = control.Name();
+    Connect(event, name.substr(0, name.find(L'(')).append(L"_").append(what), owner, handler, bound...);
   }
   /// What the trap does about an error. While one such question is open, further errors are passed over, its own too.
   void ReportBug(std::wstring_view routine);

@@ -52,17 +52,16 @@ void OptionsPage::Dress() {
 void OptionsPage::ConnectEvents() {
   message::Messages& messages = context_.Messages;
   for (std::size_t i = 0; i < Count; ++i) {
-    CheckOptionMain[i].Click = [this, i] {
-      context_.Messages.Trap(L"CheckOptionMain_Click", [&] { CheckOptionMain_Click(i); });
-    };
+    messages.Connect(CheckOptionMain[i], CheckOptionMain[i].Click, L"Click", this, &OptionsPage::CheckOptionMain_Click,
+                     i);
     CheckOptionMain[i].Enter = [this] { CommandOptionOK.DoClick(); };
   }
-  messages.Connect(CommandOptionOK.Click, L"CommandOptionOK_Click", this, &OptionsPage::CommandOptionOK_Click);
-  messages.Connect(CommandOptionCancel.Click, L"CommandOptionCancel_Click", this,
+  messages.Connect(CommandOptionOK, CommandOptionOK.Click, L"Click", this, &OptionsPage::CommandOptionOK_Click);
+  messages.Connect(CommandOptionCancel, CommandOptionCancel.Click, L"Click", this,
                    &OptionsPage::CommandOptionCancel_Click);
-  messages.Connect(CommandOptionShortcut.Click, L"CommandOptionShortcut_Click", this,
+  messages.Connect(CommandOptionShortcut, CommandOptionShortcut.Click, L"Click", this,
                    &OptionsPage::CommandOptionShortcut_Click);
-  messages.Connect(CommandOptionRemember.Click, L"CommandOptionRemember_Click", this,
+  messages.Connect(CommandOptionRemember, CommandOptionRemember.Click, L"Click", this,
                    &OptionsPage::CommandOptionRemember_Click);
 }
 

@@ -29,8 +29,8 @@ CompanionPage::CompanionPage(frmChoose& form, const PanelContext& context)
   ListRunName.SetAccessibleName(Title());
   form::DressButton(CommandRunOpen, L"Open");
   message::Messages& messages = context_.Messages;
-  messages.Connect(ListRunName.DblClick, L"ListRunName_DblClick", this, &CompanionPage::CommandRunOpen_Click);
-  messages.Connect(CommandRunOpen.Click, L"CommandRunOpen_Click", this, &CompanionPage::CommandRunOpen_Click);
+  messages.Connect(ListRunName, ListRunName.DblClick, L"DblClick", this, &CompanionPage::CommandRunOpen_Click);
+  messages.Connect(CommandRunOpen, CommandRunOpen.Click, L"Click", this, &CompanionPage::CommandRunOpen_Click);
 }
 
 void CompanionPage::Prepare() {

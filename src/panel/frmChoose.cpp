@@ -10,7 +10,7 @@ frmChoose::frmChoose(form::UserInterface& ui, PanelHost& host, message::Messages
   SetBorderStyle(form::BorderStyle::Line);
   FrameCancel.SetBorder(false);
   form::DressButton(CommandListCancel, L"Cancel");
-  messages_.Connect(CommandListCancel.Click, L"CommandListCancel_Click", this, &frmChoose::CommandListCancel_Click);
+  messages_.Connect(CommandListCancel, CommandListCancel.Click, L"Click", this, &frmChoose::CommandListCancel_Click);
 }
 
 void frmChoose::Form_Load() {

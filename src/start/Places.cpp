@@ -40,7 +40,7 @@ void SetDataFiles(state::Environment& environment) {
     return;
   }
   files.MediaSet = path(L"\\MediaSet.Orbel");
-  files.Machine = path(L"\\Machine.Orbel");
+  files.MachineIdentityFile = path(L"\\Machine.Orbel");
   files.MachineFile = path(L"\\MachineFile.Orbel");
   files.MachineFold = path(L"\\MachineFold.Orbel");
   files.MachineProg = path(L"\\MachineProg.Orbel");

@@ -6,10 +6,8 @@
 namespace vantor::start {
 
 Program::Program(form::UserInterface& ui, const service::Services& services) : Ui(ui), Services(services) {
-  for (form::Form* form : {static_cast<form::Form*>(&frmMain), static_cast<form::Form*>(&frmBrowse)}) {
-    form->SetAcceptsDrops(true);
-    form->Dropped = [this](const form::DroppedItems& items) { Take(items); };
-  }
+  frmMain.AcceptDrops(*this);
+  frmBrowse.AcceptDrops(*this);
   ListPage.Changed = [this] { frmMain.CompleteLine(); };
 }
 

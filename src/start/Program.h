@@ -25,7 +25,7 @@
 namespace vantor::start {
 
 /// The whole program: all state, and all forms. The entry point makes one; each test makes its own.
-class Program final : private message::MessageHost {
+class Program final : private message::MessageHost, private form::DropHandler {
  public:
   /// Keeps both by reference.
   Program(form::UserInterface& ui, const service::Services& services);
@@ -76,7 +76,7 @@ class Program final : private message::MessageHost {
                                                std::wstring_view body) override {
     return Starters.SendMailTo(address, subject, body);
   }
-  void Take(const form::DroppedItems& items);
+  void Take(const form::DroppedItems& items) override;
 };
 
 }  // namespace vantor::start

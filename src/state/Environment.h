@@ -20,7 +20,7 @@ struct DataFilePaths {
   std::wstring ListWeb;
   // removable-media mode only
   std::wstring MediaSet;
-  std::wstring Machine;
+  std::wstring MachineIdentityFile;
   std::wstring MachineFile;
   std::wstring MachineFold;
   std::wstring MachineProg;

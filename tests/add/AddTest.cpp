@@ -139,7 +139,7 @@ TEST_CASE("the computer is known again by its disk C:, and what can't be read is
     test::TestProgram program;
     state::Environment& environment = program.Program.Environment;
     const service::Services services = program.Computer.Services();
-    environment.Files.Machine = L"E:\\Machine.Orbel";
+    environment.Files.MachineIdentityFile = L"E:\\Machine.Orbel";
     program.Computer.Let("ReadDiskIdentity", c.Identity);
     if (c.File != nullptr) program.Computer.Disk.AddFile(L"E:\\Machine.Orbel", c.File);
     if (c.Result == Expected::Asked) program.Expect();
@@ -168,7 +168,7 @@ TEST_CASE("the computer is known again by its disk C:, and what can't be read is
 TEST_CASE("the box begins in the folder shown last if that is there, on a fixed drive; a share is not asked") {
   for (const auto* folder : {L"C:\\Gone", L"N:\\Work", L"E:\\Work", L"D:Work", L"\\\\host\\share", L""}) {
     test::TestProgram next;
-    next.Program.Settings.Folder = folder;
+    next.Program.Settings.RememberedBrowseFolder = folder;
     next.Program.Environment.ProgramFolder = L"C:\\Vantor\\";
     if (folder[0] == L'\\') next.Computer.Let("DriveType", Outcome::Throws);
     next.Program.frmBrowse.Load();

@@ -30,8 +30,9 @@ void FuzzSettings(Bytes bytes) {
   second.Load();
   Require(first.Settings.OptionMask == second.Settings.OptionMask && second.Settings.WebUpper == list::NoRecords,
           "settings come back");
-  const std::wstring& folder = first.Settings.Folder;
-  Require(folder == second.Settings.Folder || folder.find(L'"') != std::wstring::npos, "the folder comes back");
+  const std::wstring& folder = first.Settings.RememberedBrowseFolder;
+  Require(folder == second.Settings.RememberedBrowseFolder || folder.find(L'"') != std::wstring::npos,
+          "the folder comes back");
 }
 
 void FuzzList(Bytes bytes) {

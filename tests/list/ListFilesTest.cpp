@@ -16,7 +16,7 @@ TEST_CASE("a save writes exact bytes, and the next run has the same list") {
   fake::Computer computer;
   StoredList first(computer);
   first.Settings.OptionMask = 6;
-  first.Settings.Folder = L"C:\\Docs, old";
+  first.Settings.RememberedBrowseFolder = L"C:\\Docs, old";
   first.Add(LaunchGroup::File, L"A, b", L"C:\\Work\\notes.txt");
   first.Add(LaunchGroup::Fold, L" Fold ", L"C:\\Work");
   first.Add(LaunchGroup::Prog, L"caf\u00E9", L"C:\\Work\\Tool.EXE");

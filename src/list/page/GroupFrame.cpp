@@ -27,8 +27,8 @@ std::wstring ControlName(std::wstring_view kind, std::wstring_view code, std::ws
 
 }  // namespace
 
-GroupFrame::GroupFrame(form::Control& page, const GroupTexts& texts, const service::Language& language,
-                       message::Messages& messages)
+GroupFrame::GroupFrame(form::Control& page, LaunchGroup group, const GroupTexts& texts,
+                       const panel::PanelContext& context)
     : Frame(page, std::wstring(L"Frame").append(texts.Code).append(L"List")),
       LabelName(Frame, ControlName(L"Label", texts.Code, L"Name")),
       Name(Frame, ControlName(L"Combo", texts.Code, L"Name")),
@@ -42,8 +42,8 @@ GroupFrame::GroupFrame(form::Control& page, const GroupTexts& texts, const servi
       TextRename(FrameRename, ControlName(L"Text", texts.Code, L"Rename")),
       RenOK(FrameRename, ControlName(L"Command", texts.Code, L"RenOK")),
       RenCancel(FrameRename, ControlName(L"Command", texts.Code, L"RenCancel")),
-      language_(language),
-      messages_(messages) {
+      context_(context),
+      group_(group) {
   Dress(texts);
   ConnectEvents();
 }
@@ -68,18 +68,16 @@ void GroupFrame::Dress(const GroupTexts& texts) {
 }
 
 void GroupFrame::ConnectEvents() {
-  const auto on = [this](const form::Control& control, auto& event, std::wstring_view what, auto handler) {
-    messages_.Connect(event, control.Name() + std::wstring(what), this, handler);
-  };
-  on(Name, Name.Click, L"_Click", &GroupFrame::Name_Click);
-  on(Path, Path.Click, L"_Click", &GroupFrame::Path_Click);
-  on(Open, Open.Click, L"_Click", &GroupFrame::Open_Click);
-  on(Rename, Rename.Click, L"_Click", &GroupFrame::Rename_Click);
-  on(Remove, Remove.Click, L"_Click", &GroupFrame::Remove_Click);
-  on(TextRename, TextRename.Change, L"_Change", &GroupFrame::TextRename_Change);
-  on(TextRename, TextRename.KeyPress, L"_KeyPress", &GroupFrame::TextRename_KeyPress);
-  on(RenOK, RenOK.Click, L"_Click", &GroupFrame::RenOK_Click);
-  on(RenCancel, RenCancel.Click, L"_Click", &GroupFrame::RenCancel_Click);
+  message::Messages& messages = context_.Messages;
+  messages.Connect(Name, Name.Click, L"Click", this, &GroupFrame::Name_Click);
+  messages.Connect(Path, Path.Click, L"Click", this, &GroupFrame::Path_Click);
+  messages.Connect(Open, Open.Click, L"Click", this, &GroupFrame::Open_Click);
+  messages.Connect(Rename, Rename.Click, L"Click", this, &GroupFrame::Rename_Click);
+  messages.Connect(Remove, Remove.Click, L"Click", this, &GroupFrame::Remove_Click);
+  messages.Connect(TextRename, TextRename.Change, L"Change", this, &GroupFrame::TextRename_Change);
+  messages.Connect(TextRename, TextRename.KeyPress, L"KeyPress", this, &GroupFrame::TextRename_KeyPress);
+  messages.Connect(RenOK, RenOK.Click, L"Click", this, &GroupFrame::RenOK_Click);
+  messages.Connect(RenCancel, RenCancel.Click, L"Click", this, &GroupFrame::RenCancel_Click);
 }
 
 Twips GroupFrame::LabelWidth() const {
@@ -150,7 +148,11 @@ void GroupFrame::EnableByCount() {
 
 void GroupFrame::Open_Click() {
   if (Path.ListIndex() == -1) return;
-  Start(Path.Text());
+  const std::wstring target = Path.Text();
+  context_.Host.ClosePanel();
+  const command::Starters& starters = context_.Starters;
+  context_.Messages.ShowListMessage(group_ == LaunchGroup::Prog ? starters.RunProgramFile(target)
+                                                                : starters.OpenItem(target));
 }
 
 void GroupFrame::Rename_Click() {
@@ -178,9 +180,9 @@ void GroupFrame::TextRename_KeyPress(wchar_t& character) {
 void GroupFrame::RenOK_Click() {
   if (Name.ListIndex() == -1) return;
   const std::wstring newName = TextRename.Text();
-  const message::MessageKey listed = CheckNameListed(language_, newName, Name);
+  const message::MessageKey listed = CheckNameListed(context_.Services.Language, newName, Name);
   if (!listed.empty()) {
-    messages_.ShowListMessage(listed);
+    context_.Messages.ShowListMessage(listed);
     TextRename.SetText({});
     TextRename.SetFocus();
     return;

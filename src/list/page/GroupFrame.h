@@ -3,12 +3,11 @@
 #include <string_view>
 
 #include "form/Button.h"
-#include "form/Event.h"
 #include "form/ListControl.h"
 #include "form/Static.h"
 #include "form/TextBox.h"
-#include "message/Messages.h"
-#include "service/Language.h"
+#include "list/LaunchList.h"
+#include "panel/PanelContext.h"
 
 namespace vantor::list {
 
@@ -23,14 +22,10 @@ struct GroupTexts {
 /// One group on the list page: its two boxes and what can be done with the entry that is selected in both.
 class GroupFrame {
  public:
-  GroupFrame(form::Control& page, const GroupTexts& texts, const service::Language& language,
-             message::Messages& messages);
+  GroupFrame(form::Control& page, LaunchGroup group, const GroupTexts& texts, const panel::PanelContext& context);
 
-  /// Starts a target, after the panel has closed.
-  form::Event<std::wstring_view /*target*/> Start;
   /// An item was removed, or has another name.
   form::Event<> Changed;
-
   /// The frame's height has changed: the page has to be laid out again.
   form::Event<> Resized;
 
@@ -74,8 +69,8 @@ class GroupFrame {
   void ShowRename(bool visible);
   void EnableByCount();
 
-  const service::Language& language_;
-  message::Messages& messages_;
+  panel::PanelContext context_;
+  LaunchGroup group_;
 };
 
 }  // namespace vantor::list

@@ -17,14 +17,13 @@ constexpr Twips GroupWidth = 5580;  // two beside each other fit a screen of 800
 
 ListPage::ListPage(panel::frmChoose& form, const panel::PanelContext& context, ListFiles& files)
     : Page(form, panel::menu::List, {L"FrameList", {}, L"List", L"Cancel"}),
-      Prog(Frame, {L"Prog", L"Program List :", L"Program", L"New Name :"}, context.Services.Language, context.Messages),
-      File(Frame, {L"File", L"File List :", L"File", L"New Name:"}, context.Services.Language, context.Messages),
-      Fold(Frame, {L"Fold", L"Folder List :", L"Folder", L"New Name :"}, context.Services.Language, context.Messages),
-      Web(Frame, {L"Web", L"Web URL List :", L"Web URL", L"New Name :"}, context.Services.Language, context.Messages),
+      Prog(Frame, LaunchGroup::Prog, {L"Prog", L"Program List :", L"Program", L"New Name :"}, context),
+      File(Frame, LaunchGroup::File, {L"File", L"File List :", L"File", L"New Name:"}, context),
+      Fold(Frame, LaunchGroup::Fold, {L"Fold", L"Folder List :", L"Folder", L"New Name :"}, context),
+      Web(Frame, LaunchGroup::Web, {L"Web", L"Web URL List :", L"Web URL", L"New Name :"}, context),
       context_(context),
       files_(files) {
   for (const LaunchGroup group : LaunchGroups) {
-    Of(group).Start = [this, group](std::wstring_view target) { Start(group, target); };
     Of(group).Changed = [this] { Changed(); };
     Of(group).Resized = [this] { Arrange(); };
   }
@@ -75,13 +74,6 @@ form::Control* ListPage::First() {
     if (group->Name.ListCount() > 0) return &group->Name;
   }
   return nullptr;
-}
-
-void ListPage::Start(LaunchGroup group, std::wstring_view target) {
-  Host().ClosePanel();
-  const command::Starters& starters = context_.Starters;
-  context_.Messages.ShowListMessage(group == LaunchGroup::Prog ? starters.RunProgramFile(target)
-                                                               : starters.OpenItem(target));
 }
 
 }  // namespace vantor::list

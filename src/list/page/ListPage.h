@@ -45,8 +45,6 @@ class ListPage : public panel::Page {
   form::Control* First() override;
 
  private:
-  void Start(LaunchGroup group, std::wstring_view target);
-
   panel::PanelContext context_;
   ListFiles& files_;
 };
