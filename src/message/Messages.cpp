@@ -47,15 +47,19 @@ void Messages::ShowBugMessage(std::wstring_view key) {
   OpenMessageDialog(message);
 }
 
-void Messages::Trap(std::wstring_view routine, const std::function<void()>& body) {
-  bool failed = false;
+// The bug is reported outside the handler of the exception, because the question may stay open for long.
+bool Messages::Runs(void (*call)(const void*), const void* work) {
   try {
-    body();
+    call(work);
+    return true;
   } catch (...) {
-    failed = true;
+    return false;
   }
-  // Outside the handler, because the question may stay open for long.
-  if (failed) ReportBug(routine);
+}
+
+std::wstring Messages::HandlerName(const form::Control& control, std::wstring_view what) {
+  const std::wstring& name = control.Name();
+  return name.substr(0, name.find(L'(')).append(L"_").append(what);
 }
 
 void Messages::ReportBug(std::wstring_view routine) {

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <functional>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "form/UserInterface.h"
 #include "message/Catalogue.h"
@@ -57,26 +55,39 @@ class Messages {
 
   /// The error trap of a routine: runs `body`; an exception asks whether to report the bug by the
   /// routine's name.
-  void Trap(std::wstring_view routine, const std::function<void()>& body);
-  /// Makes a member of `owner` the handler of an event, in an error trap of the routine's name. `bound` comes first
-  /// among its arguments.
+  template <class Body>
+  void Trap(std::wstring_view routine, const Body& body) {
+    if (!Succeeds(body)) ReportBug(routine);
+  }
+  /// Makes a member of `owner` the handler of a control's event, in an error trap of the routine's name:
+  /// "CommandMin_Click", without the index that the control's name may end in. `bound` comes first among the handler's
+  /// arguments.
   template <class Event, class Owner, class Handler, class... Bound>
-  void Connect(Event& event, std::wstring routine, Owner* owner, Handler handler, Bound... bound) {
-    event = [this, routine = std::move(routine), owner, handler, bound...](auto&&... args) {
-      Trap(routine, [&] { (owner->*handler)(bound..., args...); });
+  void Connect(const form::Control& control, Event& event, const wchar_t* what, Owner* owner, Handler handler,
+               Bound... bound) {
+    event = [this, &control, what, owner, handler, bound...](auto&&... args) {
+      if (!Succeeds([&] { (owner->*handler)(bound..., args...); })) ReportBug(HandlerName(control, what));
     };
   }
-  /// The same by the control's name without its index: "CommandMin_Click".
-  template <class Event, class Owner, class Handler, class... Bound>
-  void Connect(const form::Control& control, Event& event, std::wstring_view what, Owner* owner, Handler handler,
-               Bound... bound) {
-    const std::wstring& name = control.Name();
-    Connect(event, name.substr(0, name.find(L'(')).append(L"_").append(what), owner, handler, bound...);
+  /// The same for what is no control's event, or has a routine of another name.
+  template <class Event, class Owner, class Handler>
+  void Connect(Event& event, const wchar_t* routine, Owner* owner, Handler handler) {
+    event = [this, routine, owner, handler](auto&&... args) {
+      this->Trap(routine, [&] { (owner->*handler)(args...); });
+    };
   }
   /// What the trap does about an error. While one such question is open, further errors are passed over, its own too.
   void ReportBug(std::wstring_view routine);
 
  private:
+  /// Runs `body`. Returns whether it threw nothing.
+  template <class Body>
+  [[nodiscard]] static bool Succeeds(const Body& body) {
+    return Runs([](const void* work) { (*static_cast<const Body*>(work))(); }, &body);
+  }
+  [[nodiscard]] static bool Runs(void (*call)(const void*), const void* work);
+  [[nodiscard]] static std::wstring HandlerName(const form::Control& control, std::wstring_view what);
+
   void ShowFromCatalogue(Selector selector, MessageKey key);
   /// A message to the user by name, with an OK button.
   [[nodiscard]] Message Addressed() const;
