@@ -126,7 +126,7 @@ if(VANTOR_RECORDER_SOURCES)
       OUTPUT "${recorder64}"
       COMMAND "${VANTOR_MINGW64_CXX}" -std=c++20 -Os -s -static -municode -mwindows -DUNICODE -DWIN32_LEAN_AND_MEAN
               -DNOMINMAX "-I${PROJECT_SOURCE_DIR}/tests" ${VANTOR_RECORDER_SOURCES} -o "${recorder64}"
-      DEPENDS ${VANTOR_RECORDER_SOURCES} tests/desktop/Desktop.h
+      DEPENDS ${VANTOR_RECORDER_SOURCES} tests/driver/Desktop.h
       VERBATIM)
     add_custom_target(recorder64 DEPENDS "${recorder64}")
   endif()
@@ -182,7 +182,7 @@ vantor_add_flows(65001 "--env LC_ALL=hi_IN.UTF-8 --env LOCPATH=/locale" ${letter
 foreach(source IN LISTS VANTOR_WIN32_BENCH_SOURCES)
   get_filename_component(name "${source}" NAME_WE)
   add_executable(${name} ${source})
-  target_link_libraries(${name} PRIVATE vantor_flags ${VANTOR_WINDOWS_LIBRARIES})
+  target_link_libraries(${name} PRIVATE vantor_flags ${VANTOR_WINDOWS_LIBRARIES} oleacc)
   target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
   target_compile_options(${name} PRIVATE ${VANTOR_WHOLE_COMPILE})
   target_link_options(${name} PRIVATE -municode -s ${VANTOR_WHOLE_LINK})

@@ -13,7 +13,7 @@
 #include <fstream>
 #include <vector>
 
-#include "desktop/Program.h"
+#include "driver/Program.h"
 
 namespace vantor::desktop {
 namespace {
@@ -114,9 +114,9 @@ struct Soak {
     PostMessageW(window, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
   }
   void Enter(const std::string& line) const {
-    Key(Running.TextMain(), VK_F12);
+    Key(Running.Control(L"TextMain"), VK_F12);
     Await("an empty line", [&] { return Running.Line().empty(); });
-    for (const char c : line + '\r') PostMessageW(Running.TextMain(), WM_CHAR, static_cast<WPARAM>(c), 1);
+    for (const char c : line + '\r') PostMessageW(Running.Control(L"TextMain"), WM_CHAR, static_cast<WPARAM>(c), 1);
   }
   /// The window of the program that the keyboard is for; null while it is for none.
   [[nodiscard]] HWND Focused() const {
@@ -188,9 +188,7 @@ struct Soak {
     Await("the mark to go", [&] { return !marked(); });
     if (Running.Message() != nullptr) throw std::runtime_error("the finder found nothing");
   }
-  [[nodiscard]] HWND FinderButton() const {
-    return desktop::Panel(Running, VK_F2, "Add To List").Button("Find Program Path");
-  }
+  [[nodiscard]] HWND FinderButton() const { return Running.Control(L"CommandFindPath"); }
 };
 
 /// Does each kind of use, or the one that is named. Whether what is held levelled off.
@@ -210,7 +208,7 @@ bool Measure(int hundredths, std::wstring_view only) {
     if (!only.empty() && only != kind.Name) continue;
     const bool finder = kind.Do == &Soak::Find;
     if (finder) {
-      soak.Key(soak.Running.TextMain(), VK_F2);
+      soak.Key(soak.Running.Control(L"TextMain"), VK_F2);
       Await("the add box", [&] { return soak.FinderButton() != nullptr; });
     }
     const int count = kind.Count * hundredths / 100;

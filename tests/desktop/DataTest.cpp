@@ -2,7 +2,7 @@
 
 #include <doctest/doctest.h>
 
-#include "desktop/Program.h"
+#include "driver/Program.h"
 
 namespace vantor::desktop {
 namespace {
@@ -69,71 +69,6 @@ TEST_CASE("the program killed in the midst of a save has lost nothing at its nex
   CHECK(brokenOff > 0);
 }
 
-TEST_CASE("on a full disk the old list or the new one stays, whole") {
-  const std::string disk = "Z:\\small\\";
-  SKIP_UNLESS(Exists(disk), "a small disk");
-  const LongList list(2000);
-  const Folder folder(disk);
-  // No room at all, some for what is kept, enough for that but not for the new list, enough for everything.
-  for (const std::size_t room : {0U, 40'000U, 90'000U, 200'000U}) {
-    CAPTURE(room);
-    list.PutInto(folder);
-    ULARGE_INTEGER free = {};
-    REQUIRE(GetDiskFreeSpaceExA(disk.c_str(), &free, nullptr, nullptr));
-    REQUIRE(free.QuadPart > room);
-    folder.Write("filler", std::string(static_cast<std::size_t>(free.QuadPart) - room, 'x'));
-    for (int time = 0; time < 2; ++time) StartAndClose(folder);
-    DeleteFileW(Wide(folder.Path("filler")).c_str());
-    StartAndClose(folder);
-    list.CheckSaved(folder);
-  }
-}
-
-TEST_CASE("a list that another program holds at the start comes back by the guide's recipe, after later runs too") {
-  const std::string old = ListBytes({{"One", "http://one"}, {"Two", "http://two"}});
-  for (const bool heldToTheEnd : {false, true}) {
-    CAPTURE(heldToTheEnd);
-    const Folder folder;
-    folder.WriteSettings({.WebUpper = 1});
-    folder.WriteData("ListWeb", old);
-    HANDLE const held = CreateFileW(Wide(folder.Path("Vantor\\ListWeb.Orbel")).c_str(), GENERIC_READ, 0, nullptr,
-                                    OPEN_EXISTING, 0, nullptr);
-    REQUIRE(held != INVALID_HANDLE_VALUE);
-    {
-      const Program program(folder);
-      program.AwaitBar();
-      if (!heldToTheEnd) CloseHandle(held);
-      const WebBox box{program};
-      input::Press(VK_F1);
-      CHECK_BECOMES(box.Shown(), true);
-      WebBox::Fill(box.Address(), "http://new");
-      WebBox::Fill(box.Name(), "New");
-      input::Press(VK_RETURN);
-      CHECK_BECOMES(window::Text(box.Address()), "");
-      program.Exit();
-    }
-    if (heldToTheEnd) CloseHandle(held);
-    CHECK((folder.Data("ListWeb") == old) == heldToTheEnd);
-    const std::string rescue = folder.Path("Vantor\\Rescue\\1");
-    {
-      const Program program(folder);
-      if (heldToTheEnd)
-        program.ExpectMessage("The list and settings of the last run were not saved in their place, because");
-      const RECT bar = window::Bounds(program.AwaitBar());
-      SetWindowPos(program.Bar(), nullptr, bar.left + 90, bar.top + 60, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-      program.Exit();
-    }
-    StartAndClose(folder);
-    for (const auto& file : std::filesystem::directory_iterator(Wide(rescue))) {
-      const std::wstring place = Wide(folder.Path("Vantor\\")) + file.path().filename().wstring();
-      CHECK(CopyFileW(file.path().c_str(), place.c_str(), FALSE));
-    }
-    StartAndClose(folder);
-    CHECK(folder.Data("ListWeb") == (heldToTheEnd ? ListBytes({{"New", "http://new"}}) : old));
-    CHECK(folder.Data("Set") == folder.Saved({.WebUpper = heldToTheEnd ? 0 : 1}));
-  }
-}
-
 TEST_CASE("Windows ends while a panel or a message is open: all is saved, and in time") {
   const LongList list(32767);
   for (const bool message : {false, true}) {
@@ -142,12 +77,11 @@ TEST_CASE("Windows ends while a panel or a message is open: all is saved, and in
     list.PutInto(folder);
     const Program program(folder);
     HWND bar = program.AwaitBar();
-    if (message) {
-      program.Enter("p=nosuchprogram");
-      program.AwaitMessage();
-    } else {
-      Panel(program, VK_F4, "List").Open();
-    }
+    if (message)
+      program.Enter(L"p=nosuchprogram");
+    else
+      program.Press(VK_F4);
+    program.AwaitForm(message ? L"CommandOK" : L"CommandListCancel");
     if (message && UnderWine()) {
       CHECK(Run("wineboot --end-session") == 0);
     } else {
@@ -174,7 +108,7 @@ TEST_CASE("a second copy hands over to the first, minimised or covered; of two a
   CHECK(Eventually([&] { return one.Running() != two.Running(); }));
   const Program& first = one.Running() ? one : two;
   HWND bar = first.AwaitBar();
-  first.TypeLine("kept");
+  first.Enter(L"w-kept");
   for (const bool minimised : {true, false}) {
     CAPTURE(minimised);
     if (minimised) input::Press(VK_F9);
@@ -187,7 +121,7 @@ TEST_CASE("a second copy hands over to the first, minimised or covered; of two a
     CHECK(second.AwaitEnd() == 0);
     CHECK_BECOMES(window::IsMinimised(bar), false);
     CHECK(first.AwaitBar() == bar);
-    CHECK(first.Line() == "kept");
+    CHECK(first.Line() == "w-kept");
     CHECK_BECOMES(window::IsAbove(bar, cover), true);
     DestroyWindow(cover);
   }

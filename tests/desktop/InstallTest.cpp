@@ -4,7 +4,8 @@
 
 #include <doctest/doctest.h>
 
-#include "desktop/System.h"
+#include "driver/Program.h"
+#include "driver/Recorder.h"
 #include "product/Product.rc.h"
 
 namespace vantor::desktop {
@@ -91,8 +92,8 @@ TEST_CASE("install, upgrade over a running copy, uninstall and come back, in a f
   it.WriteData();
   {
     Program running(it.Program);
-    running.Enter("p=nosuchprogram");
-    running.AwaitMessage();
+    running.Enter(L"p=nosuchprogram");
+    running.AwaitForm(L"CommandOK");
     it.Uninstall("");
     CHECK(running.AwaitEnd() == 0);
   }
@@ -123,7 +124,7 @@ TEST_CASE("an installation that can't be done says so and leaves all as it was")
   // A copy that waits for its first answer does not end when it is asked to.
   it.Work.CopyProgram("Vantor.exe", it.Name + "\\Vantor.exe");
   Program first(it.Program);
-  first.AwaitMessage();
+  first.AwaitForm(L"TextInput0");
   CHECK(it.Install(it.Work.Path(it.Name)) == NotDone);
   CHECK(first.Running());
   CHECK_FALSE(Exists(it.Program + ".new"));

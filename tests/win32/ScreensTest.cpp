@@ -5,7 +5,7 @@
 #include <cmath>
 #include <vector>
 
-#include "desktop/Desktop.h"
+#include "driver/Window.h"
 #include "form/Button.h"
 #include "form/Form.h"
 #include "form/ListControl.h"

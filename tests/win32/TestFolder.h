@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "desktop/Desktop.h"
+#include "driver/Desktop.h"
 
 namespace vantor::win32 {
 

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "contract/Person.h"
-#include "desktop/Desktop.h"
+#include "driver/Input.h"
 #include "form/Control.h"
 #include "win32/window/ControlWindow.h"
 #include "win32/window/WindowsDesktop.h"
@@ -52,7 +52,7 @@ class WindowsPerson : public Person {
 
   void Type(std::wstring_view text) override {
     for (const wchar_t character : text) {
-      desktop::input::Type(desktop::Narrow(std::wstring(1, character)));
+      desktop::input::Type(std::wstring(1, character));
       AwaitHandled();
     }
   }
@@ -61,14 +61,11 @@ class WindowsPerson : public Person {
     AwaitHandled();
   }
   void Click(form::Control& control) override {
-    // Two clicks on one place must not come out as a double click unless they are one.
-    WaitUntil([&] { return GetTickCount() - lastClick_ > GetDoubleClickTime(); });
-    lastClick_ = GetTickCount();
-    desktop::input::Click(HandleOf(control));
+    desktop::input::Click(desktop::window::Middle(HandleOf(control)));
     AwaitHandled();
   }
   void DoubleClick(form::Control& control) override {
-    desktop::input::DoubleClick(desktop::window::Middle(HandleOf(control)));
+    desktop::input::Click(desktop::window::Middle(HandleOf(control)), true);
     AwaitHandled();
   }
 
@@ -146,7 +143,6 @@ class WindowsPerson : public Person {
   const form::Form* inScript_ = nullptr;
   std::exception_ptr error_;
   int sentinelsSeen_ = 0;
-  DWORD lastClick_ = 0;
 };
 
 }  // namespace

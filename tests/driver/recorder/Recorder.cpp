@@ -1,6 +1,6 @@
 // Stands in for whatever Vantor starts: adds its command line, in UTF-8, to the file that VANTOR_RECORD names.
 
-#include "desktop/Desktop.h"
+#include "driver/Desktop.h"
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int) {
   wchar_t file[MAX_PATH] = L"";

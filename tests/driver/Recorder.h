@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "desktop/Program.h"
+#include "driver/Folder.h"
 
 namespace vantor::desktop {
 

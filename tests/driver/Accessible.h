@@ -1,0 +1,73 @@
+#pragma once
+
+#include <windows.h>
+// Needs the one before it.
+#include <oleacc.h>
+
+#include <stdexcept>
+#include <string>
+
+namespace vantor::desktop {
+
+/// A window as another program's screen reader meets it. Its parts are numbered from 1; 0 is the window itself.
+class Accessible {
+ public:
+  explicit Accessible(HWND window) {
+    CoInitialize(nullptr);
+    void* object = nullptr;
+    if (FAILED(AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible, &object))) {
+      throw std::runtime_error("a window is not accessible");
+    }
+    object_ = static_cast<IAccessible*>(object);
+  }
+  ~Accessible() { object_->Release(); }
+  Accessible(const Accessible&) = delete;
+  Accessible& operator=(const Accessible&) = delete;
+
+  [[nodiscard]] LONG Role(LONG part = 0) const { return Number(&IAccessible::get_accRole, part); }
+  [[nodiscard]] LONG State(LONG part = 0) const { return Number(&IAccessible::get_accState, part); }
+  [[nodiscard]] std::wstring Name(LONG part = 0) const { return Text(&IAccessible::get_accName, part); }
+  [[nodiscard]] std::wstring Key() const { return Text(&IAccessible::get_accKeyboardShortcut, 0); }
+  [[nodiscard]] std::wstring Value() const { return Text(&IAccessible::get_accValue, 0); }
+  [[nodiscard]] LONG Count() const {
+    LONG count = 0;
+    object_->get_accChildCount(&count);
+    return count;
+  }
+  /// The selected part; 0 for none.
+  [[nodiscard]] LONG Selected() const {
+    VARIANT selected{};
+    return object_->get_accSelection(&selected) == S_OK && selected.vt == VT_I4 ? selected.lVal : 0;
+  }
+  [[nodiscard]] POINT Middle(LONG part) const {
+    RECT at{};
+    object_->accLocation(&at.left, &at.top, &at.right, &at.bottom, Part(part));
+    return {at.left + at.right / 2, at.top + at.bottom / 2};
+  }
+  /// Does what the window is for; false when it does not.
+  [[nodiscard]] bool Act() const { return object_->accDoDefaultAction(Part(0)) == S_OK; }
+
+ private:
+  static VARIANT Part(LONG number) {
+    VARIANT part{};
+    part.vt = VT_I4;
+    part.lVal = number;
+    return part;
+  }
+  std::wstring Text(HRESULT (STDMETHODCALLTYPE IAccessible::*question)(VARIANT, BSTR*), LONG part) const {
+    BSTR text = nullptr;
+    (object_->*question)(Part(part), &text);
+    std::wstring told = text != nullptr ? text : L"";
+    SysFreeString(text);
+    return told;
+  }
+  LONG Number(HRESULT (STDMETHODCALLTYPE IAccessible::*question)(VARIANT, VARIANT*), LONG part) const {
+    VARIANT number{};
+    (object_->*question)(Part(part), &number);
+    return number.vt == VT_I4 ? number.lVal : -1;
+  }
+
+  IAccessible* object_ = nullptr;
+};
+
+}  // namespace vantor::desktop

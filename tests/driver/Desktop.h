@@ -1,0 +1,112 @@
+#pragma once
+
+// What the desktop tests stand on. They hold texts in UTF-8, so that a failed comparison can be read.
+
+#include <windows.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <string>
+#include <tuple>
+#include <vector>
+
+namespace vantor::desktop {
+
+inline std::wstring Wide(const std::string& text) {
+  return std::filesystem::path(std::u8string(text.begin(), text.end())).wstring();
+}
+inline std::string Narrow(const std::wstring& text) {
+  const std::u8string bytes = std::filesystem::path(text).u8string();
+  return {bytes.begin(), bytes.end()};
+}
+
+/// The bytes of a text in a file of Windows.
+inline std::string Utf16(const std::string& text) {
+  const std::wstring wide = Wide(text);
+  return {reinterpret_cast<const char*>(wide.data()), wide.size() * sizeof(wchar_t)};
+}
+
+/// Whether this runs under Wine, in an installation that is the test's alone: its system files may be replaced.
+inline bool UnderWine() { return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr; }
+
+/// Whether Windows is a 64-bit one, on which the program and its tests are guests.
+inline bool On64Bit() {
+  BOOL guest = FALSE;
+  return IsWow64Process(GetCurrentProcess(), &guest) && guest;
+}
+
+inline bool Exists(const std::string& path) {
+  return GetFileAttributesW(Wide(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+/// The bytes of a file; "(none)" when there is none.
+inline std::string BytesOf(const std::string& path) {
+  std::ifstream file(std::filesystem::path(Wide(path)), std::ios::binary);
+  if (!file) return "(none)";
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// Asks until the condition holds. False when it does not within the time.
+template <class Condition>
+bool Eventually(Condition condition, DWORD milliseconds = 20000) {
+  const ULONGLONG limit = GetTickCount64() + milliseconds;
+  while (!condition()) {
+    if (GetTickCount64() >= limit) return false;
+    // A window of the test's own has to answer meanwhile.
+    for (MSG message; PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);) DispatchMessageW(&message);
+    Sleep(5);
+  }
+  return true;
+}
+
+/// Waits for what the rest of a test stands on; ends the test when it does not come.
+template <class Condition>
+void Await(const std::string& what, Condition condition) {
+  if (!Eventually(condition)) throw std::runtime_error("waited in vain for " + what);
+}
+
+/// Starts a program in a folder, its caller's own by default.
+inline PROCESS_INFORMATION Start(const std::string& commandLine, const std::string& folder = {}) {
+  std::wstring line = Wide(commandLine);
+  STARTUPINFOW startup = {};
+  startup.cb = sizeof startup;
+  PROCESS_INFORMATION process = {};
+  if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                      folder.empty() ? nullptr : Wide(folder).c_str(), &startup, &process)) {
+    throw std::runtime_error("does not start: " + commandLine);
+  }
+  CloseHandle(process.hThread);
+  return process;
+}
+
+/// Runs a program to its end. Returns its exit code.
+inline DWORD Run(const std::string& commandLine) {
+  HANDLE process = Start(commandLine).hProcess;
+  const bool ended = WaitForSingleObject(process, 60000) == WAIT_OBJECT_0;
+  DWORD code = 0;
+  GetExitCodeProcess(process, &code);
+  CloseHandle(process);
+  if (!ended) throw std::runtime_error("does not end: " + commandLine);
+  return code;
+}
+
+}  // namespace vantor::desktop
+
+/// The value becomes the expected one within the limit. A failure shows what it was instead.
+#define CHECK_BECOMES(value, expected)                                     \
+  do {                                                                     \
+    const auto awaited = (expected);                                       \
+    (void)vantor::desktop::Eventually([&] { return (value) == awaited; }); \
+    CHECK((value) == awaited);                                             \
+  } while (false)
+
+/// Ends a test that can't be shown here, and says so.
+#define SKIP_UNLESS(condition, why)   \
+  do {                                \
+    if (!(condition)) {               \
+      MESSAGE("skipped: needs " why); \
+      return;                         \
+    }                                 \
+  } while (false)

@@ -1,0 +1,123 @@
+#pragma once
+
+#include <string>
+
+#include "driver/Folder.h"
+#include "driver/Input.h"
+#include "driver/List.h"
+#include "win32/window/ControlId.h"
+
+namespace vantor::desktop {
+
+/// A running Vantor, looked at and used from outside; ended by force when a test leaves it running. Controls go by
+/// their names in the code, and only what is shown is found.
+class Program {
+ public:
+  explicit Program(const Folder& folder) : Program(folder.Path("Vantor.exe")) {}
+  explicit Program(const std::string& path) : process_(Start('"' + path + '"', path.substr(0, path.rfind('\\')))) {}
+  ~Program() {
+    if (Running()) {
+      TerminateProcess(process_.hProcess, 99);
+      WaitForSingleObject(process_.hProcess, 5000);
+    }
+    CloseHandle(process_.hProcess);
+  }
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  // What is there; null for what is not.
+  [[nodiscard]] HWND Control(std::wstring_view name) const {
+    for (HWND form : window::OfProcess(process_.dwProcessId)) {
+      for (HWND control : window::Controls(form)) {
+        if (GetWindowLongW(control, GWL_ID) == win32::ControlId(name)) return control;
+      }
+    }
+    return nullptr;
+  }
+  /// The form with a control.
+  [[nodiscard]] HWND FormOf(std::wstring_view control) const { return GetAncestor(Control(control), GA_ROOT); }
+  /// The bar, minimised or not, and the open message.
+  [[nodiscard]] HWND Bar() const { return FormOf(L"CommandExit"); }
+  [[nodiscard]] HWND Message() const { return FormOf(L"LabelMessage"); }
+  [[nodiscard]] std::string Line() const { return window::Text(Control(L"TextMain")); }
+  [[nodiscard]] List ListOf(std::wstring_view name) const { return List(Control(name), name == L"ListMatches"); }
+
+  /// The form that has the input, with a control of its own focused.
+  [[nodiscard]] HWND Active() const {
+    HWND const front = GetForegroundWindow();
+    return window::ProcessOf(front) == process_.dwProcessId && window::Focus(front) != nullptr ? front : nullptr;
+  }
+  void AwaitInput() const {
+    Await("the program to have the input", [this] { return Active() != nullptr; });
+  }
+  HWND AwaitBar() const {
+    Await("the bar to have the input", [this] { return Bar() != nullptr && Active() == Bar(); });
+    return Bar();
+  }
+  /// Waits for the message, or the panel, that a control is on.
+  HWND AwaitForm(std::wstring_view control) const {
+    Await("a form to have the input", [&] { return FormOf(control) != nullptr && Active() == FormOf(control); });
+    return FormOf(control);
+  }
+
+  void Press(WORD key) const {
+    AwaitInput();
+    input::Press(key);
+  }
+  void Type(const std::wstring& text) const {
+    AwaitInput();
+    input::Type(text);
+  }
+  /// Types a line in place of the one that is there, and presses Enter.
+  void Enter(const std::wstring& line) const {
+    AwaitBar();
+    Press(VK_F12);
+    Await("an empty line", [this] { return Line().empty(); });
+    Type(line);
+    Press(VK_RETURN);
+  }
+  /// Clicks on a control as soon as it can be used, or on an entry of a list.
+  void Click(std::wstring_view control, const std::wstring& entry = {}, bool twice = false) const {
+    Await("the control to be ready", [&] { return Control(control) && window::IsEnabled(Control(control)); });
+    AwaitInput();
+    if (entry.empty()) return input::Click(Control(control), twice);
+    const List list = ListOf(control);
+    if (list.IsCombo()) return Choose(Control(control), entry);
+    input::Click(list.AwaitEntry(entry), twice);
+  }
+
+  [[nodiscard]] bool Running() const { return WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT; }
+  /// Waits for the process's end. Returns its exit code.
+  [[nodiscard]] DWORD AwaitEnd() const {
+    Await("the program to end", [this] { return !Running(); });
+    DWORD code = 0;
+    GetExitCodeProcess(process_.hProcess, &code);
+    return code;
+  }
+  /// Leaves by F10 and waits for the end.
+  void Exit() const {
+    AwaitBar();
+    Press(VK_F10);
+    if (AwaitEnd() != 0) throw std::runtime_error("the program failed at its end");
+  }
+
+ private:
+  /// Drops a combo box down and clicks on the entry.
+  static void Choose(HWND combo, const std::wstring& entry) {
+    const RECT box = window::Bounds(combo);
+    input::Click({box.right - 8, (box.top + box.bottom) / 2});
+    HWND list = nullptr;
+    Await("the list to drop down", [&] {
+      COMBOBOXINFO info = {};
+      info.cbSize = sizeof info;
+      list = GetComboBoxInfo(combo, &info) && IsWindowVisible(info.hwndList) ? info.hwndList : nullptr;
+      return list != nullptr;
+    });
+    input::Click(List(list).AwaitEntry(entry));
+    Await("the list to close", [&] { return !IsWindowVisible(list); });
+  }
+
+  PROCESS_INFORMATION process_;
+};
+
+}  // namespace vantor::desktop

@@ -1,0 +1,99 @@
+#pragma once
+
+#include <windows.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "driver/Desktop.h"
+
+/// Windows of other programs, looked at from outside. Only what is shown is found.
+namespace vantor::desktop::window {
+
+/// The title of a window or the content of a control; "" from a program that does not answer.
+inline std::string Text(HWND window) {
+  constexpr UINT Patience = 2000;  // milliseconds
+  DWORD_PTR length = 0;
+  SendMessageTimeoutW(window, WM_GETTEXTLENGTH, 0, 0, SMTO_ABORTIFHUNG, Patience, &length);
+  std::wstring text(length + 1, L'\0');
+  length = 0;
+  SendMessageTimeoutW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()), SMTO_ABORTIFHUNG,
+                      Patience, &length);
+  text.resize(length);
+  return Narrow(text);
+}
+
+inline std::string ClassName(HWND window) {
+  wchar_t name[64];
+  return Narrow(std::wstring(name, static_cast<std::size_t>(GetClassNameW(window, name, 64))));
+}
+
+inline DWORD ProcessOf(HWND window) {
+  DWORD process = 0;
+  GetWindowThreadProcessId(window, &process);
+  return process;
+}
+
+inline BOOL CALLBACK Collect(HWND window, LPARAM list) {
+  if (IsWindowVisible(window)) reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+  return TRUE;
+}
+
+/// The top-level windows of a process, minimised ones too.
+inline std::vector<HWND> OfProcess(DWORD process) {
+  std::vector<HWND> windows;
+  EnumWindows(Collect, reinterpret_cast<LPARAM>(&windows));
+  std::erase_if(windows, [process](HWND window) { return ProcessOf(window) != process; });
+  return windows;
+}
+
+/// The controls of a window, in its own order.
+inline std::vector<HWND> Controls(HWND window) {
+  std::vector<HWND> controls;
+  EnumChildWindows(window, Collect, reinterpret_cast<LPARAM>(&controls));
+  return controls;
+}
+
+inline RECT Bounds(HWND window) {
+  RECT bounds = {};
+  GetWindowRect(window, &bounds);
+  return bounds;
+}
+
+inline POINT Middle(HWND window) {
+  const RECT bounds = Bounds(window);
+  return {(bounds.left + bounds.right) / 2, (bounds.top + bounds.bottom) / 2};
+}
+
+inline GUITHREADINFO ThreadOf(HWND window) {
+  GUITHREADINFO thread = {};
+  thread.cbSize = sizeof thread;
+  GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &thread);
+  return thread;
+}
+/// The window that has the focus in this one's program; null when none has.
+inline HWND FocusOf(HWND window) { return ThreadOf(window).hwndFocus; }
+/// Whether Windows drags the window with the mouse.
+inline bool IsDragged(HWND window) { return (ThreadOf(window).flags & GUI_INMOVESIZE) != 0; }
+
+/// The control, or the window itself, that has the input; null when another window is in the foreground.
+inline HWND Focus(HWND window) {
+  if (!window || GetForegroundWindow() != window) return nullptr;
+  HWND const focus = FocusOf(window);
+  return focus == window || IsChild(window, focus) ? focus : nullptr;
+}
+
+inline bool IsEnabled(HWND window) { return IsWindowEnabled(window) != FALSE; }
+inline bool IsMinimised(HWND window) { return IsIconic(window) != FALSE; }
+inline bool IsTopMost(HWND window) { return (GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; }
+
+/// Whether the first window stands somewhere above the second.
+inline bool IsAbove(HWND upper, HWND lower) {
+  for (HWND window = upper; window; window = GetWindow(window, GW_HWNDNEXT)) {
+    if (window == lower) return true;
+  }
+  return false;
+}
+
+}  // namespace vantor::desktop::window
