@@ -98,12 +98,7 @@ void Generation::Unmark() {
   static_cast<void>(files_.Remove(MarkPath()));
 }
 
-std::vector<std::wstring> Generation::Lists() const {
-  const state::DataFilePaths& files = environment_.Files;
-  std::vector<std::wstring> lists{files.ListFile, files.ListFold, files.ListProg, files.ListWeb};
-  if (environment_.RunMode) lists.insert(lists.end(), {files.MachineFile, files.MachineFold, files.MachineProg});
-  return lists;
-}
+std::vector<std::wstring> Generation::Lists() const { return environment_.Files.Lists(); }
 
 std::vector<std::wstring> Generation::All() const {
   std::vector<std::wstring> all = Lists();

@@ -17,6 +17,9 @@ namespace {
 // Stands for the medium's drive letter in the files, so that the medium may be mounted as any drive.
 constexpr wchar_t OpenDriveLetter = L'#';
 
+/// The upper index of the longest list.
+constexpr std::int16_t MostRecords = INT16_MAX - 1;
+
 // Four quotes, a comma and a line end.
 constexpr std::size_t PunctuationOfRecord = 7;
 
@@ -56,7 +59,19 @@ ListFiles::Group ListFiles::GroupOf(LaunchGroup group) const {
 
 void ListFiles::LoadSettings() {
   const service::FileRead file = generation_.Read(environment_.Files.Set);
-  settingsWhole_ = file.Bytes && ReadSettings(DecodeText(*file.Bytes, services_.Language), settings_);
+  const std::wstring text = DecodeText(file.Bytes.value_or(""), services_.Language);
+  settingsWhole_ = ReadSettings(text, settings_);
+  if (settingsWhole_) return;
+  // A list whose count can't be read must not seem empty: it is read to its end.
+  const auto readAll = [this](const std::wstring& path, std::int16_t& upper) {
+    if (!generation_.Read(path).Missing) upper = MostRecords;
+  };
+  for (const LaunchGroup code : LaunchGroups) {
+    const Group group = GroupOf(code);
+    readAll(group.File, group.Upper);
+    if (group.MachineFile != nullptr) readAll(*group.MachineFile, *group.MachineUpper);
+  }
+  static_cast<void>(ReadSettings(text, settings_));
 }
 
 void ListFiles::LoadLaunchList(const LaunchList& list) {

@@ -27,7 +27,8 @@ class ListFiles {
 
   /// The first of all: undoes a save that was broken off.
   void Restore() { generation_.Restore(); }
-  /// Reads the settings. What can't be read stays as it is.
+  /// Reads the settings. What can't be read stays as it is, but for the counts of lists that are there: each of those
+  /// counts as the greatest.
   void LoadSettings();
   /// Appends the items of the list files whose targets exist to the empty boxes. Throws what a loader threw, after all
   /// the other files have been loaded.

@@ -44,6 +44,17 @@ bool Write(const service::Services& services, std::wstring_view path, const text
   return services.DataFiles.Write(path, list::EncodeText(text, services.Language));
 }
 
+/// The settings file or, where that was lost or deleted, one of the lists; "" before the first start.
+std::wstring FindData(const service::Services& services, const state::Environment& environment) {
+  // A file that is there but can't be read must not be taken for a first start, and be replaced.
+  const auto isThere = [&](const std::wstring& path) { return !services.DataFiles.Read(path).Missing; };
+  if (isThere(environment.Files.Set)) return environment.Files.Set;
+  for (const std::wstring& path : environment.Files.Lists()) {
+    if (isThere(path)) return path;
+  }
+  return {};
+}
+
 bool WriteFirstSettings(const service::Services& services, const state::Environment& environment) {
   return Write(services, environment.Files.Set, list::WriteSettings(list::Settings{}));
 }
@@ -79,9 +90,8 @@ bool CreateMedia(const service::Services& services, const state::Environment& en
 }  // namespace
 
 bool PrepareDataFolder(const service::Services& services, state::Environment& environment) {
-  // A settings file that is there but can't be read must not be taken for a first start, and be replaced.
-  if (!services.DataFiles.Read(environment.Files.Set).Missing)
-    return services.DataFiles.CanWrite(environment.Files.Set);
+  const std::wstring found = FindData(services, environment);
+  if (!found.empty()) return services.DataFiles.CanWrite(found);
   environment.FirstStart = true;
   return services.DataFiles.MakeFolder(environment.DataFolder) && WriteFirstSettings(services, environment);
 }
@@ -95,7 +105,7 @@ message::MessageKey PrepareMedia(const service::Services& services, state::Envir
   const auto media = ReadMediaSet(services, environment);
   if (media && media->State.empty()) return message::MessageRecreateMedia;
   if (media && media->State == MediaSetup) return message::MessageMediaRunCancel;
-  if (!services.DataFiles.Read(environment.Files.Set).Missing) return {};
+  if (!FindData(services, environment).empty()) return {};
   environment.FirstStart = true;
   return WriteFirstSettings(services, environment) ? message::MessageKey() : message::MessageMediaCreateError;
 }

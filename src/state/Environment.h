@@ -24,6 +24,13 @@ struct DataFilePaths {
   std::wstring MachineFile;
   std::wstring MachineFold;
   std::wstring MachineProg;
+
+  /// The list files of the mode.
+  [[nodiscard]] std::vector<std::wstring> Lists() const {
+    std::vector<std::wstring> lists{ListFile, ListFold, ListProg, ListWeb};
+    if (!MachineFile.empty()) lists.insert(lists.end(), {MachineFile, MachineFold, MachineProg});
+    return lists;
+  }
 };
 
 /// Another program of the maker.

@@ -172,7 +172,8 @@ TEST_CASE(
       hold(2000);
       CHECK(Loaded(run.Disk) == before);
       hold(9999);
-      CHECK((run.Load() == before) == (path == Mark));
+      // Without the settings every list is read to its end.
+      CHECK((run.Load() == before) == (path == Mark || path.ends_with(L"\\Set.Orbel")));
       CHECK(run.Computer.Paused == 2000);
       run.List.Add(LaunchGroup::Web, L"new", L"http://new");
       if (released) hold(0);
