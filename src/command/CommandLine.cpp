@@ -178,13 +178,18 @@ void CommandLine::CompleteAgain() {
   LineState line = ReadLine(textMain_, state_);
   const CommandCode* const code = CodeOf(line.Text);
   if (code == nullptr || code->Argument != Argument::ItemName) return;
+  const Candidates table(*code, list_, environment_);
+  if (const int same = table.IndexOf(std::wstring_view(line.Text).substr(CodeLength)); same != NoIndex) {
+    static_cast<CompletedEntry&>(state_) = table.Record(same);
+    return;
+  }
   const auto typedEnd = static_cast<std::size_t>(line.SelStart);
   const bool proposes =
       typedEnd > CodeLength && typedEnd + static_cast<std::size_t>(line.SelLength) == line.Text.size();
   if (proposes) line.Text.resize(typedEnd);
   PutLine({line.Text, proposes ? line.SelStart : static_cast<int>(line.Text.size())}, textMain_, state_);
   const std::wstring_view typed(line.Text);
-  CompleteFromTable(typed.substr(0, CodeLength), typed.substr(CodeLength), {*code, list_, environment_});
+  CompleteFromTable(typed.substr(0, CodeLength), typed.substr(CodeLength), table);
 }
 
 bool CommandLine::KeepDigits() {

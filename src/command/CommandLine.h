@@ -44,8 +44,8 @@ class CommandLine {
   void TextMain_KeyDone() { state_.BackspaceFlag = false; }
   /// Escape, whichever control of the bar has the focus: closes the open panel and empties the line, or minimises.
   void Escape();
-  /// The list has changed: what the line was completed to is looked for again. Where nothing fits any more, the line
-  /// keeps what was typed.
+  /// The list has changed: what the line was completed to is looked for again. Where it is gone, the line is completed
+  /// by what was typed, or keeps that alone.
   void CompleteAgain();
 
  private:

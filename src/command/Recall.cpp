@@ -21,6 +21,7 @@ void Recall::Started(std::wstring_view line) {
   std::erase(lines_, line);
   lines_.emplace_front(line);
   if (lines_.size() > MostLines) lines_.pop_back();
+  if (shown_) shown_ = 0;  // of a page of the Control Panel, the line stays
 }
 
 bool Recall::Walk(form::Key key) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "form/UserInterface.h"
+#include "text/DirectionMarks.h"
 
 namespace vantor::command {
 
@@ -43,8 +44,8 @@ void frmMatches::ShowFound(int current) {
 }
 
 form::Row frmMatches::RowAt(int index) const {
-  return {std::wstring(matches_.NameOf(index)), matches_.PlaceOf(index), matches_.TypedLength(),
-          std::wstring(matches_.DetailOf(index))};
+  return {text::WithSignsForMarks(matches_.NameOf(index)), matches_.PlaceOf(index), matches_.TypedLength(),
+          text::WithSignsForMarks(matches_.DetailOf(index))};
 }
 
 }  // namespace vantor::command

@@ -1,7 +1,6 @@
 #include <doctest/doctest.h>
 
 #include "fake/TestProgram.h"
-#include "text/DirectionMarks.h"
 
 namespace vantor::command {
 namespace {
@@ -19,7 +18,7 @@ TEST_CASE("a name or an address is opened for what it is, and for nothing that a
   line.Add(LaunchGroup::File, L"Gone", L"C:\\Work\\my letter.doc");
   line.Add(LaunchGroup::Web, L"News", L"http://news.example/?\"%TEMP\"");
   line.Add(LaunchGroup::Web, L"Value", L"http://news.example/%TEMP%");
-  line.Add(LaunchGroup::Web, L"Turned", L"http://news.example/\x202Egpj.exe");
+  line.Add(LaunchGroup::Web, L"Turned", L"http://news.example/\x202Egpj\x2069\x202F");
   const std::pair<std::wstring_view, std::wstring_view> rows[] = {
       {L"w;x.example", L"shell \"http://www.x.example\""},
       {L"w=%TEMP%", L"shell \"%TEMP%\""},
@@ -44,7 +43,8 @@ TEST_CASE("a name or an address is opened for what it is, and for nothing that a
     CHECK(line.Main.TextMain.Text().empty() != started.empty());
   }
   CHECK(line.Told.size() == 2);
-  CHECK(text::WithSignsForMarks(L"\x202Egpj\x2069\x202F") == L"\xFFFDgpj\xFFFD\x202F");
+  line.Type(L"w-t");
+  CHECK(line.Program.frmMatches.ListMatches.RowAt(0).Detail == L"http://news.example/\xFFFDgpj\xFFFD\x202F");
 }
 
 }  // namespace

@@ -304,7 +304,7 @@ class Player : public Steps {
       if (end == text.npos) break;
       const Text word = text.substr(begin + 1, end - begin - 1);
       constexpr std::pair<std::wstring_view, wchar_t> characters[] = {
-          {L"space", L' '}, {L"tab", L'\t'}, {L"return", L'\r'}, {L"separator", L'\u2028'}};
+          {L"space", L' '}, {L"tab", L'\t'}, {L"return", L'\r'}, {L"separator", L'\u2028'}, {L"turn", L'\u202E'}};
       const auto* const known = std::ranges::find(characters, word, &std::pair<std::wstring_view, wchar_t>::first);
       const Text filled = known != std::end(characters) ? Text(1, known->second) : world_->Place(word);
       if (filled.empty()) throw Failure("nothing stands for {" + Narrow(word) + '}');
