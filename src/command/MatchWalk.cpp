@@ -9,7 +9,6 @@ MatchWalk::MatchWalk(form::TextBox& textMain, CommandState& state, frmMatches& l
     : textMain_(textMain), state_(state), list_(list) {}
 
 void MatchWalk::Show(const Candidates& candidates, std::wstring_view prefix, std::wstring_view typed, bool completed) {
-  gaveWay_ = false;
   if (candidates.Count() == 0 || state_.OpenPanelIndex != NoIndex || !textMain_.HasFocus()) return Hide();
   list_.Search(candidates, typed);
   const Matches& found = list_.Found();

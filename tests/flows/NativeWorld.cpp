@@ -202,6 +202,7 @@ class NativeWorld : public World {
   void Wait(int milliseconds) override { desk_->Advance(milliseconds); }
   void Break(const Text& call, const Text& outcome) override {
     broken_.assign(call.begin(), call.end());
+    computer_.Administrator = outcome == L"works" || call != L"HKEY_LOCAL_MACHINE";
     computer_.Let(broken_, outcome == L"fails"    ? fake::Outcome::Fails
                            : outcome == L"throws" ? fake::Outcome::Throws
                                                   : fake::Outcome::Works);
@@ -216,7 +217,7 @@ class NativeWorld : public World {
   [[nodiscard]] Text See(std::wstring_view what, const Text& name) override {
     const auto yes = [](bool condition) { return Text(condition ? L"yes" : L"no"); };
     if (what == L"running") return yes(program_ && program_->frmMain.Visible() && !desk_->Ended());
-    if (what == L"run value") return computer_.Registry[RunValue];
+    if (what == L"run value") return RunValue(L"HKEY_LOCAL_MACHINE") + RunValue(L"HKEY_CURRENT_USER");
     const form::Form* const active = desk_->ActiveForm();
     const form::Form& bar = program_->frmMain;
     if (what == L"title") return active != nullptr ? active->Caption() : Text();
@@ -244,8 +245,9 @@ class NativeWorld : public World {
   bool Becomes(const std::function<bool()>& condition) override { return condition(); }
 
  private:
-  static inline const Text RunValue =
-      L"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run\\OrbelsLauncher";
+  Text RunValue(const Text& root) {
+    return computer_.Registry[root + L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run\\OrbelsLauncher"];
+  }
 
   static Text Line(const form::TextBox& box) {
     Text line = box.Text();

@@ -62,6 +62,8 @@ TEST_CASE("a window is told of each change of its control, and of nothing that i
       {image, Property::Picture, [&] { image.SetPicture({form::Ground::Normal}); }},
       {picture, Property::Picture, [&] { picture.SetPicture({form::Ground::Normal}); }},
   };
+  button.SetToolTip(L"Name---F1");
+  CHECK(button.AccessibleName() == L"Name");
   for (const auto& row : rows) {
     CAPTURE(&row - rows);
     Listener window;

@@ -81,7 +81,7 @@ TEST_CASE("a file keeps every character, in the code page or in UTF-8 with its m
     CHECK(EncodeText(writer, computer) == bytes);
     CHECK(DecodeText(bytes, computer) == L"\"" + text + L"\"\r\n");
   }
-  CHECK(DecodeText("\xEF\xBB\xBF!\xC3(\xF5\xE2\x82", computer) == L"!\uFFFD(\uFFFD\uFFFD\uFFFD");
+  CHECK(DecodeText("\xEF\xBB\xBF!\xC3(\xF5\x80\x80\x80", computer) == L"!\uFFFD(\uFFFD\uFFFD\uFFFD\uFFFD");
 }
 
 TEST_CASE("files cut at any byte give the items before the cut, whatever the upper index says") {
