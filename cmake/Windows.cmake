@@ -90,8 +90,6 @@ add_library(vantor_doctest INTERFACE)
 target_include_directories(vantor_doctest SYSTEM INTERFACE "${PROJECT_BINARY_DIR}/third_party")
 target_include_directories(vantor_doctest INTERFACE "${PROJECT_SOURCE_DIR}/tests")
 
-vantor_library(vantor_fakes ${VANTOR_FAKE_SOURCES})
-
 # Where the test desktop is not there (a real Windows, say), the programs run by themselves.
 set(on_desktop)
 if(CMAKE_HOST_UNIX)
@@ -103,7 +101,7 @@ if(VANTOR_WIN32_TEST_SOURCES)
   set(contract_test_sources ${VANTOR_CONTRACT_SOURCES} ${VANTOR_WIN32_TEST_SOURCES})
   # With the program's resources, because its manifests decide which make of controls the windows get.
   add_executable(contract_tests ${VANTOR_TEST_MAIN} ${contract_test_sources} ${VANTOR_WIN32_RESOURCES})
-  target_link_libraries(contract_tests PRIVATE vantor_win32 vantor_stack_guard vantor_fakes vantor_doctest version)
+  target_link_libraries(contract_tests PRIVATE vantor_win32 vantor_stack_guard vantor_doctest version)
   # What the shipped file holds is looked at as well.
   if(TARGET Vantor)
     add_dependencies(contract_tests Vantor)

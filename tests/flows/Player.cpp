@@ -71,13 +71,14 @@ constexpr struct {
 
 class Player : public Steps {
  public:
-  explicit Player(std::string name) : name_(std::move(name)) {}
+  explicit Player(std::string name, World* world = nullptr) : name_(std::move(name)), world_(world) {}
 
   Result Play(const std::string& script) {
     std::istringstream stream(script);
     for (std::string line; std::getline(stream, line);) lines_.push_back(text::FromUtf8(line));
     try {
-      world_ = MakeWorld(*this);
+      const std::unique_ptr<World> world = MakeWorld(*this);
+      world_ = world.get();
       GoOnUntil([] { return false; });
       if (!failed_) CheckEnd();
     } catch (const Skip& why) {
@@ -104,13 +105,7 @@ class Player : public Steps {
     if (--depth_ > 0 && !failed_ && !condition()) Fail("the flow ends while a message is open");
   }
 
- private:
-  struct Verb {
-    std::wstring_view Begin;
-    void (*Do)(Player& player, const Text& rest);
-  };
-  static std::span<const Verb> Verbs();
-
+  /// One line; throws Failure when it can't be done or is not so.
   void Do(Text line, std::size_t number) {
     number_ = number;
     while (!line.empty() && line.back() <= L' ') line.pop_back();
@@ -128,6 +123,14 @@ class Player : public Steps {
     }
     throw Failure("no such step");
   }
+
+ private:
+  struct Verb {
+    std::wstring_view Begin;
+    void (*Do)(Player& player, const Text& rest);
+  };
+  static std::span<const Verb> Verbs();
+
   void Fail(const std::string& why) {
     if (failed_) return;
     failed_ = true;
@@ -323,7 +326,7 @@ class Player : public Steps {
   std::size_t number_ = 0;  // of the line that is played
   int depth_ = 0;           // of steps within steps
   bool failed_ = false;
-  std::unique_ptr<World> world_;
+  World* world_ = nullptr;
 
   Text settings_;
   std::map<Text, Text> items_;  // records by the list file's name
@@ -402,5 +405,12 @@ std::span<const Player::Verb> Player::Verbs() {
 }  // namespace
 
 Result Play(const std::string& name, const std::string& script) { return Player(name).Play(script); }
+
+void Try(World& world, const Text& step) {
+  try {
+    Player("", &world).Do(step, 1);
+  } catch (const Failure&) {
+  }
+}
 
 }  // namespace vantor::flows
