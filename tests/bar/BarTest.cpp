@@ -10,18 +10,9 @@ namespace {
 using form::Key;
 using test::StartedProgram;
 
-TEST_CASE("dragging ends within the screen, and leaves room for what unfolds") {
+TEST_CASE("a drag ends within the screen, whoever tells of its end") {
   StartedProgram program;
   frmMain& bar = program.Main;
-  const form::Rect screen = program.Desktop.Desktop.Bounds;
-  program.Desktop.DragBy(bar, 99999, 99999);
-  CHECK(bar.Bounds().Left == screen.Width - bar.Bounds().Width - 480);
-  CHECK(bar.Bounds().Top == screen.Height - bar.Bounds().Height - 600);
-  program.Desktop.DragBy(bar, -99999, -99999);
-  CHECK((bar.Bounds().Left == 0 && bar.Bounds().Top == 0));
-  program.Desktop.Press(Key::F1);
-  program.Desktop.DragBy(bar, 99999, 0);
-  CHECK(bar.Bounds().Left == screen.Width - bar.Web.FrameWeb.Right() - 480);
   bar.InputMouseMove(form::MouseButton::None);
   // A window manager may tell of the drag's end after the drag.
   bar.InputMoved(-900, 300);
@@ -73,32 +64,6 @@ TEST_CASE("a change of settings that are none of the bar's leaves it where it is
   program.Choose.MoveTo(30000, 0);
   program.Choose.InputScreensChanged();
   CHECK(program.Choose.Bounds().Left == 30000);
-}
-
-TEST_CASE("the bar climbs on top each second, except while a message or a panel is open or the user does not want it") {
-  StartedProgram program;
-  const auto climbs = [&] {
-    program.Desktop.Advance(5000);
-    return program.Main.TopMost();
-  };
-  const auto climbsAfterMessage = [&] {
-    program.Expect([&](auto&) { CHECK(!climbs()); });
-    program.Program.Messages.ShowListMessage(message::MessageEmptyList);
-    return climbs();
-  };
-  CHECK(climbs());
-  CHECK(climbsAfterMessage());
-  program.Desktop.Press(Key::F7);
-  CHECK(!climbsAfterMessage());
-  program.Desktop.Press(Key::F7);
-  CHECK(climbs());
-  program.Desktop.Press(Key::F9);
-  climbsAfterMessage();
-  CHECK(program.Main.TimerWatchOnTop.Enabled());  // waits for the bar to come back
-  program.Main.InputWindowState(form::WindowState::Normal);
-  CHECK(climbs());
-  program.Program.Options.AlwaysOnTop = 0;
-  CHECK(!climbsAfterMessage());
 }
 
 TEST_CASE("the open panel follows the bar, and closes with the bar's minimising whoever minimises it") {

@@ -138,36 +138,6 @@ TEST_CASE("a second copy hands over to the first, or goes on when that has no wi
   }
 }
 
-TEST_CASE("what can't be read or written does not keep the program from starting, nor is it a first start") {
-  TestProgram damaged;
-  std::string& settings = damaged.Computer.Disk.Bytes(L"C:\\Vantor\\Vantor\\Set.Orbel");
-  settings = "7\r\n-1";
-  REQUIRE(damaged.Start());
-  CHECK(damaged.Program.Settings.OptionMask == 7);
-  CHECK(settings == "7\r\n-1");
-
-  for (const std::wstring home : {L"C:\\Vantor", L"D:\\Work"}) {
-    TestProgram readOnly;
-    readOnly.Computer.Home = home;
-    readOnly.Computer.Disk.Drives[home[0]].WriteProtected = true;
-    if (home[0] == L'D') {
-      readOnly.ExpectTyping(L"\r");
-      readOnly.Expect();
-    }
-    readOnly.Expect();
-    CHECK(readOnly.Start());
-    CHECK(readOnly.Told.back() == L"The list and settings cannot be saved in " + home + L"\\Vantor");
-    CHECK(readOnly.Computer.Disk.Written.empty());
-  }
-
-  TestProgram broken;
-  broken.Computer.Let("WindowsDirectory", fake::Outcome::Throws);
-  broken.Expect();
-  CHECK_FALSE(broken.Start());
-  CHECK(broken.Told.at(0).find(L"Bug-Vantor-ActiveStart") != std::wstring::npos);
-  CHECK(broken.Desktop.Ended());
-}
-
 TEST_CASE("a first run from a medium that can't write is refused, and takes back what it made if it can") {
   // What the disk counts: a call, and the bytes that it writes.
   constexpr std::size_t Calls = 2;
@@ -204,42 +174,6 @@ TEST_CASE("a first run from a medium that can't write is refused, and takes back
       CHECK(cut.Start());
     }
   }
-}
-
-TEST_CASE("a first start that was ended at the name question is still one") {
-  for (const auto* home : {L"D:\\Work", L"E:\\Work"}) {
-    TestProgram first;
-    fake::FakeDisk ended;
-    first.Computer.Home = home;
-    first.Expect([&](auto& /*dialog*/) { ended = first.Computer.Disk; });
-    first.Expect();
-    first.Start();
-    TestProgram next;
-    next.Computer.Home = home;
-    next.Computer.Disk = ended;
-    next.ExpectTyping(L"\x1b");
-    next.Expect();
-    REQUIRE(next.Start());
-    CHECK(next.Told.at(1).starts_with(L"If you missed it"));
-  }
-}
-
-TEST_CASE("a medium with lists needs its own settings, and one without options starts as for the first time") {
-  OnMedium foreign;
-  foreign.Computer.Disk.AddFile(L"E:\\Work\\Vantor\\ListWeb.Orbel");
-  foreign.Expect();
-  CHECK_FALSE(foreign.Start());
-  CHECK(foreign.Told.at(0).starts_with(L"To run the Program from this Media"));
-
-  OnMedium own;
-  own.Computer.Disk.AddFile(L"E:\\Work\\Vantor\\MediaSet.Orbel", "\"Vantor Media 1\"\r\n\"Ready\"\r\n\"Ada\"\r\n");
-  own.Computer.Disk.AddFile(L"E:\\Work\\Vantor\\Machine.Orbel");
-  own.Expect([](message::frmMessage& dialog) { CHECK(dialog.LabelHead.Caption() == L"Ada"); });
-  own.Expect();
-  REQUIRE(own.Start());
-  CHECK(own.Told.at(0).find(L"Bug-Vantor-DeclareOwnerOnMedia") != std::wstring::npos);
-  CHECK(own.Told.at(1).starts_with(L"If you missed it"));
-  CHECK(own.Computer.Disk.Bytes(L"E:\\Work\\Vantor\\Set.Orbel") == FirstSettings);
 }
 
 }  // namespace
