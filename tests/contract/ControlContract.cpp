@@ -39,7 +39,6 @@ class TestForm : public Form {
   OptionButton Second{*this, L"Second"};
   Frame Box{*this, L"Box"};
   CommandButton InFrame{Box, L"InFrame"};
-  ListBox List{*this, L"List"};
 };
 
 struct Stage {
@@ -110,38 +109,6 @@ TEST_CASE("KeyPress comes before the change, and may swallow the character or pu
   CHECK(doubleClicks == 1);
 }
 
-TEST_CASE("a key that moves the caret is told first, and may be swallowed") {
-  Stage stage;
-  TextBox& box = stage.Form.Text;
-  box.SetText(L"abc");
-  box.KeyDown = [](Key& key) {
-    if (key == Key::Home) key = Key::None;
-  };
-  std::vector<int> carets;
-  for (const Key key : {Key::End, Key::Home, Key::Up, Key::Left, Key::Down}) {
-    stage.Someone->Press(key);
-    carets.push_back(box.SelStart());
-  }
-  CHECK(carets == std::vector<int>{3, 3, 2, 1, 2});
-}
-
-TEST_CASE("a locked text box takes text from the program only") {
-  const auto someone = MakePerson();
-  Form form(someone->Ui(), L"LockedForm");
-  TextBox box(form, L"Box");
-  box.SetBounds({150, 150, 4500, 450});
-  box.SetLocked(true);
-  form.MoveTo(1500, 1500);
-  form.SetInside({6000, 4500});
-  form.Show();
-  REQUIRE(someone->WaitUntil([&] { return someone->IsShownFocused(box); }));
-  box.SetText(L"C:\\Tools");
-  someone->Type(L"x\b");
-  CHECK(box.Text() == L"C:\\Tools");
-  CHECK(someone->ShownText(box) == L"C:\\Tools");
-  form.Unload();
-}
-
 TEST_CASE("controls that are disabled, hidden or inside such a frame ignore the user") {
   Stage stage;
   TestForm& form = stage.Form;
@@ -170,26 +137,6 @@ TEST_CASE("controls that are disabled, hidden or inside such a frame ignore the 
   form.Text.SetEnabled(false);
   stage.Someone->Type(L"x");
   CHECK(form.Text.Text().empty());
-}
-
-TEST_CASE("the keyboard presses what has the focus, and Tab walks in tab order past what can't be reached") {
-  Stage stage;
-  TestForm& form = stage.Form;
-  int clicks = 0;
-  form.Button.Click = [&] { ++clicks; };
-  stage.Someone->Press(Key::Tab);
-  CHECK(stage.Someone->IsShownFocused(form.Button));
-  stage.Someone->Press(Key::Space);
-  stage.Someone->Press(Key::Enter);
-  CHECK(clicks == 2);
-  form.Check.SetEnabled(false);
-  form.Combo.SetTabStop(false);
-  stage.Someone->Press(Key::Tab);
-  CHECK(stage.Someone->IsShownFocused(form.First));
-  form.First.SetVisible(false);
-  CHECK_FALSE(form.First.HasFocus());
-  form.Text.SetFocus();
-  CHECK(stage.Someone->IsShownFocused(form.Text));
 }
 
 TEST_CASE("a check box tells of each change of its value, an option button of being chosen") {
@@ -245,22 +192,4 @@ TEST_CASE("a list keeps its selection on its entry, and tells of a new one once"
   other.Click = [&] { combo.SetListIndex(other.ListIndex()); };
   other.SetListIndex(1);
   CHECK(combo.ListIndex() == 1);
-}
-
-TEST_CASE("a list box is filled at once, walked by the arrows, and Enter chooses") {
-  Stage stage;
-  ListBox& list = stage.Form.List;
-  std::wstring told;
-  list.Click = [&] { told += list.Text(); };
-  list.DblClick = [&] { told += L'!'; };
-  list.SetEntries({L"a", L"b", L"c"});
-  CHECK(list.ListIndex() == -1);
-  list.SetListIndex(0);
-  list.SetFocus();
-  for (const Key key : {Key::Down, Key::Down, Key::Up, Key::Enter}) stage.Someone->Press(key);
-  CHECK(told == L"abcb!");
-  list.SetEntries({L"d"});
-  CHECK(list.ListIndex() == -1);
-  stage.Someone->Press(Key::Down);
-  CHECK(list.Text() == L"d");
 }

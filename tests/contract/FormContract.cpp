@@ -134,13 +134,3 @@ TEST_CASE("a timer ticks every interval while it is enabled, and not while its o
   clock.SetEnabled(true);
   CHECK(stage.Someone->WaitUntil([&] { return ticks == 3 && !clock.Enabled(); }));
 }
-
-TEST_CASE("the end of the program takes all windows away and asks nobody") {
-  Stage stage;
-  stage.First.Show();
-  stage.Someone->WhenModal([&](Form&) { stage.Someone->Ui().End(); });
-  stage.Second.ShowModal();
-  CHECK(stage.Told == "load load ");
-  CHECK_FALSE(stage.Someone->IsShown(stage.First));
-  CHECK_FALSE(stage.Someone->IsShown(stage.Second));
-}
