@@ -108,10 +108,10 @@ void frmBrowse::Form_KeyUp(form::Key key) {
   context_.Messages.Trap(L"Form_KeyUp", [&] {
     if (finder_.FinderActive()) {
       if (key == form::Key::Escape) StopFinder();
-    } else if (key != form::Key::Escape) {
-      context_.Host.HotKey(key);
-    } else if (!TextAddName.Composing()) {
+    } else if (key == form::Key::Escape) {
       CommandAddCancel.DoClick();
+    } else {
+      context_.Host.HotKey(key);
     }
   });
 }

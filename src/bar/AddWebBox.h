@@ -29,8 +29,6 @@ class AddWebBox {
   void LayOut(form::Twips left, form::Twips height);
   /// Shows the box with empty fields, or hides it; the banner of the last addition goes.
   void SetShown(bool shown);
-  /// An input method is composing in one of the fields.
-  [[nodiscard]] bool Composing() const { return TextWebUrl.Composing() || TextWebName.Composing(); }
 
  private:
   void TextWebUrl_Change();

@@ -321,7 +321,7 @@ void frmMain::Form_KeyUp(form::Key key) {
   parts_.Messages.Trap(L"Form_KeyUp", [&] {
     if (key != Key::Escape)
       HotKey(key);
-    else if (ActiveControl() != &TextMain && !Web.Composing())  // the line has had it as a character
+    else if (ActiveControl() != &TextMain)  // the line has had it as a character
       commandLine_.Escape();
   });
 }

@@ -31,15 +31,9 @@ void CommandButton::SetState(ButtonState state) {
   NotifyWindow(Property::Picture);
 }
 
-void CommandButton::SetSign(bool sign) {
-  if (sign_ == sign) return;
-  sign_ = sign;
-  NotifyWindow(Property::Caption);
-}
-
 Size CommandButton::LeastSize() const {
   constexpr Size Padding{360, 105};
-  const Size text = TextSize(caption_, sign_);
+  const Size text = TextSize(caption_);
   return {text.Width + Padding.Width, text.Height + Padding.Height};
 }
 

@@ -38,9 +38,6 @@ class CommandButton : public Control {
   /// What the button says of what it opened; shown on its face and told to screen readers.
   [[nodiscard]] ButtonState State() const { return state_; }
   void SetState(ButtonState state);
-  /// The caption is a sign rather than a word, and is drawn bold.
-  [[nodiscard]] bool Sign() const { return sign_; }
-  void SetSign(bool sign);
 
   /// Does what a click by the user does, also on a hidden button; a disabled button does nothing.
   void DoClick();
@@ -65,7 +62,6 @@ class CommandButton : public Control {
   form::Picture disabledPicture_;
   Margins faceMargins_;
   ButtonState state_ = ButtonState::Plain;
-  bool sign_ = false;
 };
 
 /// What is ticked or not: check boxes and option buttons.

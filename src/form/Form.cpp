@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "form/Scoped.h"
+#include "form/TextBox.h"
 #include "form/UserInterface.h"
 
 namespace vantor::form {
@@ -188,6 +189,8 @@ void Form::MoveFocus(bool backwards) {
 }
 
 void Form::InputKeyUp(Key key) {
+  const auto* const box = dynamic_cast<const TextBox*>(activeControl_);
+  if (key == Key::Escape && box != nullptr && box->Composing()) return;  // it is the input method's
   if (key >= Key::F1 && key <= Key::F12) HideHanging();
   if (AcceptsInput()) Form_KeyUp(key);
 }

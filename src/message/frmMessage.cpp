@@ -121,7 +121,7 @@ void frmMessage::Arrange(const form::Screen& screen) {
 }
 
 void frmMessage::Form_KeyUp(form::Key key) {
-  if (key == form::Key::Escape && !TextInput0.Composing()) Dismiss();
+  if (key == form::Key::Escape) Dismiss();
 }
 
 void frmMessage::TextInput0_Change() {

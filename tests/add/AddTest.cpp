@@ -124,6 +124,7 @@ TEST_CASE("the computer is known again by its disk C:, and what can't be read is
   } cases[] = {
       {nullptr, Expected::Unknown},
       {OwnIdentity, Expected::Remembered},
+      {"3\r\n1A2B3C4D\r\n80023715840\r\n", Expected::Remembered},
       {"2\r\n\"1A2B3C4D\"\r\n80023715840\r\n", Expected::Other},
       {"3\r\n\"1A2B3C4D\"\r\n80023715841\r\n", Expected::Other},
       {"3\r\n\"1A2B3C4E\"\r\n80023715840\r\n", Expected::Other},

@@ -66,6 +66,8 @@ fake::FakeDisk SaveWith(const fake::FakeDisk& disk, Fault fault, std::size_t byt
   StoredList& run = broken.List;
   run.Load();
   run.Settings.OptionMask = 6;
+  run.RemoveFirst(LaunchGroup::Web);
+  run.RemoveFirst(LaunchGroup::Web);
   run.Add(LaunchGroup::Web, L"second", L"http://second");
   run.RemoveFirst(LaunchGroup::Prog);
   run.Add(LaunchGroup::Prog, L"on the medium", L"E:\\Work\\Tool.EXE");
@@ -97,7 +99,9 @@ TEST_CASE("a save broken off at any byte leaves the old list or the new one, who
       const std::size_t bytes = most - back;
       CAPTURE(bytes);
       const fake::FakeDisk broken = SaveWith(used, fault, bytes);
-      const State state = Loaded(broken);
+      Run start(broken);
+      const State state = start.Load();
+      REQUIRE((!start.Disk.HasFile(Mark) || start.Disk.Bytes(Mark).empty()));
       old += state == before ? 1 : 0;
       REQUIRE((state == before || state == after));
       if (cases % 5 != 0) continue;
@@ -135,6 +139,8 @@ TEST_CASE("a file that may not be written leaves the old list whole") {
     const std::wstring path = Folder + name + L".Orbel";
     disk.AddFile(path, used.Find(path)->Bytes).Writable = false;
     const bool inTheWay = path.find(L"Backup") == std::wstring::npos;
+    CHECK((Loaded(SaveWith(disk, Fault::None, 0)) == Loaded(used)) == inTheWay);
+    disk.AddFile(Folder + L"Backup\\ListProg.Orbel").Writable = false;  // so that the old list is not kept either
     CHECK((Loaded(SaveWith(disk, Fault::None, 0)) == Loaded(used)) == inTheWay);
   }
 }

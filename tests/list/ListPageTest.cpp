@@ -19,6 +19,10 @@ TEST_CASE("names are listed regardless of letter case, paths only when identical
   // What is the same once it is saved: the name above, and an address.
   CHECK_FALSE(PathAlreadyListed(LaunchGroup::Web, L"the %22best\"", box).empty());
   CHECK(PathAlreadyListed(LaunchGroup::Web, L"the 'best'", box).empty());
+  // What does not fit into memory leaves no name without a target.
+  const GroupBoxes& boxes = program.List.Of(LaunchGroup::Web);
+  CHECK_THROWS(boxes.AddItem({L"x", std::wstring_view(L"", std::wstring().max_size() + 1)}));
+  CHECK(boxes.Name.ListCount() == 0);
   // Letters that share a place in the memory of letters, 0x111 and 0x411, are kept apart.
   NameMatch match(program.Computer, L"\u0431");
   CHECK(!match.Begins(L"\u0111"));

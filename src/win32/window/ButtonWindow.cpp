@@ -97,8 +97,8 @@ void ButtonWindow::DrawContent(Canvas& canvas, RECT area, const Box& box, const 
   const form::Drawing drawing = button_.Picture().Drawing;
   const std::wstring& caption = button_.Caption();
   if (drawing.empty()) {
-    if (!button_.Sign()) InflateRect(&area, -static_cast<int>(4 * Scale()), 0);
-    canvas.Text(caption, area, Font(button_.Sign() ? FontStyle::Bold : FontStyle::Plain), face.Text,
+    InflateRect(&area, -static_cast<int>(4 * Scale()), 0);
+    canvas.Text(caption, area, Font(FontStyle::Plain), face.Text,
                 DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
     return;
   }
