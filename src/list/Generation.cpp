@@ -40,10 +40,10 @@ void Generation::Write(std::wstring_view path, std::string_view bytes) {
     save_.Failed |= !rescue_.Write(path, bytes);
     return;
   }
-  const auto old = files_.Read(path).Bytes;
-  if (old && *old == bytes) return;
+  const service::FileRead old = files_.Read(path);
+  if (old.Bytes == bytes) return;
   if (!save_.Begun) Protect();
-  if ((!save_.Marked || !whole_) && old) save_.Old.emplace_back(path, *old);
+  if ((!save_.Marked || !whole_) && !old.Failed()) save_.Old.emplace_back(path, old.Bytes);
   save_.Failed |= !files_.WriteInPlace(path, bytes);
 }
 
@@ -89,7 +89,8 @@ bool Generation::Keep() const {
 void Generation::PutOldBack() {
   // First all are emptied, so that on a full disk there is room for every one.
   for (const auto& [path, bytes] : save_.Old) static_cast<void>(files_.WriteInPlace(path, {}));
-  for (const auto& [path, bytes] : save_.Old) static_cast<void>(files_.WriteInPlace(path, bytes));
+  for (const auto& [path, bytes] : save_.Old)
+    static_cast<void>(bytes ? files_.WriteInPlace(path, *bytes) : files_.Remove(path));
 }
 
 void Generation::Unmark() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -48,8 +49,9 @@ class Generation {
     bool Marked = false;
     bool Failed = false;
     bool Elsewhere = false;
-    // What stood in the files written, where the kept generation is none that a failed save could go back to.
-    std::vector<std::pair<std::wstring, std::string>> Old;
+    // What stood in the files written, nothing for one that was not there, where the kept generation is none that a
+    // failed save could go back to.
+    std::vector<std::pair<std::wstring, std::optional<std::string>>> Old;
   };
 
   void Protect();
