@@ -1,6 +1,7 @@
 #include "panel/PanelPlace.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace vantor::panel {
 
@@ -13,22 +14,24 @@ Twips Within(Twips wanted, Twips length, Twips areaStart, Twips areaLength) {
   return std::max(std::min(wanted, areaStart + areaLength - length), areaStart);
 }
 
+/// How much of one covers the other.
+double Covered(const form::Rect& one, const form::Rect& other) {
+  return double(form::Overlap(one.Left, one.Right(), other.Left, other.Right())) *
+         form::Overlap(one.Top, one.Bottom(), other.Top, other.Bottom());
+}
+
 }  // namespace
 
 form::Rect PlacePanel(const form::Rect& bar, form::Size panel, const form::Rect& workArea) {
-  form::Rect place{Within(bar.Left, panel.Width, workArea.Left, workArea.Width), bar.Bottom(), panel.Width,
-                   panel.Height};
-  if (place.Bottom() <= workArea.Bottom() && place.Top >= workArea.Top) return place;
-  place.Top = bar.Top - panel.Height;
-  if (place.Top >= workArea.Top && place.Bottom() <= workArea.Bottom()) return place;
-
-  place.Top = Within(bar.Top, panel.Height, workArea.Top, workArea.Height);
-  if (bar.Right() + panel.Width <= workArea.Right()) {
-    place.Left = bar.Right();
-  } else if (bar.Left - panel.Width >= workArea.Left) {
-    place.Left = bar.Left - panel.Width;
-  }
-  return place;
+  const auto on = [&](Twips left, Twips top) {
+    return form::Rect{Within(left, panel.Width, workArea.Left, workArea.Width),
+                      Within(top, panel.Height, workArea.Top, workArea.Height), panel.Width, panel.Height};
+  };
+  const form::Rect places[] = {on(bar.Left, bar.Bottom()), on(bar.Left, bar.Top - panel.Height),
+                               on(bar.Right(), bar.Top), on(bar.Left - panel.Width, bar.Top)};
+  return *std::min_element(std::begin(places), std::end(places), [&](const form::Rect& one, const form::Rect& other) {
+    return Covered(one, bar) < Covered(other, bar);
+  });
 }
 
 }  // namespace vantor::panel
