@@ -13,6 +13,7 @@ using form::Twips;
 
 constexpr Twips ListWidth = 6000;
 constexpr Twips Edge = 15;
+constexpr Twips Corner = 60;  // above and below the rows, which keep clear of the form's round corners
 /// Above and below a row's text.
 constexpr Twips RowPadding = 45;
 /// A whole number of pixels on most screens.
@@ -35,10 +36,10 @@ void frmMatches::Form_Load() {
 void frmMatches::ShowFound(int current) {
   Load();
   const Twips height = std::min(matches_.Count(), MostRows) * ListMatches.RowHeight();
-  const form::Size size{ListWidth, height + 2 * Edge};
+  const form::Size size{ListWidth, height + 2 * Corner};
   const form::Rect place = Place(size);
   SetPlace(place.Left, place.Top, size);
-  ListMatches.SetBounds({Edge, Edge, ListWidth - 2 * Edge, height});
+  ListMatches.SetBounds({Edge, Corner, ListWidth - 2 * Edge, height});
   ListMatches.ShowRows(current);
   Show();
 }
