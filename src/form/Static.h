@@ -24,6 +24,9 @@ class Label : public Control {
   void SetTransparent(bool transparent);
   [[nodiscard]] bool Bold() const { return bold_; }
   void SetBold(bool bold);
+  /// A text that is too long ends in an ellipsis instead of being broken.
+  [[nodiscard]] bool OneLine() const { return oneLine_; }
+  void SetOneLine(bool oneLine) { oneLine_ = oneLine; }  // before the form is shown
 
   void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
   [[nodiscard]] Size LeastSize() const override { return TextSize(caption_, bold_); }
@@ -32,6 +35,7 @@ class Label : public Control {
   std::wstring caption_;
   bool transparent_ = true;
   bool bold_ = false;
+  bool oneLine_ = false;
 };
 
 /// A box that holds other controls, with a caption on its edge when it has a border.

@@ -62,6 +62,7 @@ frmMessage::frmMessage(form::UserInterface& ui) : Form(ui, L"frmMessage") {
   LabelMessage.SetForeColor(form::Color::WindowText);
   LabelHead.SetForeColor(form::Color::WindowText);
   LabelHead.SetBold(true);
+  LabelHead.SetOneLine(true);
   CommandOK.SetTabIndex(1);
   CommandCancel.SetTabIndex(2);
   CheckDoNotShow.SetTabIndex(3);
@@ -100,7 +101,7 @@ void frmMessage::Arrange(const form::Screen& screen) {
     control.SetBounds({left, top, width, height});
     top += height + Gap;
   };
-  place(LabelHead, Ui().MeasureText(LabelHead.Caption(), true, width).Height);
+  place(LabelHead, LabelHead.LeastSize().Height);
   // The name prompts call the input "the above box".
   if (TextInput0.Visible()) place(TextInput0, TextInput0.HeightFor(InputHeight));
   place(LabelMessage, Ui().MeasureText(text, false, width).Height);

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <climits>
 #include <cmath>
-#include <numeric>
 #include <vector>
 
 #include "win32/draw/Text.h"
@@ -62,12 +61,7 @@ void DrawMarked(Canvas& canvas, const form::Row& row, const RECT& area, HFONT fo
   GetTextMetricsW(dc, &metrics);
   const Measured text = Measure(dc, row.Text, area.right - area.left);
   const int top = (canvas.Height() - metrics.tmHeight) / 2;
-  // Not every Windows draws as wide as it measures. Letters that are shaped or turned are left to it all the same.
-  const bool placed = std::all_of(row.Text.begin(), row.Text.end(), [](wchar_t c) { return c < 0x0590; });
-  std::vector<int> widths(text.Ends);
-  std::adjacent_difference(text.Ends.begin(), text.Ends.end(), widths.begin());
-  ExtTextOutW(dc, area.left, top, 0, nullptr, text.Text.data(), static_cast<UINT>(text.Text.size()),
-              placed ? widths.data() : nullptr);
+  DrawPlaced(dc, area.left, top, text.Text);
   SelectObject(dc, oldFont);
   const auto endOf = [&](std::size_t count) {
     return count == 0 || text.Ends.empty() ? 0 : text.Ends[std::min(count, text.Ends.size()) - 1];

@@ -1,13 +1,16 @@
 #include "win32/draw/Text.h"
 
+#include <algorithm>
+#include <numeric>
+#include <vector>
+
 namespace vantor::win32 {
 
-SIZE TextSize(std::wstring_view text, HFONT font, int width) {
+SIZE TextSize(std::wstring_view text, HFONT font) {
   const WindowDc screen(nullptr);
   const Selected selected(screen.Get(), font);
-  RECT area{0, 0, width, 0};
-  DrawTextW(screen.Get(), text.data(), static_cast<int>(text.size()), &area,
-            DT_CALCRECT | DT_NOPREFIX | static_cast<UINT>(width > 0 ? DT_WORDBREAK : 0));
+  RECT area{};
+  DrawTextW(screen.Get(), text.data(), static_cast<int>(text.size()), &area, DT_CALCRECT | DT_NOPREFIX);
   return {area.right, area.bottom};
 }
 
@@ -25,6 +28,16 @@ void DrawPlainText(HDC dc, std::wstring_view text, RECT area, HFONT font, COLORR
   SetBkMode(dc, TRANSPARENT);
   SetTextColor(dc, color);
   DrawTextW(dc, text.data(), static_cast<int>(text.size()), &area, format | DT_NOPREFIX);
+}
+
+void DrawPlaced(HDC dc, int x, int y, std::wstring_view text) {
+  const bool placed = std::all_of(text.begin(), text.end(), [](wchar_t c) { return c < 0x0590; });
+  const auto length = static_cast<int>(text.size());
+  std::vector<int> widths(text.size() + 1);
+  SIZE size{};
+  GetTextExtentExPointW(dc, text.data(), length, 0, nullptr, widths.data(), &size);
+  std::adjacent_difference(widths.begin(), widths.end(), widths.begin());
+  ExtTextOutW(dc, x, y, 0, nullptr, text.data(), static_cast<UINT>(length), placed ? widths.data() : nullptr);
 }
 
 }  // namespace vantor::win32

@@ -37,12 +37,14 @@ class Selected {
   HGDIOBJ old_;
 };
 
-/// The size in pixels that a text is drawn in, its lines broken where it says, and at words where one is longer than
-/// `width`; 0 breaks none of these. Ampersands are plain characters.
-[[nodiscard]] SIZE TextSize(std::wstring_view text, HFONT font, int width = 0);
+/// The size in pixels that a text is drawn in, its lines broken where it says. Ampersands are plain characters.
+[[nodiscard]] SIZE TextSize(std::wstring_view text, HFONT font);
 /// The height in pixels of a line.
 [[nodiscard]] int TextHeight(HFONT font);
 /// Draws a text as DrawText does, without a ground; ampersands are plain characters.
 void DrawPlainText(HDC dc, std::wstring_view text, RECT area, HFONT font, COLORREF color, UINT format);
+/// Draws a line of text with the font and the colour of the device context, its characters where they were measured:
+/// not every Windows draws as wide as it measures. Letters that are shaped or turned are left to it all the same.
+void DrawPlaced(HDC dc, int x, int y, std::wstring_view text);
 
 }  // namespace vantor::win32

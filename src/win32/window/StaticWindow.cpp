@@ -9,6 +9,7 @@
 #include <string>
 
 #include "win32/draw/Pictures.h"
+#include "win32/draw/Prose.h"
 #include "win32/draw/Screens.h"
 
 namespace vantor::win32 {
@@ -21,9 +22,14 @@ void LabelWindow::Show(form::Property property) {
 void LabelWindow::Paint(Canvas& canvas) {
   DrawBackdrop(canvas);
   if (!label_.Transparent()) canvas.Clear(BackgroundColor());
-  canvas.Text(label_.Caption(), {0, 0, canvas.Width(), canvas.Height()},
-              Font(label_.Bold() ? FontStyle::Bold : FontStyle::Plain),
-              Theme().TextColor(label_.ForeColor(), label_.Enabled(), BackgroundColor()), DT_WORDBREAK);
+  const HFONT font = Font(label_.Bold() ? FontStyle::Bold : FontStyle::Plain);
+  const COLORREF color = Theme().TextColor(label_.ForeColor(), label_.Enabled(), BackgroundColor());
+  if (label_.OneLine()) {
+    canvas.Text(label_.Caption(), {0, 0, canvas.Width(), canvas.Height()}, font, color,
+                DT_SINGLELINE | DT_END_ELLIPSIS);
+  } else {
+    Prose(label_.Caption(), font, canvas.Width()).Draw(canvas.Dc(), canvas.Height(), color);
+  }
 }
 
 void LabelWindow::Describe(AccessibleState& state) const {

@@ -6,8 +6,8 @@
 
 #include "form/Timer.h"
 #include "win32/base/ApplicationMark.h"
+#include "win32/draw/Prose.h"
 #include "win32/draw/Screens.h"
-#include "win32/draw/Text.h"
 
 namespace vantor::win32 {
 
@@ -40,9 +40,11 @@ form::Screen Desktop::PrimaryScreen() const { return screens_.Primary(); }
 
 form::Size Desktop::MeasureText(std::wstring_view text, bool bold, form::Twips width) const {
   const int dpi = screens_.SystemDpi();
-  const SIZE size = TextSize(text, theme_.Font(dpi, bold ? FontStyle::Bold : FontStyle::Plain),
-                             std::max(win32::Screens::ToPixels(width, dpi), 1));
-  // A little more, for screens of another scale, where the font comes out wider.
+  const int pixels = win32::Screens::ToPixels(width, dpi);
+  // A little more, for screens of another scale, where the font comes out wider: no line is broken there that is not
+  // here.
+  const HFONT font = theme_.Font(dpi, bold ? FontStyle::Bold : FontStyle::Plain);
+  const SIZE size = Prose(text, font, pixels - pixels / 32).Size();
   return {win32::Screens::ToTwips(size.cx + size.cx / 20 + 1, dpi), win32::Screens::ToTwips(size.cy + 1, dpi)};
 }
 
