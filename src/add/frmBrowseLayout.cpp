@@ -3,8 +3,8 @@
 
 #include "add/ItemGroup.h"
 #include "add/frmBrowse.h"
+#include "form/Grid.h"
 #include "form/PictureButton.h"
-#include "panel/Grid.h"
 #include "panel/PageText.h"
 
 namespace vantor::add {
@@ -13,11 +13,11 @@ namespace {
 using form::ButtonHeight;
 using form::DressButton;
 using form::Twips;
-using panel::CheckHeight;
-using panel::FrameTop;
-using panel::Gap;
-using panel::LineHeight;
-using panel::Margin;
+using form::grid::CheckHeight;
+using form::grid::FrameTop;
+using form::grid::Gap;
+using form::grid::LineHeight;
+using form::grid::Margin;
 
 constexpr Twips LeastWidth = 5040;
 constexpr Twips HeadTop = 75;  // of the box's own caption

@@ -1,5 +1,8 @@
 #include "bar/AddWebBox.h"
 
+#include <algorithm>
+
+#include "form/Grid.h"
 #include "form/Keys.h"
 #include "form/PictureButton.h"
 #include "list/AddToList.h"
@@ -9,14 +12,13 @@ namespace vantor::bar {
 namespace {
 
 using form::Twips;
+using form::grid::Gap;
 
-// The labels stand above the fields, so that the box needs no more height than the bar has.
-constexpr Twips LabelTop = 15;
-constexpr Twips LabelHeight = 210;
-constexpr Twips Gap = 60;
+// The usual widths. The labels stand above the fields, so that the unfolded bar fits a screen of 800 pixels.
+constexpr Twips LabelTop = 30;
 constexpr Twips UrlWidth = 1860;
-constexpr Twips NameWidth = 1500;
-constexpr Twips AddWidth = 480;
+constexpr Twips NameWidth = 1440;
+constexpr Twips AddWidth = 540;
 
 constexpr std::wstring_view AddedCaption = L"Site Added To List : Click To Hide";
 
@@ -51,16 +53,25 @@ AddWebBox::AddWebBox(form::Form& bar, panel::PanelHost& host, const list::Launch
   messages_.Connect(FrameAddedInfo, FrameAddedInfo.Click, L"Click", this, &AddWebBox::FrameAddedInfo_Click);
 }
 
+Twips AddWebBox::LeastHeight() const {
+  return LabelTop + LabelWebName.LeastSize().Height + CommandAddWeb.HeightFor(TextWebUrl.LeastSize().Height) + Gap;
+}
+
 void AddWebBox::LayOut(Twips left, Twips height) {
-  constexpr Twips FieldTop = LabelTop + LabelHeight;
-  const Twips fieldHeight = height - FieldTop - Gap;
-  TextWebUrl.SetBounds({0, FieldTop, UrlWidth, fieldHeight});
-  TextWebName.SetBounds({TextWebUrl.Right() + Gap, FieldTop, NameWidth, fieldHeight});
-  CommandAddWeb.SetBounds({TextWebName.Right() + Gap, FieldTop, AddWidth, fieldHeight});
-  LabelWebName.SetBounds({TextWebName.Left(), LabelTop, NameWidth, LabelHeight});
+  const form::Size label = LabelWebName.LeastSize();
+  const Twips fieldTop = LabelTop + label.Height;
+  const Twips fieldHeight = height - fieldTop - Gap;
+  const Twips nameWidth = std::max(NameWidth, label.Width);
+  const Twips addWidth = std::max(AddWidth, CommandAddWeb.LeastSize().Width);
+  // The banner stands over both labels.
+  const Twips urlWidth = std::max(UrlWidth, FrameAddedInfo.LeastSize().Width - nameWidth - addWidth - 2 * Gap);
+  TextWebUrl.SetBounds({0, fieldTop, urlWidth, fieldHeight});
+  TextWebName.SetBounds({TextWebUrl.Right() + Gap, fieldTop, nameWidth, fieldHeight});
+  CommandAddWeb.SetBounds({TextWebName.Right() + Gap, fieldTop, addWidth, fieldHeight});
+  LabelWebName.SetBounds({TextWebName.Left(), LabelTop, nameWidth, label.Height});
   FrameWeb.SetCaptionAlone(0, LabelTop);
   FrameWeb.SetBounds({left, 0, CommandAddWeb.Right() + Gap, height});
-  FrameAddedInfo.SetBounds({left, 2 * LabelTop, CommandAddWeb.Right(), LabelHeight - LabelTop});
+  FrameAddedInfo.SetBounds({left, LabelTop, CommandAddWeb.Right(), label.Height});
 }
 
 void AddWebBox::SetShown(bool shown) {

@@ -25,6 +25,8 @@ class AddWebBox {
   form::Frame FrameAddedInfo;
   form::PictureBox PictureNo;  // takes the focus from the button that was pressed
 
+  /// The height that shows the texts whole, in twips.
+  [[nodiscard]] form::Twips LeastHeight() const;
   /// Places the box with its left edge at `left`, as high as the bar. Twips, on the bar.
   void LayOut(form::Twips left, form::Twips height);
   /// Shows the box with empty fields, or hides it; the banner of the last addition goes.

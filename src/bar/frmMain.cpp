@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "form/Grid.h"
 #include "panel/PanelPlace.h"
 
 namespace vantor::bar {
@@ -14,9 +15,9 @@ using form::Twips;
 namespace menu = panel::menu;
 
 // Measures keep to a grid of 60 twips, which is a whole number of pixels on most screens.
-constexpr Twips BarHeight = 540;
+constexpr Twips UsualHeight = 540;
 constexpr Twips ButtonWidth = 360;
-constexpr Twips Gap = 60;  // to drag the bar by, and between its edge and what is drawn in it
+using form::grid::Gap;  // to drag the bar by, and between its edge and what is drawn in it
 constexpr Twips MarkSize = 300;
 constexpr Twips TextWidth = 2700;  // so that the unfolded bar keeps its margin on a screen of 800 pixels
 constexpr Twips TextHeight = 390;
@@ -102,7 +103,7 @@ void frmMain::Form_Load() {
   parts_.Messages.Trap(L"Form_Load", [this] {
     addWebShown_ = parts_.Options.ShowAddUrlAtStart != 0;
     const list::Settings& settings = parts_.Settings;
-    const form::Rect place{settings.Left, settings.Top, BarHeight, BarHeight};
+    const form::Rect place{settings.Left, settings.Top, UsualHeight, UsualHeight};
     twipsPerPixelX_ = Ui().ScreenAt(place).TwipsPerPixelX;
     MoveTo(place.Left, place.Top);
     LayOut();
@@ -141,24 +142,27 @@ void frmMain::LayOut() {
   dress(CommandExit, state::picture::Exit);
   CommandExit.SetFaceMargins({0, Gap, Gap, Gap});
 
+  // The twips are the usual ones: the user's font may need more.
+  height_ = std::max(
+      {UsualHeight, Web.LeastHeight(), CommandMenu[0].LeastSize().Height, TextMain.LeastSize().Height + 2 * Gap});
   Twips left = Gap;
-  const auto place = [&left](form::Control& control, Twips width, Twips height) {
+  const auto place = [this, &left](form::Control& control, Twips width, Twips height) {
     if (!control.Visible()) return;
-    control.SetBounds({left, (BarHeight - height) / 2, width, height});
+    control.SetBounds({left, (height_ - height) / 2, width, height});
     left += width + Gap;
   };
   place(ImageLauncher, MarkSize, MarkSize);
-  place(CommandWeb, ButtonWidth, BarHeight);
+  place(CommandWeb, ButtonWidth, height_);
   for (std::size_t i = 0; i < menu::Count; ++i) {
-    if (i == MenusBeforeText) place(TextMain, TextWidth, TextHeight);
-    place(CommandMenu[i], ButtonWidth, BarHeight);
+    if (i == MenusBeforeText) place(TextMain, TextWidth, TextMain.HeightFor(TextHeight));
+    place(CommandMenu[i], ButtonWidth, height_);
   }
-  place(CommandMin, ButtonWidth, BarHeight);
-  place(CommandExit, ButtonWidth + Gap, BarHeight);
+  place(CommandMin, ButtonWidth, height_);
+  place(CommandExit, ButtonWidth + Gap, height_);
 
   narrowWidth_ = CommandExit.Right();
-  FrameButtons.SetBounds({0, 0, narrowWidth_, BarHeight});
-  Web.LayOut(narrowWidth_ + static_cast<Twips>(std::lround(PixelsBeforeWebBox * twipsPerPixelX_)), BarHeight);
+  FrameButtons.SetBounds({0, 0, narrowWidth_, height_});
+  Web.LayOut(narrowWidth_ + static_cast<Twips>(std::lround(PixelsBeforeWebBox * twipsPerPixelX_)), height_);
   wideWidth_ = Web.FrameWeb.Right();
 }
 
@@ -201,9 +205,9 @@ void frmMain::Form_ScreensChanged() {
   });
 }
 
-void frmMain::ShowWidth() { SetInside({addWebShown_ ? wideWidth_ : narrowWidth_, BarHeight}); }
+void frmMain::ShowWidth() { SetInside({addWebShown_ ? wideWidth_ : narrowWidth_, height_}); }
 
-form::Size frmMain::RoomNeeded() const { return {wideWidth_ + RightMargin, BarHeight + BottomMargin}; }
+form::Size frmMain::RoomNeeded() const { return {wideWidth_ + RightMargin, height_ + BottomMargin}; }
 
 void frmMain::KeepOnScreen() {
   screen_ = Ui().ScreenAt(Bounds());

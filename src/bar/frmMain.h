@@ -136,7 +136,8 @@ class frmMain : public form::Form, public panel::MenuBar, private command::LineO
   BarParts parts_;
   command::CommandLine commandLine_;
   double twipsPerPixelX_ = 15;
-  form::Screen screen_;          // the one that the bar was last seen on
+  form::Screen screen_;  // the one that the bar was last seen on
+  form::Twips height_ = 0;
   form::Twips narrowWidth_ = 0;  // to the right edge of CommandExit
   form::Twips wideWidth_ = 0;    // to the right edge of the unfolded add-web box
   bool addWebShown_ = false;

@@ -32,9 +32,11 @@ void CommandButton::SetState(ButtonState state) {
 }
 
 Size CommandButton::LeastSize() const {
-  constexpr Size Padding{360, 105};
   const Size text = TextSize(caption_);
-  return {text.Width + Padding.Width, text.Height + Padding.Height};
+  if (picture_.Drawing.empty()) return {text.Width + 180, text.Height + 60};  // the edge, and some room beside the text
+  const Twips letter = text.Height / 2;  // a small one, of which nothing hangs down
+  return {faceMargins_.Left + DrawingSide + 2 * DrawingTop + faceMargins_.Right,
+          faceMargins_.Top + DrawingTop + DrawingSide + letter + faceMargins_.Bottom};
 }
 
 void CommandButton::InputCharacter(wchar_t character) {

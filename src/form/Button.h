@@ -25,6 +25,8 @@ class CommandButton : public Control {
 
   /// The pictures of the button's states. Without any the system's own button is shown. A button with both a drawing
   /// and a caption has the caption below the drawing, in small letters.
+  static constexpr Twips DrawingSide = 240;
+  static constexpr Twips DrawingTop = 45;  // from the face's upper edge, over a caption
   [[nodiscard]] form::Picture Picture() const { return picture_; }
   [[nodiscard]] form::Picture DownPicture() const { return downPicture_; }
   [[nodiscard]] form::Picture DisabledPicture() const { return disabledPicture_; }

@@ -3,19 +3,18 @@
 #include <algorithm>
 #include <iterator>
 
+#include "form/Grid.h"
 #include "form/PictureButton.h"
 #include "state/Pictures.h"
 
 namespace vantor::message {
 namespace {
 
+namespace grid = form::grid;
+
 // The layout, in twips.
 constexpr form::Twips BandWidth = 540;
-constexpr form::Twips Margin = 225;
-constexpr form::Twips Gap = 150;
-constexpr form::Twips InputHeight = 315;
-constexpr form::Twips CheckHeight = 270;
-constexpr form::Twips ButtonWidth = 1215;
+constexpr form::Twips Margin = 2 * grid::Margin;
 constexpr form::Twips NarrowText = 4200;
 // Holds the table of the first-start help without breaking its lines, and fits a screen 640 pixels wide.
 constexpr form::Twips WideText = 7200;
@@ -99,17 +98,18 @@ void frmMessage::Arrange(const form::Screen& screen) {
   form::Twips top = Margin;
   const auto place = [&](form::Control& control, form::Twips height) {
     control.SetBounds({left, top, width, height});
-    top += height + Gap;
+    top += height + grid::Margin;
   };
   place(LabelHead, LabelHead.LeastSize().Height);
   // The name prompts call the input "the above box".
-  if (TextInput0.Visible()) place(TextInput0, TextInput0.HeightFor(InputHeight));
+  if (TextInput0.Visible()) place(TextInput0, TextInput0.HeightFor(grid::LineHeight));
   place(LabelMessage, Ui().MeasureText(text, false, width).Height);
-  if (CheckDoNotShow.Visible()) place(CheckDoNotShow, CheckDoNotShow.HeightFor(CheckHeight));
+  if (CheckDoNotShow.Visible()) place(CheckDoNotShow, CheckDoNotShow.HeightFor(grid::CheckHeight));
 
-  top += Gap;
-  CommandCancel.SetBounds({left + width - ButtonWidth, top, ButtonWidth, form::ButtonHeight});
-  CommandOK.SetBounds({CommandCancel.Left() - Gap - ButtonWidth, top, ButtonWidth, form::ButtonHeight});
+  top += grid::Margin;
+  const form::Twips buttonWidth = std::max(form::ButtonWidth(CommandOK), form::ButtonWidth(CommandCancel));
+  CommandCancel.SetBounds({left + width - buttonWidth, top, buttonWidth, form::ButtonHeight});
+  CommandOK.SetBounds({CommandCancel.Left() - grid::Gap - buttonWidth, top, buttonWidth, form::ButtonHeight});
 
   const form::Twips formWidth = left + width + Margin;
   const form::Twips formHeight = top + form::ButtonHeight + Margin;

@@ -4,9 +4,9 @@
 #include <numeric>
 
 #include "form/Form.h"
+#include "form/Grid.h"
 #include "form/PictureButton.h"
 #include "list/MachineIdentity.h"
-#include "panel/Grid.h"
 #include "panel/frmChoose.h"
 
 namespace vantor::options {
@@ -16,9 +16,9 @@ namespace {
 using form::ButtonHeight;
 using form::Twips;
 
-using panel::CheckHeight;
-using panel::Gap;
-using panel::Margin;
+using form::grid::CheckHeight;
+using form::grid::Gap;
+using form::grid::Margin;
 
 constexpr Twips LeastWidth = 3600;
 
@@ -74,7 +74,7 @@ form::Size OptionsPage::LayOut() {
   for (const form::CommandButton* button : {&CommandOptionShortcut, &CommandOptionRemember}) {
     width = std::max(width, form::ButtonWidth(*button) + 2 * Margin);
   }
-  Twips top = panel::FrameTop;
+  Twips top = form::grid::FrameTop;
   for (form::CheckBox& box : CheckOptionMain) {
     box.SetBounds({Margin, top, width - 2 * Margin, box.HeightFor(CheckHeight)});
     top = box.Bottom() + Gap;

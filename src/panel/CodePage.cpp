@@ -4,13 +4,17 @@
 #include <string>
 
 #include "command/CodeTables.h"
-#include "panel/Grid.h"
+#include "form/Grid.h"
 
 namespace vantor::panel {
 
 namespace {
 
 using form::Twips;
+using form::grid::ColumnGap;
+using form::grid::FrameTop;
+using form::grid::Margin;
+using form::grid::SectionGap;
 
 constexpr std::wstring_view Letters = L"p\r\nf\r\nd\r\ne\r\nw\r\nt\r\nc";
 constexpr std::wstring_view Items =

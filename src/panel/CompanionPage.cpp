@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "form/Form.h"
+#include "form/Grid.h"
 #include "form/PictureButton.h"
 #include "form/UserInterface.h"
-#include "panel/Grid.h"
 #include "product/Product.h"
 
 namespace vantor::panel {
@@ -14,6 +14,8 @@ namespace vantor::panel {
 namespace {
 
 using form::Twips;
+using form::grid::FrameTop;
+using form::grid::Margin;
 
 constexpr Twips LeastWidth = 3000;
 constexpr Twips GreatestWidth = 7200;

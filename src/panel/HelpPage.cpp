@@ -5,13 +5,18 @@
 #include <string>
 #include <string_view>
 
-#include "panel/Grid.h"
+#include "form/Grid.h"
 
 namespace vantor::panel {
 
 namespace {
 
 using form::Twips;
+using form::grid::ColumnGap;
+using form::grid::FrameTop;
+using form::grid::LineHeight;
+using form::grid::Margin;
+using form::grid::SectionGap;
 
 constexpr Twips ProseWidth = 4200;
 

@@ -1,9 +1,15 @@
 #include "panel/frmChoose.h"
 
+#include "form/Grid.h"
 #include "form/PictureButton.h"
-#include "panel/Grid.h"
 
 namespace vantor::panel {
+
+namespace {
+
+using form::grid::Margin;
+
+}  // namespace
 
 frmChoose::frmChoose(form::UserInterface& ui, PanelHost& host, message::Messages& messages)
     : Form(ui, L"frmChoose"), host_(host), messages_(messages) {

@@ -189,13 +189,13 @@ TEST_CASE("everything has its texts whole and apart in narrow and wide, low and 
     program.Computer.Disk.AddFile(L"C:\\Vantor\\VantorHelp.exe");  // of which there are lines too
     program.Start();
     program.Add(list::LaunchGroup::Web, L"a", L"b");
-    for (const Key key : {Key::F2, Key::F3, Key::F4, Key::F5, Key::F6, Key::F7, Key::F8}) {
+    for (const Key key : {Key::F2, Key::F3, Key::F4, Key::F5, Key::F6, Key::F7, Key::F8, Key::F8, Key::F1}) {
       program.Desktop.Press(key);
       program.Page.Web.Rename.DoClick();
-      const form::Form& panel = *program.Desktop.ActiveForm();
-      CHECK(&panel != &program.Main);
-      CheckFits(panel);
+      CheckFits(*program.Desktop.ActiveForm());
     }
+    const form::Frame& banner = program.Main.Web.FrameAddedInfo;
+    CHECK((banner.Width() >= banner.LeastSize().Width && banner.Height() >= banner.LeastSize().Height));
     program.Expect([](const message::frmMessage& dialog) { CheckFits(dialog); });
     program.Type(L"p=nosuchprogram\r");
   }

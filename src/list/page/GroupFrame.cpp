@@ -4,11 +4,11 @@
 #include <string>
 
 #include "form/Form.h"
+#include "form/Grid.h"
 #include "form/Keys.h"
 #include "form/PictureButton.h"
 #include "form/UserInterface.h"
 #include "list/NameMatch.h"
-#include "panel/Grid.h"
 
 namespace vantor::list {
 
@@ -16,10 +16,10 @@ namespace {
 
 using form::Twips;
 
-using panel::FrameTop;
-using panel::Gap;
-using panel::LineHeight;
-using panel::Margin;
+using form::grid::FrameTop;
+using form::grid::Gap;
+using form::grid::LineHeight;
+using form::grid::Margin;
 
 std::wstring ControlName(std::wstring_view kind, std::wstring_view code, std::wstring_view what) {
   return std::wstring(kind).append(L"List").append(code).append(what);

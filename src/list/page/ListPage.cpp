@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "panel/Grid.h"
+#include "form/Grid.h"
 #include "panel/frmChoose.h"
 
 namespace vantor::list {
@@ -54,7 +54,7 @@ void ListPage::Load() {
 
 form::Size ListPage::LayOut() {
   const Twips width = std::max(GroupWidth, Prog.LeastWidth());  // all have the same labels and buttons
-  const Twips second = width + panel::Margin;
+  const Twips second = width + form::grid::Margin;
   const auto layOutBoth = [width, second](GroupFrame& left, GroupFrame& right, Twips top) {
     const Twips height = std::max(left.LayOut(0, top, width), right.LayOut(second, top, width));
     for (GroupFrame* group : {&left, &right}) {
@@ -62,7 +62,7 @@ form::Size ListPage::LayOut() {
     }
     return top + height;
   };
-  return {second + width, layOutBoth(Fold, Web, layOutBoth(Prog, File, 0) + panel::Margin)};
+  return {second + width, layOutBoth(Fold, Web, layOutBoth(Prog, File, 0) + form::grid::Margin)};
 }
 
 void ListPage::Prepare() {

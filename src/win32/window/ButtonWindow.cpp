@@ -13,10 +13,6 @@ namespace vantor::win32 {
 
 namespace {
 
-/// The side of a drawing and its distance from the upper edge of a face with a caption, in pixels at 96 dots per inch.
-constexpr double DrawingSize = 16;
-constexpr double DrawingTop = 3;
-
 bool HasPictures(const form::CommandButton& button) {
   return !button.Picture().Empty() || !button.DownPicture().Empty() || !button.DisabledPicture().Empty();
 }
@@ -102,8 +98,9 @@ void ButtonWindow::DrawContent(Canvas& canvas, RECT area, const Box& box, const 
                 DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
     return;
   }
-  const double side = std::round(DrawingSize * Scale());
-  const double above = caption.empty() ? std::round((box.Height - side) / 2) : std::round(DrawingTop * Scale());
+  const double side = Screens::ToPixels(form::CommandButton::DrawingSide, Owner().Dpi());
+  const double above = caption.empty() ? std::round((box.Height - side) / 2)
+                                       : Screens::ToPixels(form::CommandButton::DrawingTop, Owner().Dpi());
   const Box square{box.Left + std::round((box.Width - side) / 2), box.Top + above, side, side};
   DrawShapes(canvas, drawing, square, colors, face.Text, Scale());
   area.top = static_cast<LONG>(square.Top + square.Height);

@@ -41,10 +41,9 @@ form::Screen Desktop::PrimaryScreen() const { return screens_.Primary(); }
 form::Size Desktop::MeasureText(std::wstring_view text, bool bold, form::Twips width) const {
   const int dpi = screens_.SystemDpi();
   const int pixels = win32::Screens::ToPixels(width, dpi);
-  // A little more, for screens of another scale, where the font comes out wider: no line is broken there that is not
-  // here.
+  // On screens of another scale the font may come out wider: lines are broken a little before there, and get more room.
   const HFONT font = theme_.Font(dpi, bold ? FontStyle::Bold : FontStyle::Plain);
-  const SIZE size = Prose(text, font, pixels - pixels / 32).Size();
+  const SIZE size = Prose(text, font, pixels - pixels / 64).Size();
   return {win32::Screens::ToTwips(size.cx + size.cx / 20 + 1, dpi), win32::Screens::ToTwips(size.cy + 1, dpi)};
 }
 
