@@ -30,7 +30,6 @@ endforeach()
 vantor_glob(VANTOR_FLOWS tests/flows/*.txt)
 set(VANTOR_FLOW_PLAYER "${PROJECT_SOURCE_DIR}/tests/flows/Main.cpp" "${PROJECT_SOURCE_DIR}/tests/flows/Player.cpp")
 set(VANTOR_NATIVE_WORLD "${PROJECT_SOURCE_DIR}/tests/flows/NativeWorld.cpp")
-set(VANTOR_REAL_WORLD "${PROJECT_SOURCE_DIR}/tests/flows/RealWorld.cpp")
 
 # By which tests in C++ play steps, too.
 set(VANTOR_FAKE_SOURCES "${PROJECT_SOURCE_DIR}/tests/flows/Player.cpp" "${VANTOR_NATIVE_WORLD}")
@@ -38,6 +37,8 @@ vantor_glob(VANTOR_WIN32_TEST_SOURCES tests/win32/*.cpp)
 vantor_glob(VANTOR_CONTRACT_SOURCES tests/contract/*.cpp)
 vantor_glob(VANTOR_RECORDER_SOURCES tests/driver/recorder/*.cpp)
 vantor_glob(VANTOR_DESKTOP_SOURCES tests/desktop/*.cpp)
+set(VANTOR_CHECK_SOURCES ${VANTOR_DESKTOP_SOURCES} "${PROJECT_SOURCE_DIR}/tests/flows/Player.cpp"
+                         "${PROJECT_SOURCE_DIR}/tests/flows/RealWorld.cpp" "${PROJECT_SOURCE_DIR}/tests/check/Main.cpp")
 vantor_glob(VANTOR_FUZZ_SOURCES tests/fuzz/*.cpp)
 set(VANTOR_FUZZER "${PROJECT_SOURCE_DIR}/tests/fuzz/Fuzzer.cpp")
 set(VANTOR_FIXED_FUZZ "${PROJECT_SOURCE_DIR}/tests/fuzz/FixedRun.cpp")

@@ -130,33 +130,20 @@ if(VANTOR_RECORDER_SOURCES)
   endif()
 endif()
 
-if(VANTOR_DESKTOP_SOURCES)
-  set(main ${VANTOR_TEST_MAIN})
-  if("${PROJECT_SOURCE_DIR}/tests/desktop/Main.cpp" IN_LIST VANTOR_DESKTOP_SOURCES)
-    set(main)
-  endif()
-  add_executable(desktop_tests ${main} ${VANTOR_DESKTOP_SOURCES})
-  target_link_libraries(desktop_tests PRIVATE vantor_flags vantor_doctest ${VANTOR_WINDOWS_LIBRARIES} oleacc)
-  foreach(program IN ITEMS Vantor recorder recorder64 installer)
-    if(TARGET ${program})
-      add_dependencies(desktop_tests ${program})
-    endif()
-  endforeach()
-  vantor_add_tests(
-    desktop VANTOR_DESKTOP_SOURCES PREFIX "" TIMEOUT 600
-    RUNNER ${on_desktop} COMMAND $<TARGET_FILE:desktop_tests>)
-endif()
-
-# All flows in one session, on a desktop with every kind of drive.
-add_executable(flows ${VANTOR_FLOW_PLAYER} ${VANTOR_REAL_WORLD})
-target_link_libraries(flows PRIVATE vantor_core vantor_stack_guard ${VANTOR_WINDOWS_LIBRARIES} oleacc)
-target_include_directories(flows PRIVATE "${PROJECT_SOURCE_DIR}/tests")
-target_link_options(flows PRIVATE ${VANTOR_PLAIN_LINK})
-foreach(program IN ITEMS Vantor recorder recorder64)
+# Flows and desktop tests in one program, which a real Windows can be tried with too: tools/package makes a zip of it.
+add_executable(VantorCheck ${VANTOR_CHECK_SOURCES})
+target_link_libraries(VantorCheck PRIVATE vantor_core vantor_stack_guard vantor_doctest ${VANTOR_WINDOWS_LIBRARIES} oleacc)
+target_link_options(VantorCheck PRIVATE -s ${VANTOR_PLAIN_LINK})
+foreach(program IN ITEMS Vantor recorder recorder64 installer)
   if(TARGET ${program})
-    add_dependencies(flows ${program})
+    add_dependencies(VantorCheck ${program})
   endif()
 endforeach()
+vantor_add_tests(
+  desktop VANTOR_DESKTOP_SOURCES PREFIX "" TIMEOUT 600
+  RUNNER ${on_desktop} COMMAND $<TARGET_FILE:VantorCheck> --tests)
+
+# All flows in one session, on a desktop with every kind of drive.
 function(vantor_add_flows name options)
   set(desktop)
   if(on_desktop)
@@ -164,7 +151,7 @@ function(vantor_add_flows name options)
     set(desktop ${on_desktop} ${options})
     list(TRANSFORM ARGN PREPEND "Z:")
   endif()
-  add_test(NAME flows/${name} COMMAND ${desktop} $<TARGET_FILE:flows> ${ARGN})
+  add_test(NAME flows/${name} COMMAND ${desktop} $<TARGET_FILE:VantorCheck> --flows ${ARGN})
   set_tests_properties(flows/${name} PROPERTIES LABELS desktop TIMEOUT 600)
 endfunction()
 set(drives "--drive d:=hd --drive e:=floppy --drive f:=cdrom --drive n:=network --drive r:=cdrom:empty")

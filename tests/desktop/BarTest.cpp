@@ -38,6 +38,7 @@ TEST_CASE("the bar climbs back above other windows, and comes along when the scr
   CHECK_BECOMES(GetWindow(FindWindowA("ThunderRT6Main", "Vantor Orbel"), GW_HWNDPREV) == bar, true);
   DestroyWindow(other);
 
+  SKIP_UNLESS(OwnDesktop(), "a screen of the test's own");
   DEVMODEW mode = {};
   mode.dmSize = sizeof mode;
   mode.dmFields = DM_PELSWIDTH | DM_PELSHEIGHT;

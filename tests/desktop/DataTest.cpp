@@ -82,7 +82,7 @@ TEST_CASE("Windows ends while a panel or a message is open: all is saved, and in
     else
       program.Press(VK_F4);
     program.AwaitForm(message ? L"CommandOK" : L"CommandListCancel");
-    if (message && UnderWine()) {
+    if (message && OwnDesktop()) {
       CHECK(Run("wineboot --end-session") == 0);
     } else {
       // What Windows sends, without ending the session of whoever runs this.

@@ -53,7 +53,7 @@ DWORD RunningProcess() { return window::ProcessOf(FindWindowW(L"ThunderRT6Main",
 }  // namespace
 
 TEST_CASE("install, upgrade over a running copy, uninstall and come back, in a folder with foreign letters") {
-  SKIP_UNLESS(UnderWine(), "a Windows installation of the test's own");
+  SKIP_UNLESS(OwnDesktop(), "a Windows installation of the test's own");
   const Installation it;
   REQUIRE(it.Install(it.Work.Path(it.Name)) == 0);
   const std::string built = it.Work.Read("Vantor.exe");
@@ -114,7 +114,7 @@ TEST_CASE("install, upgrade over a running copy, uninstall and come back, in a f
 }
 
 TEST_CASE("an installation that can't be done says so and leaves all as it was") {
-  SKIP_UNLESS(UnderWine(), "a Windows installation of the test's own");
+  SKIP_UNLESS(OwnDesktop(), "a Windows installation of the test's own");
   const Installation it;
   constexpr DWORD NotDone = 2;
   it.Work.Write("full\\Vantor.exe.new\\in the way");
@@ -132,7 +132,7 @@ TEST_CASE("an installation that can't be done says so and leaves all as it was")
 }
 
 TEST_CASE("nothing asked for, the folder is one that its user may write to; what preferences make goes with it") {
-  SKIP_UNLESS(UnderWine(), "a Windows installation of the test's own");
+  SKIP_UNLESS(OwnDesktop(), "a Windows installation of the test's own");
   const Installation it;
   const std::string folder = SystemFolder(CSIDL_LOCAL_APPDATA) + "\\Programs\\Vantor";
   const std::wstring program = Wide(folder + "\\Vantor.exe");

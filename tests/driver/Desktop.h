@@ -29,14 +29,23 @@ inline std::string Utf16(const std::string& text) {
   return {reinterpret_cast<const char*>(wide.data()), wide.size() * sizeof(wchar_t)};
 }
 
-/// Whether this runs under Wine, in an installation that is the test's alone: its system files may be replaced.
 inline bool UnderWine() { return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr; }
+
+/// Whether the Windows installation is the test's alone, so that its system files may be replaced: tools/wine says so.
+inline bool OwnDesktop() { return GetEnvironmentVariableW(L"VANTOR_TEST_DESKTOP", nullptr, 0) > 0; }
 
 /// Whether Windows is a 64-bit one, on which the program and its tests are guests.
 inline bool On64Bit() {
   BOOL guest = FALSE;
   return IsWow64Process(GetCurrentProcess(), &guest) && guest;
 }
+
+/// The path of this program, and of a file beside it.
+inline std::wstring OwnPath() {
+  wchar_t own[MAX_PATH];
+  return {own, GetModuleFileNameW(nullptr, own, MAX_PATH)};
+}
+inline std::wstring Beside(const std::wstring& name) { return OwnPath().substr(0, OwnPath().rfind(L'\\') + 1) + name; }
 
 inline bool Exists(const std::string& path) {
   return GetFileAttributesW(Wide(path).c_str()) != INVALID_FILE_ATTRIBUTES;

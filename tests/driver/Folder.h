@@ -75,10 +75,7 @@ class Folder {
   [[nodiscard]] std::string Read(const std::string& name) const { return BytesOf(Path(name)); }
   /// Copies a program that was built beside this one.
   void CopyProgram(const std::string& program, const std::string& name) const {
-    wchar_t own[MAX_PATH];
-    const std::wstring self(own, GetModuleFileNameW(nullptr, own, MAX_PATH));
-    std::filesystem::copy_file(self.substr(0, self.rfind(L'\\') + 1) + Wide(program), Place(name),
-                               std::filesystem::copy_options::overwrite_existing);
+    std::filesystem::copy_file(Beside(Wide(program)), Place(name), std::filesystem::copy_options::overwrite_existing);
   }
   /// Takes the whole folder to the root of another drive, as its medium put in there would.
   void MoveTo(const std::string& root) {

@@ -17,7 +17,7 @@ class Recorder {
  public:
   /// Puts the recorder into the folder as recorder.exe, and behind the documents whose names end in .vantortest.
   explicit Recorder(const Folder& folder) : folder_(folder) {
-    folder_.CopyProgram(UnderWine() && On64Bit() ? "recorder64.exe" : "recorder.exe", "recorder.exe");
+    folder_.CopyProgram(ProgramName(), "recorder.exe");
     folder_.Write(RecordName);
     SetEnvironmentVariableW(L"VANTOR_RECORD", Wide(folder_.Path(RecordName)).c_str());
     SetKey(ClassesRoot(), Classes + L".vantortest", L"", L"VantorTest");
@@ -30,7 +30,10 @@ class Recorder {
   Recorder(const Recorder&) = delete;
   Recorder& operator=(const Recorder&) = delete;
 
-  /// Wine only: puts it in the place of Explorer and rundll32, and behind web and mail addresses.
+  /// On a desktop of the test's own the one that may stand in for the system's programs.
+  static const char* ProgramName() { return OwnDesktop() && On64Bit() ? "recorder64.exe" : "recorder.exe"; }
+  /// Only on a desktop of the test's own: puts it in the place of Explorer and rundll32, and behind web and mail
+  /// addresses.
   void ReplaceSystem() const {
     RemoveSystemPrograms();
     for (const std::wstring& program : SystemPrograms()) {
@@ -43,7 +46,7 @@ class Recorder {
              Wide(Quoted() + ' ' + Narrow(scheme) + " \"%1\""));
     }
   }
-  /// Wine only: takes Explorer, rundll32, the mail program and telephony away.
+  /// Only on a desktop of the test's own: takes Explorer, rundll32, the mail program and telephony away.
   static void RemoveSystemPrograms() {
     for (const std::wstring& program : SystemPrograms()) std::filesystem::remove(program);
     for (const std::wstring program : {L"rundll32.exe", L"regedit.exe"})

@@ -1,11 +1,10 @@
 #include "flows/Player.h"
 
 #include <algorithm>
-#include <cstdio>
+#include <fstream>
 #include <iterator>
 #include <map>
 #include <span>
-#include <sstream>
 #include <utility>
 
 #include "flows/World.h"
@@ -69,26 +68,31 @@ constexpr struct {
               {L"minimised", L"minimised", L"yes"}, {L"on top", L"on top", L"yes"},   {L"not on top", L"on top", L"no"},
               {L"end", L"running", L"no"}};
 
+enum class Result { Passed, Failed, Skipped };
+
 class Player : public Steps {
  public:
   explicit Player(std::string name, World* world = nullptr) : name_(std::move(name)), world_(world) {}
 
-  Result Play(const std::string& script) {
-    std::istringstream stream(script);
-    for (std::string line; std::getline(stream, line);) lines_.push_back(text::FromUtf8(line));
+  Result Play(std::istream& script) {
+    for (std::string line; std::getline(script, line);) lines_.push_back(text::FromUtf8(line));
     try {
       const std::unique_ptr<World> world = MakeWorld(*this);
       world_ = world.get();
+      for (const Text& line : lines_) world->Foresee(line);
       GoOnUntil([] { return false; });
       if (!failed_) CheckEnd();
     } catch (const Skip& why) {
-      std::fprintf(stderr, "%s: skipped: %s\n", name_.c_str(), why.what());
+      told_ = name_ + ": skipped: " + why.what();
       return Result::Skipped;
     } catch (const std::exception& error) {
       Fail(error.what());
     }
     return failed_ ? Result::Failed : Result::Passed;
   }
+
+  /// What was not as the flow says, or why it can't be played here.
+  [[nodiscard]] const std::string& Told() const { return told_; }
 
   void GoOnUntil(const std::function<bool()>& condition) override {
     ++depth_;
@@ -135,7 +139,7 @@ class Player : public Steps {
     if (failed_) return;
     failed_ = true;
     const std::string step = number_ > 0 && number_ <= lines_.size() ? Narrow(lines_[number_ - 1]) : "";
-    std::fprintf(stderr, "%s:%zu: %s: %s\n", name_.c_str(), number_, step.c_str(), why.c_str());
+    told_ = name_ + ':' + std::to_string(number_) + ": " + step + ": " + why;
   }
   /// Whatever the flow was about: nothing is open or started at the end that it did not speak of, and the program can
   /// be left.
@@ -321,6 +325,7 @@ class Player : public Steps {
   [[nodiscard]] Text DataPath(const Text& name) { return PathOf(L"Vantor\\" + name + L".Orbel"); }
 
   std::string name_;
+  std::string told_;
   Texts lines_;
   std::size_t next_ = 0;
   std::size_t number_ = 0;  // of the line that is played
@@ -404,7 +409,21 @@ std::span<const Player::Verb> Player::Verbs() {
 
 }  // namespace
 
-Result Play(const std::string& name, const std::string& script) { return Player(name).Play(script); }
+bool PlayAll(const std::vector<std::filesystem::path>& files, const std::function<void(const std::string&)>& tell) {
+  std::size_t skipped = 0;
+  int failed = 0;
+  for (const std::filesystem::path& path : files) {
+    std::ifstream file(path, std::ios::binary);
+    Player player(path.filename().string());
+    const bool there = file.is_open();
+    const Result result = there ? player.Play(file) : Result::Failed;
+    if (result != Result::Passed) tell(there ? player.Told() : path.string() + " can't be read");
+    skipped += result == Result::Skipped ? 1 : 0;
+    failed += result == Result::Failed ? 1 : 0;
+  }
+  tell(std::to_string(files.size() - skipped) + " flows, " + std::to_string(failed) + " failed");
+  return failed == 0 && files.size() > skipped;
+}
 
 void Try(World& world, const Text& step) {
   try {

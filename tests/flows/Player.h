@@ -1,16 +1,18 @@
 #pragma once
 
+#include <filesystem>
+#include <functional>
 #include <string>
+#include <vector>
 
 #include "flows/World.h"
 
 namespace vantor::flows {
 
-enum class Result { Passed, Failed, Skipped };
-
-/// Plays one flow, a text in UTF-8, in a world of its own. What was not as the flow says is told on standard error,
-/// with `name` and the line's number before it. README.md says what a flow may hold.
-Result Play(const std::string& name, const std::string& script);
+/// Plays flows, texts in UTF-8, each in a world of its own. README.md says what a flow may hold. What was not as a flow
+/// says is told with its file's name and the line's number before it; at the end how many were played and failed.
+/// Returns whether all passed that could be played here, and one could.
+bool PlayAll(const std::vector<std::filesystem::path>& files, const std::function<void(const std::string& line)>& tell);
 
 /// Plays one step, as far as it can be done.
 void Try(World& world, const Text& step);

@@ -10,29 +10,31 @@ namespace {
 
 using namespace desktop;
 
-std::wstring OwnPath() {
-  wchar_t own[MAX_PATH];
-  return {own, GetModuleFileNameW(nullptr, own, MAX_PATH)};
-}
-
-const char* SystemRecorderName() { return UnderWine() && On64Bit() ? "\\recorder64.exe" : "\\recorder.exe"; }
-
 /// Wine only: keeps the window manager of the X display away, which would take a drag for one of its own mouse.
-void LeaveWindowsToWine() {
-  RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Wine\\X11 Driver", L"Managed", REG_SZ, L"N", 2 * sizeof(wchar_t));
-}
+class WindowsLeftToWine {
+ public:
+  WindowsLeftToWine() { RegSetKeyValueW(HKEY_CURRENT_USER, Key, L"Managed", REG_SZ, L"N", 2 * sizeof(wchar_t)); }
+  ~WindowsLeftToWine() { RegDeleteKeyValueW(HKEY_CURRENT_USER, Key, L"Managed"); }
+  WindowsLeftToWine(const WindowsLeftToWine&) = delete;
+  WindowsLeftToWine& operator=(const WindowsLeftToWine&) = delete;
 
-/// Wine only: its management service needs up to 16 s for its first answer, where the program waits 5 s for any.
-void WakeManagement() { Run("wmic logicaldisk get size"); }
+ private:
+  static constexpr wchar_t Key[] = L"Software\\Wine\\X11 Driver";
+};
 
-/// The recorder, in the place of all that flows start, on a desktop that is ready for them.
-Recorder& SystemRecorder() {
-  static const desktop::Folder folder;
-  static Recorder recorder(folder);
-  static const bool prepared = UnderWine() && (recorder.ReplaceSystem(), LeaveWindowsToWine(), WakeManagement(), true);
-  (void)prepared;
-  return recorder;
-}
+/// The recorder, and a desktop that is ready for flows.
+struct Stage {
+  Stage() {
+    if (OwnDesktop()) Starts.ReplaceSystem();
+    if (!UnderWine()) return;
+    LeftToWine.emplace();
+    Run("cmd /c wmic logicaldisk get size >nul");  // the first answer of Wine's management service takes up to 16 s
+  }
+
+  desktop::Folder Place;
+  Recorder Starts{Place};
+  std::optional<WindowsLeftToWine> LeftToWine;
+};
 
 /// While one lives, Windows' own folders are those that 64-bit programs see.
 class TrueFolders {
@@ -51,17 +53,40 @@ class TrueFolders {
 
 class RealWorld : public World {
  public:
-  explicit RealWorld() : recorder_(SystemRecorder()), before_(recorder_.Lines().size()) {
+  explicit RealWorld(const Recorder& recorder) : recorder_(recorder), before_(recorder_.Lines().size()) {
     folders_.push_back(std::make_unique<desktop::Folder>());
-    if (UnderWine()) RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, RunKey, RunValue);
   }
   ~RealWorld() override {
     for (HWND window : {other_, front_}) DestroyWindow(window);
-    if (GetAsyncKeyState(VK_LBUTTON) < 0) input::LetGo(mouse_);  // a flow that failed in a drag
+    // What a flow that failed left.
+    if (GetAsyncKeyState(VK_LBUTTON) < 0) input::LetGo(mouse_);
+    program_.reset();
+    if (startsWithWindows_) {
+      for (HKEY root : {HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER}) RegDeleteKeyValueW(root, RunKey, RunValue);
+    }
+    std::error_code ignored;
+    if (hasShortcut_) std::filesystem::remove(Shortcut(), ignored);
   }
   RealWorld(const RealWorld&) = delete;
   RealWorld& operator=(const RealWorld&) = delete;
 
+  void Foresee(const Text& line) override {
+    startsWithWindows_ = startsWithWindows_ || line.starts_with(L"see run value");
+    hasShortcut_ = hasShortcut_ || line.find(L"Vantor.lnk") != line.npos;
+    if (OwnDesktop()) return;
+    if (line.starts_with(L"see run value") && RunsWithWindows()) {
+      startsWithWindows_ = false;
+      throw Skip("Vantor starts with this Windows already");
+    }
+    if (line.find(L"Vantor.lnk") != line.npos && Exists(Narrow(Shortcut()))) {
+      hasShortcut_ = false;
+      throw Skip("there is a shortcut already");
+    }
+    const std::size_t start = line.find(L"see started ");
+    if (start == line.npos || line.starts_with(L"native:")) return;
+    const Text what = line.substr(start + 12);
+    if (!what.starts_with(L"run {f}") && !what.starts_with(L"open {f}")) throw Skip("starts what is not the test's");
+  }
   [[nodiscard]] std::wstring_view Name() const override { return L"real"; }
   void NeedDrive(wchar_t letter, std::wstring_view type) override {
     const UINT wanted = type == L"floppy"    ? DRIVE_REMOVABLE
@@ -69,7 +94,7 @@ class RealWorld : public World {
                         : type == L"fixed"   ? DRIVE_FIXED
                                              : DRIVE_CDROM;
     const Text root{letter, L':', L'\\'};
-    if (!UnderWine() || GetDriveTypeW(root.c_str()) != wanted) throw Skip("needs a drive of another kind");
+    if (!OwnDesktop() || GetDriveTypeW(root.c_str()) != wanted) throw Skip("needs a drive of another kind");
     if (type == L"empty") return;
     std::error_code empty;  // is told as an error for a root
     for (const auto& entry : std::filesystem::directory_iterator(root, empty)) std::filesystem::remove_all(entry);
@@ -101,15 +126,13 @@ class RealWorld : public World {
   }
 
   void Write(const Text& path, const std::string& bytes) override {
-    if (!UnderWine() && path.starts_with(Place(L"w"))) throw Skip("writes into the Windows folder");
+    if (!OwnDesktop() && path.starts_with(Place(L"w"))) throw Skip("writes into the Windows folder");
     const TrueFolders trueFolders;
     const Text folder = path.substr(0, path.rfind(L'\\'));
     if (folder.size() > 2) MakeFolder(folder);
     std::ofstream(std::filesystem::path(path), std::ios::binary) << bytes;
   }
-  void MakeProgram(const Text& path) override {
-    Write(path, BytesOf(Narrow(OwnPath().substr(0, OwnPath().rfind(L'\\'))) + SystemRecorderName()));
-  }
+  void MakeProgram(const Text& path) override { Write(path, BytesOf(Narrow(Beside(Wide(Recorder::ProgramName()))))); }
   void MakeFolder(const Text& path) override { std::filesystem::create_directories(path); }
   void Remove(const Text& path) override {
     // What was started has to end before its file can go.
@@ -196,10 +219,7 @@ class RealWorld : public World {
     const auto yes = [](bool condition) { return Text(condition ? L"yes" : L"no"); };
     if (!program_) return yes(false);
     if (what == L"running") return yes(program_->Running());
-    if (what == L"run value") {
-      const std::string value = RegistryText(HKEY_LOCAL_MACHINE, RunKey, RunValue);
-      return value == "(none)" ? L"" : Wide(value);
-    }
+    if (what == L"run value") return RunsWithWindows().value_or(L"");
     if (what == L"title") return Wide(window::Text(program_->Active()));
     if (what == L"focus") {
       HWND const focus = window::Focus(program_->Active());
@@ -243,6 +263,15 @@ class RealWorld : public World {
 
  private:
   [[nodiscard]] HWND Bar() const { return program_->Bar(); }
+  /// What Windows starts with itself, for all or for this user.
+  static std::optional<Text> RunsWithWindows() {
+    for (HKEY root : {HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER}) {
+      const std::string value = RegistryText(root, RunKey, RunValue);
+      if (value != "(none)") return Wide(value);
+    }
+    return {};
+  }
+  static Text Shortcut() { return Wide(SystemFolder(CSIDL_DESKTOPDIRECTORY)) + L"\\Vantor.lnk"; }
   void HoldAt(POINT at) {
     mouse_ = at;
     input::Hold(at);
@@ -260,17 +289,22 @@ class RealWorld : public World {
     return begin < end && end <= text.size() ? text.insert(end, L"]").insert(begin, L"[") : text;
   }
 
-  Recorder& recorder_;
+  const Recorder& recorder_;
   std::size_t before_;  // what was recorded before this flow
   std::vector<std::unique_ptr<desktop::Folder>> folders_;
   std::unique_ptr<Program> program_;
   HWND other_ = nullptr;
   HWND front_ = nullptr;
+  bool startsWithWindows_ = false;  // by a value that this flow makes
+  bool hasShortcut_ = false;
   POINT mouse_{};
 };
 
 }  // namespace
 
-std::unique_ptr<World> MakeWorld(Steps& /*steps*/) { return std::make_unique<RealWorld>(); }
+std::unique_ptr<World> MakeWorld(Steps& /*steps*/) {
+  static const Stage stage;
+  return std::make_unique<RealWorld>(stage.Starts);
+}
 
 }  // namespace vantor::flows

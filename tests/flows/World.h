@@ -39,6 +39,8 @@ class World {
   World(const World&) = delete;
   World& operator=(const World&) = delete;
 
+  /// Hears each line of a flow before it is played; throws Skip for what this world had better not do, or can't show.
+  virtual void Foresee(const Text& /*line*/) {}
   /// "native" or "real": what a line that makes sense in one world alone begins with.
   [[nodiscard]] virtual std::wstring_view Name() const = 0;
   /// A drive of this letter and type ("floppy", "network", "fixed", "cdrom", or "empty" for a

@@ -167,3 +167,13 @@ TEST_CASE("a data file is replaced whole or left whole, in its place too where t
   CHECK(data.Remove(path));
   CHECK(data.Read(path).Missing);
 }
+
+TEST_CASE("what a full disk has no room for leaves what is there") {
+  const std::wstring file = L"Z:\\small\\a.Orbel";
+  SKIP_UNLESS(std::filesystem::exists(L"Z:\\small"), "a small disk");
+  DataFiles data;
+  REQUIRE(data.Write(file, "old"));
+  CHECK_FALSE(data.Write(file, std::string(2 << 20, 'x')));
+  CHECK(data.Read(file).Bytes == "old");
+  CHECK(data.Remove(file));
+}

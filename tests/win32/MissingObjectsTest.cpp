@@ -43,7 +43,7 @@ class Without {
 }  // namespace
 
 TEST_CASE("without the scripting file system Windows is asked") {
-  SKIP_UNLESS(UnderWine(), "a registry of the test's own");
+  SKIP_UNLESS(OwnDesktop(), "a registry of the test's own");
   const Without object(L"Scripting.FileSystemObject");
   Apartment com;
   FileSystem files(com);
@@ -61,7 +61,7 @@ TEST_CASE("without the scripting file system Windows is asked") {
 }
 
 TEST_CASE("without the scripting shell Windows does the same") {
-  SKIP_UNLESS(UnderWine(), "a registry of the test's own");
+  SKIP_UNLESS(OwnDesktop(), "a registry of the test's own");
   const Without object(L"WScript.Shell");
   Apartment com;
   ScriptShell shell(com);
@@ -85,7 +85,7 @@ TEST_CASE("without the scripting shell Windows does the same") {
 }
 
 TEST_CASE("disk C: tells who it is, the same each time, and nobody does without the management service") {
-  SKIP_UNLESS(UnderWine(), "a registry of the test's own");
+  SKIP_UNLESS(OwnDesktop(), "a registry of the test's own");
   const auto told = Management().ReadDiskIdentity();
   REQUIRE(told);
   CHECK(told->DriveType == 3);

@@ -12,6 +12,7 @@
 namespace vantor::win32 {
 
 using desktop::Eventually;
+using desktop::OwnDesktop;
 using desktop::UnderWine;
 
 /// An empty folder of its own, with a blank in its name; gone at the end with all that is in it.

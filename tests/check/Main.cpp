@@ -1,0 +1,175 @@
+// VantorCheck: tries the Vantor.exe beside it on the Windows that it is started on, and writes what came of it into a
+// report. Needs nothing but Windows, and what lies beside it. package/VantorCheck.txt is for who runs it.
+//
+//   VantorCheck               asks whether it may have the keyboard and the mouse, and does everything
+//   VantorCheck --yes         does everything without asking
+//   VantorCheck --flows FILE… plays these flows, and tells those that failed
+//   VantorCheck --tests …     runs the desktop tests, with doctest's options
+
+#define DOCTEST_CONFIG_IMPLEMENT
+#include <doctest/doctest.h>
+
+#include <cstdio>
+#include <ctime>
+#include <sstream>
+
+#include "../../bench/win32/Starts.h"
+#include "driver/Folder.h"
+#include "driver/Recorder.h"
+#include "flows/Player.h"
+#include "product/Product.h"
+#include "product/Product.rc.h"
+
+namespace vantor::check {
+namespace {
+
+using namespace desktop;
+using Paths = std::vector<std::filesystem::path>;
+
+constexpr int Rounds = 10;
+
+/// Shown on the console as it comes, and kept.
+class Report {
+ public:
+  Report() : path_(Beside(L"VantorCheck-report.txt")), file_(_wfopen(path_.c_str(), L"w")) {
+    if (file_ == nullptr) {  // on a medium that can't be written to
+      path_ = std::filesystem::temp_directory_path() / path_.filename();
+      file_ = _wfopen(path_.c_str(), L"w");
+    }
+    if (file_ == nullptr) throw std::runtime_error("the report can't be written");
+  }
+  ~Report() { std::fclose(file_); }
+  Report(const Report&) = delete;
+  Report& operator=(const Report&) = delete;
+
+  void Add(const std::string& text) {
+    for (std::FILE* to : {file_, stdout}) {
+      std::fputs(text.c_str(), to);
+      std::fflush(to);  // what is there stays, whatever comes
+    }
+  }
+  [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
+
+ private:
+  std::filesystem::path path_;
+  std::FILE* file_;
+};
+
+std::string Describe() {
+  wchar_t locale[LOCALE_NAME_MAX_LENGTH] = L"";
+  GetUserDefaultLocaleName(locale, LOCALE_NAME_MAX_LENGTH);
+  HDC const screen = GetDC(nullptr);
+  const int dpi = GetDeviceCaps(screen, LOGPIXELSX);
+  ReleaseDC(nullptr, screen);
+  SYSTEM_INFO machine = {};
+  GetSystemInfo(&machine);
+  constexpr wchar_t Key[] = L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion";
+  std::ostringstream text;
+  text << "Vantor " PRODUCT_PACKAGE_VERSION ", " << std::filesystem::file_size(Beside(L"Vantor.exe")) << " bytes\n"
+       << RegistryText(HKEY_LOCAL_MACHINE, Key, L"ProductName") << ", build "
+       << RegistryText(HKEY_LOCAL_MACHINE, Key, L"CurrentBuild") << (On64Bit() ? ", 64-bit" : ", 32-bit")
+       << (UnderWine() ? ", by Wine" : "") << "\nlanguage " << Narrow(locale) << ", code page " << GetACP()
+       << ", screen " << GetSystemMetrics(SM_CXSCREEN) << " x " << GetSystemMetrics(SM_CYSCREEN) << " at " << dpi
+       << " dots per inch, " << machine.dwNumberOfProcessors << " processors\n";
+  return text.str();
+}
+
+Paths AllFlows() {
+  Paths files;
+  for (const auto& entry : std::filesystem::directory_iterator(Beside(L"flows"))) files.push_back(entry.path());
+  std::ranges::sort(files);
+  return files;
+}
+
+/// Runs the desktop tests, and returns what they tell.
+std::string RunTests(bool& passed) {
+  std::ostringstream told;
+  doctest::Context context;
+  context.setOption("no-intro", true);
+  context.setOption("no-colors", true);
+  context.setOption("duration", true);
+  context.setCout(&told);
+  passed = context.run() == 0;
+  return told.str();
+}
+
+std::string MeasureStarts() {
+  const Folder empty;
+  const Folder full;
+  empty.WriteSettings({});
+  full.WriteSettings({.WebUpper = 399});
+  full.WriteData("ListWeb", ListBytes(Items(400, {"Site", "http://www.example.org"})));
+  std::vector<Contestant> contestants = {{L"a bare window with a text box", Beside(L"Floor.exe")},
+                                         {L"Vantor, no items", Wide(empty.Path("Vantor.exe"))},
+                                         {L"Vantor, 400 items", Wide(full.Path("Vantor.exe"))},
+                                         {L"Notepad", L"notepad.exe"}};
+  for (Contestant& one : contestants) one.Command = L'"' + one.Command + L'"';
+  ::MeasureStarts(contestants, Rounds);
+  std::string table;
+  for (const Contestant& one : contestants) {
+    const Figures paint = FiguresOf(one.Paints);
+    const Figures key = FiguresOf(one.Keys);
+    char line[128];
+    std::snprintf(line, sizeof line, "%6.0f %6.0f   %6.0f %6.0f   %ls%s\n", paint.Median, paint.Quickest, key.Median,
+                  key.Quickest, one.Name.c_str(), one.Absent ? ": showed no text box that took a key" : "");
+    table += line;
+  }
+  return table;
+}
+
+bool DoEverything(Report& report) {
+  const auto begin = GetTickCount64();
+  report.Add("Please send this report to " + Narrow(std::wstring(product::BugReportAddress)) + "\n\n" + Describe());
+  report.Add("\n== What a user does\n");
+  const bool flows = flows::PlayAll(AllFlows(), [&](const std::string& line) { report.Add(line + '\n'); });
+  report.Add("\n== What only windows show: seconds, and what was not as it should be\n");
+  bool tests = false;
+  report.Add(RunTests(tests));
+  report.Add("\n== From the start of a process, in ms, to its first paint (median of " + std::to_string(Rounds) +
+             ", quickest) and to its first key (the same)\n" + MeasureStarts());
+  report.Add(std::string("\n== ") + (flows && tests ? "All passed" : "Something failed") + ", in " +
+             std::to_string((GetTickCount64() - begin) / 1000) + " s\n");
+  return flows && tests;
+}
+
+int Main(bool asks) {
+  const auto say = [asks](const std::wstring& text, UINT kind) {
+    if (!asks) std::fprintf(stderr, "%ls\n", text.c_str());
+    return asks ? MessageBoxW(nullptr, text.c_str(), L"VantorCheck", kind | MB_SETFOREGROUND) : IDOK;
+  };
+  if (FindWindowW(L"ThunderRT6Main", L"Vantor Orbel") != nullptr) {
+    say(L"Vantor is running. Please end it first (F10).", MB_ICONWARNING);
+    return 2;
+  }
+  const int answer =
+      say(L"VantorCheck now takes the keyboard, the mouse and the clipboard for some five minutes, and "
+          L"opens and closes windows. Please save your work, and touch nothing until it says that it is "
+          L"done. What it writes lies in folders of its own, which it removes.",
+          MB_OKCANCEL | MB_ICONINFORMATION);
+  if (answer != IDOK) return 2;
+  ShowWindow(GetConsoleWindow(), SW_MINIMIZE);
+  Report report;
+  const bool passed = DoEverything(report);
+  ShowWindow(GetConsoleWindow(), SW_RESTORE);
+  say(L"Done. The report is\n" + report.Path().wstring(), MB_ICONINFORMATION);
+  return passed ? 0 : 1;
+}
+
+}  // namespace
+}  // namespace vantor::check
+
+int main(int count, char** arguments) {
+  const std::vector<std::string> all(arguments + 1, arguments + count);
+  try {
+    if (!all.empty() && all[0] == "--tests") return doctest::Context(count - 1, arguments + 1).run();
+    if (!all.empty() && all[0] == "--flows") {
+      const auto tell = [](const std::string& line) { std::fprintf(stderr, "%s\n", line.c_str()); };
+      return vantor::flows::PlayAll({all.begin() + 1, all.end()}, tell) ? 0 : 1;
+    }
+    if (!all.empty() && all[0] != "--yes") return 2;
+    return vantor::check::Main(all.empty());
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "%s\n", error.what());
+    return 2;
+  }
+}
