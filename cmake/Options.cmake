@@ -1,4 +1,4 @@
-# Flags that hold for every target, and the helpers that make targets.
+# Flags that hold for every target, and the helper that makes tests.
 
 option(VANTOR_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
 option(VANTOR_FUZZ "Build only the fuzzer, which needs Clang" OFF)
@@ -31,17 +31,6 @@ endif()
 if(VANTOR_FUZZ)
   target_compile_options(vantor_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()
-
-# An empty folder makes an empty target, so that a subsystem can be begun by adding its first file.
-function(vantor_library name)
-  if(ARGN)
-    add_library(${name} STATIC ${ARGN})
-    target_link_libraries(${name} PUBLIC vantor_flags)
-  else()
-    add_library(${name} INTERFACE)
-    target_link_libraries(${name} INTERFACE vantor_flags)
-  endif()
-endfunction()
 
 # One CTest test for each source file: a failure names its file, and files can run side by side.
 # A filter that matches nothing is a failure too. A line "// desktop: OPTIONS" in a file sets options of the command that

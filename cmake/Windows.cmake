@@ -42,31 +42,18 @@ add_library(vantor_stack_guard OBJECT ${VANTOR_STACK_GUARD})
 target_link_libraries(vantor_stack_guard PRIVATE vantor_flags)
 
 set(VANTOR_WINDOWS_LIBRARIES
-    comdlg32
     gdi32
-    imm32
-    mpr
     ole32
     oleaut32
     shell32
     shlwapi
     user32
-    uuid
-    winmm)
+    uuid)
 
-vantor_library(vantor_win32 ${VANTOR_WIN32_SOURCES})
-get_target_property(kind vantor_win32 TYPE)
-if(kind STREQUAL "INTERFACE_LIBRARY")
-  set(scope INTERFACE)
-else()
-  set(scope PUBLIC)
-endif()
-target_link_libraries(vantor_win32 ${scope} vantor_core ${VANTOR_WINDOWS_LIBRARIES})
+add_library(vantor_win32 STATIC ${VANTOR_WIN32_SOURCES})
+target_link_libraries(vantor_win32 PUBLIC vantor_core ${VANTOR_WINDOWS_LIBRARIES})
 foreach(library IN ITEMS vantor_core vantor_win32)
-  get_target_property(kind ${library} TYPE)
-  if(NOT kind STREQUAL "INTERFACE_LIBRARY")
-    target_compile_options(${library} PRIVATE ${VANTOR_WHOLE_COMPILE} ${VANTOR_STACK_GUARD_COMPILE})
-  endif()
+  target_compile_options(${library} PRIVATE ${VANTOR_WHOLE_COMPILE} ${VANTOR_STACK_GUARD_COMPILE})
 endforeach()
 
 # What the resource compiler reads beside its own file.
@@ -75,12 +62,10 @@ list(APPEND resource_parts "${PROJECT_BINARY_DIR}/generated/product/Product.rc.h
      "${PROJECT_BINARY_DIR}/generated/product/Vantor.manifest")
 set_source_files_properties(${VANTOR_WIN32_RESOURCES} PROPERTIES OBJECT_DEPENDS "${resource_parts}")
 
-if(EXISTS "${VANTOR_ENTRY_POINT}")
-  add_executable(Vantor WIN32 ${VANTOR_ENTRY_POINT} ${VANTOR_WIN32_RESOURCES})
-  target_link_libraries(Vantor PRIVATE vantor_win32 vantor_stack_guard)
-  target_compile_options(Vantor PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${VANTOR_WHOLE_COMPILE}>")
-  target_link_options(Vantor PRIVATE -municode -s ${VANTOR_WHOLE_LINK})
-endif()
+add_executable(Vantor WIN32 ${VANTOR_ENTRY_POINT} ${VANTOR_WIN32_RESOURCES})
+target_link_libraries(Vantor PRIVATE vantor_win32 vantor_stack_guard)
+target_compile_options(Vantor PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${VANTOR_WHOLE_COMPILE}>")
+target_link_options(Vantor PRIVATE -municode -s ${VANTOR_WHOLE_LINK})
 
 # doctest is one header. A copy of its own keeps the host's include folder off the cross compiler's path.
 find_file(VANTOR_DOCTEST_HEADER doctest/doctest.h PATHS /usr/include /usr/local/include NO_CMAKE_FIND_ROOT_PATH REQUIRED)
@@ -97,44 +82,39 @@ if(CMAKE_HOST_UNIX)
 endif()
 
 # The same contract as natively, here with real windows behind it, and the Windows side's own tests.
-if(VANTOR_WIN32_TEST_SOURCES)
-  set(contract_test_sources ${VANTOR_CONTRACT_SOURCES} ${VANTOR_WIN32_TEST_SOURCES})
-  # With the program's resources, because its manifests decide which make of controls the windows get.
-  add_executable(contract_tests ${VANTOR_TEST_MAIN} ${contract_test_sources} ${VANTOR_WIN32_RESOURCES})
-  target_link_libraries(contract_tests PRIVATE vantor_win32 vantor_stack_guard vantor_doctest version)
-  # What the shipped file holds is looked at as well.
-  if(TARGET Vantor)
-    add_dependencies(contract_tests Vantor)
-  endif()
-  target_link_options(contract_tests PRIVATE ${VANTOR_PLAIN_LINK})
-  vantor_add_tests(
-    desktop contract_test_sources PREFIX "win32/" TIMEOUT 300
-    RUNNER ${on_desktop} COMMAND $<TARGET_FILE:contract_tests>)
-endif()
+set(contract_test_sources ${VANTOR_CONTRACT_SOURCES} ${VANTOR_WIN32_TEST_SOURCES})
+# With the program's resources, because its manifests decide which make of controls the windows get.
+add_executable(contract_tests ${VANTOR_TEST_MAIN} ${contract_test_sources} ${VANTOR_WIN32_RESOURCES})
+target_link_libraries(contract_tests PRIVATE vantor_win32 vantor_stack_guard vantor_doctest version)
+# What the shipped file holds is looked at as well.
+add_dependencies(contract_tests Vantor)
+target_link_options(contract_tests PRIVATE ${VANTOR_PLAIN_LINK})
+vantor_add_tests(
+  desktop contract_test_sources PREFIX "win32/" TIMEOUT 300
+  RUNNER ${on_desktop} COMMAND $<TARGET_FILE:contract_tests>)
 
-if(VANTOR_RECORDER_SOURCES)
-  add_executable(recorder WIN32 ${VANTOR_RECORDER_SOURCES})
-  target_link_libraries(recorder PRIVATE vantor_flags ${VANTOR_WINDOWS_LIBRARIES})
-  target_include_directories(recorder PRIVATE "${PROJECT_SOURCE_DIR}/tests")
-  target_link_options(recorder PRIVATE -municode -s)
-  # As a program of a 64-bit Windows too, which this build's compiler can't make. Only the test desktop needs it.
-  if(on_desktop)
-    set(recorder64 "${PROJECT_BINARY_DIR}/recorder64.exe")
-    add_custom_command(
-      OUTPUT "${recorder64}"
-      COMMAND "${VANTOR_MINGW64_CXX}" -std=c++20 -Os -s -static -municode -mwindows -DUNICODE -DWIN32_LEAN_AND_MEAN
-              -DNOMINMAX "-I${PROJECT_SOURCE_DIR}/tests" ${VANTOR_RECORDER_SOURCES} -o "${recorder64}"
-      DEPENDS ${VANTOR_RECORDER_SOURCES} tests/driver/Desktop.h
-      VERBATIM)
-    add_custom_target(recorder64 DEPENDS "${recorder64}")
-  endif()
+add_executable(recorder WIN32 ${VANTOR_RECORDER_SOURCES})
+target_link_libraries(recorder PRIVATE vantor_flags ${VANTOR_WINDOWS_LIBRARIES})
+target_include_directories(recorder PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+target_link_options(recorder PRIVATE -municode -s)
+# As a program of a 64-bit Windows too, which this build's compiler can't make. Only the test desktop needs it.
+if(on_desktop)
+  set(recorder64 "${PROJECT_BINARY_DIR}/recorder64.exe")
+  add_custom_command(
+    OUTPUT "${recorder64}"
+    COMMAND "${VANTOR_MINGW64_CXX}" -std=c++20 -Os -s -static -municode -mwindows -DUNICODE -DWIN32_LEAN_AND_MEAN
+            -DNOMINMAX "-I${PROJECT_SOURCE_DIR}/tests" ${VANTOR_RECORDER_SOURCES} -o "${recorder64}"
+    DEPENDS ${VANTOR_RECORDER_SOURCES} tests/driver/Desktop.h
+    VERBATIM)
+  add_custom_target(recorder64 DEPENDS "${recorder64}")
 endif()
 
 # Flows and desktop tests in one program, which a real Windows can be tried with too: tools/package makes a zip of it.
 add_executable(VantorCheck ${VANTOR_CHECK_SOURCES})
 target_link_libraries(VantorCheck PRIVATE vantor_core vantor_stack_guard vantor_doctest ${VANTOR_WINDOWS_LIBRARIES} oleacc)
 target_link_options(VantorCheck PRIVATE -s ${VANTOR_PLAIN_LINK})
-foreach(program IN ITEMS Vantor recorder recorder64 installer)
+add_dependencies(VantorCheck Vantor recorder)
+foreach(program IN ITEMS recorder64 installer)  # which are made on some machines only
   if(TARGET ${program})
     add_dependencies(VantorCheck ${program})
   endif()

@@ -87,14 +87,13 @@ void frmMain::HandleEvents() {
   messages.Connect(TextMain, TextMain.Wheel, L"Wheel", this, &frmMain::TextMain_Wheel);
   messages.Connect(TextMain, TextMain.Compose, L"Compose", this, &frmMain::TextMain_Compose);
   messages.Connect(TextMain, TextMain.DblClick, L"DblClick", this, &frmMain::EmptyTextMain);
-  TextMain.KeyDone = [this] { commandLine_.TextMain_KeyDone(); };
+  messages.Connect(TextMain, TextMain.KeyDone, L"KeyDone", this, &frmMain::TextMain_KeyDone);
   form::RowList& matches = parts_.Matches.ListMatches;
   messages.Connect(matches, matches.Click, L"Click", this, &frmMain::ListMatches_Click);
   messages.Connect(TimerOnTop.Tick, L"TimerOnTop_Timer", this, &frmMain::TimerOnTop_Timer);
   messages.Connect(TimerWatchOnTop.Tick, L"TimerWatchOnTop_Timer", this, &frmMain::TimerWatchOnTop_Timer);
   parts_.Matches.SetHost(*this);
   parts_.Matches.Place = [this](form::Size list) { return PlaceAtLine(list); };
-  parts_.Starters.Started = [this] { EmptyTextMain(); };
 }
 
 // --- loading and unloading

@@ -37,7 +37,7 @@ struct BarParts {
   const list::LaunchList& List;
   list::ListFiles& ListFiles;
   command::CommandState& CommandState;
-  command::Starters& Starters;
+  const command::Starters& Starters;
   command::frmMatches& Matches;
 };
 
@@ -77,8 +77,6 @@ class frmMain : public form::Form, public panel::MenuBar, private command::LineO
 
   /// Unfolds the add-web box with an address in it, ready for the name.
   void OfferWebSite(std::wstring_view address);
-  /// The list has changed: the line is completed by what is in it now.
-  void CompleteLine() { commandLine_.CompleteAgain(); }
 
   [[nodiscard]] form::Rect Place() const override { return Bounds(); }
   void ShowMenuFaces() override;
@@ -89,6 +87,8 @@ class frmMain : public form::Form, public panel::MenuBar, private command::LineO
   void FocusLine() override { TextMain.SetFocus(); }
   /// Goes back to an empty command line, where the bar is in sight.
   void ClearLine() override;
+  /// The line is completed by what is in the list now.
+  void ListChanged() override { commandLine_.CompleteAgain(); }
   void HotKey(form::Key key) override;
 
  protected:
@@ -123,6 +123,7 @@ class frmMain : public form::Form, public panel::MenuBar, private command::LineO
   void TextMain_Wheel(int rows) { commandLine_.TextMain_Wheel(rows); }
   void TextMain_Compose(bool composing) { commandLine_.TextMain_Compose(composing); }
   void ListMatches_Click(int row) { commandLine_.ListMatches_Click(row); }
+  void TextMain_KeyDone() { commandLine_.TextMain_KeyDone(); }
   void TextMain_Change() { commandLine_.TextMain_Change(); }
   void WatchForRestore();
   void Minimize() override { CommandMin.DoClick(); }

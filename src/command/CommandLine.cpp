@@ -102,10 +102,9 @@ void CommandLine::Enter() {
 }
 
 void CommandLine::SendMakerMail(std::size_t index) {
-  const std::wstring line = textMain_.Text();
   const std::wstring address = L"mailto:" + std::wstring(MailAddresses.at(index));
   const message::MessageKey failure = starters_.SendMailTo(address, MailSubjects.at(index), {});
-  if (failure.empty()) recall_.Started(line);
+  if (failure.empty()) recall_.Started(textMain_.Text());
   messages_.ShowListMessage(failure);
   textMain_.SetText({});
 }
@@ -139,10 +138,10 @@ void CommandLine::Dial(std::wstring_view number) {
 }
 
 void CommandLine::Start(const CommandCode& code, const std::wstring& target) {
-  const std::wstring line = textMain_.Text();  // the start empties the box
   const message::MessageKey failure = StartBy(code, target);
-  if (failure.empty()) recall_.Started(line);
-  messages_.ShowListMessage(failure);
+  if (!failure.empty()) return messages_.ShowListMessage(failure);
+  recall_.Started(textMain_.Text());
+  if (code.Starter != Starter::ControlPanel) textMain_.SetText({});
 }
 
 message::MessageKey CommandLine::StartBy(const CommandCode& code, const std::wstring& target) const {

@@ -20,6 +20,10 @@ std::wstring Quoted(std::wstring_view target) {
   return quoted += L'"';
 }
 
+message::MessageKey Outcome(bool started, message::MessageKey failure) {
+  return started ? message::MessageKey() : failure;
+}
+
 }  // namespace
 
 bool IsPlain(std::wstring_view text) {
@@ -35,7 +39,7 @@ message::MessageKey Starters::RunProgramCommand(std::wstring_view commandLine) c
 
 message::MessageKey Starters::RunProgramFile(std::wstring_view path) const {
   // No path has a double quote. What stands behind one would be taken for the program's arguments.
-  if (path.find(L'"') != path.npos) return Outcome(false, message::MessageProgramRunError);
+  if (path.find(L'"') != path.npos) return message::MessageProgramRunError;
   return RunProgramCommand(L'"' + std::wstring(path) + L'"');
 }
 
@@ -46,7 +50,7 @@ message::MessageKey Starters::RunExplorerCommand(std::wstring_view commandLine) 
 
 message::MessageKey Starters::OpenWithShell(std::wstring_view target) const {
   service::FileSystem& files = services_.FileSystem;
-  if (!IsPlain(target)) return Outcome(false, StartError);
+  if (!IsPlain(target)) return StartError;
   const bool isPath = files.FileExists(target) || files.FolderExists(target);
   return Outcome(isPath ? OpenExactly(target) : services_.ScriptShell.Run(target), StartError);
 }
@@ -64,12 +68,6 @@ bool Starters::OpenExactly(std::wstring_view target) const {
   return shell.ExpandVariables(target) == target ? shell.Run(Quoted(target)) : shell.Open(target);
 }
 
-message::MessageKey Starters::Outcome(bool started, message::MessageKey failure) const {
-  if (!started) return failure;
-  Started();
-  return {};
-}
-
 message::MessageKey Starters::SendMailTo(std::wstring_view address, std::wstring_view subject,
                                          std::wstring_view body) const {
   constexpr std::wstring_view Scheme = L"mailto:";
@@ -83,7 +81,7 @@ message::MessageKey Starters::SendMailTo(std::wstring_view address, std::wstring
   if (!std::equal(Scheme.begin(), Scheme.end(), start.begin(), start.end(), sameLetter)) link.insert(0, Scheme);
   if (!subject.empty()) link.append(L"?subject=").append(subject);
   if (!body.empty()) link.append(subject.empty() ? L"?body=" : L"&body=").append(body);
-  return IsPlain(link) && services_.Programs.ShellOpen(link) > GreatestShellError ? message::MessageKey() : StartError;
+  return Outcome(IsPlain(link) && services_.Programs.ShellOpen(link) > GreatestShellError, StartError);
 }
 
 }  // namespace vantor::command

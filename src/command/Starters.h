@@ -2,7 +2,6 @@
 
 #include <string_view>
 
-#include "form/Event.h"
 #include "message/MessageKey.h"
 #include "service/Services.h"
 
@@ -18,9 +17,6 @@ class Starters {
  public:
   explicit Starters(const service::Services& services) : services_(services) {}
 
-  /// Runs when something was started by one of those below, mails apart; the bar empties its command line then.
-  form::Event<> Started;
-
   message::MessageKey RunProgramCommand(std::wstring_view commandLine) const;
   /// Hands the path of one program to RunProgramCommand, in double quotes: where it is gone, nothing else is to run
   /// whose name a part of it is.
@@ -32,14 +28,12 @@ class Starters {
   message::MessageKey OpenWebAddress(std::wstring_view address) const;
   message::MessageKey OpenItem(std::wstring_view target) const;
 
-  /// Opens a mail to `address`, with or without "mailto:". Subject and body are appended as they are. Does not
-  /// count as started, so the command line stays.
+  /// Opens a mail to `address`, with or without "mailto:". Subject and body are appended as they are.
   [[nodiscard]] message::MessageKey SendMailTo(std::wstring_view address, std::wstring_view subject,
                                                std::wstring_view body) const;
 
  private:
   [[nodiscard]] bool OpenExactly(std::wstring_view target) const;
-  [[nodiscard]] message::MessageKey Outcome(bool started, message::MessageKey failure) const;
 
   service::Services services_;
 };

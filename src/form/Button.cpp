@@ -5,29 +5,11 @@
 
 namespace vantor::form {
 
-void CommandButton::SetCaption(std::wstring_view caption) {
-  if (caption_ == caption) return;
-  caption_ = caption;
-  NotifyWindow(Property::Caption);
-}
-
-void CommandButton::SetPicture(form::Picture picture) {
-  if (picture_ == picture) return;
-  picture_ = picture;
-  NotifyWindow(Property::Picture);
-}
-
 void CommandButton::SetPictures(form::Picture normal, form::Picture down, form::Picture disabled) {
   if (picture_ == normal && downPicture_ == down && disabledPicture_ == disabled) return;
   picture_ = normal;
   downPicture_ = down;
   disabledPicture_ = disabled;
-  NotifyWindow(Property::Picture);
-}
-
-void CommandButton::SetState(ButtonState state) {
-  if (state_ == state) return;
-  state_ = state;
   NotifyWindow(Property::Picture);
 }
 
@@ -59,23 +41,10 @@ void CommandButton::InputMouseUp(MouseButton button) {
   if (AcceptsInput()) MouseUp(button);
 }
 
-void ChoiceButton::SetCaption(std::wstring_view caption) {
-  if (caption_ == caption) return;
-  caption_ = caption;
-  NotifyWindow(Property::Caption);
-}
-
 Size ChoiceButton::LeastSize() const {
   constexpr Size Mark{420, 15};  // beside the caption, and around it
   const Size text = TextSize(caption_);
   return {text.Width + Mark.Width, text.Height + Mark.Height};
-}
-
-bool ChoiceButton::ChangeValue(bool value) {
-  if (value_ == value) return false;
-  value_ = value;
-  NotifyWindow(Property::Value);
-  return true;
 }
 
 void CheckBox::SetValue(bool value) {

@@ -21,7 +21,7 @@ class CommandButton : public Control {
 
   /// The word on the button, over its picture; also over that of the disabled button.
   [[nodiscard]] const std::wstring& Caption() const { return caption_; }
-  void SetCaption(std::wstring_view caption);
+  void SetCaption(std::wstring_view caption) { Update(caption_, caption, Property::Caption); }
 
   /// The pictures of the button's states. Without any the system's own button is shown. A button with both a drawing
   /// and a caption has the caption below the drawing, in small letters.
@@ -30,7 +30,7 @@ class CommandButton : public Control {
   [[nodiscard]] form::Picture Picture() const { return picture_; }
   [[nodiscard]] form::Picture DownPicture() const { return downPicture_; }
   [[nodiscard]] form::Picture DisabledPicture() const { return disabledPicture_; }
-  void SetPicture(form::Picture picture);
+  void SetPicture(form::Picture picture) { Update(picture_, picture, Property::Picture); }
   void SetPictures(form::Picture normal, form::Picture down, form::Picture disabled);
 
   /// Where the drawn face begins inside the bounds. The button can be clicked in all of them.
@@ -39,7 +39,7 @@ class CommandButton : public Control {
 
   /// What the button says of what it opened; shown on its face and told to screen readers.
   [[nodiscard]] ButtonState State() const { return state_; }
-  void SetState(ButtonState state);
+  void SetState(ButtonState state) { Update(state_, state, Property::Picture); }
 
   /// Does what a click by the user does, also on a hidden button; a disabled button does nothing.
   void DoClick();
@@ -70,7 +70,7 @@ class CommandButton : public Control {
 class ChoiceButton : public Control {
  public:
   [[nodiscard]] const std::wstring& Caption() const { return caption_; }
-  void SetCaption(std::wstring_view caption);
+  void SetCaption(std::wstring_view caption) { Update(caption_, caption, Property::Caption); }
   [[nodiscard]] bool Value() const { return value_; }
   virtual void SetValue(bool value) = 0;
 
@@ -82,7 +82,7 @@ class ChoiceButton : public Control {
   using Control::Control;
 
   /// Whether the value was another one.
-  bool ChangeValue(bool value);
+  bool ChangeValue(bool value) { return Update(value_, value, Property::Value); }
 
  private:
   std::wstring caption_;

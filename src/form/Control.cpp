@@ -16,12 +16,6 @@ Control::Control(Control& container, std::wstring_view name) : Control(container
 
 Control::~Control() { form_.RemoveControl(*this); }
 
-void Control::SetBounds(const Rect& bounds) {
-  if (bounds_ == bounds) return;
-  bounds_ = bounds;
-  NotifyWindow(Property::Bounds);
-}
-
 void Control::SetVisible(bool visible) {
   if (visible_ == visible) return;
   visible_ = visible;
@@ -45,33 +39,9 @@ bool Control::IsReachable() const {
 
 bool Control::AcceptsInput() const { return IsReachable() && form_.AcceptsInput(); }
 
-void Control::SetBackColor(Color color) {
-  if (backColor_ == color) return;
-  backColor_ = color;
-  NotifyWindow(Property::Colors);
-}
-
-void Control::SetForeColor(Color color) {
-  if (foreColor_ == color) return;
-  foreColor_ = color;
-  NotifyWindow(Property::Colors);
-}
-
-void Control::SetToolTip(std::wstring_view text) {
-  if (toolTip_ == text) return;
-  toolTip_ = text;
-  NotifyWindow(Property::ToolTip);
-}
-
 std::wstring Control::AccessibleName() const {
   if (!accessibleName_.empty()) return accessibleName_;
   return toolTip_.substr(0, toolTip_.find(L"---"));
-}
-
-void Control::SetAccessibleName(std::wstring_view name) {
-  if (accessibleName_ == name) return;
-  accessibleName_ = name;
-  NotifyWindow(Property::ToolTip);
 }
 
 void Control::SetFocus() {

@@ -100,7 +100,7 @@ class Control {
 
   /// Place and size in twips, relative to the container.
   [[nodiscard]] const Rect& Bounds() const { return bounds_; }
-  void SetBounds(const Rect& bounds);
+  void SetBounds(const Rect& bounds) { Update(bounds_, bounds, Property::Bounds); }
   [[nodiscard]] Twips Left() const { return bounds_.Left; }
   [[nodiscard]] Twips Top() const { return bounds_.Top; }
   [[nodiscard]] Twips Width() const { return bounds_.Width; }
@@ -122,15 +122,15 @@ class Control {
   [[nodiscard]] bool AcceptsInput() const;
 
   [[nodiscard]] Color BackColor() const { return backColor_; }
-  void SetBackColor(Color color);
+  void SetBackColor(Color color) { Update(backColor_, color, Property::Colors); }
   [[nodiscard]] Color ForeColor() const { return foreColor_; }
-  void SetForeColor(Color color);
+  void SetForeColor(Color color) { Update(foreColor_, color, Property::Colors); }
 
   [[nodiscard]] const std::wstring& ToolTip() const { return toolTip_; }
-  void SetToolTip(std::wstring_view text);
+  void SetToolTip(std::wstring_view text) { Update(toolTip_, text, Property::ToolTip); }
   /// What a screen reader calls the control: the name set, else the tool tip's text before "---".
   [[nodiscard]] std::wstring AccessibleName() const;
-  void SetAccessibleName(std::wstring_view name);
+  void SetAccessibleName(std::wstring_view name) { Update(accessibleName_, name, Property::ToolTip); }
 
   /// Place in the order in which Tab walks; 0 comes first. Starts as the order of construction.
   [[nodiscard]] int TabIndex() const { return tabIndex_; }
@@ -161,6 +161,14 @@ class Control {
 
  protected:
   void NotifyWindow(Property property) const;
+  /// Sets a member, and tells the window if it had another value. Returns whether it had.
+  template <class Member, class Value>
+  bool Update(Member& member, const Value& value, Property property) {
+    if (member == value) return false;
+    member = value;
+    NotifyWindow(property);
+    return true;
+  }
   /// For kinds that only show something.
   void TakeNoFocus() { focusable_ = tabStop_ = false; }
   /// The size of a text in the user's font, with its lines broken only where it says.

@@ -32,6 +32,10 @@ void Form::Unload() {
   TakeWindowAway();
 }
 
+void Form::NotifyWindow(Property property) const {
+  if (window_ != nullptr) window_->Changed(property);
+}
+
 void Form::TakeWindowAway() {
   for (Control* control : controls_) control->AttachWindow(nullptr);
   if (window_ != nullptr) ui_.Discard(std::move(window_));
@@ -44,7 +48,7 @@ void Form::Show() {
   if (!visible_) {
     visible_ = true;
     if (activeControl_ == nullptr) MoveFocus(false);
-    if (window_ != nullptr) window_->Changed(Property::Visible);
+    NotifyWindow(Property::Visible);
   }
   Activate();
 }
@@ -71,7 +75,7 @@ void Form::Hide() {
   LeaveModal();
   HideHanging();
   visible_ = false;
-  if (window_ != nullptr) window_->Changed(Property::Visible);
+  NotifyWindow(Property::Visible);
 }
 
 void Form::HideHanging() {
@@ -93,13 +97,13 @@ bool Form::AcceptsInput() const {
 void Form::SetCaption(std::wstring_view caption) {
   if (caption_ == caption) return;
   caption_ = caption;
-  if (window_ != nullptr) window_->Changed(Property::Caption);
+  NotifyWindow(Property::Caption);
 }
 
 void Form::SetBackColor(Color color) {
   if (backColor_ == color) return;
   backColor_ = color;
-  if (window_ != nullptr) window_->Changed(Property::Colors);
+  NotifyWindow(Property::Colors);
 }
 
 void Form::MoveTo(Twips left, Twips top) { SetPlace(left, top, inside_); }
@@ -112,7 +116,7 @@ void Form::SetPlace(Twips left, Twips top, Size inside) {
   bounds_.Top = top;
   inside_ = inside;
   Fit();
-  if (window_ != nullptr) window_->Changed(Property::Bounds);
+  NotifyWindow(Property::Bounds);
 }
 
 Size Form::RoomNeeded() const {
@@ -134,14 +138,14 @@ void Form::Fit() {
   scale_ = scale;
   bounds_.Width = static_cast<Twips>(inside_.Width * scale);
   bounds_.Height = static_cast<Twips>(inside_.Height * scale);
-  if (changed && window_ != nullptr) window_->Changed(Property::Bounds);
+  if (changed) NotifyWindow(Property::Bounds);
 }
 
 void Form::SetWindowState(form::WindowState state) {
   if (windowState_ == state) return;
   HideHanging();
   windowState_ = state;
-  if (window_ != nullptr) window_->Changed(Property::Value);
+  NotifyWindow(Property::Value);
 }
 
 void Form::SetTopMost(bool topMost) {

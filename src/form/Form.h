@@ -176,6 +176,7 @@ class Form {
  private:
   friend class Control;
   friend class UserInterface;
+  void NotifyWindow(Property property) const;
   void TakeWindowAway();
   void AddControl(Control& control);
   void RemoveControl(Control& control);

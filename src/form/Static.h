@@ -18,12 +18,12 @@ class Label : public Control {
   }
 
   [[nodiscard]] const std::wstring& Caption() const { return caption_; }
-  void SetCaption(std::wstring_view caption);
+  void SetCaption(std::wstring_view caption) { Update(caption_, caption, Property::Caption); }
   /// The container shows through instead of BackColor.
   [[nodiscard]] bool Transparent() const { return transparent_; }
-  void SetTransparent(bool transparent);
+  void SetTransparent(bool transparent) { Update(transparent_, transparent, Property::Colors); }
   [[nodiscard]] bool Bold() const { return bold_; }
-  void SetBold(bool bold);
+  void SetBold(bool bold) { Update(bold_, bold, Property::Caption); }
   /// A text that is too long ends in an ellipsis instead of being broken.
   [[nodiscard]] bool OneLine() const { return oneLine_; }
   void SetOneLine(bool oneLine) { oneLine_ = oneLine; }  // before the form is shown
@@ -47,9 +47,9 @@ class Frame : public Control {
   }
 
   [[nodiscard]] const std::wstring& Caption() const { return caption_; }
-  void SetCaption(std::wstring_view caption);
+  void SetCaption(std::wstring_view caption) { Update(caption_, caption, Property::Caption); }
   [[nodiscard]] bool Border() const { return border_; }
-  void SetBorder(bool border);
+  void SetBorder(bool border) { Update(border_, border, Property::Caption); }
   /// Leaves the border's edge out, and puts its caption so far from the left and the top.
   [[nodiscard]] const std::optional<Margins>& CaptionAlone() const { return captionAlone_; }
   void SetCaptionAlone(Twips left, Twips top) { captionAlone_ = Margins{left, top}; }
@@ -74,7 +74,7 @@ class Frame : public Control {
 class PictureControl : public Control {
  public:
   [[nodiscard]] form::Picture Picture() const { return picture_; }
-  void SetPicture(form::Picture picture);
+  void SetPicture(form::Picture picture) { Update(picture_, picture, Property::Picture); }
 
   void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
 

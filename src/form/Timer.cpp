@@ -1,6 +1,7 @@
 #include "form/Timer.h"
 
 #include "form/Form.h"
+#include "form/Scoped.h"
 #include "form/UserInterface.h"
 
 namespace vantor::form {
@@ -22,14 +23,8 @@ void Timer::SetEnabled(bool enabled) {
 void Timer::InputTick() {
   // A handler that shows a modal form lets time pass meanwhile.
   if (!enabled_ || ticking_) return;
-  ticking_ = true;
-  try {
-    Tick();
-  } catch (...) {
-    ticking_ = false;
-    throw;
-  }
-  ticking_ = false;
+  const Scoped ticking(ticking_, true);
+  Tick();
 }
 
 }  // namespace vantor::form

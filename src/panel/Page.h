@@ -36,8 +36,6 @@ class Page : public Panel {
   [[nodiscard]] virtual form::Control* First() { return nullptr; }
 
   void Open() override;
-
- protected:
   /// The page has another size now: places everything again and fits the form to it, if it is the page that is shown.
   void Arrange();
 

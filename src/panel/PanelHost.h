@@ -23,6 +23,8 @@ class PanelHost {
   virtual void ClosePanel() = 0;
   /// Goes back to an empty command line without closing the panel, where the bar is in sight.
   virtual void ClearLine() = 0;
+  /// An item of the launch list was removed, or has another name.
+  virtual void ListChanged() = 0;
   /// Does what a function key does on the bar. Other keys do nothing.
   virtual void HotKey(form::Key key) = 0;
   /// Moves a panel's window to where it stands best beside the bar.

@@ -23,6 +23,7 @@ class MenuBar {
   virtual void ResumeOnTop() = 0;
   virtual void FocusLine() = 0;
   virtual void ClearLine() = 0;
+  virtual void ListChanged() = 0;
   virtual void HotKey(form::Key key) = 0;
 
  protected:
@@ -54,6 +55,7 @@ class PanelSwitch final : public PanelHost {
   void OpenPanel(std::size_t index) override;
   void ClosePanel() override;
   void ClearLine() override { bar_->ClearLine(); }
+  void ListChanged() override { bar_->ListChanged(); }
   void HotKey(form::Key key) override { bar_->HotKey(key); }
   void PlaceByBar(form::Form& window) const override;
 

@@ -8,7 +8,6 @@ namespace vantor::start {
 Program::Program(form::UserInterface& ui, const service::Services& services) : Ui(ui), Services(services) {
   frmMain.AcceptDrops(*this);
   frmBrowse.AcceptDrops(*this);
-  ListPage.Changed = [this] { frmMain.CompleteLine(); };
 }
 
 void Program::Main() {

@@ -4,8 +4,8 @@
 #include <doctest/doctest.h>
 
 #include "TestFolder.h"
-#include "win32/base/CommandLine.h"
 #include "win32/base/Handle.h"
+#include "win32/base/ProgramCommand.h"
 #include "win32/service/DataFiles.h"
 #include "win32/service/Programs.h"
 #include "win32/service/ScriptShell.h"
@@ -61,7 +61,7 @@ TEST_CASE("what can't be started is told, and nothing is started in its place") 
   const std::wstring planted = System({}, {}).ProgramFolder() + L"\\vantor-planted.exe";
   REQUIRE(CopyFileW(L"C:\\windows\\system32\\attrib.exe", planted.c_str(), FALSE) != FALSE);
   CHECK_FALSE(starts.Plain.StartCommandLine(L"vantor-planted"));
-  CHECK(SplitCommandLine(planted.substr(0, planted.size() - 4)).Path == planted);
+  CHECK(ParseProgramCommand(planted.substr(0, planted.size() - 4)).Path == planted);
   DeleteFileW(planted.c_str());
   for (const std::wstring& line :
        {std::wstring(), std::wstring(L"nosuchprogram x y"), std::wstring(L"nosuch:address"), text, starts.Folder.Path,
@@ -84,7 +84,7 @@ TEST_CASE("a command line is parted where Windows would") {
                                {L"\"open", L"open", L""},
                                {L"", L"", L""}};
   for (const auto& [line, program, arguments] : lines) {
-    const CommandLine parts = SplitCommandLine(line);
+    const ProgramCommand parts = ParseProgramCommand(line);
     CHECK(parts.Program == program);
     CHECK(parts.Arguments == arguments);
   }

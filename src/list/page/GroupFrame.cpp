@@ -27,9 +27,9 @@ std::wstring ControlName(std::wstring_view kind, std::wstring_view code, std::ws
 
 }  // namespace
 
-GroupFrame::GroupFrame(form::Control& page, LaunchGroup group, const GroupTexts& texts,
+GroupFrame::GroupFrame(panel::Page& page, LaunchGroup group, const GroupTexts& texts,
                        const panel::PanelContext& context)
-    : Frame(page, std::wstring(L"Frame").append(texts.Code).append(L"List")),
+    : Frame(page.Frame, std::wstring(L"Frame").append(texts.Code).append(L"List")),
       LabelName(Frame, ControlName(L"Label", texts.Code, L"Name")),
       Name(Frame, ControlName(L"Combo", texts.Code, L"Name")),
       LabelPath(Frame, ControlName(L"Label", texts.Code, L"Path")),
@@ -42,6 +42,7 @@ GroupFrame::GroupFrame(form::Control& page, LaunchGroup group, const GroupTexts&
       TextRename(FrameRename, ControlName(L"Text", texts.Code, L"Rename")),
       RenOK(FrameRename, ControlName(L"Command", texts.Code, L"RenOK")),
       RenCancel(FrameRename, ControlName(L"Command", texts.Code, L"RenCancel")),
+      page_(page),
       context_(context),
       group_(group) {
   Dress(texts);
@@ -165,7 +166,7 @@ void GroupFrame::Rename_Click() {
 void GroupFrame::ShowRename(bool visible) {
   Rename.SetState(visible ? form::ButtonState::Pressed : form::ButtonState::Plain);
   FrameRename.SetVisible(visible);
-  Resized();
+  page_.Arrange();
 }
 
 void GroupFrame::TextRename_Change() {
@@ -189,7 +190,7 @@ void GroupFrame::RenOK_Click() {
   }
   Name.SetList(Name.ListIndex(), newName);
   RenCancel_Click();
-  Changed();
+  context_.Host.ListChanged();
 }
 
 void GroupFrame::RenCancel_Click() {
@@ -205,7 +206,7 @@ void GroupFrame::Remove_Click() {
   if (Path.ListCount() > 0) Path.SetListIndex(0);
   EnableByCount();
   Name.SetFocus();  // not the button, which another key press would remove the next item by
-  Changed();
+  context_.Host.ListChanged();
 }
 
 }  // namespace vantor::list

@@ -7,6 +7,7 @@
 #include "form/Static.h"
 #include "form/TextBox.h"
 #include "list/LaunchList.h"
+#include "panel/Page.h"
 #include "panel/PanelContext.h"
 
 namespace vantor::list {
@@ -22,12 +23,7 @@ struct GroupTexts {
 /// One group on the list page: its two boxes and what can be done with the entry that is selected in both.
 class GroupFrame {
  public:
-  GroupFrame(form::Control& page, LaunchGroup group, const GroupTexts& texts, const panel::PanelContext& context);
-
-  /// An item was removed, or has another name.
-  form::Event<> Changed;
-  /// The frame's height has changed: the page has to be laid out again.
-  form::Event<> Resized;
+  GroupFrame(panel::Page& page, LaunchGroup group, const GroupTexts& texts, const panel::PanelContext& context);
 
   form::Frame Frame;
   form::Label LabelName;
@@ -69,6 +65,7 @@ class GroupFrame {
   void ShowRename(bool visible);
   void EnableByCount();
 
+  panel::Page& page_;
   panel::PanelContext context_;
   LaunchGroup group_;
 };

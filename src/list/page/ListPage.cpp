@@ -17,31 +17,12 @@ constexpr Twips GroupWidth = 5580;  // two beside each other fit a screen of 800
 
 ListPage::ListPage(panel::frmChoose& form, const panel::PanelContext& context, ListFiles& files)
     : Page(form, panel::menu::List, {L"FrameList", {}, L"List", L"Cancel"}),
-      Prog(Frame, LaunchGroup::Prog, {L"Prog", L"Program List :", L"Program", L"New Name :"}, context),
-      File(Frame, LaunchGroup::File, {L"File", L"File List :", L"File", L"New Name:"}, context),
-      Fold(Frame, LaunchGroup::Fold, {L"Fold", L"Folder List :", L"Folder", L"New Name :"}, context),
-      Web(Frame, LaunchGroup::Web, {L"Web", L"Web URL List :", L"Web URL", L"New Name :"}, context),
+      Prog(*this, LaunchGroup::Prog, {L"Prog", L"Program List :", L"Program", L"New Name :"}, context),
+      File(*this, LaunchGroup::File, {L"File", L"File List :", L"File", L"New Name:"}, context),
+      Fold(*this, LaunchGroup::Fold, {L"Fold", L"Folder List :", L"Folder", L"New Name :"}, context),
+      Web(*this, LaunchGroup::Web, {L"Web", L"Web URL List :", L"Web URL", L"New Name :"}, context),
       context_(context),
-      files_(files) {
-  for (const LaunchGroup group : LaunchGroups) {
-    Of(group).Changed = [this] { Changed(); };
-    Of(group).Resized = [this] { Arrange(); };
-  }
-}
-
-GroupFrame& ListPage::Of(LaunchGroup group) {
-  switch (group) {
-    case LaunchGroup::File:
-      return File;
-    case LaunchGroup::Fold:
-      return Fold;
-    case LaunchGroup::Prog:
-      return Prog;
-    case LaunchGroup::Web:
-      break;
-  }
-  return Web;
-}
+      files_(files) {}
 
 message::MessageKey ListPage::Refusal() {
   const int items = Prog.Name.ListCount() + File.Name.ListCount() + Fold.Name.ListCount() + Web.Name.ListCount();
@@ -66,7 +47,7 @@ form::Size ListPage::LayOut() {
 }
 
 void ListPage::Prepare() {
-  for (const LaunchGroup group : LaunchGroups) Of(group).Prepare();
+  for (GroupFrame* group : {&File, &Fold, &Prog, &Web}) group->Prepare();
 }
 
 form::Control* ListPage::First() {

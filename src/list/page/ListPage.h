@@ -32,11 +32,6 @@ class ListPage : public panel::Page {
                   {ComboListProgName, ComboListProgPath},
                   {ComboListWebName, ComboListWebPath}};
 
-  /// An item was removed, or has another name.
-  form::Event<> Changed;
-
-  [[nodiscard]] GroupFrame& Of(LaunchGroup group);
-
   /// There must be something in the list.
   [[nodiscard]] message::MessageKey Refusal() override;
   void Load() override;

@@ -2,21 +2,14 @@
 
 #include <windows.h>
 
-#include <memory>
 #include <stdexcept>
 
 #include "text/Numbers.h"
-#include "win32/base/Com.h"
+#include "win32/base/ManagementService.h"
 
 namespace vantor::win32 {
 
 namespace {
-
-/// What is found out; the asker may have left by then.
-struct Question {
-  std::optional<service::DiskIdentity> Answer;
-  bool Refused = false;
-};
 
 LateBound SystemDisk() {
   ComPointer<IDispatch> disk;
@@ -37,23 +30,12 @@ std::optional<service::DiskIdentity> AskService() {
   return service::DiskIdentity{*type, *serial, *bytes};
 }
 
-void Ask(Question& question) noexcept {
-  try {
-    Apartment apartment(COINIT_MULTITHREADED);
-    apartment.Enter();
-    question.Answer = AskService();
-  } catch (...) {
-    question.Refused = true;
-  }
-}
-
 }  // namespace
 
 std::optional<service::DiskIdentity> Management::ReadDiskIdentity() {
-  const auto question = std::make_shared<Question>();
-  if (!timedWork_.Run([question] { Ask(*question); })) return std::nullopt;
-  if (question->Refused) throw std::runtime_error("the identity of disk C: can't be read");
-  return question->Answer;
+  const auto answer = AskManagementService(timedWork_, AskService);
+  if (answer.Failed) throw std::runtime_error("the identity of disk C: can't be read");
+  return answer.Found.value_or(std::nullopt);
 }
 
 }  // namespace vantor::win32

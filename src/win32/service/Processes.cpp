@@ -7,10 +7,9 @@
 #include <tlhelp32.h>
 
 #include <bit>
-#include <memory>
 #include <utility>
 
-#include "win32/base/Com.h"
+#include "win32/base/ManagementService.h"
 #include "win32/base/TrueSystemFolder.h"
 #include "win32/service/ProcessImage.h"
 
@@ -31,10 +30,6 @@ bool Fill(Call call, service::SnapshotId snapshot, service::ProcessEntry& entry)
   if (filled) entry = std::bit_cast<service::ProcessEntry>(record);
   return filled;
 }
-
-struct Question {
-  std::optional<std::vector<service::ManagedProcess>> Answer;
-};
 
 std::vector<service::ManagedProcess> AskService() {
   ComPointer<IDispatch> services;
@@ -61,16 +56,6 @@ std::vector<service::ManagedProcess> AskService() {
   }
 }
 
-void Ask(Question& question) noexcept {
-  try {
-    Apartment apartment(COINIT_MULTITHREADED);
-    apartment.Enter();
-    question.Answer = AskService();
-  } catch (...) {
-    question.Answer.reset();
-  }
-}
-
 }  // namespace
 
 service::SnapshotId Processes::CreateSnapshot(std::uint32_t flags, std::uint32_t processId) {
@@ -88,9 +73,7 @@ bool Processes::Next(service::SnapshotId snapshot, service::ProcessEntry& entry)
 void Processes::CloseSnapshot(service::SnapshotId snapshot) { CloseHandle(HandleOf(snapshot)); }
 
 std::optional<std::vector<service::ManagedProcess>> Processes::ManagedProcesses() {
-  const auto question = std::make_shared<Question>();
-  if (!timedWork_.Run([question] { Ask(*question); })) return std::nullopt;
-  return std::move(question->Answer);
+  return AskManagementService(timedWork_, AskService).Found;
 }
 
 std::wstring Processes::ImageName(std::uint32_t processId) { return KnownPath(win32::ImageName(processId)); }

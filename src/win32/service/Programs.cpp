@@ -7,12 +7,13 @@
 #include <string>
 #include <utility>
 
-#include "win32/base/CommandLine.h"
 #include "win32/base/Handle.h"
 #include "win32/base/LongPath.h"
+#include "win32/base/ProgramCommand.h"
 #include "win32/base/ShellFunction.h"
 #include "win32/base/SystemLibrary.h"
 #include "win32/base/TrueSystemFolder.h"
+#include "win32/service/Language.h"
 
 namespace vantor::win32 {
 
@@ -42,21 +43,13 @@ DWORD Start(const std::wstring& program, std::wstring commandLine) {
   return ERROR_SUCCESS;
 }
 
-std::string Ansi(std::wstring_view text) {
-  std::string bytes(text.size() * 3 + 1, '\0');
-  const int size = WideCharToMultiByte(CP_ACP, 0, text.data(), static_cast<int>(text.size()), bytes.data(),
-                                       static_cast<int>(bytes.size()), nullptr, nullptr);
-  bytes.resize(static_cast<std::size_t>(size));
-  return bytes;
-}
-
 }  // namespace
 
 bool Programs::StartCommandLine(std::wstring_view commandLine) {
   if (commandLine.empty() || commandLine.size() > LongestCommandLine) return false;
   // Named to Windows by its full path: a bare name would be looked for beside this program and in the current folder
   // before the system's own.
-  const CommandLine parts = SplitCommandLine(commandLine);
+  const ProgramCommand parts = ParseProgramCommand(commandLine);
   if (parts.Path.empty()) return false;
   std::wstring text(commandLine);
   const bool blankInName = parts.Program == text && text.find(L' ') != std::wstring::npos;
@@ -80,13 +73,17 @@ int Programs::ShellOpen(std::wstring_view file) {
 
 int Programs::RequestMakeCall(std::wstring_view number, std::wstring_view applicationName) {
   constexpr LONG NoRequestRecipient = -2;  // TAPIERR_NOREQUESTRECIPIENT
+  constexpr LONG InvalidAddress = -4;      // TAPIERR_INVALDESTADDRESS
   using MakeCall = LONG(WINAPI*)(LPCSTR address, LPCSTR application, LPCSTR calledParty, LPCSTR comment);
 
   const LibraryHandle telephony(LoadSystemLibrary(L"TAPI32.DLL"));
   if (!telephony) return NoRequestRecipient;
   const auto makeCall = FindFunction<MakeCall>(telephony.Get(), "tapiRequestMakeCall");
   if (makeCall == nullptr) return NoRequestRecipient;
-  return makeCall(Ansi(number).c_str(), Ansi(applicationName).c_str(), "", "");
+  const Language language;
+  const auto address = language.ToCodePage(number);
+  if (!address) return InvalidAddress;
+  return makeCall(address->c_str(), language.ToCodePage(applicationName).value_or("").c_str(), "", "");
 }
 
 }  // namespace vantor::win32

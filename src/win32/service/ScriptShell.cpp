@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include "win32/base/CommandLine.h"
+#include "win32/base/ProgramCommand.h"
 #include "win32/base/ShellFunction.h"
 #include "win32/service/Language.h"
 #include "win32/service/RegistryValue.h"
@@ -17,12 +17,12 @@ constexpr short NormalWindow = 1;
 
 /// The file that a command line begins with, its variables replaced.
 std::wstring FileIn(std::wstring_view commandLine) {
-  const CommandLine parts = SplitCommandLine(commandLine);
+  const ProgramCommand parts = ParseProgramCommand(commandLine);
   return parts.Path.empty() ? parts.Program : parts.Path;
 }
 
 bool PlainRun(std::wstring_view target) {
-  const CommandLine parts = SplitCommandLine(target);
+  const ProgramCommand parts = ParseProgramCommand(target);
   return OpenByShell(parts.Path.empty() ? parts.Program : parts.Path, parts.Arguments);
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "form/Keys.h"
+#include "form/Scoped.h"
 
 namespace vantor::win32 {
 
@@ -55,10 +56,8 @@ HBRUSH ChoiceWindow::OnColor(HDC dc) {
 LRESULT ChoiceWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_SETFOCUS: {
-      focusing_ = true;
-      const LRESULT result = ControlWindow::OnMessage(message, wParam, lParam);
-      focusing_ = false;
-      return result;
+      const form::Scoped focusing(focusing_, true);
+      return ControlWindow::OnMessage(message, wParam, lParam);
     }
     case WM_LBUTTONDBLCLK:
       message = WM_LBUTTONDOWN;  // a second click like the first

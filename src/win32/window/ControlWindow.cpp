@@ -243,18 +243,6 @@ void ControlWindow::Announce(DWORD event) const { NotifyWinEvent(event, handle_,
 
 void ControlWindow::Redraw() const { InvalidateRect(handle_, nullptr, TRUE); }
 
-void ControlWindow::PaintWindow() {
-  PAINTSTRUCT paint;
-  const HDC dc = BeginPaint(handle_, &paint);
-  const SIZE size = ClientSize();
-  if (size.cx > 0 && size.cy > 0) {
-    Canvas canvas(size.cx, size.cy);
-    Paint(canvas);
-    canvas.Show(dc);
-  }
-  EndPaint(handle_, &paint);
-}
-
 COLORREF ControlWindow::BackgroundColor() const {
   for (const form::Control* control = &control_; control != nullptr; control = control->Container()) {
     // A face that nobody chose takes on what it stands on.

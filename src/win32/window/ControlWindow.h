@@ -91,8 +91,6 @@ class ControlWindow : public form::ControlWindow {
   virtual void ApplyBounds();
   /// The control's bounds in pixels: x, y, width and height.
   [[nodiscard]] RECT BoundsInPixels() const;
-  /// Draws a window that does not draw itself.
-  virtual void Paint(Canvas& /*canvas*/) {}
 
   [[nodiscard]] bool Retired() const { return owner_.Retired(); }
   [[nodiscard]] const win32::Theme& Theme() const;
@@ -107,8 +105,6 @@ class ControlWindow : public form::ControlWindow {
   /// Tells screen readers that something about the window has changed that the system doesn't see.
   void Announce(DWORD event) const;
   void Redraw() const;
-  /// Paints all of the window by Paint.
-  void PaintWindow();
   /// The colour of the control, or of what it stands on.
   [[nodiscard]] COLORREF BackgroundColor() const;
   /// The colour of the window's edge, which tells whether it has the focus.

@@ -9,6 +9,7 @@
 #include <string>
 #include <utility>
 
+#include "form/Scoped.h"
 #include "win32/draw/Pictures.h"
 #include "win32/draw/Text.h"
 
@@ -72,17 +73,15 @@ void EditWindow::Show(form::Property property) {
 }
 
 void EditWindow::ShowText() {
-  showing_ = true;
+  const form::Scoped showing(showing_, true);
   edited_ = false;
   SetWindowTextW(Hwnd(), box_.Text().c_str());
-  showing_ = false;
 }
 
 void EditWindow::ShowSelection() {
-  showing_ = true;
+  const form::Scoped showing(showing_, true);
   SendMessageW(Hwnd(), EM_SETSEL, static_cast<WPARAM>(box_.SelStart()), box_.SelStart() + box_.SelLength());
   SendMessageW(Hwnd(), EM_SCROLLCARET, 0, 0);
-  showing_ = false;
   Announce(EVENT_OBJECT_TEXTSELECTIONCHANGED);  // a completion, say
 }
 
@@ -92,15 +91,11 @@ void EditWindow::OnCommand(WORD notification) {
 }
 
 LRESULT EditWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-  ++depth_;
   LRESULT result = 0;
-  try {
+  {
+    const form::Scoped deeper(depth_, depth_ + 1);
     result = Process(message, wParam, lParam);
-  } catch (...) {
-    --depth_;
-    throw;
   }
-  --depth_;
   if (depth_ > 0 || showing_ || Retired()) return result;
   if (edited_ || MaySelect(message)) Report();
   if ((message == WM_CHAR || message == WM_KEYDOWN) && !Retired()) box_.InputKeyDone();

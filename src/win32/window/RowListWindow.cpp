@@ -19,7 +19,7 @@ constexpr UINT StartRowMessage = WM_APP + 1;
 }  // namespace
 
 RowListWindow::RowListWindow(FormWindow& owner, form::RowList& list)
-    : ControlWindow(owner, list, {L"STATIC", SS_NOTIFY | WS_VSCROLL, {}, true}), list_(list) {}
+    : PaintedWindow(owner, list, {L"STATIC", SS_NOTIFY | WS_VSCROLL, {}, true}), list_(list) {}
 
 void RowListWindow::Refresh() {
   ControlWindow::Refresh();
@@ -94,9 +94,7 @@ int RowListWindow::RowAt(LPARAM point) const {
   return -1;
 }
 
-void RowListWindow::PaintRows() {
-  PAINTSTRUCT paint;
-  const HDC dc = BeginPaint(Hwnd(), &paint);
+void RowListWindow::PaintOn(HDC dc) {
   const COLORREF ground = BackgroundColor();
   for (int place = 0; place < static_cast<int>(shown_.size()); ++place) {
     const RECT area = AreaOf(place);
@@ -110,7 +108,6 @@ void RowListWindow::PaintRows() {
   const SIZE size = ClientSize();
   const RECT rest{0, AreaOf(static_cast<int>(shown_.size())).top, size.cx, size.cy};
   FillRect(dc, &rest, Theme().Brush(ground));
-  EndPaint(Hwnd(), &paint);
 }
 
 /// Readers follow the row that is walked to, while the keyboard stays with the line.
@@ -193,11 +190,6 @@ void RowListWindow::OnScroll(WORD what) {
 
 LRESULT RowListWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
-    case WM_PAINT:
-      PaintRows();
-      return 0;
-    case WM_ERASEBKGND:
-      return 1;
     case WM_SIZE:
       // The rows are cut elsewhere.
       if (std::exchange(width_, LOWORD(lParam)) != LOWORD(lParam)) Redraw();
@@ -234,7 +226,7 @@ LRESULT RowListWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     default:
       break;
   }
-  return ControlWindow::OnMessage(message, wParam, lParam);
+  return PaintedWindow::OnMessage(message, wParam, lParam);
 }
 
 }  // namespace vantor::win32

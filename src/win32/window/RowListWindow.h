@@ -5,13 +5,13 @@
 #include "form/RowList.h"
 #include "win32/draw/Rows.h"
 #include "win32/window/AccessibleState.h"
-#include "win32/window/ControlWindow.h"
+#include "win32/window/PaintedWindow.h"
 #include "win32/window/Wheel.h"
 
 namespace vantor::win32 {
 
 /// A list of drawn rows. It remembers the rows that it shows, so that only those that changed are painted.
-class RowListWindow final : public ControlWindow {
+class RowListWindow final : public PaintedWindow {
  public:
   RowListWindow(FormWindow& owner, form::RowList& list);
 
@@ -29,6 +29,7 @@ class RowListWindow final : public ControlWindow {
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   void Show(form::Property property) override;
   void ApplyBounds() override;
+  void PaintOn(HDC dc) override;
 
  private:
   struct ShownRow {
@@ -45,7 +46,6 @@ class RowListWindow final : public ControlWindow {
   [[nodiscard]] RECT AreaOf(int place) const;
   /// The row under a point of the window; -1 for none.
   [[nodiscard]] int RowAt(LPARAM point) const;
-  void PaintRows();
   void SayCurrent() const;
   void OnMove(LPARAM point);
   void SetHot(int row);

@@ -49,11 +49,6 @@ void PictureWindow::Describe(AccessibleState& state) const {
 
 LRESULT StaticWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
-    case WM_PAINT:
-      PaintWindow();
-      return 0;
-    case WM_ERASEBKGND:
-      return 1;
     case WM_LBUTTONDOWN:
       Owner().Form().InputMouseDown();
       return 0;
@@ -61,12 +56,12 @@ LRESULT StaticWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       Owner().MouseMoves(wParam);
       return 0;
     default:
-      return ControlWindow::OnMessage(message, wParam, lParam);
+      return PaintedWindow::OnMessage(message, wParam, lParam);
   }
 }
 
 FrameWindow::FrameWindow(FormWindow& owner, form::Frame& frame)
-    : ControlWindow(owner, frame, {L"BUTTON", BS_GROUPBOX | WS_CLIPCHILDREN, frame.Caption()}), frame_(frame) {}
+    : PaintedWindow(owner, frame, {L"BUTTON", BS_GROUPBOX | WS_CLIPCHILDREN, frame.Caption()}), frame_(frame) {}
 
 void FrameWindow::Show(form::Property property) {
   if (property == form::Property::Caption) ShowWindowText(frame_.Caption());
@@ -122,11 +117,6 @@ void FrameWindow::PaintBanner(Canvas& canvas) const {
 LRESULT FrameWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   const POINT point{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
   switch (message) {
-    case WM_PAINT:
-      PaintWindow();
-      return 0;
-    case WM_ERASEBKGND:
-      return 1;
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
       Owner().Form().InputMouseDown();
@@ -144,7 +134,7 @@ LRESULT FrameWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_NCHITTEST:
       return HTCLIENT;  // a group box lets the mouse through
     default:
-      return ControlWindow::OnMessage(message, wParam, lParam);
+      return PaintedWindow::OnMessage(message, wParam, lParam);
   }
 }
 

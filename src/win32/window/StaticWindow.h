@@ -3,18 +3,17 @@
 #include <string>
 
 #include "form/Static.h"
-#include "win32/window/ControlWindow.h"
+#include "win32/window/PaintedWindow.h"
 
 namespace vantor::win32 {
 
-/// A STATIC window that draws itself.
-class StaticWindow : public ControlWindow {
+/// A STATIC window that paints itself.
+class StaticWindow : public PaintedWindow {
  protected:
   StaticWindow(FormWindow& owner, form::Control& control, const std::wstring& text)
-      : ControlWindow(owner, control, {L"STATIC", SS_NOTIFY, text}) {}
+      : PaintedWindow(owner, control, {L"STATIC", SS_NOTIFY, text}) {}
 
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-  void Show(form::Property /*property*/) override { Redraw(); }
 };
 
 class LabelWindow final : public StaticWindow {
@@ -47,8 +46,8 @@ class PictureWindow final : public StaticWindow {
   form::PictureControl& picture_;
 };
 
-/// A frame: a group box that draws itself and holds other windows.
-class FrameWindow final : public ControlWindow {
+/// A frame: a group box that paints itself and holds other windows.
+class FrameWindow final : public PaintedWindow {
  public:
   FrameWindow(FormWindow& owner, form::Frame& frame);
 

@@ -5,7 +5,7 @@
 
 namespace vantor::win32 {
 
-struct CommandLine {
+struct ProgramCommand {
   std::wstring Program;  // as it is named, without quotes
   std::wstring Arguments;
   std::wstring Path;  // the full path of the program's file; "" when there is none
@@ -15,6 +15,6 @@ struct CommandLine {
 /// blank, that is a program; after the first word when there is none. A text that is the path of one file as a whole is
 /// that file, blanks or not. A name without a folder is looked for in the system's folders and those of PATH, with
 /// ".exe" added where it has no ending: unlike CreateProcess neither beside this program nor in the current folder.
-[[nodiscard]] CommandLine SplitCommandLine(std::wstring_view text);
+[[nodiscard]] ProgramCommand ParseProgramCommand(std::wstring_view text);
 
 }  // namespace vantor::win32

@@ -1,4 +1,4 @@
-#include "win32/base/CommandLine.h"
+#include "win32/base/ProgramCommand.h"
 
 #include <windows.h>
 
@@ -54,36 +54,36 @@ std::wstring FindProgram(std::wstring_view name) {
   return IsFile(given) ? FullPath(given) : std::wstring();
 }
 
-CommandLine PartedAt(std::wstring_view text, std::size_t programEnd, std::size_t argumentsBegin) {
-  CommandLine parted;
+ProgramCommand PartedAt(std::wstring_view text, std::size_t programEnd, std::size_t argumentsBegin) {
+  ProgramCommand parted;
   parted.Program = text.substr(0, programEnd);
   if (argumentsBegin < text.size()) parted.Arguments = text.substr(argumentsBegin);
   return parted;
 }
 
-CommandLine PartQuoted(std::wstring_view text) {
+ProgramCommand PartQuoted(std::wstring_view text) {
   text.remove_prefix(1);
   const std::size_t quote = text.find(L'"');
-  CommandLine parted = quote == std::wstring_view::npos
-                           ? PartedAt(text, text.size(), text.size())
-                           : PartedAt(text, quote, text.find_first_not_of(L' ', quote + 1));
+  ProgramCommand parted = quote == std::wstring_view::npos
+                              ? PartedAt(text, text.size(), text.size())
+                              : PartedAt(text, quote, text.find_first_not_of(L' ', quote + 1));
   parted.Path = FindProgram(parted.Program);
   return parted;
 }
 
 }  // namespace
 
-CommandLine SplitCommandLine(std::wstring_view text) {
+ProgramCommand ParseProgramCommand(std::wstring_view text) {
   if (text.starts_with(L'"')) return PartQuoted(text);
   if (NamesFolder(text) && IsFile(text)) {
-    CommandLine whole = PartedAt(text, text.size(), text.size());
+    ProgramCommand whole = PartedAt(text, text.size(), text.size());
     whole.Path = FullPath(text);
     return whole;
   }
   for (std::size_t blank = text.find(L' ');; blank = text.find(L' ', blank + 1)) {
     const std::size_t end = std::min(blank, text.size());
     if (std::wstring path = FindProgram(text.substr(0, end)); !path.empty()) {
-      CommandLine parted = PartedAt(text, end, end + 1);
+      ProgramCommand parted = PartedAt(text, end, end + 1);
       parted.Path = std::move(path);
       return parted;
     }
