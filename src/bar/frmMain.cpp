@@ -127,9 +127,10 @@ void frmMain::Form_Load() {
 
 void frmMain::LayOut() {
   TextMain.SetBackColor(form::Color::LineBlue);
-  ImageLauncher.SetPicture({form::Ground::None, state::picture::Mark});
+  ImageLauncher.SetPicture({form::Background::None, state::picture::Mark});
   const auto dress = [](form::CommandButton& button, form::Drawing drawing) {
-    button.SetPictures({BButton[0].Ground, drawing}, {BButton[1].Ground, drawing}, {BButton[2].Ground, drawing});
+    button.SetPictures({BButton[0].Background, drawing}, {BButton[1].Background, drawing},
+                       {BButton[2].Background, drawing});
     button.SetFaceMargins({0, Gap, 0, Gap});
   };
   for (std::size_t i = 0; i < menu::Count; ++i) {

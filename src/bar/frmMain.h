@@ -47,14 +47,14 @@ class frmMain : public form::Form, public panel::MenuBar, private command::LineO
   /// The pictures of buttons: 0, 1 and 2 normal, pressed and disabled, 5 normal again for the panels'
   /// buttons, 6 and 7 the faces of CommandWeb while its box is folded and unfolded.
   static constexpr std::array<form::Picture, 8> BButton{{
-      {form::Ground::Normal},
-      {form::Ground::Pressed},
-      {form::Ground::Disabled},
+      {form::Background::Normal},
+      {form::Background::Pressed},
+      {form::Background::Disabled},
       {},
       {},
-      {form::Ground::Normal},
-      {form::Ground::Normal, state::picture::Unfold},
-      {form::Ground::Normal, state::picture::Fold},
+      {form::Background::Normal},
+      {form::Background::Normal, state::picture::Unfold},
+      {form::Background::Normal, state::picture::Fold},
   }};
 
   frmMain(form::UserInterface& ui, const BarParts& parts);

@@ -56,7 +56,7 @@ struct Screen {
 enum class Color : std::uint32_t {
   Silver = 0x00C0C0C0,
   White = 0x00FFFFFF,
-  MarkBlue = 0x00A8482C,  // the ground of the product's mark
+  MarkBlue = 0x00A8482C,  // the background of the product's mark
   LineBlue = 0x00FFC8B4,  // red 180, green 200, blue 255: the one accent of the product
   WindowBackground = 0x80000005,
   WindowText = 0x80000008,

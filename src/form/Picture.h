@@ -12,7 +12,7 @@ namespace vantor::form {
 struct Shape {
   /// Path data as in SVG, with the commands M, L, H, V, C and Z alone, each written out, in absolute numbers.
   std::string_view Path;
-  /// The colour of an area. Without one the path is a line, in the ink and thickness of whatever it is drawn on.
+  /// The colour of an area. Without one the path is a line, in the colour and thickness of its surroundings.
   std::optional<Color> Fill = {};
 };
 
@@ -20,7 +20,7 @@ struct Shape {
 using Drawing = std::span<const Shape>;
 
 /// What a picture is drawn on.
-enum class Ground {
+enum class Background {
   None,
   Normal,  // the faces of a button
   Pressed,
@@ -30,12 +30,12 @@ enum class Ground {
 
 /// A picture that the back end draws at whatever size is asked for.
 struct Picture {
-  form::Ground Ground = Ground::None;
+  form::Background Background = Background::None;
   form::Drawing Drawing = {};
 
-  [[nodiscard]] bool Empty() const { return Ground == form::Ground::None && Drawing.empty(); }
+  [[nodiscard]] bool Empty() const { return Background == form::Background::None && Drawing.empty(); }
   friend bool operator==(const Picture& a, const Picture& b) {
-    return a.Ground == b.Ground && a.Drawing.data() == b.Drawing.data();
+    return a.Background == b.Background && a.Drawing.data() == b.Drawing.data();
   }
 };
 

@@ -9,7 +9,7 @@ namespace vantor::form {
 
 void DressButton(CommandButton& button, std::wstring_view caption) {
   button.SetCaption(caption);
-  button.SetPictures({Ground::Normal}, {Ground::Pressed}, {Ground::Disabled});
+  button.SetPictures({Background::Normal}, {Background::Pressed}, {Background::Disabled});
 }
 
 Twips ButtonWidth(const CommandButton& button) {

@@ -45,7 +45,7 @@ frmMessage::frmMessage(form::UserInterface& ui) : Form(ui, L"frmMessage") {
   SetBackColor(form::Color::WindowBackground);
   for (form::Control* control : Controls()) control->SetBackColor(form::Color::WindowBackground);
 
-  PictureMessage.SetPicture({form::Ground::Band, state::picture::Mark});
+  PictureMessage.SetPicture({form::Background::Band, state::picture::Mark});
   PictureMessage.SetBackColor(form::Color::LineBlue);
   PictureMessage.SetTabStop(false);
   PictureMessage.SetAccessibleName(L"Vantor");

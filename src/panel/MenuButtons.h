@@ -34,13 +34,13 @@ struct MenuButton {
 };
 
 inline constexpr std::array<MenuButton, menu::Count> MenuButtons{{
-    {{L"+", {form::Ground::Normal, state::picture::Add}}, L"Show | Hide Add To List---F2"},
-    {{L">", {form::Ground::Normal, state::picture::Open}}, L"Show | Hide Open---F3"},
-    {{L"L", {form::Ground::Normal, state::picture::List}}, L"Show | Hide Open From List---F4"},
-    {{L"!", {form::Ground::Normal, state::picture::Companions}}, L"Show | Hide Run (Orbel's Program)---F5"},
-    {{L"P", {form::Ground::Normal, state::picture::Preferences}}, L"Show | Hide Preferences---F6"},
-    {{L"?", {form::Ground::Normal, state::picture::Help}}, L"Show | Hide Help---F7"},
-    {{L"C", {form::Ground::Normal, state::picture::Code}}, L"Show | Hide Code List---F8"},
+    {{L"+", {form::Background::Normal, state::picture::Add}}, L"Show | Hide Add To List---F2"},
+    {{L">", {form::Background::Normal, state::picture::Open}}, L"Show | Hide Open---F3"},
+    {{L"L", {form::Background::Normal, state::picture::List}}, L"Show | Hide Open From List---F4"},
+    {{L"!", {form::Background::Normal, state::picture::Companions}}, L"Show | Hide Run (Orbel's Program)---F5"},
+    {{L"P", {form::Background::Normal, state::picture::Preferences}}, L"Show | Hide Preferences---F6"},
+    {{L"?", {form::Background::Normal, state::picture::Help}}, L"Show | Hide Help---F7"},
+    {{L"C", {form::Background::Normal, state::picture::Code}}, L"Show | Hide Code List---F8"},
 }};
 inline constexpr std::wstring_view OpenCaption = L"||";  // an open one keeps its drawing
 

@@ -54,13 +54,13 @@ TEST_CASE("a window is told of each change of its control, and of nothing that i
       {list, Property::List, [&] { list.RemoveItem(0); }, true},
       {list, Property::List, [&] { list.Clear(); }, true},
       {button, Property::Caption, [&] { button.SetCaption(L"x"); }},
-      {button, Property::Picture, [&] { button.SetPicture({form::Ground::Normal}); }},
+      {button, Property::Picture, [&] { button.SetPicture({form::Background::Normal}); }},
       {check, Property::Caption, [&] { check.SetCaption(L"x"); }},
       {check, Property::Value, [&] { check.SetValue(true); }},
       {label, Property::Caption, [&] { label.SetCaption(L"x"); }},
       {frame, Property::Caption, [&] { frame.SetCaption(L"x"); }},
-      {image, Property::Picture, [&] { image.SetPicture({form::Ground::Normal}); }},
-      {picture, Property::Picture, [&] { picture.SetPicture({form::Ground::Normal}); }},
+      {image, Property::Picture, [&] { image.SetPicture({form::Background::Normal}); }},
+      {picture, Property::Picture, [&] { picture.SetPicture({form::Background::Normal}); }},
   };
   button.SetToolTip(L"Name---F1");
   CHECK(button.AccessibleName() == L"Name");

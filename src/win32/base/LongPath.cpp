@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include "win32/base/SystemText.h"
 #include "win32/base/TrueSystemFolder.h"
 
 namespace vantor::win32 {
@@ -29,14 +30,9 @@ std::wstring CallPath(std::wstring_view path) {
 
 std::wstring FullPath(std::wstring_view path) {
   std::wstring given(path);
-  std::wstring full(MAX_PATH, L'\0');
-  for (;;) {
-    const DWORD length = GetFullPathNameW(given.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
-    if (length == 0) return given;
-    const bool fits = length < full.size();
-    full.resize(length);
-    if (fits) return full;
-  }
+  std::wstring full =
+      SystemText([&](wchar_t* buffer, DWORD size) { return GetFullPathNameW(given.c_str(), size, buffer, nullptr); });
+  return full.empty() ? given : full;
 }
 
 bool IsFile(std::wstring_view path) {

@@ -8,6 +8,7 @@
 #include "text/Path.h"
 #include "win32/base/LongPath.h"
 #include "win32/base/SystemLibrary.h"
+#include "win32/base/SystemText.h"
 #include "win32/base/TrueSystemFolder.h"
 
 namespace vantor::win32 {
@@ -19,24 +20,17 @@ constexpr wchar_t ProgramEnding[] = L".exe";
 /// Where a name without a folder is looked for, in CreateProcess's order.
 std::wstring SearchFolders() {
   const std::wstring windows = WindowsFolder();
-  std::wstring folders = SystemFolder() + L';' + windows + L"\\System;" + windows + L';';
-  std::wstring path(GetEnvironmentVariableW(L"PATH", nullptr, 0), L'\0');
-  path.resize(GetEnvironmentVariableW(L"PATH", path.data(), static_cast<DWORD>(path.size())));
-  return folders + path;
+  return SystemFolder() + L';' + windows + L"\\System;" + windows + L';' + EnvironmentVariable(L"PATH");
 }
 
 std::wstring FindOnPath(const std::wstring& name) {
   if (name.find(L':') != std::wstring::npos) return {};  // an address
   const std::wstring folders = SearchFolders();
   const TrueSystemFolder folder;
-  std::wstring found(MAX_PATH, L'\0');
-  for (;;) {
-    const DWORD length = SearchPathW(folders.c_str(), name.c_str(), ProgramEnding, static_cast<DWORD>(found.size()),
-                                     found.data(), nullptr);
-    const bool fits = length < found.size();
-    found.resize(length);
-    if (fits) return IsFile(found) ? found : std::wstring();
-  }
+  std::wstring found = SystemText([&](wchar_t* buffer, DWORD size) {
+    return SearchPathW(folders.c_str(), name.c_str(), ProgramEnding, size, buffer, nullptr);
+  });
+  return IsFile(found) ? found : std::wstring();
 }
 
 bool NamesFolder(std::wstring_view name) {

@@ -1,20 +1,12 @@
 #include "win32/base/SystemLibrary.h"
 
+#include "win32/base/SystemText.h"
+
 namespace vantor::win32 {
 
-namespace {
+std::wstring SystemFolder() { return SystemText(GetSystemDirectoryW); }
 
-std::wstring Ask(UINT(WINAPI* call)(LPWSTR, UINT)) {
-  wchar_t folder[MAX_PATH] = L"";
-  const UINT length = call(folder, MAX_PATH);
-  return length < MAX_PATH ? std::wstring(folder, length) : std::wstring();
-}
-
-}  // namespace
-
-std::wstring SystemFolder() { return Ask(GetSystemDirectoryW); }
-
-std::wstring WindowsFolder() { return Ask(GetWindowsDirectoryW); }
+std::wstring WindowsFolder() { return SystemText(GetWindowsDirectoryW); }
 
 HMODULE LoadSystemLibrary(const wchar_t* name) {
   constexpr DWORD SystemFolderOnly = 0x800;  // LOAD_LIBRARY_SEARCH_SYSTEM32

@@ -6,6 +6,7 @@
 
 #include "win32/base/LongPath.h"
 #include "win32/base/SystemLibrary.h"
+#include "win32/base/SystemText.h"
 
 namespace vantor::win32 {
 
@@ -15,12 +16,6 @@ bool BeginsWith(std::wstring_view path, std::wstring_view folder) {
   return path.size() >= folder.size() &&
          CompareStringOrdinal(path.data(), static_cast<int>(folder.size()), folder.data(),
                               static_cast<int>(folder.size()), TRUE) == CSTR_EQUAL;
-}
-
-std::wstring Variable(const wchar_t* name) {
-  wchar_t value[MAX_PATH] = L"";
-  const DWORD length = GetEnvironmentVariableW(name, value, MAX_PATH);
-  return length < MAX_PATH ? std::wstring(value, length) : std::wstring();
 }
 
 }  // namespace
@@ -58,9 +53,9 @@ std::wstring KnownPath(std::wstring path) {
 
 std::wstring KnownTarget(std::wstring path) {
   path = KnownPath(std::move(path));
-  const std::wstring guests = Variable(L"ProgramFiles(x86)") + L'\\';
+  const std::wstring guests = EnvironmentVariable(L"ProgramFiles(x86)") + L'\\';
   if (!On64BitWindows() || !BeginsWith(path, guests) || IsFile(path) || IsFolder(path)) return path;
-  return Variable(L"ProgramW6432") + L'\\' + path.substr(guests.size());
+  return EnvironmentVariable(L"ProgramW6432") + L'\\' + path.substr(guests.size());
 }
 
 }  // namespace vantor::win32

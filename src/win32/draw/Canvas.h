@@ -24,6 +24,11 @@ struct Box {
   double Width = 0;
   double Height = 0;
 
+  /// An area, as seen from the point that is to be (0, 0).
+  [[nodiscard]] static Box Of(const RECT& area, POINT from = {}) {
+    return {double(area.left - from.x), double(area.top - from.y), double(area.right - area.left),
+            double(area.bottom - area.top)};
+  }
   [[nodiscard]] Box Inset(double by) const { return {Left + by, Top + by, Width - 2 * by, Height - 2 * by}; }
   /// The largest square in the middle.
   [[nodiscard]] Box Square() const;

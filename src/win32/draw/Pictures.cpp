@@ -11,7 +11,7 @@ namespace vantor::win32 {
 
 namespace {
 
-using form::Ground;
+using form::Background;
 
 constexpr double FaceRadius = 4;  // pixels at 96 dots per inch
 
@@ -35,11 +35,11 @@ void DrawBand(Canvas& canvas, const form::Picture& picture, const Box& box, cons
              colors.Normal.Text, scale);
 }
 
-const Palette::Face& FaceOf(Ground ground, const Palette& colors) {
-  switch (ground) {
-    case Ground::Pressed:
+const Palette::Face& FaceOf(Background background, const Palette& colors) {
+  switch (background) {
+    case Background::Pressed:
       return colors.Pressed;
-    case Ground::Disabled:
+    case Background::Disabled:
       return colors.Disabled;
     default:
       return colors.Normal;
@@ -96,9 +96,9 @@ void DrawShapes(Canvas& canvas, form::Drawing drawing, const Box& box, const Pal
 }
 
 void DrawPicture(Canvas& canvas, const form::Picture& picture, const Box& box, const Palette& colors, double scale) {
-  if (picture.Ground == Ground::Band) return DrawBand(canvas, picture, box, colors, scale);
-  const Palette::Face& face = FaceOf(picture.Ground, colors);
-  if (picture.Ground != Ground::None) DrawFace(canvas, box, colors, face, false, scale);
+  if (picture.Background == Background::Band) return DrawBand(canvas, picture, box, colors, scale);
+  const Palette::Face& face = FaceOf(picture.Background, colors);
+  if (picture.Background != Background::None) DrawFace(canvas, box, colors, face, false, scale);
   DrawShapes(canvas, picture.Drawing, box, colors, face.Text, scale);
 }
 

@@ -11,11 +11,11 @@ namespace vantor::win32 {
 /// Draws a picture into a box.
 void DrawPicture(Canvas& canvas, const form::Picture& picture, const Box& box, const Palette& colors, double scale);
 
-/// Draws the ground of a button: its edge, its fill and, with the focus, a ring inside.
+/// Draws the background of a button: its edge, its fill and, with the focus, a ring inside.
 void DrawFace(Canvas& canvas, const Box& box, const Palette& colors, const Palette::Face& face, bool focused,
               double scale);
 
-/// Draws the ground of a box for text; with the focus its edge is thicker at the foot.
+/// Draws the background of a text box; with the focus its edge is thicker at the foot.
 void DrawField(Canvas& canvas, const Box& box, COLORREF edge, COLORREF fill, bool focused, double scale);
 
 /// Draws lines and areas into the largest square in the middle of a box. All lines have one thickness, which depends on

@@ -17,13 +17,13 @@ constexpr int DetailGap = 10;
 
 /// The detail's size beside the text's.
 constexpr double SmallFont = 0.88;
-/// How much of the ground is in the detail's ink.
+/// How far the detail's colour is on the way from the text's to the background's.
 constexpr double Faintness = 0.36;
 
-COLORREF Mix(COLORREF ink, COLORREF ground, double share) {
+COLORREF Mix(COLORREF textColor, COLORREF background, double share) {
   const auto mix = [&](int from, int to) { return static_cast<BYTE>(std::lround(from + (to - from) * share)); };
-  return RGB(mix(GetRValue(ink), GetRValue(ground)), mix(GetGValue(ink), GetGValue(ground)),
-             mix(GetBValue(ink), GetBValue(ground)));
+  return RGB(mix(GetRValue(textColor), GetRValue(background)), mix(GetGValue(textColor), GetGValue(background)),
+             mix(GetBValue(textColor), GetBValue(background)));
 }
 
 /// A row's text, cut to its room, where each character ends.
@@ -51,12 +51,12 @@ Measured Measure(HDC dc, const std::wstring& text, int room) {
 }
 
 /// Draws the row's text with a line under its marked part.
-void DrawMarked(Canvas& canvas, const form::Row& row, const RECT& area, HFONT font, COLORREF ink, COLORREF mark,
+void DrawMarked(Canvas& canvas, const form::Row& row, const RECT& area, HFONT font, COLORREF textColor, COLORREF mark,
                 double scale) {
   const HDC dc = canvas.Dc();
   const HGDIOBJ oldFont = SelectObject(dc, font);
   SetBkMode(dc, TRANSPARENT);
-  SetTextColor(dc, ink);
+  SetTextColor(dc, textColor);
   TEXTMETRICW metrics{};
   GetTextMetricsW(dc, &metrics);
   const Measured text = Measure(dc, row.Text, area.right - area.left);
@@ -75,25 +75,25 @@ void DrawMarked(Canvas& canvas, const form::Row& row, const RECT& area, HFONT fo
 
 }  // namespace
 
-void DrawMarkedRow(Canvas& canvas, const form::Row& row, RowState state, COLORREF ground, COLORREF ink,
+void DrawMarkedRow(Canvas& canvas, const form::Row& row, RowState state, COLORREF background, COLORREF textColor,
                    const Theme& theme, int dpi) {
   const Palette& colors = theme.Colors();
   const double scale = dpi / 96.0;
   COLORREF mark = colors.Focus;
   if (state != RowState::Plain) {
     const Palette::Face& face = state == RowState::Current ? colors.Open : colors.Hot;
-    ground = face.Fill;
-    ink = face.Text;
-    mark = ink;
-    canvas.Clear(state == RowState::Hot ? face.Edge : ground);
+    background = face.Fill;
+    textColor = face.Text;
+    mark = textColor;
+    canvas.Clear(state == RowState::Hot ? face.Edge : background);
     if (state == RowState::Hot) {
       const double edge = std::max(std::floor(scale), 1.0);
-      canvas.Shade(canvas.Whole().Inset(edge), ground, ground);
+      canvas.Shade(canvas.Whole().Inset(edge), background, background);
     }
   } else {
-    canvas.Clear(ground);
+    canvas.Clear(background);
   }
-  if (colors.HighContrast) mark = ink;
+  if (colors.HighContrast) mark = textColor;
 
   const HFONT font = theme.Font(dpi, FontStyle::Plain);
   const HFONT small = theme.Font(static_cast<int>(std::lround(dpi * SmallFont)), FontStyle::Plain);
@@ -106,10 +106,10 @@ void DrawMarkedRow(Canvas& canvas, const form::Row& row, RowState state, COLORRE
   const LONG room = std::max((right - left) * 3 / 5, right - left - detailWidth);
   const LONG textEnd = left + std::min(textWidth, room);
   constexpr UINT OneLine = DT_SINGLELINE | DT_VCENTER;
-  DrawMarked(canvas, row, {left, 0, textEnd, canvas.Height()}, font, ink, mark, scale);
+  DrawMarked(canvas, row, {left, 0, textEnd, canvas.Height()}, font, textColor, mark, scale);
   const bool isPath = row.Detail.find(L'\\') != row.Detail.npos;
   canvas.Text(row.Detail, {textEnd + gap, 0, right, canvas.Height()}, small,
-              colors.HighContrast ? ink : Mix(ink, ground, Faintness),
+              colors.HighContrast ? textColor : Mix(textColor, background, Faintness),
               OneLine | static_cast<UINT>(isPath ? DT_PATH_ELLIPSIS : DT_END_ELLIPSIS));
 }
 

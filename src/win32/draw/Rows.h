@@ -11,7 +11,7 @@ enum class RowState { Plain, Hot, Current };
 
 /// Draws a row over the whole canvas: its text with a line under the marked part, and the detail after it, smaller and
 /// fainter. What is too long is cut with an ellipsis, a path in its middle.
-void DrawMarkedRow(Canvas& canvas, const form::Row& row, RowState state, COLORREF ground, COLORREF ink,
+void DrawMarkedRow(Canvas& canvas, const form::Row& row, RowState state, COLORREF background, COLORREF textColor,
                    const Theme& theme, int dpi);
 
 }  // namespace vantor::win32

@@ -41,7 +41,7 @@ class Selected {
 [[nodiscard]] SIZE TextSize(std::wstring_view text, HFONT font);
 /// The height in pixels of a line.
 [[nodiscard]] int TextHeight(HFONT font);
-/// Draws a text as DrawText does, without a ground; ampersands are plain characters.
+/// Draws a text as DrawText does, leaving its background as it is; ampersands are plain characters.
 void DrawPlainText(HDC dc, std::wstring_view text, RECT area, HFONT font, COLORREF color, UINT format);
 /// Draws a line of text with the font and the colour of the device context, its characters where they were measured:
 /// not every Windows draws as wide as it measures. Letters that are shaped or turned are left to it all the same.

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "win32/base/SystemLibrary.h"
+#include "win32/draw/Areas.h"
 
 namespace vantor::win32 {
 
@@ -45,8 +46,7 @@ void RoundCorners(HWND window, const Palette& colors, double scale) {
     SetAttribute(window, BorderColor, colors.Outline);
     return;
   }
-  RECT place;
-  GetWindowRect(window, &place);
+  const RECT place = WindowArea(window);
   const int across = static_cast<int>(2 * CornerRadius(scale));
   // The system keeps the region.
   SetWindowRgn(window,
@@ -54,7 +54,7 @@ void RoundCorners(HWND window, const Palette& colors, double scale) {
                TRUE);
 }
 
-void DrawWindowEdge(Canvas& canvas, const Box& window, const Palette& colors, COLORREF ground, double scale) {
+void DrawWindowEdge(Canvas& canvas, const Box& window, const Palette& colors, COLORREF background, double scale) {
   const double line = EdgeThickness(scale);
   const double radius = CornerRadius(scale);
   const Box inside = window.Inset(line);
@@ -63,20 +63,21 @@ void DrawWindowEdge(Canvas& canvas, const Box& window, const Palette& colors, CO
   const bool offCorners = inside.Top + radius <= 0 && inside.Top + inside.Height - radius >= canvas.Height();
   if (offEdge && offCorners) return;
   canvas.Clear(colors.Outline);
-  canvas.RoundedBox(inside, radius - line, ground);
+  canvas.RoundedBox(inside, radius - line, background);
 }
 
-void PaintWindow(HDC dc, SIZE size, const Theme& theme, COLORREF ground, double scale) {
+void PaintWindow(HDC dc, SIZE size, const Theme& theme, COLORREF background, double scale) {
   const int line = static_cast<int>(EdgeThickness(scale));
   const int corner = std::min<int>(static_cast<int>(CornerRadius(scale)), size.cy / 2);
   const RECT sides{0, corner, size.cx, size.cy - corner};
   FillRect(dc, &sides, theme.Brush(theme.Colors().Outline));
   const RECT middle{line, corner, size.cx - line, size.cy - corner};
-  FillRect(dc, &middle, theme.Brush(ground));
+  FillRect(dc, &middle, theme.Brush(background));
   const Box window{0, 0, double(size.cx), double(size.cy)};
   for (const int top : {0, static_cast<int>(size.cy) - corner}) {
     Canvas strip(size.cx, corner);
-    DrawWindowEdge(strip, {window.Left, window.Top - top, window.Width, window.Height}, theme.Colors(), ground, scale);
+    DrawWindowEdge(strip, {window.Left, window.Top - top, window.Width, window.Height}, theme.Colors(), background,
+                   scale);
     strip.Show(dc, 0, top);
   }
 }

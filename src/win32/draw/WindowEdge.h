@@ -18,9 +18,9 @@ void RoundCorners(HWND window, const Palette& colors, double scale);
 
 /// Draws the edge and the inside of a window, of which the canvas may show a part only. Leaves a canvas as it is that
 /// lies off the edge.
-void DrawWindowEdge(Canvas& canvas, const Box& window, const Palette& colors, COLORREF ground, double scale);
+void DrawWindowEdge(Canvas& canvas, const Box& window, const Palette& colors, COLORREF background, double scale);
 
 /// The same for all of a window of this size, on the screen.
-void PaintWindow(HDC dc, SIZE size, const Theme& theme, COLORREF ground, double scale);
+void PaintWindow(HDC dc, SIZE size, const Theme& theme, COLORREF background, double scale);
 
 }  // namespace vantor::win32

@@ -3,6 +3,7 @@
 #include <tlhelp32.h>
 
 #include "win32/base/Handle.h"
+#include "win32/base/SystemText.h"
 
 namespace vantor::win32 {
 
@@ -25,17 +26,12 @@ bool InThisSession(DWORD processId) {
 std::wstring ImageName(DWORD processId) {
   const KernelHandle process(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, processId));
   if (!process) return {};
-  std::wstring path(MAX_PATH, L'\0');
-  for (;;) {
-    auto length = static_cast<DWORD>(path.size());
-    if (QueryFullProcessImageNameW(process.Get(), 0, path.data(), &length)) {
-      path.resize(length);
-      return path;
-    }
-    constexpr std::size_t LongestPath = 32768;
-    if (GetLastError() != ERROR_INSUFFICIENT_BUFFER || path.size() >= LongestPath) return {};
-    path.resize(LongestPath);
-  }
+  return SystemText([&](wchar_t* buffer, DWORD size) {
+    DWORD length = size;
+    if (QueryFullProcessImageNameW(process.Get(), 0, buffer, &length)) return length;
+    constexpr DWORD LongestPath = 32768;
+    return GetLastError() == ERROR_INSUFFICIENT_BUFFER && size < LongestPath ? LongestPath : 0;
+  });
 }
 
 bool IsCopy(DWORD processId) {

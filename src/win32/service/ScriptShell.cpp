@@ -4,6 +4,7 @@
 
 #include "win32/base/ProgramCommand.h"
 #include "win32/base/ShellFunction.h"
+#include "win32/base/SystemText.h"
 #include "win32/service/Language.h"
 #include "win32/service/RegistryValue.h"
 #include "win32/service/ShortcutFile.h"
@@ -53,14 +54,11 @@ bool ScriptShell::Run(std::wstring_view target) {
 
 std::wstring ScriptShell::ExpandVariables(std::wstring_view text) {
   std::wstring given(text);
-  std::wstring expanded(given.size() + 1, L'\0');
-  for (;;) {
-    const DWORD length = ExpandEnvironmentStringsW(given.c_str(), expanded.data(), static_cast<DWORD>(expanded.size()));
-    if (length == 0) return given;
-    const bool fits = length <= expanded.size();
-    expanded.resize(fits ? length - 1 : length);  // the length has the ending null in it
-    if (fits) return expanded;
-  }
+  std::wstring expanded = SystemText([&](wchar_t* buffer, DWORD size) {
+    const DWORD needed = ExpandEnvironmentStringsW(given.c_str(), buffer, size);  // with the ending null
+    return needed == 0 || needed > size ? needed : needed - 1;
+  });
+  return expanded.empty() ? given : expanded;
 }
 
 bool ScriptShell::Open(std::wstring_view target) {

@@ -3,29 +3,16 @@
 #include <windows.h>
 
 #include "text/Path.h"
+#include "win32/base/SystemLibrary.h"
+#include "win32/base/SystemText.h"
 #include "win32/service/ProcessImage.h"
 
 namespace vantor::win32 {
 
-std::wstring System::WindowsDirectory() {
-  constexpr UINT Size = 255;  // a longer name counts as none, as of a folder that can't be found
-  wchar_t folder[Size + 1] = L"";
-  const UINT length = GetWindowsDirectoryW(folder, Size);
-  return length < Size ? std::wstring(folder, length) : std::wstring();
-}
+std::wstring System::WindowsDirectory() { return WindowsFolder(); }
 
 std::wstring System::ProgramFolder() {
-  std::wstring file(MAX_PATH, L'\0');
-  for (;;) {
-    const DWORD length = GetModuleFileNameW(nullptr, file.data(), static_cast<DWORD>(file.size()));
-    if (length == 0) return {};
-    const bool fits = length < file.size();
-    if (fits) {
-      file.resize(length);
-      break;
-    }
-    file.resize(file.size() * 2);
-  }
+  std::wstring file = SystemText([](wchar_t* buffer, DWORD size) { return GetModuleFileNameW(nullptr, buffer, size); });
   // Started by such a path, the program is told so; everything else of it wants the usual form.
   if (file.starts_with(L"\\\\?\\UNC\\"))
     file.erase(2, 6);

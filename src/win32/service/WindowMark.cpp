@@ -11,7 +11,7 @@ constexpr int Thickness = 4;  // pixels at 96 dots per inch
 
 LRESULT CALLBACK BarProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message != WM_ERASEBKGND) return DefWindowProcW(window, message, wParam, lParam);
-  // Two colours, so that one of them is seen on any ground.
+  // Two colours, so that one of them stands out from any background.
   const auto dc = reinterpret_cast<HDC>(wParam);
   RECT area;
   GetClientRect(window, &area);

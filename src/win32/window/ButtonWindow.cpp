@@ -6,6 +6,7 @@
 #include <cmath>
 #include <string>
 
+#include "win32/draw/Areas.h"
 #include "win32/draw/Pictures.h"
 #include "win32/draw/Screens.h"
 
@@ -81,7 +82,7 @@ void ButtonWindow::OnDraw(const DRAWITEMSTRUCT& item) {
   const auto pixels = [&](form::Twips twips) { return Screens::ToPixels(twips, Owner().Dpi()); };
   const RECT area{pixels(margins.Left), pixels(margins.Top), size.cx - pixels(margins.Right),
                   size.cy - pixels(margins.Bottom)};
-  const Box box{double(area.left), double(area.top), double(area.right - area.left), double(area.bottom - area.top)};
+  const Box box = Box::Of(area);
   DrawFace(canvas, box, colors, face, enabled && (item.itemState & ODS_FOCUS) != 0, Scale());
   DrawContent(canvas, area, box, face);
   canvas.Show(item.hDC, item.rcItem.left, item.rcItem.top);
@@ -150,8 +151,7 @@ LRESULT ButtonWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_MOUSEMOVE: {
       // A button that is held is told of the mouse wherever that is, and not of its leaving.
-      RECT inside;
-      GetClientRect(Hwnd(), &inside);
+      const RECT inside = ClientArea(Hwnd());
       SetHot(PtInRect(&inside, {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}) != FALSE);
       break;
     }

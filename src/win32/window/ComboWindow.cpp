@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "form/Scoped.h"
+#include "win32/draw/Areas.h"
 #include "win32/draw/ListRow.h"
 
 namespace vantor::win32 {
@@ -35,12 +36,18 @@ ComboWindow::ComboWindow(FormWindow& owner, form::DropDownList& list)
           owner, list,
           {L"COMBOBOX", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_HASSTRINGS | CBS_OWNERDRAWFIXED, {}, true}),
       list_(list) {
-  COMBOBOXINFO info{};
-  info.cbSize = sizeof info;
-  if (GetComboBoxInfo(Hwnd(), &info) == FALSE || info.hwndList == nullptr) return;
-  SetWindowLongPtrW(info.hwndList, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-  listProcedure_ = reinterpret_cast<WNDPROC>(
-      SetWindowLongPtrW(info.hwndList, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ListProcedure)));
+  const HWND dropped = Parts().hwndList;
+  if (dropped == nullptr) return;
+  SetWindowLongPtrW(dropped, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  listProcedure_ =
+      reinterpret_cast<WNDPROC>(SetWindowLongPtrW(dropped, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ListProcedure)));
+}
+
+COMBOBOXINFO ComboWindow::Parts() const {
+  COMBOBOXINFO parts{};
+  parts.cbSize = sizeof parts;
+  GetComboBoxInfo(Hwnd(), &parts);
+  return parts;
 }
 
 void ComboWindow::ApplyBounds() {
@@ -53,8 +60,7 @@ void ComboWindow::ApplyBounds() {
   // What is set as the line's height may come out as a little more: then once again, by that much less.
   int height = static_cast<int>(Default(CB_GETITEMHEIGHT, static_cast<WPARAM>(-1)));
   for (int i = 0; i < 2; ++i) {
-    RECT shown;
-    GetWindowRect(Hwnd(), &shown);
+    const RECT shown = WindowArea(Hwnd());
     const int missing = bounds.bottom - (shown.bottom - shown.top);
     if (missing == 0 || height + missing <= 0) break;
     height += missing;
@@ -75,12 +81,10 @@ std::wstring ComboWindow::TipText() const {
   if (IsDropped()) return {};  // it would lie on the list
   if (!list_.ToolTip().empty()) return list_.ToolTip();
   const std::wstring text = list_.Text();
-  COMBOBOXINFO info{};
-  info.cbSize = sizeof info;
-  if (text.empty() || GetComboBoxInfo(Hwnd(), &info) == FALSE) return {};
+  if (text.empty()) return {};
   // Only what does not fit is told.
-  return TextSize(text, Font()).cx > info.rcItem.right - info.rcItem.left - 2 * RowMargin(Scale()) ? text
-                                                                                                   : std::wstring();
+  const RECT field = Parts().rcItem;
+  return TextSize(text, Font()).cx > field.right - field.left - 2 * RowMargin(Scale()) ? text : std::wstring();
 }
 
 void ComboWindow::Describe(AccessibleState& state) const {
@@ -121,10 +125,8 @@ void ComboWindow::OnCommand(WORD notification) {
 /// Gives the window's list as many entries as the control has. They are empty: what is drawn comes from the control.
 void ComboWindow::FitList() {
   const int count = list_.ListCount();
-  COMBOBOXINFO info{};
-  info.cbSize = sizeof info;
-  if (count == shownCount_ || GetComboBoxInfo(Hwnd(), &info) == FALSE) return;
-  const HWND list = info.hwndList;
+  if (count == shownCount_) return;
+  const HWND list = Parts().hwndList;
   SendMessageW(list, WM_SETREDRAW, FALSE, 0);
   if (count == 0) {
     SendMessageW(list, LB_RESETCONTENT, 0, 0);
@@ -148,12 +150,9 @@ void ComboWindow::FitWidth() {
   longest.resize(count);
   LONG width = 0;
   for (const std::wstring* entry : longest) width = std::max(width, TextSize(*entry, Font()).cx);
-  MONITORINFO screen{};
-  screen.cbSize = sizeof screen;
-  GetMonitorInfoW(MonitorFromWindow(Hwnd(), MONITOR_DEFAULTTONEAREST), &screen);
+  const MONITORINFO screen = MonitorOf(Hwnd());
   width += 2 * RowMargin(Scale()) + GetSystemMetrics(SM_CXVSCROLL) + 2 * GetSystemMetrics(SM_CXBORDER);
-  RECT window;
-  GetWindowRect(Hwnd(), &window);
+  const RECT window = WindowArea(Hwnd());
   width = std::min({width, (screen.rcWork.right - screen.rcWork.left) / 2, screen.rcWork.right - window.left});
   Default(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(std::max(width, window.right - window.left)));
 }

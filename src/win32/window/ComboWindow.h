@@ -27,6 +27,8 @@ class ComboWindow final : public ControlWindow {
   void ApplyBounds() override;
 
  private:
+  /// The windows and areas that the system makes the box of.
+  [[nodiscard]] COMBOBOXINFO Parts() const;
   [[nodiscard]] bool IsDropped() const { return Default(CB_GETDROPPEDSTATE) != 0; }
   /// The entry that a question about the window's list is about; null for none.
   [[nodiscard]] const std::wstring* Asked(WPARAM index) const;

@@ -3,6 +3,7 @@
 #include <optional>
 #include <utility>
 
+#include "win32/draw/Areas.h"
 #include "win32/draw/Pictures.h"
 #include "win32/draw/Screens.h"
 #include "win32/window/Accessible.h"
@@ -222,8 +223,7 @@ HBRUSH ControlWindow::OnColor(HDC dc) {
 const Theme& ControlWindow::Theme() const { return owner_.Desktop().Theme(); }
 
 SIZE ControlWindow::ClientSize() const {
-  RECT area;
-  GetClientRect(handle_, &area);
+  const RECT area = ClientArea(handle_);
   return {area.right, area.bottom};
 }
 
@@ -263,8 +263,7 @@ LRESULT ControlWindow::OnMessageWithEdge(UINT message, WPARAM wParam, LPARAM lPa
   const bool drawn = message == WM_PAINT || message == WM_NCPAINT || message == WM_ENABLE || message == WM_SETFOCUS ||
                      message == WM_KILLFOCUS;
   if (!drawn || Retired()) return result;
-  RECT edge;
-  GetWindowRect(handle_, &edge);
+  RECT edge = WindowArea(handle_);
   OffsetRect(&edge, -edge.left, -edge.top);
   const WindowDc dc(handle_, WindowDc::Part::Whole);
   const HBRUSH brush = Theme().Brush(EdgeColor());
@@ -280,15 +279,10 @@ void ControlWindow::DrawBackdrop(Canvas& canvas) const {
   COLORREF background = Theme().Background(owner_.Form().BackColor());
   if (const ControlWindow* window = Of(container)) background = window->BackgroundColor();
   canvas.Clear(background);
-  RECT here;
-  GetWindowRect(handle_, &here);
+  const RECT place = WindowArea(handle_);
+  const POINT here{place.left, place.top};
   if (owner_.Form().BorderStyle() == form::BorderStyle::Line) {
-    RECT all;
-    GetWindowRect(owner_.Hwnd(), &all);
-    DrawWindowEdge(canvas,
-                   {double(all.left - here.left), double(all.top - here.top), double(all.right - all.left),
-                    double(all.bottom - all.top)},
-                   Theme().Colors(), background, Scale());
+    DrawWindowEdge(canvas, Box::Of(WindowArea(owner_.Hwnd()), here), Theme().Colors(), background, Scale());
   }
   for (const form::Control* other : owner_.Form().Controls()) {
     if (other == &control_) break;  // those after it stand before it
@@ -297,12 +291,7 @@ void ControlWindow::DrawBackdrop(Canvas& canvas) const {
     if (!below || window == nullptr) continue;
     const form::Picture picture = window->ShownPicture();
     if (picture.Empty()) continue;
-    RECT there;
-    GetWindowRect(window->Hwnd(), &there);
-    DrawPicture(canvas, picture,
-                {double(there.left - here.left), double(there.top - here.top), double(there.right - there.left),
-                 double(there.bottom - there.top)},
-                Theme().Colors(), Scale());
+    DrawPicture(canvas, picture, Box::Of(WindowArea(window->Hwnd()), here), Theme().Colors(), Scale());
   }
 }
 

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "form/Scoped.h"
+#include "win32/draw/Areas.h"
 #include "win32/draw/Pictures.h"
 #include "win32/draw/Text.h"
 
@@ -250,10 +251,8 @@ void EditWindow::LayOut(RECT& inside) const {
 }
 
 void EditWindow::PaintEdge() {
-  RECT whole;
-  GetWindowRect(Hwnd(), &whole);
-  RECT inside;
-  GetClientRect(Hwnd(), &inside);
+  RECT whole = WindowArea(Hwnd());
+  RECT inside = ClientArea(Hwnd());
   MapWindowPoints(Hwnd(), nullptr, reinterpret_cast<POINT*>(&inside), 2);
   OffsetRect(&inside, -whole.left, -whole.top);
   OffsetRect(&whole, -whole.left, -whole.top);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "win32/draw/Areas.h"
 #include "win32/draw/Screens.h"
 #include "win32/window/WindowsDesktop.h"
 
@@ -43,8 +44,7 @@ void FormPlacement::Apply() {
   const HWND window = owner_.Hwnd();
   if (placing_ || IsIconic(window) != FALSE) return;
   const RECT place = BoundsInPixels();
-  RECT old;
-  GetWindowRect(window, &old);
+  const RECT old = WindowArea(window);
   if (EqualRect(&place, &old) != FALSE) return;
   placing_ = true;
   SetWindowPos(window, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
@@ -56,10 +56,8 @@ void FormPlacement::Apply() {
 /// Not every Windows scales a title bar with the screen: what counts is that the controls have their room.
 void FormPlacement::FitInside() const {
   const HWND window = owner_.Hwnd();
-  RECT inside;
-  RECT whole;
-  GetClientRect(window, &inside);
-  GetWindowRect(window, &whole);
+  const RECT inside = ClientArea(window);
+  const RECT whole = WindowArea(window);
   const LONG width = Screens::ToPixels(owner_.Form().Inside().Width, dpi_);
   const LONG height = Screens::ToPixels(owner_.Form().Inside().Height, dpi_);
   if (inside.right == width && inside.bottom == height) return;
@@ -69,8 +67,7 @@ void FormPlacement::FitInside() const {
 
 void FormPlacement::Report() {
   if (placing_ || !owner_.Form().Visible() || IsIconic(owner_.Hwnd()) != FALSE) return;
-  RECT place;
-  GetWindowRect(owner_.Hwnd(), &place);
+  const RECT place = WindowArea(owner_.Hwnd());
   const RECT known = BoundsInPixels();
   if (place.left == known.left && place.top == known.top) return;
   const form::Rect bounds = AllScreens().TwipsOf(place);
@@ -80,15 +77,12 @@ void FormPlacement::Report() {
 /// Where the top left corner goes when the resolution changes. While the user drags the form, what is under the cursor
 /// stays there; and the form's middle stays on the screen that it came to, or it would be sent back to the other.
 POINT FormPlacement::CornerAt(int dpi) const {
-  RECT place;
-  GetWindowRect(owner_.Hwnd(), &place);
+  const RECT place = WindowArea(owner_.Hwnd());
   POINT fixed{place.left, place.top};
   GUITHREADINFO thread{};
   thread.cbSize = sizeof thread;
   if (GetGUIThreadInfo(GetCurrentThreadId(), &thread) && (thread.flags & GUI_INMOVESIZE) != 0) GetCursorPos(&fixed);
-  MONITORINFO screen{};
-  screen.cbSize = sizeof screen;
-  GetMonitorInfoW(MonitorFromWindow(owner_.Hwnd(), MONITOR_DEFAULTTONEAREST), &screen);
+  const MONITORINFO screen = MonitorOf(owner_.Hwnd());
   const auto corner = [&](LONG at, LONG from, LONG to, LONG screenFrom, LONG screenTo) {
     const LONG half = MulDiv(to - from, dpi, screenDpi_) / 2;
     return std::clamp(at - MulDiv(at - from, dpi, screenDpi_), screenFrom - half, screenTo - half - 1);

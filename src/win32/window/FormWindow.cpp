@@ -1,5 +1,6 @@
 #include "win32/window/FormWindow.h"
 
+#include "win32/draw/Areas.h"
 #include "win32/draw/Screens.h"
 #include "win32/draw/WindowEdge.h"
 #include "win32/window/Accessible.h"
@@ -261,8 +262,7 @@ LRESULT CALLBACK FormWindow::Procedure(HWND handle, UINT message, WPARAM wParam,
 
 /// The colour of the form, and its line.
 void FormWindow::PaintBackground(HDC dc) const {
-  RECT area;
-  GetClientRect(Hwnd(), &area);
+  const RECT area = ClientArea(Hwnd());
   const Theme& theme = desktop_.Theme();
   const COLORREF background = theme.Background(form_.BackColor());
   if (form_.BorderStyle() == form::BorderStyle::Line) {

@@ -95,19 +95,19 @@ int RowListWindow::RowAt(LPARAM point) const {
 }
 
 void RowListWindow::PaintOn(HDC dc) {
-  const COLORREF ground = BackgroundColor();
+  const COLORREF background = BackgroundColor();
   for (int place = 0; place < static_cast<int>(shown_.size()); ++place) {
     const RECT area = AreaOf(place);
     if (RectVisible(dc, &area) == FALSE || area.right <= 0) continue;
     const ShownRow& row = shown_[static_cast<std::size_t>(place)];
     Canvas canvas(area.right, area.bottom - area.top);
-    DrawMarkedRow(canvas, row.Row, row.State, ground, Theme().TextColor(list_.ForeColor(), true, ground), Theme(),
-                  Owner().Dpi());
+    DrawMarkedRow(canvas, row.Row, row.State, background, Theme().TextColor(list_.ForeColor(), true, background),
+                  Theme(), Owner().Dpi());
     canvas.Show(dc, 0, area.top);
   }
   const SIZE size = ClientSize();
   const RECT rest{0, AreaOf(static_cast<int>(shown_.size())).top, size.cx, size.cy};
-  FillRect(dc, &rest, Theme().Brush(ground));
+  FillRect(dc, &rest, Theme().Brush(background));
 }
 
 /// Readers follow the row that is walked to, while the keyboard stays with the line.

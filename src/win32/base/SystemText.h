@@ -1,0 +1,28 @@
+#pragma once
+
+#include <windows.h>
+
+#include <algorithm>
+#include <string>
+
+namespace vantor::win32 {
+
+/// A text of any length that the system puts into a buffer. `call(buffer, size)` returns the text's length, or `size`
+/// and more where the buffer is too small; 0, for none, becomes "".
+template <class Call>
+[[nodiscard]] std::wstring SystemText(const Call& call) {
+  std::wstring text(MAX_PATH, L'\0');
+  for (;;) {
+    const DWORD length = call(text.data(), static_cast<DWORD>(text.size()));
+    const bool fits = length < text.size();
+    text.resize(fits ? length : std::max<std::size_t>(length, text.size() * 2));
+    if (fits) return text;
+  }
+}
+
+/// The value of an environment variable; "" when there is none.
+[[nodiscard]] inline std::wstring EnvironmentVariable(const wchar_t* name) {
+  return SystemText([name](wchar_t* buffer, DWORD size) { return GetEnvironmentVariableW(name, buffer, size); });
+}
+
+}  // namespace vantor::win32

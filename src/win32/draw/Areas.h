@@ -1,0 +1,29 @@
+#pragma once
+
+#include <windows.h>
+
+namespace vantor::win32 {
+
+/// Where a window is on the screen, with its edges.
+[[nodiscard]] inline RECT WindowArea(HWND window) {
+  RECT area{};
+  GetWindowRect(window, &area);
+  return area;
+}
+
+/// A window's inside, whose top left corner is (0, 0).
+[[nodiscard]] inline RECT ClientArea(HWND window) {
+  RECT area{};
+  GetClientRect(window, &area);
+  return area;
+}
+
+/// The screen that most of a window is on; the nearest one if it is on none.
+[[nodiscard]] inline MONITORINFO MonitorOf(HWND window) {
+  MONITORINFO monitor{};
+  monitor.cbSize = sizeof monitor;
+  GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
+  return monitor;
+}
+
+}  // namespace vantor::win32
