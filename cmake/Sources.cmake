@@ -15,6 +15,11 @@ foreach(folder IN LISTS VANTOR_CORE_FOLDERS)
   list(APPEND VANTOR_CORE_SOURCES ${found})
 endforeach()
 
+# The desktop without windows is for tests alone. It asks what kind a control is, which the Windows build can't tell.
+if(WIN32)
+  list(REMOVE_ITEM VANTOR_CORE_SOURCES "${PROJECT_SOURCE_DIR}/src/form/Headless.cpp")
+endif()
+
 vantor_glob(VANTOR_WIN32_SOURCES src/win32/*.cpp)
 vantor_glob(VANTOR_WIN32_RESOURCES src/win32/Vantor.rc)
 set(VANTOR_ENTRY_POINT "${PROJECT_SOURCE_DIR}/src/win32/Main.cpp")

@@ -11,7 +11,8 @@ target_compile_definitions(
             WINVER=0x0601
             _WIN32_WINNT=0x0601
             _WIN32_IE=0x0800)
-target_compile_options(vantor_flags INTERFACE -ffunction-sections -fdata-sections)
+# Without the descriptions of types that nothing asks for: 11 KB of the program.
+target_compile_options(vantor_flags INTERFACE -ffunction-sections -fdata-sections -fno-rtti)
 target_link_options(
   vantor_flags
   INTERFACE

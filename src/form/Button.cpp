@@ -63,7 +63,7 @@ void CheckBox::InputCharacter(wchar_t character) {
 std::vector<OptionButton*> OptionButton::Group() {
   std::vector<OptionButton*> group;
   for (Control* control : OwnerForm().Controls()) {
-    auto* const button = dynamic_cast<OptionButton*>(control);
+    OptionButton* const button = control->AsOptionButton();
     if (button != nullptr && button->Container() == Container()) group.push_back(button);
   }
   return group;

@@ -112,6 +112,7 @@ class OptionButton : public ChoiceButton {
   void SetValue(bool value) override;
   void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
   void InputClick() override;
+  [[nodiscard]] OptionButton* AsOptionButton() override { return this; }
   /// The option buttons of the same container, this one among them, in the order of their making.
   [[nodiscard]] std::vector<OptionButton*> Group();
 };

@@ -94,6 +94,10 @@ class Control {
   [[nodiscard]] const std::wstring& Name() const { return name_; }
   /// Calls the visitor's function for this kind of control.
   virtual void Accept(ControlVisitor& visitor) = 0;
+  /// An input method is composing: what the user has typed into the control is not final yet.
+  [[nodiscard]] virtual bool Composing() const { return false; }
+  /// The control itself if it is an option button, else null.
+  [[nodiscard]] virtual OptionButton* AsOptionButton() { return nullptr; }
   [[nodiscard]] Form& OwnerForm() const { return form_; }
   /// The frame that the control is in; null for one that stands on the form itself.
   [[nodiscard]] Control* Container() const { return container_; }

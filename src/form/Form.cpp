@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "form/Scoped.h"
-#include "form/TextBox.h"
 #include "form/UserInterface.h"
 
 namespace vantor::form {
@@ -193,8 +192,8 @@ void Form::MoveFocus(bool backwards) {
 }
 
 void Form::InputKeyUp(Key key) {
-  const auto* const box = dynamic_cast<const TextBox*>(activeControl_);
-  if (key == Key::Escape && box != nullptr && box->Composing()) return;  // it is the input method's
+  const bool composing = activeControl_ != nullptr && activeControl_->Composing();
+  if (key == Key::Escape && composing) return;  // it is the input method's
   if (key >= Key::F1 && key <= Key::F12) HideHanging();
   if (AcceptsInput()) Form_KeyUp(key);
 }

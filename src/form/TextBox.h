@@ -32,8 +32,7 @@ class TextBox : public Control {
 
   void SelectAll() { Select(0, static_cast<int>(text_.size())); }
 
-  /// An input method is composing: what stands in the box is not final yet.
-  [[nodiscard]] bool Composing() const { return composing_; }
+  [[nodiscard]] bool Composing() const override { return composing_; }
 
   /// Where that begins which Ctrl and Backspace take: what is selected, or the blanks before the caret and the word, or
   /// the run of other signs, before those.
