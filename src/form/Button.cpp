@@ -15,8 +15,8 @@ void CommandButton::SetPictures(form::Picture normal, form::Picture down, form::
 
 Size CommandButton::LeastSize() const {
   const Size text = TextSize(caption_);
-  if (picture_.Drawing.empty()) return {text.Width + 180, text.Height + 60};  // the edge, and some room beside the text
-  const Twips letter = text.Height / 2;  // a small one, of which nothing hangs down
+  if (picture_.Drawing.empty()) return {text.Width + 180, text.Height + 60};  // the edge and some padding
+  const Twips letter = text.Height / 2;                                       // a small one, without a descender
   return {faceMargins_.Left + DrawingSide + 2 * DrawingTop + faceMargins_.Right,
           faceMargins_.Top + DrawingTop + DrawingSide + letter + faceMargins_.Bottom};
 }

@@ -10,7 +10,7 @@
 
 namespace vantor::form {
 
-/// Pressed: what the button opened is open. Folded and Unfolded: the same of what unfolds beside it.
+/// Pressed: the panel that the button opens is open. Folded and Unfolded: the same for a box that unfolds beside it.
 enum class ButtonState { Plain, Pressed, Folded, Unfolded };
 
 /// A push button with a caption, a picture, or both.
@@ -19,12 +19,12 @@ class CommandButton : public Control {
   template <class Parent>
   CommandButton(Parent& parent, std::wstring_view name) : Control(parent, name) {}
 
-  /// The word on the button, over its picture; also over that of the disabled button.
+  /// The word on the button, drawn over its picture, including the picture of the disabled state.
   [[nodiscard]] const std::wstring& Caption() const { return caption_; }
   void SetCaption(std::wstring_view caption) { Update(caption_, caption, Property::Caption); }
 
-  /// The pictures of the button's states. Without any the system's own button is shown. A button with both a drawing
-  /// and a caption has the caption below the drawing, in small letters.
+  /// The pictures for the states of the button. Without them it looks like a standard Windows button. A button with
+  /// both a drawing and a caption has the caption below the drawing, in small letters.
   static constexpr Twips DrawingSide = 240;
   static constexpr Twips DrawingTop = 45;  // from the face's upper edge, over a caption
   [[nodiscard]] form::Picture Picture() const { return picture_; }
@@ -33,15 +33,15 @@ class CommandButton : public Control {
   void SetPicture(form::Picture picture) { Update(picture_, picture, Property::Picture); }
   void SetPictures(form::Picture normal, form::Picture down, form::Picture disabled);
 
-  /// Where the drawn face begins inside the bounds. The button can be clicked in all of them.
+  /// The distance from the bounds to the drawn face. The margins can be clicked too.
   [[nodiscard]] const Margins& FaceMargins() const { return faceMargins_; }
   void SetFaceMargins(const Margins& margins) { faceMargins_ = margins; }
 
-  /// What the button says of what it opened; shown on its face and told to screen readers.
+  /// The state of what the button opens; shown on its face and reported to screen readers.
   [[nodiscard]] ButtonState State() const { return state_; }
   void SetState(ButtonState state) { Update(state_, state, Property::Picture); }
 
-  /// Does what a click by the user does, also on a hidden button; a disabled button does nothing.
+  /// Has the effect of a click by the user, even on a hidden button. A disabled button does nothing.
   void DoClick();
 
   Event<> Click;
@@ -51,7 +51,7 @@ class CommandButton : public Control {
   void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
   [[nodiscard]] Size LeastSize() const override;
 
-  // The user's doings, reported by the back end.
+  // What the user does, as reported by the back end.
   void InputClick() override;
   void InputCharacter(wchar_t character) override;
   void InputMouseDown(MouseButton button);
@@ -66,7 +66,7 @@ class CommandButton : public Control {
   ButtonState state_ = ButtonState::Plain;
 };
 
-/// What is ticked or not: check boxes and option buttons.
+/// A control that is either checked or not: check boxes and option buttons.
 class ChoiceButton : public Control {
  public:
   [[nodiscard]] const std::wstring& Caption() const { return caption_; }
@@ -81,7 +81,7 @@ class ChoiceButton : public Control {
  protected:
   using Control::Control;
 
-  /// Whether the value was another one.
+  /// Returns whether the value has changed.
   bool ChangeValue(bool value) { return Update(value_, value, Property::Value); }
 
  private:
@@ -89,13 +89,13 @@ class ChoiceButton : public Control {
   bool value_ = false;
 };
 
-/// A box that is ticked or not. Setting the value raises Click, as a click of the user's does.
+/// A check box. Changing the value raises Click, just as a click by the user does.
 class CheckBox : public ChoiceButton {
  public:
   template <class Parent>
   CheckBox(Parent& parent, std::wstring_view name) : ChoiceButton(parent, name) {}
 
-  Event<> Enter;  // the key was pressed, which does not tick the box
+  Event<> Enter;  // the Enter key was pressed; it does not toggle the box
 
   void SetValue(bool value) override;
   void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
@@ -113,7 +113,7 @@ class OptionButton : public ChoiceButton {
   void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
   void InputClick() override;
   [[nodiscard]] OptionButton* AsOptionButton() override { return this; }
-  /// The option buttons of the same container, this one among them, in the order of their making.
+  /// All option buttons in the same container, including this one, in the order in which they were created.
   [[nodiscard]] std::vector<OptionButton*> Group();
 };
 

@@ -43,7 +43,7 @@ class ControlVisitor {
   ControlVisitor& operator=(const ControlVisitor&) = default;
 };
 
-/// What about a control changed, for the window that mirrors it.
+/// The property of a control that has changed, for the window that mirrors it.
 enum class Property {
   Bounds,
   Visible,
@@ -69,7 +69,7 @@ class ControlWindow {
   virtual void TakeFocus() = 0;
   /// Paints what has changed before it returns.
   virtual void PaintNow() {}
-  /// The number by which the system knows the window; 0 for none.
+  /// The system's handle of the window as a number; 0 if there is none.
   [[nodiscard]] virtual std::uintptr_t Handle() const { return 0; }
 
  protected:
@@ -78,14 +78,14 @@ class ControlWindow {
   ControlWindow& operator=(const ControlWindow&) = default;
 };
 
-/// What all controls have. A control is whole without a window: its state lives here, and a window only shows
-/// it and reports what the user does through the Input… functions of the derived classes. Input to a control
-/// that is disabled, hidden, inside such a frame, or behind a modal form is ignored.
+/// The base of all controls. A control is complete without a window: its state lives here, and a window only shows
+/// it and reports what the user does through the Input… functions of the derived classes. Input is ignored while the
+/// control, or a frame around it, is disabled or hidden, or while another form is modal.
 class Control {
  public:
-  /// Puts the control on a form, last in tab order and on top of the controls before it.
+  /// Adds the control to a form: last in tab order, and in front of the controls added earlier.
   Control(Form& form, std::wstring_view name);
-  /// Puts the control into a frame, or any other control that serves as container.
+  /// Puts the control into a frame, or another control that serves as a container.
   Control(Control& container, std::wstring_view name);
   virtual ~Control();
   Control(const Control&) = delete;
@@ -99,7 +99,7 @@ class Control {
   /// The control itself if it is an option button, else null.
   [[nodiscard]] virtual OptionButton* AsOptionButton() { return nullptr; }
   [[nodiscard]] Form& OwnerForm() const { return form_; }
-  /// The frame that the control is in; null for one that stands on the form itself.
+  /// The frame that holds the control; null if it is placed directly on the form.
   [[nodiscard]] Control* Container() const { return container_; }
 
   /// Place and size in twips, relative to the container.
@@ -112,17 +112,17 @@ class Control {
   [[nodiscard]] Twips Right() const { return bounds_.Right(); }
   [[nodiscard]] Twips Bottom() const { return bounds_.Bottom(); }
 
-  /// The size that shows the control's caption whole on one line, or one line of a box, in the user's font.
+  /// The size needed to show the whole caption on one line, or one line of a box, in the user's font.
   [[nodiscard]] virtual Size LeastSize() const { return {}; }
-  /// The height that is usual for the control, or what the user's font makes of it.
+  /// The usual height of the control, or more if the user's font needs it.
   [[nodiscard]] Twips HeightFor(Twips usual) const { return std::max(usual, LeastSize().Height); }
 
   [[nodiscard]] bool Visible() const { return visible_; }
   void SetVisible(bool visible);
   [[nodiscard]] bool Enabled() const { return enabled_; }
   void SetEnabled(bool enabled);
-  /// Whether the user can reach the control now: it and its containers are visible and enabled, its form is
-  /// shown, and no modal form stands before that form.
+  /// Whether the user can use the control now: it and its containers are visible and enabled, its form is shown,
+  /// and no other form is modal.
   [[nodiscard]] bool AcceptsInput() const;
 
   [[nodiscard]] Color BackColor() const { return backColor_; }
@@ -132,31 +132,31 @@ class Control {
 
   [[nodiscard]] const std::wstring& ToolTip() const { return toolTip_; }
   void SetToolTip(std::wstring_view text) { Update(toolTip_, text, Property::ToolTip); }
-  /// What a screen reader calls the control: the name set, else the tool tip's text before "---".
+  /// What a screen reader calls the control: the name that was set, otherwise the tool tip's text before "---".
   [[nodiscard]] std::wstring AccessibleName() const;
   void SetAccessibleName(std::wstring_view name) { Update(accessibleName_, name, Property::ToolTip); }
 
-  /// Place in the order in which Tab walks; 0 comes first. Starts as the order of construction.
+  /// Position in the tab order; 0 comes first. Initially the order of construction.
   [[nodiscard]] int TabIndex() const { return tabIndex_; }
   void SetTabIndex(int index) { tabIndex_ = index; }
-  /// Whether Tab stops here; true from the start for the kinds that take the focus.
+  /// Whether Tab stops here; initially true for the kinds that can take the focus.
   [[nodiscard]] bool TabStop() const { return tabStop_; }
   void SetTabStop(bool tabStop) { tabStop_ = tabStop; }
 
-  /// Whether the kind takes the focus at all.
+  /// Whether this kind of control can take the focus at all.
   [[nodiscard]] bool IsFocusable() const { return focusable_; }
-  /// Gives the control the focus; does nothing when the control is not focusable, hidden or disabled. On a form
-  /// that is not shown yet the control gets the focus when it is.
+  /// Gives the control the focus; does nothing if the control is not focusable, or is hidden or disabled. On a form
+  /// that has not been shown yet, the control gets the focus when the form is shown.
   void SetFocus();
   [[nodiscard]] bool HasFocus() const;
 
-  /// Has what has changed be seen before the program goes on.
+  /// Shows pending changes on the screen before the program continues.
   void PaintNow() const;
 
-  // The user's doings, reported by the back end.
+  // What the user does, as reported by the back end.
   virtual void InputClick() {}
   virtual void InputDblClick() {}
-  /// A character key, on a desktop that leaves to the control what it does.
+  /// A character key, on a desktop without windows, where the control itself applies it.
   virtual void InputCharacter(wchar_t /*character*/) {}
 
   /// The window that mirrors the control, set by the back end that made it; null without one.
@@ -165,7 +165,7 @@ class Control {
 
  protected:
   void NotifyWindow(Property property) const;
-  /// Sets a member, and tells the window if it had another value. Returns whether it had.
+  /// Sets a member and, if its value changes, notifies the window. Returns whether it has changed.
   template <class Member, class Value>
   bool Update(Member& member, const Value& value, Property property) {
     if (member == value) return false;
@@ -173,13 +173,13 @@ class Control {
     NotifyWindow(property);
     return true;
   }
-  /// For kinds that only show something.
+  /// For kinds that only display something.
   void TakeNoFocus() { focusable_ = tabStop_ = false; }
-  /// The size of a text in the user's font, with its lines broken only where it says.
+  /// The size of a text in the user's font, broken into lines only at its own line breaks.
   [[nodiscard]] Size TextSize(std::wstring_view text, bool bold = false) const;
 
  private:
-  /// Visible and enabled, with every container of it.
+  /// The control and all its containers are visible and enabled.
   [[nodiscard]] bool IsReachable() const;
 
   Form& form_;

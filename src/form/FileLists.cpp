@@ -10,14 +10,14 @@ namespace vantor::form {
 
 namespace {
 
-/// The drive of a path as the list shows it: with its letter in lower case.
+/// The drive of a path as the list shows it, with a lower-case letter.
 std::wstring DriveOf(std::wstring_view path) {
   std::wstring drive(text::DriveName(path));
   if (!drive.empty() && drive[0] >= L'A' && drive[0] <= L'Z') drive[0] += L'a' - L'A';
   return drive;
 }
 
-/// Without a trailing backslash unless it is a drive's root; the letter of the drive in upper case.
+/// The folder without a trailing backslash, except for a drive's root, and with an upper-case drive letter.
 std::wstring TidyFolder(std::wstring_view path) {
   std::wstring folder(path);
   if (folder.size() == 2 && folder[1] == L':') folder += L'\\';

@@ -9,19 +9,19 @@
 
 namespace vantor::form {
 
-/// The drives of the computer as a drop-down list, "c: [label]" each.
+/// The drives of the computer as a drop-down list of entries such as "c: [label]".
 class DriveList : public DropDownList {
  public:
   template <class Parent>
   DriveList(Parent& parent, std::wstring_view name, service::FileSystem& files)
       : DropDownList(parent, name), files_(files) {}
 
-  /// Reads the drives anew, keeping the chosen one. Raises nothing.
+  /// Reads the drives again and keeps the chosen one. Raises no event.
   void Refresh();
   /// The chosen drive, such as "c:"; "" before the first choice.
   [[nodiscard]] std::wstring Drive() const;
-  /// Chooses the drive of a path ("c:", "C:\x") and raises Change; the drive chosen already raises nothing, and
-  /// one that is not in the list is added to it.
+  /// Chooses the drive of a path ("c:", "C:\x") and raises Change; choosing the current drive
+  /// raises nothing, and a drive that is not in the list is added to it.
   void SetDrive(std::wstring_view path);
 
   [[nodiscard]] bool ChoosesAtEnd() const override { return true; }
@@ -37,8 +37,8 @@ class DriveList : public DropDownList {
   service::FileSystem& files_;
 };
 
-/// The way from a drive's root to the current folder, and that folder's own folders below it, indented. A
-/// double click or Enter goes to the entry.
+/// The path from a drive's root to the current folder, followed by that folder's subfolders, indented by level. A
+/// double click or Enter goes to an entry.
 class FolderList : public OpenList {
  public:
   template <class Parent>
@@ -47,17 +47,17 @@ class FolderList : public OpenList {
 
   /// The current folder; a trailing backslash only at a drive's root.
   [[nodiscard]] const std::wstring& Path() const { return path_; }
-  /// Goes to a folder and raises Change; the current one raises nothing. Returns false, changing nothing, when
-  /// the drive is not ready or there is no such folder.
+  /// Goes to a folder and raises Change, unless it is the current one. Returns false and changes nothing if the drive
+  /// is not ready or there is no such folder.
   bool SetPath(std::wstring_view path);
   void Refresh();
   /// The full path of entry `index`.
   [[nodiscard]] std::wstring PathOf(int index) const;
-  /// How many levels below the root entry `index` stands, for its indentation.
+  /// How many levels entry `index` is below the root; this determines its indentation.
   [[nodiscard]] int LevelOf(int index) const override;
 
   Event<> Change;
-  /// The user chose an entry that can't be gone to; the list is as before.
+  /// The user chose a folder that can't be opened; the list is unchanged.
   Event<> Unreachable;
 
  protected:
@@ -69,10 +69,10 @@ class FolderList : public OpenList {
 
   service::FileSystem& files_;
   std::wstring path_;
-  int currentIndex_ = -1;  // the entry of the current folder; those after it are that folder's own
+  int currentIndex_ = -1;  // the entry of the current folder; its subfolders follow
 };
 
-/// The files of a folder whose names fit a pattern such as "*.exe", sorted without regard to letter case.
+/// The files of a folder whose names match a pattern such as "*.exe", sorted without regard to case.
 class FileList : public OpenList {
  public:
   template <class Parent>
@@ -83,11 +83,11 @@ class FileList : public OpenList {
   void SetPath(std::wstring_view path);
   [[nodiscard]] const std::wstring& Pattern() const { return pattern_; }
   void SetPattern(std::wstring_view pattern);
-  /// Reads the folder anew; none is selected then. A folder that can't be read shows as empty.
+  /// Reads the folder again; no file is selected afterwards. A folder that can't be read is shown as empty.
   void Refresh();
 
  protected:
-  /// Enter on a file is as good as a click on it.
+  /// Enter on a file has the effect of a click.
   void EnterPressed() override {
     if (ListIndex() != -1) Click();
   }

@@ -54,7 +54,7 @@ void Form::Show() {
 
 void Form::ShowModal() {
   Load();
-  struct Turn {  // ends also when an exception leaves it: the other forms take input again
+  struct Turn {  // also ends when an exception is thrown, so that the other forms accept input again
     explicit Turn(Form& form) : Of(form) {
       Of.ui_.modalForms_.push_back(&Of);
       Of.ui_.ModalChanged();
@@ -120,7 +120,7 @@ void Form::SetPlace(Twips left, Twips top, Size inside) {
 
 Size Form::RoomNeeded() const {
   if (host_ != nullptr) return host_->RoomNeeded();
-  // As high as it usually is, and as wide as the edges below it.
+  // The usual height of a title bar, and the width of the edges below it.
   constexpr Size TitleBar{240, 600};
   const Size more = borderStyle_ == BorderStyle::Dialog ? TitleBar : Size{};
   return {inside_.Width + more.Width, inside_.Height + more.Height};
@@ -183,7 +183,7 @@ void Form::MoveFocus(bool backwards) {
                    [](const Control* a, const Control* b) { return a->TabIndex() < b->TabIndex(); });
   const auto here = std::find(order.begin(), order.end(), activeControl_);
   const std::size_t count = order.size();
-  // With nothing active the first control comes next, and the last one before.
+  // If nothing is active, the next control is the first and the previous one is the last.
   const std::size_t from = here != order.end() ? static_cast<std::size_t>(here - order.begin())
                            : backwards         ? 0
                                                : count - 1;
@@ -193,7 +193,7 @@ void Form::MoveFocus(bool backwards) {
 
 void Form::InputKeyUp(Key key) {
   const bool composing = activeControl_ != nullptr && activeControl_->Composing();
-  if (key == Key::Escape && composing) return;  // it is the input method's
+  if (key == Key::Escape && composing) return;  // meant for the input method
   if (key >= Key::F1 && key <= Key::F12) HideHanging();
   if (AcceptsInput()) Form_KeyUp(key);
 }

@@ -20,9 +20,9 @@ class FormWindow {
   virtual ~FormWindow() = default;
   /// Shows what changed: Bounds, Visible, Caption, Colors, or Value for the window state.
   virtual void Changed(Property property) = 0;
-  /// Puts the window into the topmost band or takes it out, without moving or activating it.
+  /// Makes the window topmost or stops it being so, without moving or activating it.
   virtual void SetTopMost(bool topMost) = 0;
-  /// Lets the window manager move the window with the mouse, as by a title bar; returns when the move has ended.
+  /// Lets the window manager move the window with the mouse, as with a title bar; returns when the move is over.
   virtual void Drag() = 0;
   virtual void Activate() = 0;
 
@@ -38,7 +38,7 @@ struct DroppedItems {
   std::wstring Address;
 };
 
-/// Takes what is dropped on forms.
+/// Receives what is dropped on forms.
 class DropHandler {
  public:
   virtual void Take(const DroppedItems& items) = 0;
@@ -52,7 +52,7 @@ enum class WindowState { Normal, Minimized };
 enum class BorderStyle { None, Line, Dialog };
 
 /// A top-level window with controls. It exists without being loaded; loading runs its Load handler once, and
-/// showing it loads it first. Unloading asks nobody, runs the Unload handler and takes the window away; the
+/// showing it loads it first. Unloading asks no questions, runs the Unload handler and removes the window; the
 /// next use loads it again. A form that is destroyed is unloaded, or the program has ended.
 class Form {
  public:
@@ -67,23 +67,23 @@ class Form {
   /// Runs the Load handler if the form is not loaded.
   void Load();
   [[nodiscard]] bool Loaded() const { return loaded_; }
-  /// Hides the form, takes its window away and runs the Unload handler; nothing if it is not loaded.
+  /// Hides the form, removes its window and runs the Unload handler; does nothing if the form is not loaded.
   void Unload();
 
   void Show();
-  /// Shows the form before all others, which ignore input meanwhile; returns when it is hidden or unloaded, or
-  /// when the program ends.
+  /// Shows the form modally: all other forms ignore input until it is hidden or unloaded. Returns then, or when the
+  /// program ends.
   void ShowModal();
   void Hide();
   [[nodiscard]] bool Visible() const { return visible_; }
-  /// Shown and not minimised, and no modal form stands before it.
+  /// The form is shown and not minimised, and no other form is modal.
   [[nodiscard]] bool AcceptsInput() const;
 
-  /// The form that this one hangs on, as a drop-down list does; null for none. Such a form never has the focus and is
-  /// never activated, is on no taskbar, stands directly above its host and is topmost exactly when that is. It can be
-  /// shown while the host is active, and is hidden as soon as the user turns to anything else: moves the focus, presses
-  /// a function key, clicks beside the controls, moves, minimises, leaves or closes the host, drops something on it;
-  /// and when the screens change.
+  /// The form that this one is attached to, like a drop-down list; null for none. An attached form never has the focus,
+  /// is never activated and has no taskbar button; it stays directly above its host, and is topmost whenever the host
+  /// is. It can be shown only while the host is active, and is hidden as soon as the user does anything else: moves the
+  /// focus, presses a function key, clicks beside the controls, moves, minimises, leaves or closes the host, or drops
+  /// something on it. It is also hidden when the screens change.
   [[nodiscard]] Form* Host() const { return host_; }
   void SetHost(Form& host) { host_ = &host; }  // before the form is shown
 
@@ -94,59 +94,59 @@ class Form {
   [[nodiscard]] form::BorderStyle BorderStyle() const { return borderStyle_; }
   void SetBorderStyle(form::BorderStyle style) { borderStyle_ = style; }  // before the form is shown
 
-  /// What the form covers of the desktop, in twips; a dialog's title bar comes on top.
+  /// The area that the form covers on the desktop, in twips, without a dialog's title bar.
   [[nodiscard]] const Rect& Bounds() const { return bounds_; }
-  /// Moves the form's top left corner to a place on the desktop.
+  /// Moves the form's top left corner to a point on the desktop.
   void MoveTo(Twips left, Twips top);
-  /// Moves it and changes its size at once.
+  /// Moves and resizes the form in one step.
   void SetPlace(Twips left, Twips top, Size inside);
   /// The size of the form's inside, in the twips of its controls.
   [[nodiscard]] Size Inside() const { return inside_; }
   void SetInside(Size inside);
-  /// How large the form is shown, with all that is in it: 1, or the largest share of that at which what it needs fits
-  /// the work area of its screen. It is a whole number of dots per inch there.
+  /// The scale at which the form and everything in it is shown: 1, or the largest smaller scale at which the form fits
+  /// the work area of its screen. It always corresponds to a whole number of dots per inch.
   [[nodiscard]] double Scale() const { return scale_; }
   [[nodiscard]] form::WindowState WindowState() const { return windowState_; }
   void SetWindowState(form::WindowState state);
-  /// Whether the window is to stand above all windows that are not topmost. Setting it again asserts it anew.
+  /// Whether the window stays above all windows that are not topmost. Setting it again re-asserts it.
   [[nodiscard]] bool TopMost() const { return host_ != nullptr ? host_->TopMost() : topMost_; }
   void SetTopMost(bool topMost);
-  /// Moves the form as little as brings it into an area.
+  /// Moves the form into an area by the shortest distance.
   void MoveInto(const Rect& area);
-  /// Lets the user move the form with the mouse button that is held; Bounds are the new ones on return. Does nothing
-  /// while the form is dragged already.
+  /// Lets the user drag the form with the mouse button that is held down; Bounds are up to date on return. Does nothing
+  /// if the form is being dragged already.
   void Drag();
   void Activate();
-  /// Whether the user works in the form.
+  /// Whether the form is the one the user is working in.
   [[nodiscard]] bool Active() const { return active_; }
 
-  /// Whether things can be dropped on the form.
+  /// Whether the form accepts drops.
   [[nodiscard]] bool AcceptsDrops() const { return dropHandler_ != nullptr; }
-  /// Lets things be dropped on the form, and hands them on; before the form is shown.
+  /// Makes the form accept drops and hand them to the handler. To be called before the form is shown.
   void AcceptDrops(DropHandler& handler) { dropHandler_ = &handler; }
 
   [[nodiscard]] const std::vector<Control*>& Controls() const { return controls_; }
   /// The control that has the focus while the form is active; null for none.
   [[nodiscard]] Control* ActiveControl() const { return activeControl_; }
-  /// Moves the focus to the next control in tab order, or the one before; round at the ends.
+  /// Moves the focus to the next or the previous control in tab order, wrapping around at the ends.
   void MoveFocus(bool backwards);
 
-  // The user's doings, reported by the back end.
+  // What the user does, as reported by the back end.
 
-  /// A key let go, seen by the form whichever control has the focus.
+  /// A key was released. The form sees it whichever control has the focus.
   void InputKeyUp(Key key);
   void InputMouseMove(MouseButton held);
-  /// The mouse was pressed over a free spot.
+  /// A mouse button was pressed beside the controls.
   void InputMouseDown() { HideHanging(); }
   void InputMoved(Twips left, Twips top);
-  /// The screen that the form is on has another resolution now, or its texts another size.
+  /// The resolution of the screen that the form is on, or the size of texts, has changed.
   void InputResolution();
   void InputScreensChanged();
-  /// The user minimised the window by other means than the program's own, or restored it.
+  /// The user minimised the window by other means than the program's own button, or restored it.
   void InputWindowState(form::WindowState state);
-  /// The window that the user works in is this one now, or another one.
+  /// The form has become, or has ceased to be, the one the user is working in.
   void InputActive(bool active);
-  /// The user closes the window, or Windows ends.
+  /// The user closes the window, or Windows shuts down.
   void InputClose();
   void InputDrop(const DroppedItems& items);
   /// The focus went to a control by mouse, Tab or the window manager.
@@ -158,19 +158,19 @@ class Form {
   virtual void Form_Load() {}
   virtual void Form_Unload() {}
   virtual void Form_KeyUp(Key /*key*/) {}
-  /// The window was moved from outside, by the window manager say, which may tell of a drag's end late. While
-  /// Dragging, this is a step on the way.
+  /// The window was moved from outside, for example by the window manager, which may report the end of a drag late.
+  /// While Dragging, this is an intermediate step.
   virtual void Form_Moved() {}
   [[nodiscard]] bool Dragging() const { return dragging_; }
-  /// The window was minimised, and not by SetWindowState.
+  /// The window was minimised by other means than SetWindowState.
   virtual void Form_Minimized() {}
-  /// The screens or the room on them changed: a visible form comes into the room that is left.
+  /// The screens or their work areas have changed: a visible form is moved into the work area.
   virtual void Form_ScreensChanged();
-  /// What has to fit the screen's work area, in the twips of the controls: the inside, with a dialog's title bar.
+  /// What has to fit into the screen's work area, in the twips of the controls: the inside plus a dialog's title bar.
   [[nodiscard]] virtual Size RoomNeeded() const;
-  /// The mouse moves over a free spot: no control is there, or only frames, labels and images, which let it through.
+  /// The mouse moves over the form itself, or over frames, labels and images, which let it through.
   virtual void Form_MouseMove(MouseButton /*held*/) {}
-  /// What closing the window does: an unload unless the form does otherwise.
+  /// Handles the closing of the window; unloads the form unless overridden.
   virtual void Form_Close() { Unload(); }
 
  private:
@@ -181,12 +181,12 @@ class Form {
   void AddControl(Control& control);
   void RemoveControl(Control& control);
   void SetActiveControl(Control* control);
-  /// Moves the focus on when the control that has it was just hidden or disabled.
+  /// Moves the focus to another control if the one that has it was just hidden or disabled.
   void LeaveUnreachable();
   void LeaveModal();
-  /// Hides the forms that hang on this one.
+  /// Hides the forms that are attached to this one.
   void HideHanging();
-  /// Shows the form at the scale that fits the screen it is on.
+  /// Chooses the scale that fits the screen the form is on.
   void Fit();
 
   UserInterface& ui_;

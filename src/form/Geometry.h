@@ -5,12 +5,12 @@
 
 namespace vantor::form {
 
-/// A length on the screen: 1/1440 inch, so 15 of them are a pixel at 96 dots per inch.
+/// A length on the screen in units of 1/1440 inch; 15 of them are a pixel at 96 dots per inch.
 using Twips = int;
 
 inline constexpr Twips TwipsPerInch = 1440;
 
-/// A place and a size in twips. Relative to the container for a control, to the desktop for a form.
+/// A position and a size in twips. Relative to the container for a control, to the desktop for a form.
 struct Rect {
   Twips Left = 0;
   Twips Top = 0;
@@ -22,12 +22,12 @@ struct Rect {
   friend bool operator==(const Rect&, const Rect&) = default;
 };
 
-/// How far two stretches overlap; 0 when they don't.
+/// How far two ranges overlap; 0 if they don't.
 [[nodiscard]] inline Twips Overlap(Twips from, Twips to, Twips otherFrom, Twips otherTo) {
   return std::max(std::min(to, otherTo) - std::max(from, otherFrom), 0);
 }
 
-/// What is kept free at the sides of something, in twips.
+/// The space kept free at the sides of something, in twips.
 struct Margins {
   Twips Left = 0;
   Twips Top = 0;

@@ -14,7 +14,7 @@ namespace vantor::form {
 
 namespace {
 
-/// What the key does in a box of one line.
+/// Applies a caret key to a single-line box.
 void MoveCaret(TextBox& box, Key key) {
   switch (key) {
     case Key::Left:
@@ -110,7 +110,7 @@ void Headless::Press(Key key) {
              list != nullptr && (key == Key::Up || key == Key::Down)) {
     list->InputWalk(list->ListIndex() + (key == Key::Down ? 1 : -1));
   }
-  form = ActiveForm();  // the key is let go over whatever has the focus now
+  form = ActiveForm();  // the key is released over whatever has the focus now
   if (form != nullptr) form->InputKeyUp(key);
 }
 

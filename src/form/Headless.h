@@ -12,8 +12,8 @@
 
 namespace vantor::form {
 
-/// A desktop without windows: one screen, a clock that stands still until told, and a user who does what a
-/// test says. A program on it runs to the letter as on a real desktop.
+/// A desktop without windows: one screen, a clock that only moves when told to, and a user who does what a test
+/// says. A program on it behaves exactly as on a real desktop.
 class Headless : public UserInterface {
  public:
   Headless();
@@ -21,14 +21,14 @@ class Headless : public UserInterface {
 
   /// The one screen, 1024 by 768 pixels of 15 twips at first.
   Screen Desktop;
-  /// How wide and how high the user's font is.
+  /// The width and height of the user's font.
   Twips CharacterWidth = 90;
   Twips LineHeight = 195;
 
-  /// Lets time pass, raising the ticks that fall into it in order.
+  /// Advances the clock, raising the ticks that fall due in order.
   void Advance(int milliseconds);
 
-  /// What the user does while the next modal form stands open. Scripts are used in the order given, one a form;
+  /// What the user does while the next modal form is open. Scripts are used in the order given, one per form;
   /// a modal form without one throws std::logic_error, so that a test sees a message it did not expect.
   void WhenModal(std::function<void(Form&)> script);
   /// Whether all scripts have been used.
@@ -37,23 +37,23 @@ class Headless : public UserInterface {
   /// The form that has the focus: the modal one, else the one activated or shown last that is still shown.
   [[nodiscard]] Form* ActiveForm() const;
 
-  // The user's hands.
+  // What the user does.
 
   /// Types characters into the control that has the focus. Backspace is '\b', Enter '\r', Escape '\x1b'.
   void Type(std::wstring_view text);
-  /// Presses and lets go a key; for the text keys this types their character too.
+  /// Presses and releases a key; text keys also type their character.
   void Press(Key key);
   /// Presses a key with Ctrl: Backspace or A, in a text box.
   void PressControl(Key key);
   void Click(Control& control);
   void DoubleClick(Control& control);
-  /// Presses the mouse over a row and lets it go there.
+  /// Clicks a row.
   void ClickRow(RowList& list, int row);
-  /// Turns the wheel by so many rows over a text box or a row list.
+  /// Turns the wheel by the given number of rows over a text box or a row list.
   void Wheel(Control& control, int rows);
-  /// Works in another program, until a form is activated again.
+  /// Switches to another program until a form is activated again.
   void Leave();
-  /// Drags the form by (x, y) twips, by a free spot of it.
+  /// Drags the form by (x, y) twips.
   void DragBy(Form& form, Twips x, Twips y);
 
   [[nodiscard]] Screen ScreenAt(const Rect& place) const override;
@@ -80,12 +80,12 @@ class Headless : public UserInterface {
   };
 
   void TypeCharacter(wchar_t character);
-  /// Tells forms which of them the user works in now.
+  /// Tells the forms which of them is the active one now.
   void TellActive(Form* active);
 
   std::vector<RunningTimer> timers_;
   Form* toldActive_ = nullptr;
-  std::vector<Form*> activated_;  // the last one most recently; a hidden form gives way to the one before
+  std::vector<Form*> activated_;  // the last one most recently; a hidden form yields to the one before it
   Twips dragX_ = 0;
   Twips dragY_ = 0;
   std::deque<std::function<void(Form&)>> modalScripts_;

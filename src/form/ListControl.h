@@ -13,11 +13,11 @@ namespace vantor::form {
 enum class ListInput {
   None,
   Click,  // by mouse
-  Walk,   // from entry to entry, by arrows, letters or the wheel
+  Walk,   // moving from entry to entry by arrow keys, letters or the wheel
   Enter,
 };
 
-/// What the list kinds share: entries in order, and the index of the one that is selected (-1: none).
+/// The base of all lists: entries in order, and the index of the selected one (-1: none).
 class ListControl : public Control {
  public:
   [[nodiscard]] int ListCount() const { return static_cast<int>(list_.size()); }
@@ -26,25 +26,25 @@ class ListControl : public Control {
   [[nodiscard]] const std::vector<std::wstring>& Entries() const { return list_; }
 
   [[nodiscard]] int ListIndex() const { return listIndex_; }
-  /// Selects an entry and raises Click once; the index that is selected already raises nothing, nor does -1,
-  /// which selects none. Throws std::out_of_range for an index that is not -1 to ListCount() - 1.
+  /// Selects an entry and raises Click once; selecting the current index again raises nothing, nor does -1,
+  /// which clears the selection. Throws std::out_of_range for an index that is not -1 to ListCount() - 1.
   void SetListIndex(int index);
-  /// The selected entry, "" when none is.
+  /// The selected entry, "" if there is none.
   [[nodiscard]] std::wstring Text() const;
 
   Event<> Click;
   Event<> DblClick;
 
-  /// What the event under way comes from; None for what the program does itself.
+  /// The source of the event being handled; None if the program itself caused it.
   [[nodiscard]] ListInput Input() const { return input_; }
-  /// Whether the user can walk to an entry. What can't be walked to may still be chosen.
+  /// Whether the user can move to an entry with the keyboard. Other entries may still be chosen.
   [[nodiscard]] virtual bool Ready(int /*index*/) const { return true; }
 
-  // The user's doings, reported by the back end.
+  // What the user does, as reported by the back end.
 
   void InputSelect(int index, ListInput how = ListInput::Click);
-  /// Walks to an entry, or to the nearest one that is ready: beyond it, or else before it. An index beyond the ends
-  /// is taken as the end's.
+  /// Moves to an entry, or to the nearest one that is ready: first looking further on, then back. An index beyond the
+  /// ends counts as the end.
   void InputWalk(int index);
   void InputDblClick() override;
   void InputEnter();
@@ -52,11 +52,11 @@ class ListControl : public Control {
  protected:
   using Control::Control;
 
-  /// Puts other entries in the place of all, with none selected. Raises nothing.
+  /// Replaces all entries and clears the selection. Raises nothing.
   void ReplaceEntries(std::vector<std::wstring> entries);
-  /// An entry was selected, by the user or the program.
+  /// An entry was selected by the user or the program.
   virtual void EntrySelected() { Click(); }
-  /// What a double click, or Enter on an entry, does beyond telling it.
+  /// What a double click, or Enter on an entry, does after the event.
   virtual void EntryChosen() {}
   /// What Enter does before it counts as a double click.
   virtual void EnterPressed() {}
@@ -68,13 +68,13 @@ class ListControl : public Control {
   void ChooseEntry();
 
   ListInput input_ = ListInput::None;
-  bool walked_ = false;  // to the selected entry, which has not been clicked on
+  bool walked_ = false;  // the selected entry was reached by Walk and has not been clicked
 };
 
-/// A list that shows its chosen entry, and the others when it is dropped down.
+/// A list that shows its selected entry, and all entries when it is dropped down.
 class DropDownList : public ListControl {
  public:
-  /// Whether the arrows in the dropped list only show the way, so that Enter or a click chooses.
+  /// Whether arrow keys in the dropped list only move the highlight, so that Enter or a click chooses.
   [[nodiscard]] virtual bool ChoosesAtEnd() const { return false; }
   void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
   [[nodiscard]] Size LeastSize() const override;
@@ -83,10 +83,10 @@ class DropDownList : public ListControl {
   using ListControl::ListControl;
 };
 
-/// A list that shows its entries at once. Enter does what a double click does.
+/// A list that shows its entries all the time. Enter does what a double click does.
 class OpenList : public ListControl {
  public:
-  /// How many steps entry `index` stands in.
+  /// The indentation level of entry `index`.
   [[nodiscard]] virtual int LevelOf(int /*index*/) const { return 0; }
 
   void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
@@ -110,7 +110,7 @@ class ComboBox : public DropDownList {
   void Reserve(int count) { list_.reserve(static_cast<std::size_t>(count)); }
   /// Replaces the text of one entry; the selection stays. Throws std::out_of_range.
   void SetList(int index, std::wstring_view text);
-  /// Removes an entry. The selection stays on its entry, and is none when that entry goes. Raises nothing.
+  /// Removes an entry. The selection stays on its entry, and is cleared if that entry is removed. Raises nothing.
   /// Throws std::out_of_range.
   void RemoveItem(int index);
   void Clear() { ReplaceEntries({}); }
@@ -125,7 +125,7 @@ class ListBox : public OpenList {
     SetForeColor(Color::WindowText);
   }
 
-  /// Puts other entries in the place of all, with none selected. Raises nothing.
+  /// Replaces all entries and clears the selection. Raises nothing.
   void SetEntries(std::vector<std::wstring> entries) { ReplaceEntries(std::move(entries)); }
 };
 

@@ -8,27 +8,27 @@
 
 namespace vantor::form {
 
-/// A part of a drawing, on a square whose sides are 16 long, with y growing downwards.
+/// A part of a drawing, in a square of 16 by 16 units, with y pointing downwards.
 struct Shape {
-  /// Path data as in SVG, with the commands M, L, H, V, C and Z alone, each written out, in absolute numbers.
+  /// Path data as in SVG, limited to the commands M, L, H, V, C and Z, each written out, with absolute coordinates.
   std::string_view Path;
   /// The colour of an area. Without one the path is a line, in the colour and thickness of its surroundings.
   std::optional<Color> Fill = {};
 };
 
-/// What is drawn, from the back to the front. Whoever names it keeps it.
+/// What is drawn, from back to front. It is not owned.
 using Drawing = std::span<const Shape>;
 
 /// What a picture is drawn on.
 enum class Background {
   None,
-  Normal,  // the faces of a button
+  Normal,  // the states of a button
   Pressed,
   Disabled,
   Band,  // the side band of a message
 };
 
-/// A picture that the back end draws at whatever size is asked for.
+/// A picture that the back end draws at any size.
 struct Picture {
   form::Background Background = Background::None;
   form::Drawing Drawing = {};

@@ -9,9 +9,9 @@ namespace vantor::form {
 /// The height of the panels' buttons, in twips.
 inline constexpr Twips ButtonHeight = 390;
 
-/// Gives a button of the panels and messages its pictures and its word.
+/// Gives a button of a panel or message its pictures and its caption.
 void DressButton(CommandButton& button, std::wstring_view caption);
-/// A button's width that shows its caption whole, in twips.
+/// The width at which a button shows its whole caption, in twips.
 [[nodiscard]] Twips ButtonWidth(const CommandButton& button);
 
 }  // namespace vantor::form

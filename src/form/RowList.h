@@ -17,11 +17,11 @@ struct Row {
   friend bool operator==(const Row&, const Row&) = default;
 };
 
-/// Knows the rows of a RowList.
+/// Provides the rows of a RowList.
 class RowSource {
  public:
   [[nodiscard]] virtual int RowCount() const = 0;
-  /// Of 0 to RowCount() - 1.
+  /// `index` is 0 to RowCount() - 1.
   [[nodiscard]] virtual Row RowAt(int index) const = 0;
 
  protected:
@@ -31,8 +31,8 @@ class RowSource {
   ~RowSource() = default;
 };
 
-/// A list whose rows are asked for only when they are to be seen, so that their number costs nothing. It never has the
-/// focus: the program says which row is the current one. As many rows are seen as fit its height, the rest by
+/// A list that asks for its rows only when they become visible, so that their number costs nothing. It never has the
+/// focus: the program says which row is the current one. It shows as many rows as fit its height, and the rest by
 /// scrolling.
 class RowList : public Control {
  public:
@@ -46,31 +46,31 @@ class RowList : public Control {
 
   [[nodiscard]] int RowCount() const { return source_.RowCount(); }
   [[nodiscard]] Row RowAt(int index) const { return source_.RowAt(index); }
-  /// What a screen reader says of a row: its text, its number and how many there are.
+  /// What a screen reader says for a row: its text, its number and the number of rows.
   [[nodiscard]] std::wstring SpokenRow(int index) const;
-  /// The source has other rows now: they are seen from the first one, with this one as the current one.
+  /// The source has new rows: shows them from the first one, with `current` as the current one.
   void ShowRows(int current);
 
   /// -1: none.
   [[nodiscard]] int CurrentRow() const { return currentRow_; }
-  /// Scrolls no further than brings the row into sight.
+  /// Scrolls only as far as needed to show the row.
   void SetCurrentRow(int row);
 
   [[nodiscard]] Twips RowHeight() const { return rowHeight_; }
   void SetRowHeight(Twips height) { rowHeight_ = height; }  // before the form is shown
-  /// How many rows are seen at once; at least 1.
+  /// The number of rows visible at once; at least 1.
   [[nodiscard]] int PageRows() const;
-  /// The first row that is seen.
+  /// The first visible row.
   [[nodiscard]] int TopRow() const { return topRow_; }
-  /// As far as there are rows.
+  /// Stops at the first and the last page.
   void ScrollTo(int topRow);
 
-  /// The mouse was pressed and let go over one row.
+  /// The mouse button was pressed and released over the same row.
   Event<int /*row*/> Click;
 
   void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
 
-  // The user's doings, reported by the back end.
+  // What the user does, as reported by the back end.
 
   void InputRowClick(int row);
   void InputScroll(int topRow);

@@ -4,7 +4,7 @@
 
 namespace vantor::form {
 
-/// Sets a value for the length of a scope, also when an exception leaves it.
+/// Sets a value for the length of a scope, even if an exception ends it.
 template <class T>
 class Scoped {
  public:

@@ -7,7 +7,7 @@ void Frame::InputClick() {
 }
 
 Size Frame::LeastSize() const {
-  constexpr Twips BesideCaption = 360;  // the line on its left and right, and the gaps
+  constexpr Twips BesideCaption = 360;  // the line on both sides, and the gaps
   const Size text = TextSize(caption_);
   return {text.Width + BesideCaption, text.Height};
 }

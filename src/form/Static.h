@@ -50,10 +50,10 @@ class Frame : public Control {
   void SetCaption(std::wstring_view caption) { Update(caption_, caption, Property::Caption); }
   [[nodiscard]] bool Border() const { return border_; }
   void SetBorder(bool border) { Update(border_, border, Property::Caption); }
-  /// Leaves the border's edge out, and puts its caption so far from the left and the top.
+  /// Omits the edge of the border and shows only its caption, at this distance from the left and the top.
   [[nodiscard]] const std::optional<Margins>& CaptionAlone() const { return captionAlone_; }
   void SetCaptionAlone(Twips left, Twips top) { captionAlone_ = Margins{left, top}; }
-  /// A coloured strip that tells something by its caption, and holds nothing else.
+  /// A coloured strip whose caption informs the user; it holds no controls.
   [[nodiscard]] bool Banner() const { return banner_; }
   void SetBanner(bool banner) { banner_ = banner; }  // before the form is shown
 
@@ -70,7 +70,7 @@ class Frame : public Control {
   std::optional<Margins> captionAlone_;
 };
 
-/// What shows a picture.
+/// A control that shows a picture.
 class PictureControl : public Control {
  public:
   [[nodiscard]] form::Picture Picture() const { return picture_; }
@@ -94,7 +94,7 @@ class Image : public PictureControl {
   }
 };
 
-/// A picture that can take the focus, to take it away from something else.
+/// A picture that can take the focus, so that another control loses it.
 class PictureBox : public PictureControl {
  public:
   template <class Parent>

@@ -94,7 +94,7 @@ void TextBox::InputWordBack() {
   KeyDone();
 }
 
-/// Takes away what is between a place and the selection's end.
+/// Removes the text from `start` to the end of the selection.
 void TextBox::InputErase(int start) {
   std::wstring edited = text_;
   edited.erase(static_cast<std::size_t>(start), static_cast<std::size_t>(selStart_ + selLength_ - start));

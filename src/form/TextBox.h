@@ -24,7 +24,7 @@ class TextBox : public Control {
 
   [[nodiscard]] int SelStart() const { return selStart_; }
   [[nodiscard]] int SelLength() const { return selLength_; }
-  /// Both are brought into the text where they reach beyond it.
+  /// Positions beyond the text are clamped to it.
   void Select(int start, int length);
   /// A locked box shows its text and lets it be selected and copied, but only the program changes it.
   [[nodiscard]] bool Locked() const { return locked_; }
@@ -34,38 +34,38 @@ class TextBox : public Control {
 
   [[nodiscard]] bool Composing() const override { return composing_; }
 
-  /// Where that begins which Ctrl and Backspace take: what is selected, or the blanks before the caret and the word, or
-  /// the run of other signs, before those.
+  /// The start of what Ctrl+Backspace removes: the selection, or the blanks before the caret together with the word,
+  /// or the run of punctuation, before them.
   [[nodiscard]] int WordStart() const;
 
   Event<> Change;
   Event<wchar_t&> KeyPress;  // before the character is applied; 0 swallows it
-  /// A key that moves the caret was pressed alone; None in its place swallows it. Not told while an input method
-  /// composes, whose keys they are then.
+  /// A caret key was pressed without modifiers; setting it to None swallows it. Not raised while an input method is
+  /// composing, because the keys are meant for it.
   Event<Key&> KeyDown;
-  Event<int /*rows*/> Wheel;  // turned over the box; down is positive
-  /// An input method begins to compose (true), or ends without having changed the text (false).
+  Event<int /*rows*/> Wheel;  // turned over the box; positive is down
+  /// An input method starts composing (true), or ends without having changed the text (false).
   Event<bool> Compose;
-  /// A character key, or one that edits, has had its effect, if there was any.
+  /// A character key or an editing key has taken effect, if it had any.
   Event<> KeyDone;
   Event<> DblClick;
 
   void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
   [[nodiscard]] Size LeastSize() const override;
 
-  // The user's doings, reported by the back end.
+  // What the user does, as reported by the back end.
 
-  /// A key that moves the caret. Returns the key to apply.
+  /// A caret key. Returns the key to apply.
   Key InputKeyDown(Key key);
   /// A character key. Returns the character to apply, 0 for none.
   wchar_t InputKeyPress(wchar_t character);
   void InputKeyDone() { KeyDone(); }
   /// Ctrl and Backspace.
   void InputWordBack();
-  /// The text as the user's editing left it.
+  /// The text after an edit by the user.
   void InputEdited(std::wstring_view text, int selStart, int selLength);
   void InputSelection(int selStart, int selLength);
-  /// Composing begins or ends. When it ends with another text than it began with, Change is raised once more.
+  /// Composing starts or ends. If it ends with a different text than it started with, Change is raised once more.
   void InputComposing(bool composing);
   void InputDblClick() override;
   void InputCharacter(wchar_t character) override;

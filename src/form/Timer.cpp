@@ -21,7 +21,7 @@ void Timer::SetEnabled(bool enabled) {
 }
 
 void Timer::InputTick() {
-  // A handler that shows a modal form lets time pass meanwhile.
+  // A handler that shows a modal form lets time pass.
   if (!enabled_ || ticking_) return;
   const Scoped ticking(ticking_, true);
   Tick();

@@ -8,7 +8,7 @@ class Form;
 class UserInterface;
 
 /// Raises Tick every Interval milliseconds while it is enabled, on the user-interface thread. Ticks never
-/// overlap. Enabling it begins a whole interval anew; enabling one that is enabled already does nothing.
+/// overlap. Enabling it starts a new full interval; enabling an enabled timer does nothing.
 class Timer {
  public:
   Timer(Form& form, int intervalMilliseconds);

@@ -11,23 +11,23 @@ namespace vantor::form {
 
 class Timer;
 
-/// The seam between forms and a desktop. Back ends: `Headless`, with no desktop at all, and the Windows one.
+/// The interface between forms and a desktop. Its back ends are `Headless`, without any desktop, and the Windows one.
 class UserInterface {
  public:
   virtual ~UserInterface() = default;
   UserInterface(const UserInterface&) = delete;
   UserInterface& operator=(const UserInterface&) = delete;
 
-  /// The screen that holds most of `place` (a form's bounds), the nearest one if none does.
+  /// The screen that contains most of `place` (a form's bounds), or the nearest one if none does.
   [[nodiscard]] virtual Screen ScreenAt(const Rect& place) const = 0;
   [[nodiscard]] virtual Screen PrimaryScreen() const = 0;
 
-  /// A width, in twips, at which no line of a label or a button is broken.
+  /// A width, in twips, at which no line of a label or a button wraps.
   static constexpr Twips AnyWidth = 30000;
-  /// The room that a label's text takes when its lines are broken at `width` twips.
+  /// The size of a label's text when it is wrapped at `width` twips.
   [[nodiscard]] virtual Size MeasureText(std::wstring_view text, bool bold, Twips width) const = 0;
 
-  /// Handles input and timers until the form is not visible any more or the program ends.
+  /// Handles input and timers until the form is hidden or the program ends.
   virtual void RunModal(Form& form) = 0;
   /// Handles input and timers until the program ends.
   virtual void Run() = 0;
@@ -35,25 +35,25 @@ class UserInterface {
   virtual void StartTimer(Timer& timer) = 0;
   virtual void StopTimer(Timer& timer) = 0;
 
-  /// Ends the program: no form has a window any more, and Run and every RunModal return. Runs no handler.
+  /// Ends the program: removes the windows of all forms and makes Run and every RunModal return. Runs no handlers.
   void End();
   [[nodiscard]] bool Ended() const { return ended_; }
 
-  /// The form that stands modally before all others; null for none.
+  /// The form that is modal now; null for none.
   [[nodiscard]] Form* ModalForm() const { return modalForms_.empty() ? nullptr : modalForms_.back(); }
 
  protected:
   UserInterface() = default;
-  /// All forms that there are, the oldest first.
+  /// All existing forms, the oldest first.
   [[nodiscard]] const std::vector<Form*>& Forms() const { return forms_; }
-  /// Makes the windows of a form and its controls, hidden; null when the back end has no windows.
+  /// Creates the windows of a form and its controls, hidden. Returns null if the back end has no windows.
   virtual std::unique_ptr<FormWindow> MakeWindow(Form& form) = 0;
-  /// Destroys a form's windows, perhaps only once no message of theirs is being handled any more. From this call
-  /// on they never touch the form or its controls again.
+  /// Destroys a form's windows, possibly only after all their pending messages have been handled. From this call on
+  /// they never touch the form or its controls again.
   virtual void Discard(std::unique_ptr<FormWindow> window) = 0;
-  /// Wakes up the loops of Run and RunModal, so that they see Ended().
+  /// Wakes up the loops of Run and RunModal so that they check Ended().
   virtual void WakeUp() = 0;
-  /// A modal form begins or ends: the back end disables and enables the windows of the others.
+  /// A form becomes modal or stops being so: the back end disables and enables the windows of the others.
   virtual void ModalChanged() = 0;
   /// Called when a form object is destroyed, for a back end that remembers forms.
   virtual void FormGone(Form& /*form*/) {}
