@@ -11,10 +11,11 @@ enum class AddKind : std::int16_t { Program, File, Folder };
 /// What the browse box is open for; None while it is closed.
 enum class BrowseUse { None, Add, Open };
 
-/// No result of the finder waits to be judged.
+/// There is no result of the finder to be checked.
 inline constexpr std::int16_t NoPickerDriveType = -1;
 
-/// What the add box knows of the place it shows. Drive types are the scripting file system's; 2 is a fixed disk.
+/// What the add box knows about the folder it shows. Drive types are those of the scripting file system; 2 is a
+/// fixed disk.
 struct BrowseState {
   AddKind WhatToAdd = AddKind::Program;
   std::wstring BrowseFolder;  // ends in a backslash

@@ -85,7 +85,7 @@ void Finder::DropSnapshot() {
 std::wstring Finder::ExecutablePathOf(std::uint32_t processId) const {
   const auto processes = services_.Processes.ManagedProcesses();
   if (!processes) return services_.Processes.ImageName(processId);
-  // The service never numbers a process 1.
+  // No process has the number 1.
   const auto found = std::find_if(processes->begin(), processes->end(), [&](const auto& process) {
     return process.ProcessId != 1 && process.ProcessId == processId;
   });

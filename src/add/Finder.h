@@ -18,22 +18,22 @@ class Finder {
   Finder(const Finder&) = delete;
   Finder& operator=(const Finder&) = delete;
 
-  /// Between press and release.
+  /// True between press and release.
   [[nodiscard]] bool FinderActive() const { return finderActive_; }
   [[nodiscard]] service::WindowId FinderWindow() const { return finderWindow_; }
-  /// Processes of the snapshot that lives from press to release.
+  /// The number of processes in the snapshot, which exists from press to release.
   [[nodiscard]] int ProcessCount() const { return processCount_; }
 
-  /// Begins; `button` is the window that gets the release. Does nothing while active.
+  /// Starts the search; `button` is the window that will get the release. Does nothing while a search is active.
   void Press(service::WindowId button);
-  /// Looks where the cursor is. Throws std::overflow_error for a place beyond 16 bits.
+  /// Looks up the window under the cursor. Throws std::overflow_error for coordinates beyond 16 bits.
   void Tick();
-  /// Whether the release has been lost: the button is up and the mouse is someone else's.
+  /// Whether the release has been missed: the button is up and another window has captured the mouse.
   [[nodiscard]] bool LostRelease() const;
-  /// Ends, and returns the path of the program whose window was under the cursor at the last tick; "" when that
-  /// can't be found.
+  /// Ends the search and returns the path of the program whose window was under the cursor at the last tick; "" if
+  /// it can't be found.
   [[nodiscard]] std::wstring Release();
-  /// Ends with nothing found; nothing when not active.
+  /// Ends the search without a result; does nothing if none is active.
   void Cancel();
 
  private:

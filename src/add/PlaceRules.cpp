@@ -34,7 +34,7 @@ constexpr std::wstring_view OtherMachine =
     L"\r\n\r\n"
     L"You have already indentifed a machine from which to add to Launch List. This is not that machine.";
 
-/// What the finder found counts before the folder shown, and only once.
+/// The drive type that the finder found, which takes precedence over the folder shown and is used only once.
 std::int16_t TakeDriveType(BrowseState& browse) {
   const std::int16_t picked = std::exchange(browse.PickerDriveType, NoPickerDriveType);
   return picked != NoPickerDriveType ? picked : browse.BrowseDriveType;

@@ -8,13 +8,13 @@
 
 namespace vantor::add {
 
-// Whether what the add box shows, which does not lie on the program's own drive, may be added. Each rule returns
-// the text that says why not, or "", and uses up the drive type that the finder left.
+// Whether an item that is not on the program's own drive may be added. Each rule returns the text that says why not,
+// or "", and consumes the drive type that the finder has left.
 
-/// In fixed-disk mode: it must lie on a fixed disk.
+/// In fixed-disk mode: the item must be on a fixed disk.
 [[nodiscard]] std::wstring_view FixedDiskRule(BrowseState& browse);
 
-/// In removable-media mode: a computer must be remembered, be this one, and it must lie on a fixed disk.
+/// In removable-media mode: this computer must be the remembered one, and the item must be on a fixed disk.
 [[nodiscard]] std::wstring_view RemovableMediaRule(BrowseState& browse, const state::Environment& environment);
 
 }  // namespace vantor::add

@@ -7,11 +7,11 @@ namespace vantor::add {
 namespace {
 
 constexpr int GrowBy = 20;
-// The flags ask for no kind of entry, and none for the process list: what such a snapshot holds is the system's
-// affair. The paths do not depend on it.
+// The flags ask for no kind of entry, not even for the process list: it is up to the system what such a snapshot
+// contains. The paths do not depend on it.
 constexpr std::uint32_t SnapshotFlags = 0;
 
-/// A snapshot that is closed whatever happens while it is read.
+/// A snapshot that is closed even if reading it fails.
 struct Snapshot {
   explicit Snapshot(service::Processes& system) : Processes(system), Id(system.CreateSnapshot(SnapshotFlags, 0)) {}
   ~Snapshot() {

@@ -9,7 +9,7 @@
 
 namespace vantor::add {
 
-/// The processes that ran at one moment, as records 1 to n.
+/// The processes running at one moment, as records 1 to n.
 class clsActiveProcess {
  public:
   clsActiveProcess(service::Processes& processes, const service::Language& language)
@@ -29,7 +29,7 @@ class clsActiveProcess {
   [[nodiscard]] std::uint32_t cntUsage(int index) const { return Record(index).cntUsage; }
   [[nodiscard]] std::uint32_t dwSize(int index) const { return Record(index).dwSize; }
 
-  /// Takes the records anew and returns their count; 0 when the system gives none.
+  /// Takes a new snapshot and returns the number of records; 0 if the system returns none.
   int GetActiveProcess();
 
  private:

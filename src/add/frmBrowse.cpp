@@ -81,7 +81,7 @@ void frmBrowse::Open(BrowseUse use) {
       FrameAddedInfo.SetVisible(false);
       OfferFiles(EveryFile, true);
     } else if (before == BrowseUse::Open || (ChoosesFolder() && TextAddPath.Text().empty())) {
-      ShowChosenKind();  // the path may be one of a folder that is not shown any more, or was added
+      ShowChosenKind();  // the path may belong to a folder that is no longer shown, or may have been added
     }
     CommandSelectOK.SetEnabled(false);
     LayOut();
@@ -173,15 +173,15 @@ void frmBrowse::DriveWork_Change() {
 }
 
 void frmBrowse::DirWork_Change() {
-  NoteFolder();  // first: the lists below may fail to be read
-  // Until the box is first opened nobody sees the files.
+  NoteFolder();  // first, because reading the lists below may fail
+  // The files are not visible until the box is first opened.
   if (lastUse_ != BrowseUse::None) FileWork.SetPath(DirWork.Path());
   DriveWork.SetDrive(DirWork.Path());
   if (Opening()) CommandSelectOK.SetEnabled(false);
   if (!Adding()) return;
   FrameAddedInfo.SetVisible(false);
   TextAddPath.SetText(ChoosesFolder() ? DirWork.Path() : std::wstring());
-  // By keyboard one goes on through the drives and folders.
+  // A user of the keyboard continues through the drives and folders.
   const bool byKeyboard = DirWork.Input() == form::ListInput::Enter || DriveWork.Input() == form::ListInput::Walk ||
                           DriveWork.Input() == form::ListInput::Enter;
   if (!byKeyboard) TextAddName.SetFocus();
@@ -228,7 +228,7 @@ void frmBrowse::FileWork_DblClick() {
 // --- adding
 
 void frmBrowse::TextAddPath_Change() {
-  state_.PickerDriveType = NoPickerDriveType;  // it told of the path that was here
+  state_.PickerDriveType = NoPickerDriveType;  // it belonged to the previous path
   TextAddPath.SetToolTip(TextAddPath.Text());  // most paths are longer than the box
   EnableNameBox(!TextAddPath.Text().empty());
 }
@@ -247,7 +247,7 @@ void frmBrowse::TextAddName_KeyPress(wchar_t& character) {
 void frmBrowse::CommandAddOK_Click() {
   PictureNo.SetFocus();
   const std::wstring path = TextAddPath.Text();
-  if (path.empty()) return FileWork.SetFocus();  // a name is left from before, but nothing is chosen
+  if (path.empty()) return FileWork.SetFocus();  // a name is left over, but nothing is chosen
   if (RefusedByPlace(path)) return PathSource().SetFocus();
   const list::LaunchGroup group = GroupOf(context_.Services, state_.WhatToAdd, path);
   const list::AddBox box{TextAddPath, TextAddName, FrameAddedInfo};
@@ -282,7 +282,7 @@ void frmBrowse::CommandSelectOK_Click() {
   if (FileWork.ListIndex() == -1) return;
   const int opened = context_.Host.OpenPanelIndex();
   const std::wstring path = state_.BrowseFolder + FileWork.Text();
-  context_.Host.ClosePanel();  // which also takes the selection away
+  context_.Host.ClosePanel();  // which also clears the selection
   const bool run = opened == static_cast<int>(panel::menu::List) || IsProgram(context_.Services, path);
   context_.Messages.ShowListMessage(run ? context_.Starters.RunProgramFile(path) : context_.Starters.OpenItem(path));
 }

@@ -66,8 +66,8 @@ class frmBrowse : public form::Form {
   void Open(BrowseUse use);
   void Close();
 
-  /// Files and folders were dropped on the program: the first that can be gone to fills the box as if it had been
-  /// browsed to. Adding it is still up to the user.
+  /// Files and folders were dropped on the program: the first that can be reached fills the box as if the user had
+  /// browsed to it. Adding it is still up to the user.
   void FillWith(const std::vector<std::wstring>& paths);
 
   [[nodiscard]] const BrowseState& State() const { return state_; }
@@ -115,11 +115,11 @@ class frmBrowse : public form::Form {
   void NoteFolder();
   void PickFile(std::wstring_view name);
   [[nodiscard]] bool ChoosesFolder() const { return state_.WhatToAdd == AddKind::Folder; }
-  /// What the path in the box was chosen by.
+  /// The control by which the path in the box was chosen.
   [[nodiscard]] form::Control& PathSource();
   [[nodiscard]] bool RefusedByPlace(std::wstring_view path);
   void StopFinder();
-  /// False when there is nothing of this path to go to.
+  /// Returns false if the path can't be reached.
   [[nodiscard]] bool GoToDropped(std::wstring_view path);
   void ChooseFile(std::wstring_view name);
 
@@ -131,7 +131,7 @@ class frmBrowse : public form::Form {
   BrowseUse lastUse_ = BrowseUse::None;  // None: it has not been opened yet
 };
 
-/// The browse box as the panel of one of its uses.
+/// The browse box as a panel for one of its uses.
 class BrowsePanel : public panel::Panel {
  public:
   BrowsePanel(panel::PanelHost& host, std::size_t index, frmBrowse& box, BrowseUse use)

@@ -47,7 +47,7 @@ void frmBrowse::ChooseFile(std::wstring_view name) {
   if (found != files.end())
     FileWork.SetListIndex(static_cast<int>(found - files.begin()));
   else
-    PickFile(name);  // a hidden file is in no list
+    PickFile(name);  // the list does not show hidden files
   TextAddName.SetFocus();
 }
 

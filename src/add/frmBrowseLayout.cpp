@@ -24,7 +24,7 @@ constexpr Twips HeadTop = 75;  // of the box's own caption
 constexpr Twips BoxTop = 345;  // from the box's top to what is under its caption
 constexpr Twips LeastListsHeight = 2100;
 constexpr Twips MostListsHeight = 3600;
-constexpr Twips BarRoom = 600;  // of the screen, for the bar that the box stands by
+constexpr Twips BarRoom = 600;  // of the screen, for the bar next to the box
 
 // Given places, which the others follow.
 constexpr Twips AddedInfoLeft = 1320;
@@ -36,7 +36,7 @@ constexpr Twips CancelLeft = 3960;
 
 void frmBrowse::Dress() {
   SetBorderStyle(form::BorderStyle::Line);
-  FrameBrowseBack.SetCaptionAlone(Margin, HeadTop);  // the form has an edge of its own
+  FrameBrowseBack.SetCaptionAlone(Margin, HeadTop);  // the form already has an edge
   constexpr std::wstring_view KindCaptions[] = {L"Prog.", L"File", L"Folder"};
   FrameWhatToAdd.SetCaption(L"What To Add :");
   for (std::size_t i = 0; i < OptionBrowse.size(); ++i) OptionBrowse[i].SetCaption(KindCaptions[i]);
@@ -77,7 +77,7 @@ void frmBrowse::Dress() {
   FrameAddCancel.SetBorder(false);
   DressButton(CommandAddCancel, L"Cancel");
   PictureNo.SetTabStop(false);
-  PictureNo.SetTabIndex(CommandAddOK.TabIndex());  // Tab goes on from the button that was pressed
+  PictureNo.SetTabIndex(CommandAddOK.TabIndex());  // so that Tab continues from the button that was pressed
 }
 
 void frmBrowse::LayOut() {
@@ -136,7 +136,7 @@ void frmBrowse::LayOutLists(Twips top, Twips bottom, Twips width) {
   FileWork.SetBounds({secondLeft, listTop, columnWidth, bottom - listTop});
 }
 
-/// Returns where the row of the box's own buttons begins.
+/// Returns the top of the row of the box's own buttons.
 Twips frmBrowse::LayOutAddFrames(Twips top, Twips width) {
   const Twips inTop = FrameFindPath.HeightFor(FrameTop);
   const Twips lineHeight = TextAddPath.HeightFor(LineHeight);

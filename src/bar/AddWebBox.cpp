@@ -14,7 +14,7 @@ namespace {
 using form::Twips;
 using form::grid::Gap;
 
-// The usual widths. The labels stand above the fields, so that the unfolded bar fits a screen of 800 pixels.
+// The usual widths. The labels are above the fields, so that the unfolded bar fits a screen of 800 pixels.
 constexpr Twips LabelTop = 30;
 constexpr Twips UrlWidth = 1860;
 constexpr Twips NameWidth = 1440;
@@ -63,7 +63,7 @@ void AddWebBox::LayOut(Twips left, Twips height) {
   const Twips fieldHeight = height - fieldTop - Gap;
   const Twips nameWidth = std::max(NameWidth, label.Width);
   const Twips addWidth = std::max(AddWidth, CommandAddWeb.LeastSize().Width);
-  // The banner stands over both labels.
+  // The banner covers both labels.
   const Twips urlWidth = std::max(UrlWidth, FrameAddedInfo.LeastSize().Width - nameWidth - addWidth - 2 * Gap);
   TextWebUrl.SetBounds({0, fieldTop, urlWidth, fieldHeight});
   TextWebName.SetBounds({TextWebUrl.Right() + Gap, fieldTop, nameWidth, fieldHeight});

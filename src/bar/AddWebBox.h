@@ -11,7 +11,7 @@
 
 namespace vantor::bar {
 
-/// The box that unfolds from the bar's end, by which a web site is added to the launch list.
+/// The box that unfolds at the end of the bar to add a web site to the launch list.
 class AddWebBox {
  public:
   AddWebBox(form::Form& bar, panel::PanelHost& host, const list::LaunchList& list, const service::Language& language,
@@ -25,11 +25,11 @@ class AddWebBox {
   form::Frame FrameAddedInfo;
   form::PictureBox PictureNo;  // takes the focus from the button that was pressed
 
-  /// The height that shows the texts whole, in twips.
+  /// The height needed to show the texts, in twips.
   [[nodiscard]] form::Twips LeastHeight() const;
   /// Places the box with its left edge at `left`, as high as the bar. Twips, on the bar.
   void LayOut(form::Twips left, form::Twips height);
-  /// Shows the box with empty fields, or hides it; the banner of the last addition goes.
+  /// Shows the box with empty fields, or hides it; either way the banner disappears.
   void SetShown(bool shown);
 
  private:
@@ -39,7 +39,7 @@ class AddWebBox {
   void TextWebName_KeyPress(wchar_t& character);
   void CommandAddWeb_Click();
 
-  /// The name box is open to the user exactly when there is an address, the button when both boxes hold text.
+  /// Enables the name box if there is an address, and the button if both boxes hold text.
   void EnableByText();
   [[nodiscard]] bool BothFilled() const { return !TextWebUrl.Text().empty() && !TextWebName.Text().empty(); }
 

@@ -17,9 +17,9 @@ namespace menu = panel::menu;
 // Measures keep to a grid of 60 twips, which is a whole number of pixels on most screens.
 constexpr Twips UsualHeight = 540;
 constexpr Twips ButtonWidth = 360;
-using form::grid::Gap;  // to drag the bar by, and between its edge and what is drawn in it
+using form::grid::Gap;  // between the bar's edge and its contents; the bar can be dragged by it
 constexpr Twips MarkSize = 300;
-constexpr Twips TextWidth = 2700;  // so that the unfolded bar keeps its margin on a screen of 800 pixels
+constexpr Twips TextWidth = 2700;  // so that the unfolded bar keeps its margin on a screen 800 pixels wide
 constexpr Twips TextHeight = 390;
 
 constexpr int PixelsBeforeWebBox = 8;
@@ -29,7 +29,7 @@ constexpr Twips BottomMargin = 600;
 
 constexpr std::int16_t IdleTicksBeforeName = 60;
 
-// CommandMenu buttons before the command line; the others stand after it.
+// The number of CommandMenu buttons before the command line; the others follow it.
 constexpr std::size_t MenusBeforeText = 4;
 
 }  // namespace
@@ -107,7 +107,8 @@ void frmMain::Form_Load() {
     MoveTo(place.Left, place.Top);
     LayOut();
     ShowWidth();
-    // The screens may be others than when the place was saved: part of the bar must be there to take hold of.
+    // The screens may have changed since the place was saved: part of the bar must be visible so that it can be
+    // dragged.
     const form::Rect& bar = Bounds();
     screen_ = Ui().ScreenAt(bar);
     const form::Rect& screen = screen_.Bounds;
@@ -142,7 +143,7 @@ void frmMain::LayOut() {
   dress(CommandExit, state::picture::Exit);
   CommandExit.SetFaceMargins({0, Gap, Gap, Gap});
 
-  // The twips are the usual ones: the user's font may need more.
+  // These are the usual sizes; the user's font may need more.
   height_ = std::max(
       {UsualHeight, Web.LeastHeight(), CommandMenu[0].LeastSize().Height, TextMain.LeastSize().Height + 2 * Gap});
   Twips left = Gap;
@@ -170,7 +171,7 @@ void frmMain::Form_Unload() {
   TimerOnTop.SetEnabled(false);
   TimerWatchOnTop.SetEnabled(false);
   parts_.Messages.Trap(L"Form_Unload", [this] {
-    parts_.Choose.Load();  // before that its boxes are empty, and the list would be saved as such
+    parts_.Choose.Load();  // until then its boxes are empty, and an empty list would be saved
     parts_.ListFiles.SaveLaunchList(parts_.List, Bounds().Left, Bounds().Top);
   });
   Ui().End();
@@ -197,10 +198,10 @@ void frmMain::Form_Moved() {
 
 void frmMain::Form_ScreensChanged() {
   parts_.Messages.Trap(L"Form_ScreensChanged", [this] {
-    // Most settings are none of the bar's, which may stand where a drag could not leave it.
+    // Most settings do not concern the bar, which may be in a place where a drag could not have left it.
     if (Ui().ScreenAt(Bounds()) == screen_) return;
     KeepOnScreen();
-    MoveInto(screen_.WorkArea);  // a taskbar may have come to where the bar was
+    MoveInto(screen_.WorkArea);  // a taskbar may now be where the bar was
     parts_.Panels.BarMoved();
   });
 }
@@ -229,7 +230,7 @@ form::Rect frmMain::PlaceAtLine(form::Size list) const {
 // --- staying on top
 
 void frmMain::PauseOnTop() {
-  // Who opens has the bar's place now, and the focus, unless the bar is out of sight and is waited for.
+  // Whatever opens has the focus now, unless the bar is minimised and waiting to be restored.
   if (WindowState() != form::WindowState::Minimized) TimerWatchOnTop.SetEnabled(false);
   if (!TimerOnTop.Enabled()) return;
   TimerOnTop.SetEnabled(false);

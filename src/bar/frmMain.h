@@ -25,7 +25,7 @@
 
 namespace vantor::bar {
 
-/// What the bar works with. All of it outlives the bar.
+/// The objects that the bar works with. All of them outlive it.
 struct BarParts {
   service::Services Services;
   const state::Environment& Environment;
@@ -41,7 +41,7 @@ struct BarParts {
   command::frmMatches& Matches;
 };
 
-/// The bar: the program's face. Unloading it saves the settings and the launch list and ends the program.
+/// The bar, the main form. Unloading it saves the settings and the launch list and ends the program.
 class frmMain : public form::Form, public panel::MenuBar, private command::LineOwner {
  public:
   /// The pictures of buttons: 0, 1 and 2 normal, pressed and disabled, 5 normal again for the panels'
@@ -80,14 +80,14 @@ class frmMain : public form::Form, public panel::MenuBar, private command::LineO
 
   [[nodiscard]] form::Rect Place() const override { return Bounds(); }
   void ShowMenuFaces() override;
-  /// A message or a panel opens: the bar leaves the topmost band, if it keeps itself there.
+  /// A message or a panel opens: the bar stops being topmost, if it was.
   void PauseOnTop() override;
   /// A message or a panel has closed: with no panel open, the bar keeps itself on top if the user wants that.
   void ResumeOnTop() override;
   void FocusLine() override { TextMain.SetFocus(); }
-  /// Goes back to an empty command line, where the bar is in sight.
+  /// Goes back to an empty command line, unless the bar is hidden or minimised.
   void ClearLine() override;
-  /// The line is completed by what is in the list now.
+  /// Completes the line from the changed list.
   void ListChanged() override { commandLine_.CompleteAgain(); }
   void HotKey(form::Key key) override;
 
@@ -98,7 +98,7 @@ class frmMain : public form::Form, public panel::MenuBar, private command::LineO
   void Form_MouseMove(form::MouseButton held) override;
   void Form_Moved() override;
   void Form_ScreensChanged() override;
-  /// Wide enough for the unfolded box at all times, so that folding it changes no size.
+  /// Always wide enough for the unfolded box, so that folding it does not change the scale.
   [[nodiscard]] form::Size RoomNeeded() const override;
   void Form_Minimized() override;
 
@@ -109,9 +109,9 @@ class frmMain : public form::Form, public panel::MenuBar, private command::LineO
   // Place and size.
   void LayOut();
   void ShowWidth();
-  /// Also brings the open panel along.
+  /// Also moves the open panel.
   void KeepOnScreen();
-  /// Where a list of this size stands: under the command line, or above it where there is no room.
+  /// The place for a list of this size: below the command line, or above it if there is no room below.
   [[nodiscard]] form::Rect PlaceAtLine(form::Size list) const;
 
   void CommandWeb_Click();
@@ -137,12 +137,12 @@ class frmMain : public form::Form, public panel::MenuBar, private command::LineO
   BarParts parts_;
   command::CommandLine commandLine_;
   double twipsPerPixelX_ = 15;
-  form::Screen screen_;  // the one that the bar was last seen on
+  form::Screen screen_;  // the one that the bar was last on
   form::Twips height_ = 0;
   form::Twips narrowWidth_ = 0;  // to the right edge of CommandExit
   form::Twips wideWidth_ = 0;    // to the right edge of the unfolded add-web box
   bool addWebShown_ = false;
-  /// What unfolding the add-web box last did to the bar's left edge.
+  /// How unfolding the add-web box last moved the bar's left edge.
   struct Pull {
     form::Twips From = 0;
     form::Twips To = 0;

@@ -5,7 +5,7 @@
 
 #include "product/Product.h"
 
-// The texts are the product's own, to the letter: their spelling is not corrected here.
+// These are the product's exact texts; their spelling is not to be corrected.
 
 namespace vantor::message {
 namespace {
@@ -98,7 +98,7 @@ struct Replacement {
   std::wstring_view By;
 };
 
-/// What stands in braces and is no such word stays as it is.
+/// Other text in braces stays as it is.
 template <std::size_t Count>
 std::wstring Replace(std::wstring_view text, const Replacement (&replacements)[Count]) {
   std::wstring result;
@@ -106,7 +106,7 @@ std::wstring Replace(std::wstring_view text, const Replacement (&replacements)[C
     const auto* const word = std::find_if(std::begin(replacements), std::end(replacements),
                                           [&](const Replacement& each) { return text.starts_with(each.Word); });
     const bool found = word != std::end(replacements);
-    // A brace that begins no word is passed over like any other character.
+    // A brace that does not start such a word is an ordinary character.
     const std::size_t taken = found ? word->Word.size() : std::min(text.find(L'{', 1), text.size());
     result += found ? word->By : text.substr(0, taken);
     text.remove_prefix(taken);

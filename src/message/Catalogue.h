@@ -20,13 +20,14 @@ struct CatalogueEntry {
   std::wstring_view Inputs;
 };
 
-/// The message of this key, if the selector holds it; else null.
+/// The message with this key if the selector has it, otherwise null.
 [[nodiscard]] const CatalogueEntry* FindMessage(Selector selector, MessageKey key);
 
-/// The text with the maker's addresses in it. `companionsPresent`: any of the maker's other programs is there.
+/// The text with the maker's addresses filled in. `companionsPresent`: at least one of the maker's other programs is
+/// installed.
 [[nodiscard]] std::wstring ExpandText(std::wstring_view text, bool companionsPresent);
 
-/// The question whether to report the bug of this key.
+/// The question whether to report the bug with this key.
 [[nodiscard]] std::wstring BugReportText(std::wstring_view bugKey);
 
 }  // namespace vantor::message

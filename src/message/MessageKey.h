@@ -4,7 +4,7 @@
 
 namespace vantor::message {
 
-/// The name of a message; empty for none, which is success. There are no others than those below.
+/// The name of a message; empty for none, which means success. The ones below are the only ones.
 class MessageKey {
  public:
   constexpr MessageKey() = default;
@@ -40,7 +40,7 @@ inline constexpr MessageKey MessageProgramStartError{L"MessageProgramStartError"
 inline constexpr MessageKey MessageDriveNotReady{L"MessageDriveNotReady"};
 inline constexpr MessageKey MessageExecutableNotFound{L"MessageExecutableNotFound"};
 inline constexpr MessageKey MessageAddNotFound{L"MessageAddNotFound"};
-// What is passed over in silence: no text belongs to these.
+// Failures that are not shown: these have no text.
 inline constexpr MessageKey MessageProgInSystem{L"MessageProgInSystem"};
 inline constexpr MessageKey MessagePanelOpenError{L"MessagePanelOpenError"};
 

@@ -7,7 +7,7 @@ namespace vantor::message {
 /// One message as the dialog shows it, and what its answer does.
 struct Message {
   std::wstring CurrentMessageKey;   // a MessageKey's name, or a bug key
-  std::wstring CurrentMessageText;  // a text that stands in no catalogue
+  std::wstring CurrentMessageText;  // a text that is not in the catalogue
   std::wstring MessageTitle;
   std::wstring MessageBody;
   std::wstring MessageButtons;
@@ -16,7 +16,7 @@ struct Message {
   bool BugReportPending = false;  // OK opens the mail that reports the bug
 };
 
-/// What the messages keep. The message in it mirrors the one that is open, and is empty when none is.
+/// The state of the messages. The message in it mirrors the open one, and is empty if none is open.
 struct MessageState : Message {
   bool ShowDoNotShowBox = false;
   bool DoNotShowState = false;
@@ -24,7 +24,7 @@ struct MessageState : Message {
   std::wstring UserName;
 };
 
-/// The name that stands for no name chosen.
+/// The name used for a user who has not chosen one.
 inline constexpr wchar_t NoUserName[] = L"myFriend";
 
 }  // namespace vantor::message

@@ -47,7 +47,7 @@ void Messages::ShowBugMessage(std::wstring_view key) {
   OpenMessageDialog(message);
 }
 
-// The bug is reported outside the handler of the exception, because the question may stay open for long.
+// The bug is reported outside the exception handler, because the question may stay open for a long time.
 bool Messages::Runs(void (*call)(const void*), const void* work) {
   try {
     call(work);
@@ -68,7 +68,7 @@ void Messages::ReportBug(std::wstring_view routine) {
   try {
     ShowBugMessage(std::wstring(BugKeyPrefix) += routine);
   } catch (...) {
-    LeaveMessage();  // a fault of the question or of its report is not asked about in turn
+    LeaveMessage();  // a failure of the question or of its report is not reported in turn
   }
 }
 
@@ -80,7 +80,7 @@ Message Messages::Addressed() const {
 }
 
 void Messages::OpenMessageDialog(const Message& message) {
-  if (ui_.Ended()) return;  // the end came while a service was waited for
+  if (ui_.Ended()) return;  // the program ended while waiting for a service
   static_cast<Message&>(State) = message;
 
   frmMessage dialog(ui_);

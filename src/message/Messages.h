@@ -13,21 +13,21 @@ namespace vantor::message {
 
 inline constexpr std::wstring_view BugMailSubject = L"Vantor - Found Bug";
 
-/// The program, as its messages need it.
+/// What the messages need from the program.
 class MessageHost {
  public:
-  /// A message opens: the bar leaves the topmost band.
+  /// A message opens: the bar stops being topmost.
   virtual void PauseOnTop() = 0;
   /// The last open message has closed: with no panel open, the bar keeps itself on top if the user wants that.
   virtual void ResumeOnTop() = 0;
-  /// The screen in whose middle messages open.
+  /// The screen on which messages are centred.
   [[nodiscard]] virtual form::Screen HomeScreen() const = 0;
   /// Whether any of the maker's other programs is present.
   [[nodiscard]] virtual bool CompanionsPresent() const = 0;
   virtual void SaveUserName() = 0;
   /// Enables "Remember My Computer".
   virtual void EnableRemember() = 0;
-  /// Opens a mail; returns the message that says why it could not, or none.
+  /// Opens a mail; returns the message that says why it failed, or none.
   [[nodiscard]] virtual MessageKey SendMailTo(std::wstring_view address, std::wstring_view subject,
                                               std::wstring_view body) = 0;
 
@@ -44,11 +44,11 @@ class Messages {
 
   MessageState& State;
 
-  /// Each shows a message of its part of the catalogue. One that stands elsewhere, or nowhere, shows nothing.
+  /// Each shows a message from its part of the catalogue, and nothing for any other key.
   void ShowUserMessage(MessageKey key) { ShowFromCatalogue(Selector::User, key); }
   void ShowStopMessage(MessageKey key) { ShowFromCatalogue(Selector::Stop, key); }  // OK ends the program
   void ShowListMessage(MessageKey key) { ShowFromCatalogue(Selector::List, key); }
-  /// Shows a text as it is; nothing for "".
+  /// Shows a text as it is, and nothing for "".
   void ShowTextMessage(std::wstring_view text);
   /// Asks whether to report a bug by mail, by its key: "Bug-Vantor-" and a routine's name.
   void ShowBugMessage(std::wstring_view key);
