@@ -69,14 +69,6 @@ TEST_CASE("the finder puts the program's path into the box, and its drive type c
   adding.Desktop.Type(L"Work\r");
   CHECK(adding.Added() == 2);
 
-  // Where no path is to be had the box stays as it was.
-  adding.Pick(L"Tool.EXE");
-  for (const WindowId window : {WindowId{2}, WindowId{3}, WindowId::None}) {
-    adding.Expect();
-    adding.Find(window);
-    CHECK(adding.Told.back() == L"Could not find the Executable Path. Reason undetermined.");
-    CHECK(adding.Box.TextAddPath.Text() == L"C:\\Work\\Tool.EXE");
-  }
   adding.Computer.Let("ManagedProcesses", Outcome::Fails);
   adding.Computer.ImagePath = L"D:\\plain.exe";
   adding.Find(WindowId{1});

@@ -33,7 +33,7 @@ class Computer : public service::DataFiles,
   Computer() {
     Disk.Drives = {{L'C', {2}}, {L'D', {2}}, {L'E', {1, L"STICK"}}, {L'N', {3}}, {L'R', {4, L"", false}}};
     for (const auto* root : {L"C:", L"D:", L"E:", L"N:"}) Disk.AddFile(root + std::wstring(L"\\Work\\Tool.EXE"));
-    Disk.AddFile(L"C:\\Work\\notes.txt");
+    for (const auto* file : {L"C:\\Work\\notes.txt", L"C:\\WINDOWS\\explorer.exe"}) Disk.AddFile(file);
     Disk.AddFolder(Home);
     AddProcess(7, "tool.exe");
   }
@@ -55,13 +55,15 @@ class Computer : public service::DataFiles,
   service::DiskIdentity Identity{3, L"1A2B3C4D", 80023715840.0};
   Values Specials{{L"MyDocuments", L"C:\\Documents"}, {L"SendTo", L"C:\\Send"}, {L"Desktop", L"C:\\Work"}};
   Values Registry;
-  Texts Shared;               // the files and folders that others may write to
-  bool Administrator = true;  // who may write the machine's values
-  int CallError = -9;         // of a telephone call that fails
-  Texts Asked;  // "run …", "shell …", "open …", "mail …", "call …", "write …", "delete …", "shortcut …", "title …"
+  Texts Shared;                // the files and folders that others may write to
+  bool Administrator = true;   // who may write the machine's values
+  int CallError = -9;          // of a telephone call that fails
+  bool StartsAnything = true;  // otherwise only what is there, and names that don't begin with "nosuch"
+  Texts Asked;                 // what was done: "run …", "shell …", "open …", "mail …", "call …", "title …"
 
   std::vector<service::ProcessEntry> Entries;
-  std::vector<service::ManagedProcess> Managed{{0, std::nullopt}, {7, L"C:\\Work\\Tool.EXE"}, {8, std::nullopt}};
+  std::vector<service::ManagedProcess> Managed{
+      {0, std::nullopt}, {7, L"C:\\Work\\Tool.EXE"}, {8, std::nullopt}, {1, L"C:\\system.exe"}};
   std::wstring ImagePath;  // of process 7, as Windows tells it
   service::WindowId UnderCursor{1};
   service::ScreenPoint Cursor;
@@ -174,28 +176,28 @@ class Computer : public service::DataFiles,
   void SetTitle(Text title) override { Note(L"title ", title); }
   bool ActivateInstance(Text title) override { return !Fails(__func__) && Previous && title == L"Vantor Orbel"; }
 
-  bool StartCommandLine(Text line) override { return Note(L"run ", line) && !Fails(__func__); }
-  int ShellOpen(Text file) override { return Note(L"mail ", file) && Fails(__func__) ? 32 : 33; }
+  bool StartCommandLine(Text line) override { return !Fails(__func__) && IsThere(line) && Note(L"run ", line); }
+  int ShellOpen(Text file) override { return !Fails(__func__) && Note(L"mail ", file) ? 33 : 32; }
   int RequestMakeCall(Text number, Text application) override {
-    return Note(L"call ", std::wstring(number).append(L"|").append(application)) && Fails(__func__) ? CallError : 0;
+    return !Fails(__func__) && Note(L"call ", std::wstring(number).append(L"|").append(application)) ? 0 : CallError;
   }
   std::wstring ExpandVariables(Text text) override {
     const auto at = text.find(L"%TEMP%");
     if (Fails(__func__) || at == text.npos) return std::wstring(text);
     return std::wstring(text).replace(at, 6, L"C:\\Temp");
   }
-  bool Open(Text target) override { return Note(L"open ", target) && !Fails(__func__); }
-  bool Run(Text target) override { return Note(L"shell ", target) && !Fails(__func__); }
+  bool Open(Text target) override { return !Fails(__func__) && IsThere(target) && Note(L"open ", target); }
+  bool Run(Text target) override { return !Fails(__func__) && IsThere(target) && Note(L"shell ", target); }
   std::wstring SpecialFolder(Text name) override { return Fails(__func__) ? L"" : Specials[std::wstring(name)]; }
   std::wstring RegistryRead(Text name) override { return Fails(__func__) ? L"" : Registry[std::wstring(name)]; }
   void RegistryWrite(Text name, Text value) override {
-    if (Note(L"write ", value) && !Fails(__func__) && MayWrite(name)) Registry[std::wstring(name)] = value;
+    if (!Fails(__func__) && MayWrite(name)) Registry[std::wstring(name)] = value;
   }
   void RegistryDelete(Text name) override {
-    if (Note(L"delete ", name) && !Fails(__func__) && MayWrite(name)) Registry.erase(std::wstring(name));
+    if (!Fails(__func__) && MayWrite(name)) Registry.erase(std::wstring(name));
   }
   bool SaveShortcut(const service::Shortcut& shortcut) override {
-    return Note(L"shortcut ", shortcut.File) && !Fails(__func__);
+    return !Fails(__func__) && Disk.Write(shortcut.File, "", false);
   }
 
   // --- processes and windows
@@ -230,7 +232,8 @@ class Computer : public service::DataFiles,
   }
   bool LeftButtonDown() override { return !Fails(__func__) && ButtonDown; }
   std::uint32_t ProcessOfWindow(service::WindowId window) override {
-    return Fails(__func__) ? 0 : window == service::WindowId{1} ? 7 : window == service::WindowId{2} ? 8 : 0;
+    constexpr std::uint32_t processes[] = {0, 7, 8, 1};
+    return Fails(__func__) ? 0 : processes[static_cast<std::size_t>(window)];
   }
   void ShowTarget(bool target) override { Target = target; }
   void Mark(service::WindowId window) override { Marked = window; }
@@ -240,6 +243,15 @@ class Computer : public service::DataFiles,
     const Outcome outcome = Decide ? Decide(call) : Outcome::Works;
     if (outcome == Outcome::Throws) throw std::runtime_error(call);
     return outcome == Outcome::Fails;
+  }
+  /// Of a full path the file, or a folder, must be there.
+  bool IsThere(Text line) const {
+    std::wstring plain(line);
+    std::erase(plain, L'"');
+    if (StartsAnything || plain.find(L":\\") != 1) return StartsAnything || !plain.starts_with(L"nosuch");
+    std::size_t length = plain.size();
+    while (length > 2 && !Disk.HasFile(plain.substr(0, length))) --length;
+    return length > 2 || Disk.HasFolder(plain);
   }
   bool Note(Text how, Text what) {
     Asked.push_back(std::wstring(how).append(what));

@@ -15,63 +15,6 @@
 
 namespace vantor::flows {
 
-inline Text Unquoted(std::wstring_view text) {
-  Text plain(text);
-  std::erase(plain, L'"');
-  return plain;
-}
-
-/// A computer on which nothing starts that is not there.
-class Machine : public fake::Computer {
- public:
-  Machine() {
-    Disk.AddFile(Windows + L"\\explorer.exe");
-    Specials[L"Desktop"] = L"C:\\Desktop";
-    Disk.AddFolder(L"C:\\Desktop");
-    Managed.push_back({1, L"C:\\system.exe"});
-  }
-
-  Texts Starts;
-
-  bool StartCommandLine(Text line) override {
-    return IsThere(line) && fake::Computer::StartCommandLine(line) && Note(L"run ", line);
-  }
-  bool Run(Text target) override { return IsThere(target) && fake::Computer::Run(target) && Note(L"open ", target); }
-  int ShellOpen(Text file) override {
-    const int result = fake::Computer::ShellOpen(file);
-    if (result > 32) Note(L"open ", file);
-    return result;
-  }
-  int RequestMakeCall(Text number, Text application) override {
-    const int result = fake::Computer::RequestMakeCall(number, application);
-    if (result == 0) Note(L"call ", number);
-    return result;
-  }
-  /// Window 3 is of process 1, which is none that could be started again.
-  std::uint32_t ProcessOfWindow(service::WindowId window) override {
-    return window == service::WindowId{3} ? 1 : fake::Computer::ProcessOfWindow(window);
-  }
-  bool SaveShortcut(const service::Shortcut& shortcut) override {
-    return fake::Computer::SaveShortcut(shortcut) && Disk.Write(shortcut.File, "", false);
-  }
-
- private:
-  /// Of a full path the file, or a folder, must be there; of other names those that begin with "nosuch" are not.
-  [[nodiscard]] bool IsThere(Text line) const {
-    const std::wstring plain = Unquoted(line);
-    if (plain.find(L":\\") != 1) return !plain.starts_with(L"nosuch");
-    for (std::size_t length = plain.size(); length > 2; --length) {
-      const std::wstring path = plain.substr(0, length);
-      if (Disk.HasFile(path) || Disk.HasFolder(plain)) return true;
-    }
-    return false;
-  }
-  bool Note(Text how, Text what) {
-    Starts.push_back(std::wstring(how) + Unquoted(what));
-    return true;
-  }
-};
-
 /// A desktop whose user, while a message is open, goes on with the flow.
 class Desk : public form::Headless {
  public:
@@ -95,6 +38,7 @@ class NativeWorld : public World {
     for (const auto* root : {L"D:", L"E:", L"N:"}) Computer.Disk.Remove(root + Text(L"\\Work\\Tool.EXE"));
     Computer.Disk.Remove(L"C:\\Work\\notes.txt");
     MakeProgram(Computer.Home + L"\\Vantor.exe");
+    Computer.StartsAnything = false;
   }
 
   [[nodiscard]] std::wstring_view Name() const override { return L"native"; }
@@ -241,10 +185,19 @@ class NativeWorld : public World {
     }
     return TextOf(*control);
   }
-  [[nodiscard]] Texts Started() override { return Computer.Starts; }
+  [[nodiscard]] Texts Started() override {
+    Texts starts;
+    for (Text asked : Computer.Asked) {
+      std::erase(asked, L'"');
+      if (asked.starts_with(L"shell ") || asked.starts_with(L"mail ")) asked.replace(0, asked.find(L' '), L"open");
+      if (asked.starts_with(L"call ")) asked.resize(asked.find(L'|'));
+      if (!asked.starts_with(L"title ")) starts.push_back(asked);
+    }
+    return starts;
+  }
   bool Becomes(const std::function<bool()>& condition) override { return condition(); }
 
-  Machine Computer;
+  fake::Computer Computer;
   std::unique_ptr<Desk> Desktop;  // of the run that goes on
   std::unique_ptr<start::Program> Program;
 

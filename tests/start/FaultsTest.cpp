@@ -84,7 +84,6 @@ struct Walk : Reader, flows::NativeWorld {
     Reader::World = this;
     Computer.Home = onMedium ? L"E:\\Work" : L"C:\\Vantor";
     Computer.Disk = disk;
-    Computer.Disk.AddFile(L"C:\\WINDOWS\\explorer.exe");
     Computer.Decide = [this, wrong, how](std::string_view call) {
       if (call == "Pause") {
         waited_ = true;
