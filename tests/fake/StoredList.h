@@ -7,8 +7,8 @@ namespace vantor::test {
 
 /// One run of the program as far as its files go: the settings and the launch list, in C:\Vantor\Vantor or, on a
 /// remembered computer, in E:\Vantor\Vantor. The disk is the test's, so that a later run finds the files.
-struct StoredList {
-  explicit StoredList(fake::Computer& computer, bool onMedium = false) : Program(Desktop, computer.Services()) {
+struct StoredList : ProgramRun {
+  explicit StoredList(fake::Computer& computer, bool onMedium = false) : ProgramRun(computer) {
     Environment.RunMode = Environment.MachineRemembered = onMedium;
     Environment.MediaDriveLetter = onMedium ? L"E" : L"C";
     Environment.ProgramFolder = Environment.MediaDriveLetter + L":\\Vantor\\";
@@ -21,21 +21,14 @@ struct StoredList {
     Page.Load();
   }
   void Save() { Files.SaveLaunchList(List, 150, 300); }
-  void Add(list::LaunchGroup group, std::wstring_view name, std::wstring_view path) {
-    List.Of(group).AddItem({name, path});
-  }
   void RemoveFirst(list::LaunchGroup group) {
     List.Of(group).Name.RemoveItem(0);
     List.Of(group).Path.RemoveItem(0);
   }
 
-  form::Headless Desktop;
-  start::Program Program;
   state::Environment& Environment = Program.Environment;
   list::Settings& Settings = Program.Settings;
   list::ListFiles& Files = Program.ListFiles;
-  list::ListPage& Page = Program.ListPage;
-  list::LaunchList& List = Page.List;
 };
 
 }  // namespace vantor::test

@@ -29,18 +29,31 @@ inline Texts ItemsOf(const list::LaunchList& list) {
   return all;
 }
 
-/// The whole program on a computer of its own, on which it was used before, from C: in fixed-disk mode.
-struct TestProgram {
-  fake::Computer Computer;
+/// One run of the whole program, before its start.
+struct ProgramRun {
+  explicit ProgramRun(fake::Computer& computer) : Program(Desktop, computer.Services()) {}
+
+  void Add(list::LaunchGroup group, std::wstring_view name, std::wstring_view path) {
+    List.Of(group).AddItem({name, path});
+  }
+
   form::Headless Desktop;
-  start::Program Program{Desktop, Computer.Services()};
-  bar::frmMain& Main = Program.frmMain;
-  panel::frmChoose& Choose = Program.frmChoose;
+  start::Program Program;
   list::ListPage& Page = Program.ListPage;
   list::LaunchList& List = Page.List;
+};
+
+struct OwnComputer {
+  fake::Computer Computer;
+};
+
+/// The program on a computer of its own, on which it was used before, from C: in fixed-disk mode.
+struct TestProgram : OwnComputer, ProgramRun {
+  bar::frmMain& Main = Program.frmMain;
+  panel::frmChoose& Choose = Program.frmChoose;
   Texts Told;  // the texts of the messages
 
-  explicit TestProgram(const std::string& place = "0\r\n0") {
+  explicit TestProgram(const std::string& place = "0\r\n0") : ProgramRun(Computer) {
     Computer.Disk.AddFile(L"C:\\Vantor\\Vantor\\Set.Orbel",
                           "2\r\n-1\r\n-1\r\n-1\r\n-1\r\n" + place + "\r\n\"\"\r\n-1\r\n-1\r\n-1\r\n");
     Computer.Disk.AddFile(L"C:\\Vantor\\Vantor\\User.Orbel", "\"Ada\"\r\n");
@@ -51,9 +64,6 @@ struct TestProgram {
     return Main.Visible() && !Desktop.Ended();
   }
 
-  void Add(list::LaunchGroup group, std::wstring_view name, std::wstring_view path) {
-    List.Of(group).AddItem({name, path});
-  }
   /// Types a line in the place of what stands in the box.
   void Type(std::wstring_view line) {
     Main.TextMain.SetText(L"");

@@ -11,13 +11,14 @@ namespace vantor::fuzz {
 
 inline constexpr int DeepestMessages = 4;
 
+/// Lines, or parts of them.
 inline constexpr std::wstring_view Words[] = {L"p=notepad",
                                               L"d.s",
                                               L"e.b",
                                               L"t=123",
                                               L"w-",
                                               L"p-",
-                                              L"f-on",  // codes
+                                              L"f-on",
                                               L"c/abc",
                                               L"\r",
                                               L"\b",
