@@ -140,7 +140,7 @@ class NativeWorld : public World {
   }
   void Restore() override {
     Program->frmMain.InputWindowState(form::WindowState::Normal);
-    Desktop->Advance(1000);
+    Desktop->Advance(2000);
   }
   void Close() override { Program->frmMain.InputClose(); }
   void Wait(int milliseconds) override { Desktop->Advance(milliseconds); }

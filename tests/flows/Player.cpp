@@ -220,10 +220,12 @@ class Player : public Steps {
   }
 
   void Press(const Text& rest) {
-    for (const Text& pressed : Words(rest)) {
+    const auto [keys, line] = Cut(rest, L" > ");
+    for (const Text& pressed : Words(keys)) {
       const bool control = pressed.starts_with(L"Ctrl+");
       control ? world_->PressControl(KeyOf(pressed.substr(5))) : world_->Press(KeyOf(pressed));
     }
+    if (!line.empty()) Check("line", L"line", {}, line);
   }
   /// In the place of what stands in the bar's box.
   void WriteLine(const Text& rest, bool enter) {
