@@ -9,6 +9,7 @@
 #include "list/StoredText.h"
 #include "text/Numbers.h"
 #include "text/Path.h"
+#include "text/Utf8.h"
 
 namespace vantor::list {
 
@@ -107,24 +108,33 @@ bool ListFiles::LoadRecords(const Group& group, const GroupBoxes& boxes, std::ws
                             bool onMedia) {
   const service::FileRead file = generation_.Read(path);
   if (!file.Bytes) return false;
-  const std::wstring content = DecodeText(*file.Bytes, services_.Language);
-
   // The upper index may be a damaged one.
-  const int fitting =
-      static_cast<int>(std::min<std::size_t>(content.size() / PunctuationOfRecord, static_cast<std::size_t>(upper)));
-  boxes.Name.Reserve(boxes.Name.ListCount() + fitting + 1);
-  boxes.Path.Reserve(boxes.Path.ListCount() + fitting + 1);
+  const std::size_t fitting = std::min(file.Bytes->size() / PunctuationOfRecord, static_cast<std::size_t>(upper)) + 1;
+  boxes.Name.Reserve(boxes.Name.ListCount() + static_cast<int>(fitting));
+  boxes.Path.Reserve(boxes.Path.ListCount() + static_cast<int>(fitting));
 
-  text::SequentialReader reader(content);
+  // Most files are ASCII, and are taken apart as they stand, without being widened as a whole.
+  if (text::IsAscii(*file.Bytes)) return LoadRecords(group, boxes, text::AsciiReader(*file.Bytes), upper, onMedia);
+  const std::wstring content = DecodeText(*file.Bytes, services_.Language);
+  return LoadRecords(group, boxes, text::SequentialReader(content), upper, onMedia);
+}
+
+template <class Reader>
+bool ListFiles::LoadRecords(const Group& group, const GroupBoxes& boxes, Reader reader, int upper, bool onMedia) {
+  std::wstring name;
   std::wstring target;
+  const auto put = [](auto field, std::wstring& text) {
+    text.resize(field.size());
+    std::copy(field.begin(), field.end(), text.begin());
+  };
   for (int i = 0; i <= upper; ++i) {
-    const auto name = reader.Read();
-    const auto stored = name ? reader.Read() : std::nullopt;
-    if (!stored) return false;
-    target.clear();
-    if (onMedia) target = environment_.MediaDriveLetter;
-    target += onMedia && !stored->Text.empty() ? stored->Text.substr(1) : stored->Text;
-    if (TargetExists(group, target)) boxes.AddItem({name->Text, target});
+    const auto first = reader.Read();
+    const auto second = first ? reader.Read() : std::nullopt;
+    if (!second) return false;
+    put(first->Text, name);
+    put(second->Text, target);
+    if (onMedia) target.replace(0, 1, environment_.MediaDriveLetter);
+    if (TargetExists(group, target)) boxes.AddItem({name, target});
   }
   return true;
 }

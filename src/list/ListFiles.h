@@ -56,6 +56,8 @@ class ListFiles {
   /// False when the file holds fewer records than it should, or can't be read.
   [[nodiscard]] bool LoadRecords(const Group& group, const GroupBoxes& boxes, std::wstring_view path, int upper,
                                  bool onMedia);
+  template <class Reader>
+  [[nodiscard]] bool LoadRecords(const Group& group, const GroupBoxes& boxes, Reader reader, int upper, bool onMedia);
   [[nodiscard]] bool TargetExists(const Group& group, std::wstring_view target) const;
 
   /// On the remembered computer the machine's list file takes what does not lie on the medium; without one, the main

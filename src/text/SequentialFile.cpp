@@ -12,10 +12,13 @@ namespace {
 
 constexpr std::string_view LineEnd = "\r\n";
 
-constexpr bool IsBlank(wchar_t c) { return c == L' ' || c == L'\t'; }
-constexpr bool IsDelimiter(wchar_t c) { return c == L',' || c == L'\r' || c == L'\n'; }
+template <class Char>
+constexpr bool IsBlank(Char c) {
+  return c == ' ' || c == '\t';
+}
 
-std::wstring_view TrimBlanks(std::wstring_view text) {
+template <class Char>
+std::basic_string_view<Char> TrimBlanks(std::basic_string_view<Char> text) {
   while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
   while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
   return text;
@@ -96,13 +99,14 @@ void SequentialWriter::Reserve(std::size_t bytes) { static_cast<void>(Room(bytes
 
 std::wstring SequentialWriter::Text() const { return FromUtf8(Bytes()); }
 
-std::optional<SequentialReader::Field> SequentialReader::Read() {
+template <class Char>
+auto FieldReader<Char>::Read() -> std::optional<Field> {
   while (!rest_.empty() && IsBlank(rest_.front())) rest_.remove_prefix(1);
   if (rest_.empty()) return std::nullopt;
-  if (rest_.front() != L'"') return Field{TrimBlanks(TakeToDelimiter()), false};
+  if (rest_.front() != '"') return Field{TrimBlanks(TakeToDelimiter()), false};
 
-  const std::size_t close = rest_.find(L'"', 1);
-  if (close == std::wstring_view::npos) {
+  const std::size_t close = rest_.find('"', 1);
+  if (close == View::npos) {
     rest_ = {};
     return std::nullopt;
   }
@@ -112,15 +116,17 @@ std::optional<SequentialReader::Field> SequentialReader::Read() {
   return field;
 }
 
-std::wstring_view SequentialReader::TakeToDelimiter() {
-  const auto end = std::find_if(rest_.begin(), rest_.end(), IsDelimiter);
-  const std::wstring_view taken = rest_.substr(0, static_cast<std::size_t>(end - rest_.begin()));
-  rest_.remove_prefix(taken.size());
-  if (rest_.starts_with(L"\r\n"))
-    rest_.remove_prefix(2);
-  else if (!rest_.empty())
-    rest_.remove_prefix(1);
+template <class Char>
+auto FieldReader<Char>::TakeToDelimiter() -> View {
+  std::size_t end = 0;
+  while (end < rest_.size() && rest_[end] != ',' && rest_[end] != '\r' && rest_[end] != '\n') ++end;
+  const View taken = rest_.substr(0, end);
+  const bool pair = end + 1 < rest_.size() && rest_[end] == '\r' && rest_[end + 1] == '\n';
+  rest_.remove_prefix(std::min(end + (pair ? 2 : 1), rest_.size()));
   return taken;
 }
+
+template class FieldReader<wchar_t>;
+template class FieldReader<char>;
 
 }  // namespace vantor::text

@@ -46,13 +46,16 @@ class SequentialWriter {
 /// Reads fields one after another, as an input statement does: a quoted field ends at its closing quote and
 /// keeps its commas; an unquoted one ends at a comma or a line end and loses the blanks around it. CR, LF and
 /// CR LF all end a line. What stands between a closing quote and the next comma or line end is passed over.
-class SequentialReader {
+template <class Char>
+class FieldReader {
  public:
+  using View = std::basic_string_view<Char>;
+
   /// The text must outlive the reader and its fields.
-  explicit SequentialReader(std::wstring_view text) : rest_(text) {}
+  explicit FieldReader(View text) : rest_(text) {}
 
   struct Field {
-    std::wstring_view Text;  // a part of the reader's text
+    View Text;  // a part of the reader's text
     bool Quoted = false;
   };
   /// The next field; nothing at the end of the text or when a quoted field has no closing quote.
@@ -60,9 +63,13 @@ class SequentialReader {
 
  private:
   /// Takes the characters up to the next comma or line end, and that too. Returns them.
-  std::wstring_view TakeToDelimiter();
+  View TakeToDelimiter();
 
-  std::wstring_view rest_;
+  View rest_;
 };
+
+using SequentialReader = FieldReader<wchar_t>;
+/// The same for bytes that are ASCII only.
+using AsciiReader = FieldReader<char>;
 
 }  // namespace vantor::text
