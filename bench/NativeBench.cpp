@@ -54,6 +54,9 @@ class RealDataFiles : public service::DataFiles {
                          fsync(fileno(file)) == 0;
     return std::fclose(file) == 0 && written;
   }
+  bool Move(std::wstring_view from, std::wstring_view to) override {
+    return std::rename(Narrow(from).c_str(), Narrow(to).c_str()) == 0;
+  }
   bool Remove(std::wstring_view path) override { return std::remove(Narrow(path).c_str()) == 0 || errno == ENOENT; }
   bool MakeFolder(std::wstring_view path) override { return mkdir(Narrow(path).c_str(), 0700) == 0 || errno == EEXIST; }
   bool CanWrite(std::wstring_view path) override { return access(Narrow(path).c_str(), W_OK) == 0; }

@@ -1,5 +1,8 @@
 #include "list/Generation.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "list/DataFile.h"
 
 namespace vantor::list {
@@ -15,83 +18,118 @@ void Generation::Restore() {
   markUnread_ = mark.Failed();
   if (mark.Bytes != SaveUnderWay) return;
   if (ReadPatiently(files_, KeptPath(environment_.Files.Set)).Missing) {
-    Unmark();
-    return;
+    readMoved_ = !PutMovedBack();
+  } else {
+    for (const std::wstring_view path : All()) {
+      const service::FileRead kept = ReadPatiently(files_, KeptPath(path));
+      const bool differs = kept.Bytes && !Holds(path, *kept.Bytes);
+      readKept_ |= kept.Failed() || (differs && !files_.WriteInPlace(path, *kept.Bytes));
+    }
   }
-  for (const std::wstring& path : All()) {
-    const service::FileRead kept = ReadPatiently(files_, KeptPath(path));
-    const bool differs = kept.Bytes && files_.Read(path).Bytes != kept.Bytes;
-    readKept_ |= kept.Failed() || (differs && !files_.WriteInPlace(path, *kept.Bytes));
-  }
-  if (!readKept_) Unmark();
+  if (!readKept_ && !readMoved_) Unmark();
 }
 
 service::FileRead Generation::Read(std::wstring_view path) {
-  return ReadPatiently(files_, readKept_ ? KeptPath(path) : path);
+  service::FileRead read = ReadPatiently(files_, readKept_ ? KeptPath(path) : path);
+  return read.Missing && readMoved_ ? ReadPatiently(files_, KeptPath(path)) : read;
 }
 
 void Generation::BeginSave(bool overUnread) {
-  save_ = {};
-  if (!whole_ || overUnread) save_.Elsewhere = !rescue_.Copy(AsFound());
+  changes_.clear();
+  elsewhere_ = (!whole_ || overUnread) && !rescue_.Copy(AsFound());
 }
 
-void Generation::Write(std::wstring_view path, std::string_view bytes) {
-  if (save_.Elsewhere) {
-    save_.Failed |= !rescue_.Write(path, bytes);
-    return;
-  }
-  const service::FileRead old = files_.Read(path);
-  if (old.Bytes == bytes) return;
-  if (!save_.Begun) Protect();
-  if ((!save_.Marked || !whole_) && !old.Failed()) save_.Old.emplace_back(path, old.Bytes);
-  save_.Failed |= !files_.WriteInPlace(path, bytes);
+void Generation::Write(std::wstring_view path, std::string bytes) {
+  service::FileRead old = files_.Read(path);
+  if (elsewhere_ || old.Bytes != bytes) changes_.push_back({path, std::move(bytes), std::move(old)});
 }
 
 void Generation::EndSave() {
-  if (save_.Elsewhere) {
-    if (!save_.Failed) rescue_.Note();
+  if (elsewhere_) return SaveElsewhere();
+  const Kept kept = changes_.empty() ? Kept::None : Protect();
+  bool failed = false;
+  for (const Change& change : changes_) failed |= !files_.WriteInPlace(change.Path, change.Bytes);
+  if (failed) {
+    if (kept == Kept::Replaced) return;
+    PutOldBack();
+    if (kept == Kept::Older) Unmark();
     return;
   }
-  if (save_.Failed) {
-    // What is kept is older than a generation that was not read whole.
-    if (!save_.Marked || !whole_) PutOldBack();
-    if (save_.Marked && !whole_ && !readKept_) Unmark();
-    return;
-  }
-  if (save_.Marked || readKept_) Unmark();
+  if (!changes_.empty() || readKept_) Unmark();
   whole_ = true;
-  readKept_ = false;
+  readKept_ = readMoved_ = false;
 }
 
-void Generation::Protect() {
-  save_.Begun = true;
+void Generation::SaveElsewhere() {
+  bool written = true;
+  for (const Change& change : changes_) written &= rescue_.Write(change.Path, change.Bytes);
+  if (written) rescue_.Note();
+}
+
+Generation::Kept Generation::Protect() {
   // A restore that is still due has both already, and must not lose its mark even for a moment.
-  save_.Marked = readKept_ || (((!whole_ && HasKept()) || Keep()) && files_.WriteInPlace(MarkPath(), SaveUnderWay));
+  if (readKept_) return Kept::Replaced;
+  if (!whole_ && HasKept()) return Mark() ? Kept::Older : Kept::None;
+  // Where that fails, what has been moved is in its place again once it is written.
+  return Keep(whole_ && !environment_.RunMode) ? Kept::Replaced : Kept::None;
 }
 
-bool Generation::Keep() const {
-  const std::wstring_view set = environment_.Files.Set;
-  bool incomplete = false;
-  for (const std::wstring& path : Lists()) {
+bool Generation::Keep(bool byMoving) {
+  bool complete = true;  // what is kept
+  const auto begin = [&] {
+    return !std::exchange(complete, false) ||
+           (files_.MakeFolder(Folder()) && files_.Remove(KeptPath(environment_.Files.Set)));
+  };
+  for (const std::wstring_view path : environment_.Files.Lists()) {
+    if (byMoving && WillReplace(path)) continue;
     const service::FileRead list = files_.Read(path);
     if (list.Failed()) return false;
-    if (list.Missing || files_.Read(KeptPath(path)).Bytes == list.Bytes) continue;
-    if (!incomplete && !(files_.MakeFolder(Folder()) && files_.Remove(KeptPath(set)))) return false;
-    incomplete = true;
-    if (!files_.WriteInPlace(KeptPath(path), *list.Bytes)) return false;
+    if (list.Missing || Holds(KeptPath(path), *list.Bytes)) continue;
+    if (!begin() || !files_.WriteInPlace(KeptPath(path), *list.Bytes)) return false;
   }
+  if (!byMoving) return KeepSettings() && Mark();
+  return begin() && Mark() && MoveAside() && KeepSettings();
+}
+
+bool Generation::KeepSettings() {
+  const std::wstring& set = environment_.Files.Set;
   const auto settings = files_.Read(set).Bytes;
   if (!settings) return false;
-  return files_.Read(KeptPath(set)).Bytes == settings ||
-         (files_.MakeFolder(Folder()) && files_.Write(KeptPath(set), *settings));
+  return Holds(KeptPath(set), *settings) || (files_.MakeFolder(Folder()) && files_.Write(KeptPath(set), *settings));
+}
+
+bool Generation::MoveAside() {
+  const auto keep = [this](const Change& change) {
+    if (!change.Old.Bytes || change.Path == environment_.Files.Set) return true;
+    const std::wstring kept = KeptPath(change.Path);
+    return files_.Move(change.Path, kept) || files_.WriteInPlace(kept, *change.Old.Bytes);
+  };
+  return std::all_of(changes_.begin(), changes_.end(), keep);
+}
+
+bool Generation::PutMovedBack() {
+  bool back = true;
+  for (const std::wstring_view path : environment_.Files.Lists()) {
+    const bool moved = ReadPatiently(files_, path).Missing && !ReadPatiently(files_, KeptPath(path)).Missing;
+    back &= !moved || files_.Move(KeptPath(path), path);
+  }
+  return back;
 }
 
 void Generation::PutOldBack() {
   // First all are emptied, so that on a full disk there is room for every one.
-  for (const auto& [path, bytes] : save_.Old) static_cast<void>(files_.WriteInPlace(path, {}));
-  for (const auto& [path, bytes] : save_.Old)
-    static_cast<void>(bytes ? files_.WriteInPlace(path, *bytes) : files_.Remove(path));
+  for (const bool empty : {true, false}) {
+    for (const Change& change : changes_) {
+      if (change.Old.Failed()) continue;
+      if (empty || change.Old.Bytes)
+        static_cast<void>(files_.WriteInPlace(change.Path, empty ? std::string_view() : *change.Old.Bytes));
+      else
+        static_cast<void>(files_.Remove(change.Path));
+    }
+  }
 }
+
+bool Generation::Mark() { return readMoved_ || files_.WriteInPlace(MarkPath(), SaveUnderWay); }
 
 void Generation::Unmark() {
   // Emptied first, which reaches the disk, while a removal may wait in Windows' memory.
@@ -99,20 +137,28 @@ void Generation::Unmark() {
   static_cast<void>(files_.Remove(MarkPath()));
 }
 
-std::vector<std::wstring> Generation::Lists() const { return environment_.Files.Lists(); }
+bool Generation::Holds(std::wstring_view path, std::string_view bytes) const {
+  return files_.Read(path).Bytes == bytes;
+}
 
-std::vector<std::wstring> Generation::All() const {
-  std::vector<std::wstring> all = Lists();
+bool Generation::WillReplace(std::wstring_view path) const {
+  return std::any_of(changes_.begin(), changes_.end(),
+                     [=](const Change& change) { return change.Path == path && change.Old.Bytes; });
+}
+
+std::vector<std::wstring_view> Generation::All() const {
+  std::vector<std::wstring_view> all = environment_.Files.Lists();
   all.push_back(environment_.Files.Set);
   return all;
 }
 
 std::vector<std::wstring> Generation::AsFound() const {
-  std::vector<std::wstring> all = All();
-  if (!markUnread_ && !readKept_) return all;
-  for (const std::wstring& path : All()) all.push_back(KeptPath(path));
-  all.push_back(MarkPath());
-  return all;
+  std::vector<std::wstring> found;
+  for (const std::wstring_view path : All()) found.emplace_back(path);
+  if (!markUnread_ && !readKept_ && !readMoved_) return found;
+  for (const std::wstring_view path : All()) found.push_back(KeptPath(path));
+  found.push_back(MarkPath());
+  return found;
 }
 
 std::wstring Generation::KeptPath(std::wstring_view path) const {

@@ -14,7 +14,7 @@ bool Rescue::Copy(const std::vector<std::wstring>& paths) {
   number_ = 0;
   std::vector<std::pair<std::wstring_view, std::string>> found;
   for (const std::wstring& path : paths) {
-    service::FileRead read = files_.Read(path);
+    service::FileRead read = ReadPatiently(files_, path);
     if (read.Failed()) return false;
     if (read.Bytes) found.emplace_back(path, *std::move(read.Bytes));
   }

@@ -16,8 +16,8 @@ class Rescue {
  public:
   Rescue(service::DataFiles& files, const state::Environment& environment) : files_(files), environment_(environment) {}
 
-  /// Copies those of the files that there are into a new folder. False, with nothing copied, when one can't be read
-  /// or there is no room.
+  /// Copies those of the files that there are into a new folder. One that is held is waited for, as at the start.
+  /// False, with nothing copied, when one can't be read or there is no room.
   [[nodiscard]] bool Copy(const std::vector<std::wstring>& paths);
   /// Writes what would have replaced a data file into the same folder, or a new one.
   [[nodiscard]] bool Write(std::wstring_view path, std::string_view bytes);

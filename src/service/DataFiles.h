@@ -33,6 +33,9 @@ class DataFiles {
   /// The same as opening a file for output does it: emptied and then written. A failure leaves the part that was
   /// written; on success the bytes have reached the disk.
   [[nodiscard]] virtual bool WriteInPlace(std::wstring_view path, std::string_view bytes) = 0;
+  /// Moves a file to another folder, over any that is there. Where the program ends meanwhile, one of the two names has
+  /// it. False, with nothing done, also when a new file in its place would not be like it, or it may not be written.
+  [[nodiscard]] virtual bool Move(std::wstring_view from, std::wstring_view to) = 0;
   /// Whether a file that is there may be written. Found out without writing; true also while somebody holds it.
   [[nodiscard]] virtual bool CanWrite(std::wstring_view path) = 0;
   /// True also when there is no such file.

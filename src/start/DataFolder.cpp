@@ -45,11 +45,11 @@ bool Write(const service::Services& services, std::wstring_view path, const text
 }
 
 /// The settings file or, where that was lost or deleted, one of the lists; "" before the first start.
-std::wstring FindData(const service::Services& services, const state::Environment& environment) {
+std::wstring_view FindData(const service::Services& services, const state::Environment& environment) {
   // A file that is there but can't be read must not be taken for a first start, and be replaced.
-  const auto isThere = [&](const std::wstring& path) { return !services.DataFiles.Read(path).Missing; };
+  const auto isThere = [&](std::wstring_view path) { return !services.DataFiles.Read(path).Missing; };
   if (isThere(environment.Files.Set)) return environment.Files.Set;
-  for (const std::wstring& path : environment.Files.Lists()) {
+  for (const std::wstring_view path : environment.Files.Lists()) {
     if (isThere(path)) return path;
   }
   return {};
@@ -90,7 +90,7 @@ bool CreateMedia(const service::Services& services, const state::Environment& en
 }  // namespace
 
 bool PrepareDataFolder(const service::Services& services, state::Environment& environment) {
-  const std::wstring found = FindData(services, environment);
+  const std::wstring_view found = FindData(services, environment);
   if (!found.empty()) return services.DataFiles.CanWrite(found);
   environment.FirstStart = true;
   return services.DataFiles.MakeFolder(environment.DataFolder) && WriteFirstSettings(services, environment);

@@ -26,8 +26,8 @@ struct DataFilePaths {
   std::wstring MachineProg;
 
   /// The list files of the mode.
-  [[nodiscard]] std::vector<std::wstring> Lists() const {
-    std::vector<std::wstring> lists{ListFile, ListFold, ListProg, ListWeb};
+  [[nodiscard]] std::vector<std::wstring_view> Lists() const {
+    std::vector<std::wstring_view> lists{ListFile, ListFold, ListProg, ListWeb};
     if (!MachineFile.empty()) lists.insert(lists.end(), {MachineFile, MachineFold, MachineProg});
     return lists;
   }

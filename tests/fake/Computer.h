@@ -97,6 +97,7 @@ class Computer : public service::DataFiles,
     Disk.Write(path, bytes.substr(0, bytes.size() / 2), true);
     return false;
   }
+  bool Move(Text from, Text to) override { return !Fails(__func__) && Disk.Move(from, to); }
   bool Remove(Text path) override { return !Fails(__func__) && Disk.RemoveFile(path); }
   bool MakeFolder(Text path) override { return !Fails(__func__) && Disk.MakeFolder(path); }
   bool CanWrite(Text path) override { return !Fails(__func__) && Disk.MayWrite(path); }

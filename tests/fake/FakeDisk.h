@@ -106,6 +106,13 @@ class FakeDisk {
   [[nodiscard]] bool MayWrite(std::wstring_view path) const {
     return HasFile(path) && Find(path)->Writable && !DriveOf(path)->WriteProtected;
   }
+  bool Move(std::wstring_view from, std::wstring_view to) {
+    if (!MayWrite(from) || !CanWrite(to) || (Find(to) && !MayWrite(to))) return false;
+    AddFile(to, Bytes(from));
+    Written.emplace_back(to);
+    Remove(from);
+    return true;
+  }
   bool RemoveFile(std::wstring_view path) {
     if (!HasFile(path)) return true;
     if (!CanWrite(path) || !Find(path)->Writable) return false;

@@ -161,6 +161,15 @@ TEST_CASE("a data file is replaced whole or left whole, in its place too where t
   CHECK(data.FolderEntries(folder.Path) == Names{L"Set \x4E2D.Orbel"});
   for (int time = 0; time < 2; ++time) CHECK(data.MakeFolder(folder / L"made"));
   CHECK(data.FolderEntries(folder / L"none") == Names{});
+  const std::wstring moved = folder / L"made\\Set.Orbel";
+  CHECK_FALSE(data.Move(path, moved));  // it is hidden, which a new one would not be
+  SetAttributes(path, FILE_ATTRIBUTE_ARCHIVE);
+  for (int time = 0; time < 2; ++time) {
+    REQUIRE(data.Write(path, old));
+    CHECK(data.Move(path, moved));
+    CHECK_FALSE(data.Move(path, moved));
+  }
+  CHECK(data.Move(moved, path));
   CHECK_FALSE(data.MakeFolder(path));
   CHECK_FALSE(data.MakeFolder(folder / L"no\\Vantor"));
   CHECK(data.Read(folder.Path).Failed());

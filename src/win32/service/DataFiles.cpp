@@ -112,6 +112,13 @@ bool DataFiles::WriteInPlace(std::wstring_view path, std::string_view bytes) {
   return error == ERROR_SUCCESS && WriteAll(file.Get(), bytes) && FlushFileBuffers(file.Get());
 }
 
+bool DataFiles::Move(std::wstring_view from, std::wstring_view to) {
+  // A hidden, compressed or encrypted file, say, would not be so any more.
+  constexpr DWORD Usual = FILE_ATTRIBUTE_NORMAL | FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
+  const std::wstring place = CallPath(from);
+  return (GetFileAttributesW(place.c_str()) & ~Usual) == 0 && MoveOver(place, CallPath(to)) == ERROR_SUCCESS;
+}
+
 bool DataFiles::CanWrite(std::wstring_view path) {
   const std::wstring place = CallPath(path);
   if (IsRefused(GetFileAttributesW(place.c_str()))) return false;

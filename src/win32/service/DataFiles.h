@@ -16,6 +16,7 @@ class DataFiles final : public service::DataFiles {
   void Pause(int milliseconds) override;
   [[nodiscard]] bool Write(std::wstring_view path, std::string_view bytes) override;
   [[nodiscard]] bool WriteInPlace(std::wstring_view path, std::string_view bytes) override;
+  [[nodiscard]] bool Move(std::wstring_view from, std::wstring_view to) override;
   [[nodiscard]] bool CanWrite(std::wstring_view path) override;
   [[nodiscard]] bool Remove(std::wstring_view path) override;
   [[nodiscard]] bool MakeFolder(std::wstring_view path) override;
