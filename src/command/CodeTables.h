@@ -11,7 +11,7 @@ namespace vantor::command {
 
 // The fixed words of the command language. Their order is the order in which type-ahead searches them.
 
-/// Also the names by which the scripting shell knows the folders.
+/// The scripting shell uses the same names for the folders.
 inline constexpr std::array<std::wstring_view, 16> SpecialFolderNames{
     L"AllUsersDesktop", L"AllUsersStartMenu", L"AllUsersPrograms", L"AllUsersStartup", L"Desktop",  L"Favorites",
     L"Fonts",           L"MyDocuments",       L"NetHood",          L"PrintHood",       L"Programs", L"Recent",
@@ -49,13 +49,13 @@ inline constexpr std::array<ControlPanelWord, 22> ControlPanelNames{{
     {L"Themes", L"rundll32.exe shell32.dll,Control_RunDLL desk.cpl,,4", false},
 }};
 
-/// The maker's addresses, and by the same index the subjects of mails to them.
+/// The maker's addresses and, at the same indexes, the subjects of mails to them.
 inline constexpr std::array MailAddresses{product::BugReportAddress, product::SuggestionsAddress,
                                           product::SupportAddress};
 inline constexpr std::array<std::wstring_view, 3> MailSubjects{message::BugMailSubject, L"Vantor - Suggestions",
                                                                L"Vantor - Need Support"};
 
-/// Part of the start: no panel is open and nothing is completed. The tables themselves are constants.
+/// Part of the start sequence: no panel is open and nothing is completed. The tables themselves are constants.
 inline void InitCodeTables(CommandState& state) { state = {}; }
 
 }  // namespace vantor::command

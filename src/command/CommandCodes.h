@@ -8,9 +8,9 @@
 
 namespace vantor::command {
 
-/// What follows a code, which also says what completes it.
+/// The kind of argument that follows a code, which also determines how it is completed.
 enum class Argument {
-  Typed,             // taken as it stands
+  Typed,             // used as it is
   SpecialFolder,     // a word of SpecialFolderNames
   ControlPanelPage,  // a word of ControlPanelNames
   MakerAddress,      // one of MailAddresses; only a completed one is acted on
@@ -20,12 +20,12 @@ enum class Argument {
 
 enum class Starter { Program, Explorer, Shell, Web, ControlPanel, MakerMail, Telephone };
 
-/// One code of the command language: its argument, and how Enter turns that into something started.
+/// One code of the command language: its argument, and how Enter starts it.
 struct CommandCode {
   std::wstring_view Code;
   command::Argument Argument;
   command::Starter Starter;
-  std::wstring_view Before = {};  // stands before the argument in the target
+  std::wstring_view Before = {};  // precedes the argument in the target
   std::wstring_view After = {};
   list::LaunchGroup Group = list::LaunchGroup::Prog;  // of an ItemName
 };
@@ -57,7 +57,7 @@ inline constexpr std::array<CommandCode, 22> CommandCodes{{
     {L"r-", Argument::CompanionName, Starter::Program},
 }};
 
-/// The entry of a code in lower case; null when there is no such code.
+/// The entry for a lower-case code; null if there is none.
 [[nodiscard]] constexpr const CommandCode* FindCode(std::wstring_view code) {
   for (const CommandCode& entry : CommandCodes) {
     if (entry.Code == code) return &entry;
@@ -65,12 +65,12 @@ inline constexpr std::array<CommandCode, 22> CommandCodes{{
   return nullptr;
 }
 
-/// The entry of the code that a line begins with; null when there is no such code.
+/// The entry for the code at the start of a line; null if there is none.
 [[nodiscard]] inline const CommandCode* CodeOf(std::wstring_view line, const service::Language& language) {
   return line.size() < CodeLength ? nullptr : FindCode(language.Lower(line.substr(0, CodeLength)));
 }
 
-/// Whether only a completed entry of such an argument is acted on.
+/// Whether Enter acts on such an argument only if it was completed.
 [[nodiscard]] constexpr bool NamesEntry(Argument argument) {
   return argument == Argument::MakerAddress || argument == Argument::ItemName || argument == Argument::CompanionName;
 }

@@ -33,7 +33,7 @@ void CommandLine::TextMain_KeyPress(wchar_t& character) {
     case form::CharEnter:
       walk_.Hide();
       Enter();
-      character = 0;  // a box of one line has no use for it and would beep
+      character = 0;  // a single-line box would only beep
       return;
     case form::CharEscape:
       Escape();
@@ -62,7 +62,7 @@ void CommandLine::TextMain_Change() {
   recall_.Leave();
   const bool byBackspace = std::exchange(state_.BackspaceFlag, false);
   if (!textMain_.Composing() && KeepDigits()) return walk_.Hide();
-  const std::wstring text = textMain_.Text();  // a copy: completing replaces the box's own
+  const std::wstring text = textMain_.Text();  // a copy, because completing replaces the text of the box
   const std::wstring_view line(text);
   const CommandCode* const code = text.size() > CodeLength && !textMain_.Composing() ? CodeOf(line) : nullptr;
   if (code == nullptr || code->Argument == Argument::Typed) return walk_.Hide();
@@ -70,7 +70,7 @@ void CommandLine::TextMain_Change() {
   const std::wstring_view prefix = line.substr(0, CodeLength);
   const std::wstring_view typed = line.substr(CodeLength);
   const bool completed = !byBackspace && CompleteFromTable(prefix, typed, table);
-  textMain_.PaintNow();  // the completion is not to wait for the list
+  textMain_.PaintNow();  // so that the completion does not wait for the list
   walk_.Show(table, prefix, typed, completed);
 }
 
@@ -219,7 +219,7 @@ bool CommandLine::CompleteFromTable(std::wstring_view prefix, std::wstring_view 
 
 void CommandLine::PutCompletion(std::wstring_view prefix, std::size_t typedLength, std::wstring_view entry) {
   const int caret = textMain_.SelStart();
-  // Searching again in the change that this raises would only find the same entry.
+  // This raises Change; searching again would only find the same entry.
   {
     const form::Scoped setting(state_.SettingLine, true);
     textMain_.SetText(std::wstring(prefix).append(entry));
@@ -228,7 +228,7 @@ void CommandLine::PutCompletion(std::wstring_view prefix, std::size_t typedLengt
   if (entry.size() > typedLength) {
     textMain_.Select(typedEnd, static_cast<int>(entry.size() - typedLength));
   } else if (textMain_.SelStart() != caret) {
-    textMain_.Select(caret, 0);  // the entry's spelling took the place of what was typed
+    textMain_.Select(caret, 0);  // the entry's spelling has replaced what was typed
   }
 }
 

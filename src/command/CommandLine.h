@@ -16,7 +16,7 @@
 
 namespace vantor::command {
 
-/// The bar, as the command line needs it.
+/// What the command line needs from the bar.
 class LineOwner {
  public:
   virtual void Minimize() = 0;
@@ -42,7 +42,8 @@ class CommandLine {
   void TextMain_Compose(bool composing) { walk_.GiveWay(composing); }
   void ListMatches_Click(int row);
   void TextMain_KeyDone() { state_.BackspaceFlag = false; }
-  /// Escape, whichever control of the bar has the focus: closes the open panel and empties the line, or minimises.
+  /// Escape, whichever control of the bar has the focus: closes the open panel and empties the line, or minimises the
+  /// bar if no panel is open.
   void Escape();
   /// The list has changed: what the line was completed to is looked for again. Where it is gone, the line is completed
   /// by what was typed, or keeps that alone.
@@ -63,11 +64,11 @@ class CommandLine {
     return command::CodeOf(text, services_.Language);
   }
 
-  /// Takes out of a telephone number what is no digit. Returns whether there was something.
+  /// Removes everything but digits from a telephone number. Returns whether there was anything to remove.
   bool KeepDigits();
 
   // What type-ahead does.
-  /// Completes to the first entry that begins with `typed`, and records it; false when there is none.
+  /// Completes to the first entry that begins with `typed`, and records it. Returns false if there is none.
   bool CompleteFromTable(std::wstring_view prefix, std::wstring_view typed, const Candidates& table);
   void PutCompletion(std::wstring_view prefix, std::size_t typedLength, std::wstring_view entry);
 

@@ -16,7 +16,7 @@ struct CompletedEntry {
 struct CommandState : CompletedEntry {
   std::int16_t OpenPanelIndex = NoIndex;  // the CommandMenu button whose panel is open
   bool BackspaceFlag = false;             // the next change comes from Backspace and is not completed
-  bool SettingLine = false;               // the change under way is a whole entry being put into the line
+  bool SettingLine = false;               // the change being handled puts a whole entry into the line
 };
 
 }  // namespace vantor::command

@@ -7,7 +7,7 @@
 
 namespace vantor::command {
 
-/// What the line says, what of it is selected, and which entry Enter starts.
+/// The text of the line, its selection, and the entry that Enter starts.
 struct LineState {
   std::wstring Text;
   int SelStart = 0;
@@ -16,7 +16,7 @@ struct LineState {
 };
 
 [[nodiscard]] LineState ReadLine(const form::TextBox& textMain, const CommandState& state);
-/// Sets all of it. The change of the text runs no search.
+/// Restores such a state. The change of the text does not start a search.
 void PutLine(const LineState& line, form::TextBox& textMain, CommandState& state);
 
 }  // namespace vantor::command

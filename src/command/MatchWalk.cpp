@@ -60,7 +60,7 @@ void MatchWalk::WalkTo(int row) {
     PutLine(typed_, textMain_, state_);
   } else {
     const std::wstring_view name = found.NameOf(row);
-    // The part that was typed stays, where it is the name's beginning.
+    // The typed part stays unselected if the name begins with it.
     const std::size_t kept = found.PlaceOf(row) == 0 ? found.TypedLength() : 0;
     PutLine({prefix_ + std::wstring(name), static_cast<int>(prefix_.size() + kept),
              static_cast<int>(name.size() - kept), found.From().Record(found.IndexOf(row))},

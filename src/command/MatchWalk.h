@@ -11,26 +11,27 @@
 
 namespace vantor::command {
 
-/// Shows what fits the line, and walks through it: the line takes on the name of the row walked to, as if that had been
-/// completed.
+/// Shows the names that match the line, and moves through them: the line takes on the name of the current row, as if it
+/// had been completed to it.
 class MatchWalk {
  public:
   /// All are kept by reference.
   MatchWalk(form::TextBox& textMain, CommandState& state, frmMatches& list);
 
-  /// What was typed after a code, which the line has been completed by or not: shows what fits if that is more than
-  /// the line says.
+  /// Shows what matches `typed`, the text typed after a code, unless that is only what the line already contains.
+  /// `completed`: the line was completed to the first match.
   void Show(const Candidates& candidates, std::wstring_view prefix, std::wstring_view typed, bool completed);
   void Hide() { list_.Hide(); }
 
-  /// An input method begins to compose, or ends without having changed the line: the list gives way to it.
+  /// An input method starts composing, which hides the list, or ends without having changed the line, which shows it
+  /// again.
   void GiveWay(bool composing);
 
-  /// Walks by Up, Down, Page Up and Page Down. Returns false, with nothing done, for other keys and without a list.
+  /// Handles Up, Down, Page Up and Page Down. Returns false and does nothing for other keys or without a list.
   bool Walk(form::Key key);
-  /// Walks to a row.
+  /// Moves to a row.
   void WalkTo(int row);
-  /// Scrolls the list by so many rows.
+  /// Scrolls the list by the given number of rows.
   void Scroll(int rows);
 
  private:
@@ -39,8 +40,8 @@ class MatchWalk {
   frmMatches& list_;
   std::wstring prefix_;
   int home_ = -1;         // the row that the line was completed to; -1: none
-  LineState typed_;       // the line before it was walked from
-  bool gaveWay_ = false;  // to an input method
+  LineState typed_;       // the line as it was before moving to another row
+  bool gaveWay_ = false;  // the list is hidden because of an input method
 };
 
 }  // namespace vantor::command

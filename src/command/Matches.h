@@ -13,21 +13,21 @@
 
 namespace vantor::command {
 
-/// The names that fit what was typed, the closest first: those that begin with it, in their order, then those with a
-/// word that begins with it, then those that contain it. They are found anew by each search.
+/// The names that match what was typed, best matches first: those that begin with it, in their order, then those with
+/// a word that begins with it, then those that contain it. Each search replaces them.
 class Matches {
  public:
   explicit Matches(const service::Language& language) : language_(language) {}
 
-  /// Among at most 32,767 names.
+  /// Searches among at most 32,767 names.
   void Search(const Candidates& candidates, std::wstring_view typed);
 
   [[nodiscard]] int Count() const;
-  /// Of row 0 to Count() - 1: its index among the candidates, and what it shows.
+  /// For rows 0 to Count() - 1: the index among the candidates, and the texts shown.
   [[nodiscard]] int IndexOf(int row) const;
   [[nodiscard]] std::wstring_view NameOf(int row) const { return candidates_->Name(IndexOf(row)); }
   [[nodiscard]] std::wstring_view DetailOf(int row) const { return candidates_->Detail(IndexOf(row)); }
-  /// Where in the row's name the typed characters stand.
+  /// The position of the typed characters in the row's name.
   [[nodiscard]] std::size_t PlaceOf(int row) const { return match_->Find(NameOf(row)).Start; }
   [[nodiscard]] std::size_t TypedLength() const { return typedLength_; }
 
@@ -38,7 +38,7 @@ class Matches {
   std::optional<Candidates> candidates_;
   std::optional<list::NameMatch> match_;
   std::size_t typedLength_ = 0;
-  std::array<std::vector<std::int16_t>, 3> found_;  // by how they fit
+  std::array<std::vector<std::int16_t>, 3> found_;  // by how they match
 };
 
 }  // namespace vantor::command

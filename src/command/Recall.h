@@ -14,25 +14,25 @@
 
 namespace vantor::command {
 
-/// Brings the lines that were started in this run back into the empty command line. They are kept nowhere else.
+/// Brings lines that were started earlier in this run back into the empty command line. They are kept only in memory.
 class Recall {
  public:
   /// All are kept by reference.
   Recall(form::TextBox& textMain, CommandState& state, const list::LaunchList& list, const service::Language& language,
          const state::Environment& environment);
 
-  /// Remembers a line as the newest, in the place of the same line before. Of more than 100 the oldest is forgotten.
+  /// Remembers a line as the newest one, removing an earlier copy of it. Keeps the 100 newest lines.
   void Started(std::wstring_view line);
-  /// The line says something else now.
+  /// The line has changed.
   void Leave() { shown_.reset(); }
-  /// Up goes to an older line, Down to a newer one, and past the newest to the empty line. Lines of items that are
-  /// gone are left out. Returns false, with nothing done, for other keys and where the line says something else.
+  /// Up goes to an older line, Down to a newer one, and past the newest to the empty line. Lines of items that
+  /// no longer exist are skipped. Returns false and does nothing for other keys, or if the line holds another text.
   bool Walk(form::Key key);
 
  private:
   [[nodiscard]] bool WalkBack();
   void WalkForward();
-  /// Puts the line back, with the item that it names recorded; false, with nothing done, when that is gone.
+  /// Shows the line again and records the item that it names. Returns false and does nothing if the item is gone.
   bool Show(std::size_t index);
 
   form::TextBox& textMain_;

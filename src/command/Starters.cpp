@@ -11,9 +11,9 @@ namespace {
 
 constexpr message::MessageKey StartError = message::MessageProgramStartError;
 
-/// A target as the shell takes it in whole. A double quote would end it.
+/// A target in the form that the shell takes as one word. A double quote would end it.
 std::wstring Quoted(std::wstring_view target) {
-  // A backslash before the closing quote would make it part of the name. That of a drive's root has to stay.
+  // A backslash before the closing quote would make the quote part of the name. A drive's root has to keep its own.
   if (target.size() > 3 && target.back() == L'\\') target.remove_suffix(1);
   std::wstring quoted = L"\"";
   for (const wchar_t c : target) quoted += c == L'"' ? std::wstring(L"%22") : std::wstring(1, c);
@@ -38,7 +38,7 @@ message::MessageKey Starters::RunProgramCommand(std::wstring_view commandLine) c
 }
 
 message::MessageKey Starters::RunProgramFile(std::wstring_view path) const {
-  // No path has a double quote. What stands behind one would be taken for the program's arguments.
+  // No path contains a double quote. What follows it would be taken for the program's arguments.
   if (path.find(L'"') != path.npos) return message::MessageProgramRunError;
   return RunProgramCommand(L'"' + std::wstring(path) + L'"');
 }

@@ -7,24 +7,25 @@
 
 namespace vantor::command {
 
-/// Line breaks, other control characters and marks of text direction stand in no path, no address and no number that
-/// somebody types. Where the clipboard or a file that somebody else wrote brings them, the system is not to see them.
+/// Whether a text is free of line breaks, other control characters and marks of text direction. No path, address or
+/// number that is typed contains them; if they come from the clipboard or a foreign file, they must not reach the
+/// system.
 [[nodiscard]] bool IsPlain(std::wstring_view text);
 
-/// The routines that start what a target names. Each returns "" when it was started, else the key of the message
-/// that says what failed. A target that is not plain is not started.
+/// The routines that start a target. Each returns "" if it was started, otherwise the key of the message that says
+/// what failed. A target that is not plain is not started.
 class Starters {
  public:
   explicit Starters(const service::Services& services) : services_(services) {}
 
   message::MessageKey RunProgramCommand(std::wstring_view commandLine) const;
-  /// Hands the path of one program to RunProgramCommand, in double quotes: where it is gone, nothing else is to run
-  /// whose name a part of it is.
+  /// Passes the path of one program to RunProgramCommand in double quotes, so that no other program is run whose name
+  /// is a part of the path if this one is gone.
   message::MessageKey RunProgramFile(std::wstring_view path) const;
   message::MessageKey RunExplorerCommand(std::wstring_view commandLine) const;
   message::MessageKey OpenWithShell(std::wstring_view target) const;
-  /// OpenWithShell for a web address as it is typed, and for a path or an address of the launch list, which stands for
-  /// itself: a variable's value is not to get into it, and where a file is gone nothing else is to be opened.
+  /// OpenWithShell for a typed web address, and for a path or address from the launch list. The latter is taken
+  /// literally: variables are not replaced, and nothing else is opened if a file is gone.
   message::MessageKey OpenWebAddress(std::wstring_view address) const;
   message::MessageKey OpenItem(std::wstring_view target) const;
 

@@ -13,7 +13,7 @@ using form::Twips;
 
 constexpr Twips ListWidth = 6000;
 constexpr Twips Edge = 15;
-constexpr Twips Corner = 60;  // above and below the rows, which keep clear of the form's round corners
+constexpr Twips Corner = 60;  // above and below the rows, to keep them clear of the form's rounded corners
 /// Above and below a row's text.
 constexpr Twips RowPadding = 45;
 /// A whole number of pixels on most screens.

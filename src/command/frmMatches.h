@@ -10,22 +10,22 @@
 
 namespace vantor::command {
 
-/// The list of what fits the line, which hangs below it. It is walked by the line's keys.
+/// The list of names that match the line, shown below it. The keys of the line move through it.
 class frmMatches : public form::Form, private form::RowSource {
  public:
-  static constexpr int MostRows = 8;  // seen at once
+  static constexpr int MostRows = 8;  // visible at once
 
   /// Keeps both by reference.
   frmMatches(form::UserInterface& ui, const service::Language& language);
 
   form::RowList ListMatches{*this, L"ListMatches", *this};
 
-  /// Where a list of this size stands on the desktop. Set before the first search.
+  /// Returns the place on the desktop for a list of this size. To be set before the first search.
   std::function<form::Rect(form::Size)> Place;
 
-  /// Finds what fits. What is seen stays until it is shown or hidden.
+  /// Searches. The visible list stays unchanged until it is shown or hidden.
   void Search(const Candidates& candidates, std::wstring_view typed) { matches_.Search(candidates, typed); }
-  /// Shows what was found, from its first row, with this row as the current one (-1: none).
+  /// Shows the result from its first row, with this row as the current one (-1: none).
   void ShowFound(int current);
   [[nodiscard]] const Matches& Found() const { return matches_; }
 

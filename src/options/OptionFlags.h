@@ -11,7 +11,7 @@ struct OptionFlags {
   std::int16_t ShowAddUrlAtStart = 0;
 };
 
-/// The options that an option mask stands for.
+/// The options encoded in an option mask.
 [[nodiscard]] constexpr OptionFlags DecodeOptionMask(std::int16_t mask) {
   const auto bit = [mask](int value) { return static_cast<std::int16_t>((mask & value) != 0 ? 1 : 0); };
   return {bit(1), bit(2), bit(4)};

@@ -134,7 +134,7 @@ void OptionsPage::SetStartWithWindows(bool start) {
   const std::wstring command = ProgramFile();
   if (command == (machines.empty() ? users : machines)) return;
   shell.RegistryWrite(MachineRunValue, command);
-  // Only an administrator may write there. For anybody else the bar opens at their own sign-in.
+  // Only an administrator may write there. For other users the bar starts at their own sign-in.
   if (shell.RegistryRead(MachineRunValue) != command) {
     if (users != command) shell.RegistryWrite(UserRunValue, command);
   } else if (!users.empty()) {

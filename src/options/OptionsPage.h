@@ -29,7 +29,7 @@ class OptionsPage : public panel::Page {
   form::CommandButton CommandOptionOK{FrameOptions, L"CommandOptionOK"};
   form::CommandButton CommandOptionCancel{FrameOptions, L"CommandOptionCancel"};
 
-  /// Lets the user remember this computer: adding was refused because none is remembered yet.
+  /// Enables the button that remembers this computer, after an item was refused because none is remembered yet.
   void EnableRemember() { CommandOptionRemember.SetEnabled(true); }
 
   form::Size LayOut() override;

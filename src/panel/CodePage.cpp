@@ -61,7 +61,7 @@ CodePage::CodePage(frmChoose& form, const PanelContext& context)
 }
 
 void CodePage::Prepare() {
-  const bool companions = !environment_.Companions.empty();  // which have a letter of their own
+  const bool companions = !environment_.Companions.empty();  // they have a letter of their own
   first_.Left.SetCaption(std::wstring(Letters).append(companions ? CompanionLetter : L""));
   first_.Right.SetCaption(std::wstring(Items).append(companions ? CompanionItem : L""));
 }
@@ -77,7 +77,7 @@ form::Size CodePage::LayOut() {
 
   const Twips left = Margin + chartWidth + ColumnGap;
   const Twips listsTop = Place(predefined_, left, FrameTop, WidthOf(predefined_)) + UnderHead;
-  // The longest list stands beside the other two.
+  // The longest list is next to the other two.
   const Twips width = std::max(folders_.Width(), mails_.Width());
   const Twips mailsTop = folders_.PlaceAt(left, listsTop, width) + SectionGap;
   bottom = std::max(bottom, mails_.PlaceAt(left, mailsTop, width));

@@ -36,7 +36,7 @@ CompanionPage::CompanionPage(frmChoose& form, const PanelContext& context)
 }
 
 void CompanionPage::Prepare() {
-  if (ListRunName.ListIndex() != -1) return;  // they were found at the start, and the choice stays
+  if (ListRunName.ListIndex() != -1) return;  // they were found at the start and don't change; the selection stays
   std::vector<std::wstring> names;
   for (const state::Companion& companion : context_.Environment.Companions) names.push_back(companion.Name);
   ListRunName.SetEntries(std::move(names));

@@ -7,7 +7,7 @@
 
 namespace vantor::panel {
 
-/// The maker's other programs, to be opened from a list.
+/// A list of the maker's other programs, from which they can be opened.
 class CompanionPage : public Page {
  public:
   CompanionPage(frmChoose& form, const PanelContext& context);

@@ -24,7 +24,7 @@ constexpr Twips ProseWidth = 4200;
 struct Row {
   std::wstring_view Keys;
   std::wstring_view Meaning;
-  bool ForCompanions = false;  // stands only where the maker's other programs are
+  bool ForCompanions = false;  // shown only if one of the maker's other programs is installed
 };
 
 constexpr Row Typed[] = {{L"p=notepad", L"runs a program"},
@@ -50,7 +50,7 @@ constexpr Row Pressed[] = {{L"»   F1", L"unfolds the box that adds web sites"},
                            {L"×   F10", L"saves and exits"},
                            {L"F12", L"empties the line"}};
 
-/// One side of the rows, one line for each.
+/// One column of the rows, one line each.
 std::wstring Lines(std::span<const Row> rows, std::wstring_view Row::*side, bool companions) {
   std::wstring lines;
   for (const Row& row : rows) {

@@ -8,12 +8,12 @@
 
 namespace vantor::panel {
 
-/// All that a new user needs, on one page.
+/// Everything a new user needs to know, on one page.
 class HelpPage : public Page {
  public:
   HelpPage(frmChoose& form, const PanelContext& context);
 
-  form::TextBox TextHelpFolder{Frame, L"TextHelpFolder"};  // where the data is
+  form::TextBox TextHelpFolder{Frame, L"TextHelpFolder"};  // the data folder
 
   form::Size LayOut() override;
   void Prepare() override;

@@ -9,7 +9,7 @@
 
 namespace vantor::panel {
 
-/// The CommandMenu buttons, from left to right; their panels by the same numbers.
+/// The indexes of the CommandMenu buttons, from left to right, and of their panels.
 namespace menu {
 inline constexpr std::size_t Add = 0;
 inline constexpr std::size_t Open = 1;
@@ -30,7 +30,7 @@ struct MenuFace {
 
 struct MenuButton {
   MenuFace Closed;
-  std::wstring_view ToolTip;  // after "---" the key that does the same, which is F2 for the first button and so on
+  std::wstring_view ToolTip;  // after "---" comes the key that does the same: F2 for the first button and so on
 };
 
 inline constexpr std::array<MenuButton, menu::Count> MenuButtons{{
@@ -42,6 +42,6 @@ inline constexpr std::array<MenuButton, menu::Count> MenuButtons{{
     {{L"?", {form::Background::Normal, state::picture::Help}}, L"Show | Hide Help---F7"},
     {{L"C", {form::Background::Normal, state::picture::Code}}, L"Show | Hide Code List---F8"},
 }};
-inline constexpr std::wstring_view OpenCaption = L"||";  // an open one keeps its drawing
+inline constexpr std::wstring_view OpenCaption = L"||";  // the drawing stays the same
 
 }  // namespace vantor::panel

@@ -9,7 +9,7 @@ namespace vantor::panel {
 
 class frmChoose;
 
-/// What is said of a page around it.
+/// The texts around a page.
 struct PageTexts {
   std::wstring_view FrameName;
   std::wstring_view Caption;       // of the frame; "" for a frame without an edge
@@ -17,7 +17,7 @@ struct PageTexts {
   std::wstring_view CloseCaption;  // on the button that closes the page; "" when the page has one of its own
 };
 
-/// A panel that is one page of frmChoose: a frame on that form, with what is in it.
+/// A panel that is one page of frmChoose: a frame on that form and its contents.
 class Page : public Panel {
  public:
   Page(frmChoose& form, std::size_t index, const PageTexts& texts);
@@ -28,15 +28,15 @@ class Page : public Panel {
   [[nodiscard]] std::wstring_view CloseCaption() const { return closeCaption_; }
   /// Runs once, when the form is loaded.
   virtual void Load() {}
-  /// Shows how things are now; each time before the page is shown.
+  /// Brings the page up to date; called each time before it is shown.
   virtual void Prepare() {}
-  /// Places the controls in the frame, and returns the frame's size.
+  /// Places the controls in the frame and returns its size.
   virtual form::Size LayOut() = 0;
-  /// What takes the focus when the page has opened; null for the button that closes it.
+  /// The control that gets the focus when the page opens; null for the button that closes it.
   [[nodiscard]] virtual form::Control* First() { return nullptr; }
 
   void Open() override;
-  /// The page has another size now: places everything again and fits the form to it, if it is the page that is shown.
+  /// The size of the page has changed: lays it out again and fits the form to it if the page is being shown.
   void Arrange();
 
  private:

@@ -9,7 +9,7 @@
 
 namespace vantor::panel {
 
-/// The labels of a page that mostly is text. Places and sizes are in twips, relative to the labels' container.
+/// The labels of a page that consists mostly of text. Places and sizes are in twips, relative to the labels' container.
 class PageText {
  public:
   /// Adds a label with a text of one or more lines, which end by CR LF.
@@ -19,14 +19,14 @@ class PageText {
   std::deque<form::Label> labels_;
 };
 
-/// The width that shows the lines of a label unbroken.
+/// The width at which no line of a label wraps.
 [[nodiscard]] form::Twips WidthOf(const form::Label& label);
-/// Places a label, as high as its text needs at this width. Returns its lower edge.
+/// Places a label with the height that its text needs at this width. Returns its lower edge.
 form::Twips Place(form::Label& label, form::Twips left, form::Twips top, form::Twips width);
 
 inline constexpr form::Twips UnderHead = 45;
 
-/// A head and what stands under it.
+/// A heading and the text below it.
 struct TextSection {
   form::Label& Head;
   form::Label& Text;
@@ -38,7 +38,7 @@ struct TextSection {
   }
 };
 
-/// Two labels whose lines belong together, line by line, under a head.
+/// Two labels whose lines form the rows of a table, under a heading.
 struct TextTable {
   form::Label& Head;
   form::Label& Left;

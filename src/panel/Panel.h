@@ -9,10 +9,10 @@
 
 namespace vantor::panel {
 
-/// What a CommandMenu button opens. One at a time is open.
+/// What a CommandMenu button opens. At most one panel is open at a time.
 class Panel {
  public:
-  /// The panel of a menu button, which shows in a window that it may share with others.
+  /// The panel of a menu button, shown in a window that it may share with others.
   Panel(PanelHost& host, std::size_t index, form::Form& window) : host_(host), window_(window) {
     host.Add(index, *this);
   }
@@ -22,11 +22,11 @@ class Panel {
 
   /// Whether the bar has a button for the panel. Asked when the bar is laid out.
   [[nodiscard]] virtual bool Available() const { return true; }
-  /// The message to show instead of opening the panel now; "" when it can be opened.
+  /// The message to show instead of opening the panel now; "" if it can be opened.
   [[nodiscard]] virtual message::MessageKey Refusal() { return {}; }
   virtual void Open() = 0;
   virtual void Close() { window_.Hide(); }
-  /// The bar has moved, and the open panel comes along.
+  /// The bar has moved: moves the panel with it.
   void Follow() { host_.PlaceByBar(window_); }
 
  protected:

@@ -9,7 +9,7 @@
 
 namespace vantor::panel {
 
-/// What the panels work with. All of it outlives them.
+/// The objects that the panels work with. All of them outlive the panels.
 struct PanelContext {
   service::Services Services;
   state::Environment& Environment;

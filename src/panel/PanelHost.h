@@ -13,21 +13,21 @@ class Panel;
 /// What a panel asks of the bar that it belongs to.
 class PanelHost {
  public:
-  /// Takes a panel as the one that the menu button of this index opens. The panel lives as long as the bar.
+  /// Registers the panel that the menu button with this index opens. The panel lives as long as the bar.
   virtual void Add(std::size_t index, Panel& panel) = 0;
   /// The menu button whose panel is open, -1 for none.
   [[nodiscard]] virtual std::int16_t OpenPanelIndex() const = 0;
-  /// Opens a panel, in the place of the one that is open. Does nothing when it is open itself.
+  /// Opens a panel and closes the one that is open. Does nothing if the panel is already open.
   virtual void OpenPanel(std::size_t index) = 0;
   /// Closes the open panel, if there is one, and goes back to an empty command line.
   virtual void ClosePanel() = 0;
-  /// Goes back to an empty command line without closing the panel, where the bar is in sight.
+  /// Goes back to an empty command line without closing the panel, unless the bar is hidden or minimised.
   virtual void ClearLine() = 0;
-  /// An item of the launch list was removed, or has another name.
+  /// An item of the launch list was removed or renamed.
   virtual void ListChanged() = 0;
   /// Does what a function key does on the bar. Other keys do nothing.
   virtual void HotKey(form::Key key) = 0;
-  /// Moves a panel's window to where it stands best beside the bar.
+  /// Moves a panel's window to the best place next to the bar.
   virtual void PlaceByBar(form::Form& window) const = 0;
 
  protected:

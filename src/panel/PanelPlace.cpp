@@ -9,12 +9,12 @@ namespace {
 
 using form::Twips;
 
-/// The start nearest to `wanted` at which the length lies in the area; the area's own where it is longer.
+/// The start nearest to `wanted` at which the length fits into the area; the start of the area if it is too long.
 Twips Within(Twips wanted, Twips length, Twips areaStart, Twips areaLength) {
   return std::max(std::min(wanted, areaStart + areaLength - length), areaStart);
 }
 
-/// How much of one covers the other.
+/// The size of the area that the two share.
 double Covered(const form::Rect& one, const form::Rect& other) {
   return double(form::Overlap(one.Left, one.Right(), other.Left, other.Right())) *
          form::Overlap(one.Top, one.Bottom(), other.Top, other.Bottom());

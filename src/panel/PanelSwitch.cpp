@@ -29,7 +29,7 @@ void PanelSwitch::Click(std::size_t index) {
     bar_->PauseOnTop();
     if (const message::MessageKey refusal = panel.Refusal(); !refusal.empty()) {
       state_.OpenPanelIndex = command::NoIndex;
-      bar_->ShowMenuFaces();  // the message takes its time
+      bar_->ShowMenuFaces();  // before the message, which may stay open for long
       messages_.ShowListMessage(refusal);
     }
   } else {
@@ -63,7 +63,7 @@ void PanelSwitch::BarMoved() const {
 
 void PanelSwitch::PlaceByBar(form::Form& window) const {
   const form::Rect bar = bar_->Place();
-  window.MoveTo(bar.Left, bar.Bottom());  // so that it is fitted to the bar's screen
+  window.MoveTo(bar.Left, bar.Bottom());  // so that it takes on the scale of the bar's screen
   const form::Rect place = PlacePanel(bar, {window.Bounds().Width, window.Bounds().Height}, ui_.ScreenAt(bar).WorkArea);
   window.MoveTo(place.Left, place.Top);
 }

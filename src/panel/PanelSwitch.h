@@ -10,14 +10,14 @@
 
 namespace vantor::panel {
 
-/// The bar, as the panels and the switch between them need it.
+/// What the panels and their switch need from the bar.
 class MenuBar {
  public:
-  /// Twips, on the desktop.
+  /// The bounds on the desktop, in twips.
   [[nodiscard]] virtual form::Rect Place() const = 0;
   /// Shows on each menu button whether its panel is open.
   virtual void ShowMenuFaces() = 0;
-  /// A panel opens: the bar leaves the topmost band.
+  /// A panel opens: the bar stops being topmost.
   virtual void PauseOnTop() = 0;
   /// The panel has closed: the bar keeps itself on top again, if the user wants that.
   virtual void ResumeOnTop() = 0;
@@ -37,7 +37,7 @@ class PanelSwitch final : public PanelHost {
   PanelSwitch(const form::UserInterface& ui, message::Messages& messages, command::CommandState& state)
       : ui_(ui), messages_(messages), state_(state) {}
 
-  /// The bar that the panels belong to; before anything else is asked.
+  /// Sets the bar that the panels belong to. To be called before anything else.
   void SetBar(MenuBar& bar) { bar_ = &bar; }
 
   /// Whether a menu button has something to open.
@@ -45,7 +45,7 @@ class PanelSwitch final : public PanelHost {
   [[nodiscard]] MenuFace FaceOf(std::size_t index) const;
   /// A click on a menu button: opens its panel, or closes it.
   void Click(std::size_t index);
-  /// Closes the open panel, as its button does; the command line stays.
+  /// Closes the open panel as its button does; the command line stays as it is.
   void Close();
   /// The bar has moved.
   void BarMoved() const;

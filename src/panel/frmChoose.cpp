@@ -66,7 +66,7 @@ void frmChoose::Form_KeyUp(form::Key key) {
   });
 }
 
-// --- a page of it
+// --- a page of the form
 
 Page::Page(frmChoose& form, std::size_t index, const PageTexts& texts)
     : Panel(form.Host(), index, form),

@@ -11,7 +11,7 @@
 
 namespace vantor::panel {
 
-/// The form that shows one page at a time, with a button below that closes it.
+/// The form that shows one page at a time, with a button below the page that closes it.
 class frmChoose : public form::Form {
  public:
   frmChoose(form::UserInterface& ui, PanelHost& host, message::Messages& messages);
@@ -20,9 +20,9 @@ class frmChoose : public form::Form {
   form::CommandButton CommandListCancel{FrameCancel, L"CommandListCancel"};
 
   [[nodiscard]] PanelHost& Host() const { return host_; }
-  /// Takes a page whose frame is on this form.
+  /// Adds a page whose frame is on this form.
   void Add(Page& page) { pages_.push_back(&page); }
-  /// Shows a page, and no other one.
+  /// Shows a page and hides the others.
   void ShowPage(Page& page);
   /// Fits the form to a page.
   void Arrange(Page& page);

@@ -5,20 +5,20 @@
 
 namespace vantor::service {
 
-/// The three values by which a computer is known: those of its disk C:.
+/// The three values that identify a computer, taken from its disk C:.
 struct DiskIdentity {
   int DriveType = 0;  // the management service's numbering; 3 is a local disk
   std::wstring VolumeSerialNumber;
   double Size = 0;  // bytes
 };
 
-/// What the management service tells.
+/// Questions to the management service.
 class Management {
  public:
   virtual ~Management() = default;
 
-  /// The identity of disk C:; nothing when the service does not answer within 5 seconds. Throws
-  /// std::runtime_error when it can't be read, as where there is no such disk, or no such service.
+  /// The identity of disk C:; nothing if the service does not answer within 5 seconds. Throws std::runtime_error if it
+  /// can't be read, for example because there is no such disk or service.
   [[nodiscard]] virtual std::optional<DiskIdentity> ReadDiskIdentity() = 0;
 
  protected:

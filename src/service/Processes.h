@@ -8,7 +8,7 @@
 
 namespace vantor::service {
 
-/// One process of a snapshot: the system's record in its ANSI form, by the system's names.
+/// One process of a snapshot: the ANSI form of the system's record, with the system's names.
 struct ProcessEntry {
   std::uint32_t dwSize = 0;
   std::uint32_t cntUsage = 0;
@@ -22,18 +22,18 @@ struct ProcessEntry {
   std::array<char, 260> szExeFile{};
 };
 
-/// The size of the record on a 32-bit system, by which the system knows its version.
+/// The size of the record on a 32-bit system, by which the system recognises its version.
 inline constexpr std::uint32_t ProcessEntrySize = 296;
 
 enum class SnapshotId : std::uintptr_t { None = 0 };
 
-/// One process as the management service tells of it.
+/// One process as reported by the management service.
 struct ManagedProcess {
   std::uint32_t ProcessId = 0;
-  std::optional<std::wstring> ExecutablePath;  // nothing where the service says Null, as for protected processes
+  std::optional<std::wstring> ExecutablePath;  // nothing if the service returns Null, as for protected processes
 };
 
-/// The processes that run.
+/// The running processes.
 class Processes {
  public:
   virtual ~Processes() = default;
@@ -44,10 +44,10 @@ class Processes {
   [[nodiscard]] virtual bool Next(SnapshotId snapshot, ProcessEntry& entry) = 0;
   virtual void CloseSnapshot(SnapshotId snapshot) = 0;
 
-  /// The instances of "Win32_Process"; nothing when the management service can't be reached, or does not answer
+  /// The instances of "Win32_Process"; nothing if the management service can't be reached, or does not answer
   /// within 5 seconds.
   [[nodiscard]] virtual std::optional<std::vector<ManagedProcess>> ManagedProcesses() = 0;
-  /// The path of a process's program by the plain Windows call; "" when that does not tell.
+  /// The path of a process's program by the plain Windows call; "" if that fails.
   [[nodiscard]] virtual std::wstring ImageName(std::uint32_t processId) = 0;
 
  protected:

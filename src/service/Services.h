@@ -12,7 +12,7 @@
 
 namespace vantor::service {
 
-/// All that the program asks of the system. Whoever makes a Program keeps them alive for its length.
+/// Everything the program asks of the system. The services must outlive the Program that uses them.
 struct Services {
   service::DataFiles& DataFiles;
   service::FileSystem& FileSystem;

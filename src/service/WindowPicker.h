@@ -4,10 +4,10 @@
 
 namespace vantor::service {
 
-/// A window of any program, by the system's number for it.
+/// A window of any program, identified by the system's handle.
 enum class WindowId : std::uintptr_t { None = 0 };
 
-/// A place on the desktop in pixels.
+/// A point on the desktop in pixels.
 struct ScreenPoint {
   std::int32_t X = 0;
   std::int32_t Y = 0;
@@ -26,13 +26,13 @@ class WindowPicker {
   [[nodiscard]] virtual ScreenPoint GetCursorPos() = 0;
   [[nodiscard]] virtual WindowId WindowFromPoint(ScreenPoint point) = 0;
   [[nodiscard]] virtual bool LeftButtonDown() = 0;
-  /// The process that a window belongs to; 0 when there is no such window.
+  /// The process that a window belongs to; 0 if there is no such window.
   [[nodiscard]] virtual std::uint32_t ProcessOfWindow(WindowId window) = 0;
 
-  /// Makes the cursor a target, or the usual one again.
+  /// Turns the cursor into a target, or back into the usual one.
   virtual void ShowTarget(bool target) = 0;
-  /// Marks the program's window that holds `window`, on the screen only, and takes the mark off the one before;
-  /// None leaves no mark.
+  /// Draws a frame around the top-level window that contains `window` and removes the previous frame. None only removes
+  /// it.
   virtual void Mark(WindowId window) = 0;
 
  protected:
