@@ -7,7 +7,7 @@
 namespace vantor::list {
 namespace {
 
-// The files count records in 16 bits; one more could not be saved.
+// The files count records in 16 bits, so no more could be saved.
 constexpr int MostItems = INT16_MAX;
 
 }  // namespace

@@ -10,7 +10,7 @@
 
 namespace vantor::list {
 
-/// The controls of a box by which items are added, whatever their group.
+/// The controls of a box that adds items of any group.
 struct AddBox {
   form::TextBox& Path;
   form::TextBox& Name;
@@ -19,8 +19,8 @@ struct AddBox {
 
 enum class AddResult { Added, PathListed, NameListed, Full };
 
-/// Adds what the box holds to the end of a group, unless the target or the name is in it already, or the group is full.
-/// Then it says so and leaves the box as it is, but for a listed name, which is cleared for another one.
+/// Adds the item in the box to the end of a group. If its target or name is already listed or the group is full, shows
+/// a message instead and leaves the box unchanged, except that a listed name is cleared.
 [[nodiscard]] AddResult AddUnlessListed(const AddBox& box, const LaunchList& list, LaunchGroup group,
                                         std::wstring_view banner, message::Messages& messages,
                                         const service::Language& language);

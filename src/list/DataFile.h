@@ -9,10 +9,10 @@
 
 namespace vantor::list {
 
-/// Reads a file. One that is there but can't be read, as while a scanner holds it, is tried again for up to 2 seconds.
+/// Reads a file. If it exists but can't be read, for example while a scanner holds it, retries for up to 2 seconds.
 [[nodiscard]] service::FileRead ReadPatiently(service::DataFiles& files, std::wstring_view path);
 
-/// The text of a data file, which is in the system's ANSI code page, or in UTF-8 when it begins with that byte-order
+/// The text of a data file, which is in the system's ANSI code page, or in UTF-8 if it begins with that byte-order
 /// mark.
 [[nodiscard]] std::wstring DecodeText(std::string_view bytes, const service::Language& language);
 /// The bytes of a data file: in the ANSI code page if that holds every character, else in UTF-8 with a byte-order

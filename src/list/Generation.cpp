@@ -8,7 +8,7 @@
 namespace vantor::list {
 namespace {
 
-// Only the whole text counts: a mark that was broken off in its writing stands before a save's first file.
+// Only the complete text counts: a truncated mark means that not even the first file of the save was written.
 constexpr std::string_view SaveUnderWay = "\"Saving\"\r\n";
 
 }  // namespace
@@ -67,10 +67,10 @@ void Generation::SaveElsewhere() {
 }
 
 Generation::Kept Generation::Protect() {
-  // A restore that is still due has both already, and must not lose its mark even for a moment.
+  // A pending restore has both already, and must not lose its mark even for a moment.
   if (readKept_) return Kept::Replaced;
   if (!whole_ && HasKept()) return Mark() ? Kept::Older : Kept::None;
-  // Where that fails, what has been moved is in its place again once it is written.
+  // If that fails, writing the files puts what was moved back in place.
   return Keep(whole_ && !environment_.RunMode) ? Kept::Replaced : Kept::None;
 }
 
@@ -117,7 +117,7 @@ bool Generation::PutMovedBack() {
 }
 
 void Generation::PutOldBack() {
-  // First all are emptied, so that on a full disk there is room for every one.
+  // First all are emptied, so that there is room for each of them even on a full disk.
   for (const bool empty : {true, false}) {
     for (const Change& change : changes_) {
       if (change.Old.Failed()) continue;
@@ -132,7 +132,7 @@ void Generation::PutOldBack() {
 bool Generation::Mark() { return readMoved_ || files_.WriteInPlace(MarkPath(), SaveUnderWay); }
 
 void Generation::Unmark() {
-  // Emptied first, which reaches the disk, while a removal may wait in Windows' memory.
+  // Emptied first, because that reaches the disk at once, while a removal may be delayed by Windows.
   static_cast<void>(files_.WriteInPlace(MarkPath(), {}));
   static_cast<void>(files_.Remove(MarkPath()));
 }

@@ -8,23 +8,23 @@
 
 namespace vantor::list {
 
-/// The groups of the launch list, in the order in which all of them are walked.
+/// The groups of the launch list, in the order in which they are processed.
 enum class LaunchGroup { File, Fold, Prog, Web };
 
 inline constexpr std::array LaunchGroups{LaunchGroup::File, LaunchGroup::Fold, LaunchGroup::Prog, LaunchGroup::Web};
 
-/// What can be started: a display name and a target, a path or a web address.
+/// Something that can be started: a display name and a target, which is a path or a web address.
 struct LaunchItem {
   std::wstring_view Name;
   std::wstring_view Target;
 };
 
-/// The paired boxes of one group: entry k of both is one item.
+/// The two boxes of a group: entry k of both together is one item.
 struct GroupBoxes {
   form::ComboBox& Name;
   form::ComboBox& Path;
 
-  /// Adds to the end of both boxes, or throws and adds to none.
+  /// Adds an item to the end of both boxes, or throws and adds it to neither.
   void AddItem(const LaunchItem& item) const {
     Name.AddItem(item.Name);
     try {

@@ -15,7 +15,7 @@ namespace vantor::list {
 
 namespace {
 
-// Stands for the medium's drive letter in the files, so that the medium may be mounted as any drive.
+// Used in the files instead of the medium's drive letter, so that the medium may be mounted as any drive.
 constexpr wchar_t OpenDriveLetter = L'#';
 
 /// The upper index of the longest list.
@@ -26,13 +26,13 @@ constexpr std::size_t PunctuationOfRecord = 7;
 
 }  // namespace
 
-/// What one group's loading and saving go by.
+/// The files and counts of a group, for loading and saving it.
 struct ListFiles::Group {
   LaunchGroup Code = LaunchGroup::Web;
   const std::wstring& File;
   std::int16_t& Upper;
   // The list file of the remembered computer: in removable-media mode only, and not for web sites, whose targets
-  // lie on no drive.
+  // are not on a drive.
   const std::wstring* MachineFile = nullptr;
   std::int16_t* MachineUpper = nullptr;
 };
@@ -63,7 +63,7 @@ void ListFiles::LoadSettings() {
   const std::wstring text = DecodeText(file.Bytes.value_or(""), services_.Language);
   settingsWhole_ = ReadSettings(text, settings_);
   if (settingsWhole_) return;
-  // A list whose count can't be read must not seem empty: it is read to its end.
+  // A list whose count can't be read must not seem empty: it is read to the end.
   const auto readAll = [this](const std::wstring& path, std::int16_t& upper) {
     if (!generation_.Read(path).Missing) upper = MostRecords;
   };
@@ -108,12 +108,12 @@ bool ListFiles::LoadRecords(const Group& group, const GroupBoxes& boxes, std::ws
                             bool onMedia) {
   const service::FileRead file = generation_.Read(path);
   if (!file.Bytes) return false;
-  // The upper index may be a damaged one.
+  // The upper index may be damaged.
   const std::size_t fitting = std::min(file.Bytes->size() / PunctuationOfRecord, static_cast<std::size_t>(upper)) + 1;
   boxes.Name.Reserve(boxes.Name.ListCount() + static_cast<int>(fitting));
   boxes.Path.Reserve(boxes.Path.ListCount() + static_cast<int>(fitting));
 
-  // Most files are ASCII, and are taken apart as they stand, without being widened as a whole.
+  // Most files are ASCII and are parsed directly, without being converted as a whole.
   if (text::IsAscii(*file.Bytes)) return LoadRecords(group, boxes, text::AsciiReader(*file.Bytes), upper, onMedia);
   const std::wstring content = DecodeText(*file.Bytes, services_.Language);
   return LoadRecords(group, boxes, text::SequentialReader(content), upper, onMedia);
@@ -141,8 +141,8 @@ bool ListFiles::LoadRecords(const Group& group, const GroupBoxes& boxes, Reader 
 
 bool ListFiles::TargetExists(const Group& group, std::wstring_view target) const {
   target = text::WithoutLiteralMark(target);
-  // Other computers are called only when the user starts the item. One that is away for a moment would take half a
-  // minute to answer, and lose the item.
+  // Other computers are contacted only when the user starts the item. One that is unreachable for a moment would delay
+  // the start by half a minute, and its item would be lost.
   if (text::LeadsElsewhere(target)) return true;
   switch (group.Code) {
     case LaunchGroup::Web:
@@ -158,7 +158,7 @@ void ListFiles::SaveLaunchList(const LaunchList& list, form::Twips barLeft, form
   settings_.Left = text::ToInt16(barLeft);
   settings_.Top = text::ToInt16(barTop);
   if (environment_.RunMode) settings_.RememberedBrowseFolder.clear();
-  // A computer that came to be remembered during this run takes files that hold what was not read.
+  // If a computer was remembered during this run, its files may contain items that were not read.
   const bool machineListed =
       std::max({settings_.MachineFileUpper, settings_.MachineFoldUpper, settings_.MachineProgUpper}) > NoRecords;
   const bool overUnread = environment_.MachineRemembered && !machineRead_ && machineListed;
@@ -201,7 +201,7 @@ void ListFiles::SaveSettings() {
 
 void ListFiles::SaveGroupList(const Group& group, const GroupBoxes& boxes, const Split& split) {
   const auto write = [&](const std::wstring& path, const std::vector<int>& items, bool onMedia) {
-    if (items.empty()) return;  // the file of a list that is empty stays as it is
+    if (items.empty()) return;  // the file of an empty list is left unchanged
     std::size_t size = 0;
     for (const int i : items) size += boxes.Item(i).Name.size() + boxes.Item(i).Target.size() + PunctuationOfRecord;
     text::SequentialWriter records;

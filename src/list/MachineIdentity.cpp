@@ -17,7 +17,7 @@ Field Required(std::optional<Field> field) {
   return *field;
 }
 
-/// In the file texts stand in quotes and numbers bare; a text never equals a number.
+/// In the file, texts are in quotes and numbers are not; a text never equals a number.
 bool Equals(const Field& field, double number) { return !field.Quoted && text::ParseDouble(field.Text) == number; }
 
 bool Equals(const Field& field, const std::wstring& text) {
@@ -37,7 +37,7 @@ bool IsThisMachine(const service::Services& services, std::wstring_view path) {
          Equals(size, identity->Size);
 }
 
-/// False when there is nothing to save.
+/// Returns false if there is nothing to save.
 bool SaveIdentity(const service::Services& services, std::wstring_view path) {
   const auto identity = services.Management.ReadDiskIdentity();
   if (!identity) return false;

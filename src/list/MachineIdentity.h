@@ -8,16 +8,16 @@
 
 namespace vantor::list {
 
-/// Whether this computer is the one of the identity file; false when its own identity is not to be had in time.
-/// When the file or the identity can't be read, false, after the question whether to report that.
+/// Whether this computer is the one in the identity file. False if its own identity can't be determined in time. If the
+/// file or the identity can't be read, asks whether to report that and returns false.
 [[nodiscard]] bool MachineMatches(const service::Services& services, message::Messages& messages,
                                   std::wstring_view path);
 
 /// Part of the start in removable-media mode: sets MachineUnknown and MachineRemembered.
 void IdentifyMachine(const service::Services& services, message::Messages& messages, state::Environment& environment);
 
-/// Makes this computer the remembered one. False, with nothing changed, when its identity is not to be had in
-/// time, and after a message when it can't be read or saved.
+/// Makes this computer the remembered one. Returns false and changes nothing if its identity can't be determined in
+/// time, or, after a message, if it can't be read or saved.
 [[nodiscard]] bool RememberMyComputer(const service::Services& services, message::Messages& messages,
                                       state::Environment& environment);
 

@@ -8,8 +8,8 @@ namespace vantor::list {
 
 namespace {
 
-/// Whether a character stands between words: blanks, marks and signs, of ASCII and of Unicode's general punctuation
-/// (U+2000 to U+206F) and that of Chinese and Japanese (U+3000 to U+303F).
+/// Whether a character separates words: blanks and punctuation in ASCII, Latin-1, Unicode's general punctuation (U+2000
+/// to U+206F) and that of Chinese and Japanese (U+3000 to U+303F).
 bool PartsWords(wchar_t c) {
   if (c < 0x80) return !((c >= L'0' && c <= L'9') || (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z'));
   return c <= 0xA9 || c == 0xAB || c == 0xB7 || c == 0xBB || (c >= 0x2000 && c <= 0x206F) ||
@@ -33,7 +33,7 @@ NameMatch::Place NameMatch::Find(std::wstring_view name) const {
   const wchar_t first = lower_.empty() ? L'\0' : lower_.front();
   for (std::size_t start = 0; start + lower_.size() <= name.size(); ++start) {
     const wchar_t c = name[start];
-    if (c < 128 && first < 128 && c != first && (c | 0x20) != first) continue;  // mostly so
+    if (c < 128 && first < 128 && c != first && (c | 0x20) != first) continue;  // rules out most positions quickly
     if (!StandsAt(name, start)) continue;
     if (start == 0) return {Fit::Begins, 0};
     if (PartsWords(name[start - 1])) return {Fit::WordBegins, start};

@@ -11,25 +11,25 @@
 
 namespace vantor::list {
 
-/// How a name fits a text, the closest first.
+/// How a name matches a text, best match first.
 enum class Fit { Begins, WordBegins, Contains, None };
 
-/// Compares many names with one text without regard to letter case, as the user's system has it. Nothing is
-/// allocated per name, and the system is asked once for each letter beyond ASCII.
+/// Compares many names with one text, ignoring case by the rules of the user's system. Nothing is allocated per name,
+/// and the system is asked once for each letter beyond ASCII.
 class NameMatch {
  public:
   NameMatch(const service::Language& language, std::wstring_view text);
 
-  /// The name's first characters are the text.
+  /// Whether the name begins with the text.
   [[nodiscard]] bool Begins(std::wstring_view name) const { return name.size() >= lower_.size() && StandsAt(name, 0); }
-  /// The name is the text.
+  /// Whether the name equals the text.
   [[nodiscard]] bool Equals(std::wstring_view name) const { return name.size() == lower_.size() && Begins(name); }
 
   struct Place {
     Fit How = Fit::None;
-    std::size_t Start = 0;  // of the characters that fit
+    std::size_t Start = 0;  // of the matching characters
   };
-  /// Where in the name the text stands: the first place of those where it fits most closely.
+  /// The position of the text in the name: the first of its best matches.
   [[nodiscard]] Place Find(std::wstring_view name) const;
 
  private:
@@ -38,7 +38,7 @@ class NameMatch {
     wchar_t Lower = 0;
   };
 
-  /// The text stands at a place that leaves room for it.
+  /// Whether the text is found at `start`, where it must not extend beyond the name.
   [[nodiscard]] bool StandsAt(std::wstring_view name, std::size_t start) const;
   [[nodiscard]] wchar_t Lower(wchar_t character) const;
 
@@ -47,12 +47,12 @@ class NameMatch {
   mutable std::array<Remembered, 256> remembered_{};
 };
 
-/// "MessageNameAlreadyListed" when a name of the box equals `name` apart from letter case, or would when both are
-/// saved, else "".
+/// "MessageNameAlreadyListed" if a name in the box equals `name` apart from case, or would equal it once both are
+/// saved; otherwise "".
 [[nodiscard]] message::MessageKey CheckNameListed(const service::Language& language, std::wstring_view name,
                                                   const form::ComboBox& nameBox);
-/// "MessagePathAlreadyListed" when a target of the group's box is exactly `path`, or would be when both are saved,
-/// else "".
+/// "MessagePathAlreadyListed" if a target in the group's box is exactly `path`, or would be once both are saved;
+/// otherwise "".
 [[nodiscard]] message::MessageKey PathAlreadyListed(LaunchGroup group, std::wstring_view path,
                                                     const form::ComboBox& pathBox);
 

@@ -21,7 +21,7 @@ bool Rescue::Copy(const std::vector<std::wstring>& paths) {
   const bool copied = std::all_of(found.begin(), found.end(),
                                   [this](const auto& file) { return this->Write(file.first, file.second); });
   if (copied) return true;
-  // Half of them would be worse than none when they are put back.
+  // An incomplete copy would be worse than none when restored.
   for (const auto& [path, bytes] : found) static_cast<void>(files_.Remove(PlaceOf(path)));
   return false;
 }

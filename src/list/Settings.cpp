@@ -10,7 +10,7 @@ namespace {
 
 using Number = std::int16_t Settings::*;
 
-// Around the folder's name, which stands in the midst of the numbers.
+// The numbers before and after the folder's name.
 constexpr std::array<Number, 7> NumbersBeforeFolder{
     &Settings::OptionMask, &Settings::FileUpper, &Settings::FoldUpper, &Settings::ProgUpper,
     &Settings::WebUpper,   &Settings::Left,      &Settings::Top,
@@ -18,7 +18,7 @@ constexpr std::array<Number, 7> NumbersBeforeFolder{
 constexpr std::array<Number, 3> NumbersAfterFolder{&Settings::MachineFileUpper, &Settings::MachineFoldUpper,
                                                    &Settings::MachineProgUpper};
 
-/// Reads what there is of so many numbers. Whether that is all of them, each in its range.
+/// Reads as many of the numbers as there are. Returns whether all are there and in range.
 template <std::size_t Count>
 bool ReadNumbers(text::SequentialReader& reader, const std::array<Number, Count>& numbers, Settings& settings) {
   bool whole = true;

@@ -8,10 +8,10 @@
 
 namespace vantor::list {
 
-/// An upper index that stands for no records.
+/// The upper index that means no records.
 inline constexpr std::int16_t NoRecords = -1;
 
-/// The settings file's values, in its order. An upper index is that of the last record of a list file, -1 for
+/// The values of the settings file, in its order. An upper index is that of the last record of a list file, -1 for
 /// no records.
 struct Settings {
   std::int16_t OptionMask = 2;  // 1 start with Windows, 2 always on top, 4 show the add-web box at start
@@ -27,10 +27,10 @@ struct Settings {
   std::int16_t MachineProgUpper = NoRecords;
 };
 
-/// Takes the values from a settings file's text. A short one leaves the values after its end as they are, and a value
-/// that is no 16-bit number leaves that one. False when the text was not whole.
+/// Reads the values from the text of a settings file. Values missing at its end, or that are not 16-bit numbers, stay
+/// unchanged. Returns false if the text was not complete.
 bool ReadSettings(std::wstring_view text, Settings& settings);
-/// The settings file's text.
+/// The text of the settings file.
 [[nodiscard]] text::SequentialWriter WriteSettings(const Settings& settings);
 
 }  // namespace vantor::list

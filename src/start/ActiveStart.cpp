@@ -28,7 +28,7 @@ void ActiveStart::Run() {
 }
 
 void ActiveStart::CheckScreen() {
-  // 800 by 600 pixels, at whatever scale. The message names another size; both are as they are meant to be.
+  // 800 by 600 pixels, at any scale. The message names another size; both are intended.
   constexpr long MinWidth = 800;
   constexpr long MinHeight = 600;
   const form::Screen screen = program_.Ui.PrimaryScreen();
@@ -39,7 +39,7 @@ void ActiveStart::CheckScreen() {
 }
 
 void ActiveStart::FindPreviousInstance() {
-  // While it looks for the other copy, this one must not be found by the same title.
+  // So that the search for the other copy does not find this one.
   constexpr std::wstring_view TitleMeanwhile = L"BypassThisInstance";
   service::System& system = program_.Services.System;
   system.SetTitle(state::ApplicationTitle);
@@ -57,7 +57,7 @@ void ActiveStart::FindPlaces() {
   program_.frmMove.Load();
   GetWindowsFolder(program_.Services.System, program_.Services.Language, environment);
   const bool windowsKnown = !environment.WindowsFolderUpper.empty();
-  // The stop messages hold no such key, so that the start goes on.
+  // There is no stop message with this key, so the start continues.
   if (windowsKnown && environment.ProgramFolderUpper.starts_with(environment.WindowsFolderUpper)) {
     Stop(message::MessageProgInSystem);
   }
@@ -102,12 +102,12 @@ void ActiveStart::LoadName() {
 
 void ActiveStart::AskForName() {
   if (nameUnread_ || !program_.MessageState.UserName.empty()) return;
-  program_.Environment.FirstStart = true;  // also where the first start was ended at this question
+  program_.Environment.FirstStart = true;  // also if the first start ended at this question
   program_.Messages.ShowUserMessage(message::MessageGetUserName);
 }
 
 void ActiveStart::LoadState() {
-  // What can't be read stays as it is at a first start.
+  // What can't be read keeps the values of a first start.
   program_.Messages.Trap(L"LoadSettings", [this] { program_.ListFiles.LoadSettings(); });
   command::InitCodeTables(program_.CommandState);
   program_.Options = options::DecodeOptionMask(program_.Settings.OptionMask);

@@ -6,16 +6,16 @@ namespace vantor::start {
 
 class Program;
 
-/// The start sequence, from the first look at the screen to the bar.
+/// The start sequence, from checking the screen to showing the bar.
 class ActiveStart {
  public:
   explicit ActiveStart(Program& program) : program_(program) {}
 
-  /// Returns with the bar shown, or with the program ended.
+  /// Returns when the bar is shown or the program has ended.
   void Run();
 
  private:
-  // Each of these may end the program.
+  // Any of these may end the program.
   void CheckScreen();
   void FindPreviousInstance();
   void FindPlaces();
@@ -33,7 +33,7 @@ class ActiveStart {
 
   Program& program_;
   bool canSave_ = true;
-  bool nameUnread_ = false;  // there may be one, which must not be replaced
+  bool nameUnread_ = false;  // there may be a name, which must not be replaced
 };
 
 }  // namespace vantor::start

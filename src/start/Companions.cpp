@@ -30,7 +30,7 @@ std::vector<std::wstring> MakerFolders(const service::Language& language, const 
 std::vector<state::Companion> FindCompanions(const service::Services& services, const state::Environment& environment) {
   std::vector<state::Companion> companions;
   const service::ManyFileCalls many(services.FileSystem);
-  // A medium is one person's own, and knows no users. On a disk somebody else may have put a program there.
+  // A removable medium belongs to one person and has no users. On a disk, someone else may have put a program there.
   const auto trusted = [&](const std::wstring& place) {
     return environment.RunMode || !services.FileSystem.OthersMayWrite(place);
   };

@@ -9,12 +9,12 @@ namespace vantor::start {
 namespace {
 
 constexpr std::wstring_view MediaMark = L"Vantor Media 1";
-// A medium in this state was left in the midst of its first run.
+// A medium in this state was removed during its first run.
 constexpr std::wstring_view MediaSetup = L"Setup";
 constexpr std::wstring_view MediaReady = L"Ready";
 
 struct MediaSet {
-  std::wstring State;  // "" for a file that is none of the program's
+  std::wstring State;  // "" for a file that is not the program's
   std::wstring UserName;
 };
 
@@ -26,7 +26,7 @@ text::SequentialWriter MediaText(std::wstring_view state, std::wstring_view user
   return writer;
 }
 
-/// Nothing when the file is there and can't be read.
+/// Nothing if the file exists but can't be read.
 std::optional<MediaSet> ReadMediaSet(const service::Services& services, const state::Environment& environment) {
   const service::FileRead file = list::ReadPatiently(services.DataFiles, environment.Files.MediaSet);
   if (file.Failed()) return std::nullopt;
@@ -46,7 +46,7 @@ bool Write(const service::Services& services, std::wstring_view path, const text
 
 /// The settings file or, where that was lost or deleted, one of the lists; "" before the first start.
 std::wstring_view FindData(const service::Services& services, const state::Environment& environment) {
-  // A file that is there but can't be read must not be taken for a first start, and be replaced.
+  // An existing file that can't be read must not be mistaken for a first start and replaced.
   const auto isThere = [&](std::wstring_view path) { return !services.DataFiles.Read(path).Missing; };
   if (isThere(environment.Files.Set)) return environment.Files.Set;
   for (const std::wstring_view path : environment.Files.Lists()) {
@@ -59,7 +59,7 @@ bool WriteFirstSettings(const service::Services& services, const state::Environm
   return Write(services, environment.Files.Set, list::WriteSettings(list::Settings{}));
 }
 
-/// Whether there is nothing yet, or no more than a first set-up leaves that was ended in its first write.
+/// Whether there is no data yet, or only what a first set-up leaves that was interrupted during its first write.
 bool IsFresh(const service::Services& services, const state::Environment& environment) {
   const auto names = services.DataFiles.FolderEntries(environment.DataFolder);
   if (!names) return false;
@@ -82,7 +82,7 @@ bool CreateMedia(const service::Services& services, const state::Environment& en
   if (Write(services, mediaSet, MediaText(MediaSetup, L"")) && WriteFirstSettings(services, environment) &&
       Write(services, mediaSet, MediaText(MediaReady, L"")))
     return true;
-  // Half of it would keep the program from ever running here.
+  // A half-finished set-up would prevent the program from ever running here.
   for (const std::wstring& path : {environment.Files.Set, mediaSet}) static_cast<void>(services.DataFiles.Remove(path));
   return false;
 }
@@ -101,7 +101,7 @@ message::MessageKey PrepareMedia(const service::Services& services, state::Envir
     environment.FirstStart = true;
     return CreateMedia(services, environment) ? message::MessageKey() : message::MessageMediaCreateError;
   }
-  // Where it can't be read just now, the medium was in use before.
+  // If it can't be read just now, the medium has been used before.
   const auto media = ReadMediaSet(services, environment);
   if (media && media->State.empty()) return message::MessageRecreateMedia;
   if (media && media->State == MediaSetup) return message::MessageMediaRunCancel;

@@ -19,7 +19,7 @@ void Program::Main() {
 }
 
 form::Screen Program::HomeScreen() const {
-  // The messages of the start come before there is a bar.
+  // The messages of the start sequence come before there is a bar.
   return frmMain.Loaded() ? Ui.ScreenAt(frmMain.Bounds()) : Ui.PrimaryScreen();
 }
 

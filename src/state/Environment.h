@@ -33,13 +33,13 @@ struct DataFilePaths {
   }
 };
 
-/// Another program of the maker.
+/// One of the maker's other programs.
 struct Companion {
   std::wstring Name;
   std::wstring Path;
 };
 
-/// What the start sequence finds out once, for all others to read.
+/// Facts that the start sequence determines once and everything else reads.
 struct Environment {
   std::wstring WindowsFolder;  // with its trailing backslash; "" when it can't be found
   std::wstring WindowsFolderUpper;
@@ -58,7 +58,7 @@ struct Environment {
   bool MachineUnknown = false;     // removable media: no computer has been remembered yet
   bool MachineRemembered = false;  // removable media: this computer is the remembered one
 
-  std::vector<Companion> Companions;  // no two of one name; the help program is the last
+  std::vector<Companion> Companions;  // no two with the same name; the help program is the last
 
   bool Starting = false;
   bool FirstStart = false;

@@ -2,10 +2,10 @@
 
 #include "form/Picture.h"
 
-/// What the program draws: its mark, and the lines on the bar's buttons.
+/// The program's drawings: its logo, and the symbols on the bar's buttons.
 namespace vantor::state::picture {
 
-/// The product's mark. tools/icon draws the icon from these lines, too.
+/// The product's logo. tools/icon also draws the icon from these lines.
 inline constexpr form::Shape Mark[] = {
     {"M3.4 0 H12.6 C14.5 0 16 1.5 16 3.4 V12.6 C16 14.5 14.5 16 12.6 16 H3.4 C1.5 16 0 14.5 0 12.6 V3.4 "
      "C0 1.5 1.5 0 3.4 0 Z",

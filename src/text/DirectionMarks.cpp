@@ -5,7 +5,7 @@
 namespace vantor::text {
 
 std::wstring WithSignsForMarks(std::wstring_view text) {
-  constexpr wchar_t Sign = 0xFFFD;  // that of a character which can't be shown
+  constexpr wchar_t Sign = 0xFFFD;  // the replacement character
   std::wstring shown(text);
   std::replace_if(shown.begin(), shown.end(), IsDirectionMark, Sign);
   return shown;

@@ -11,8 +11,8 @@ namespace {
 
 constexpr bool IsDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
 
-/// Takes the number apart from its front. The library's own reading would accept "inf" and "0x10" too, heed the
-/// locale, and bring some 50 KB along.
+/// Parses a number from its start. The library's own functions would also accept "inf" and "0x10", depend on the
+/// locale, and add some 50 KB.
 class NumberText {
  public:
   explicit NumberText(std::wstring_view text) : rest_(text) {
@@ -26,7 +26,7 @@ class NumberText {
     rest_.remove_prefix(1);
     return true;
   }
-  /// True for a minus.
+  /// Returns true for a minus.
   bool TakeSign() {
     if (Take(L"-")) return true;
     Take(L"+");
@@ -53,7 +53,7 @@ long ToLong(std::wstring_view digits, long most) {
 }  // namespace
 
 std::wstring Decimal(long long number) {
-  char digits[20];  // of the smallest number, with its sign
+  char digits[20];  // enough for the smallest number with its sign
   const auto end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
   return {std::begin(digits), end};
 }
@@ -77,7 +77,7 @@ std::optional<double> ParseDouble(std::wstring_view text) {
   if (number.Take(L"eE")) {
     const bool negativeExponent = number.TakeSign();
     const std::wstring_view digits = number.TakeDigits();
-    exponent = ToLong(digits, 5000) * (negativeExponent ? -1 : 1);  // far beyond what a double holds
+    exponent = ToLong(digits, 5000) * (negativeExponent ? -1 : 1);  // far beyond the range of a double
     complete = complete && !digits.empty();
   }
   if (!complete || !number.AtEnd()) return std::nullopt;

@@ -16,10 +16,10 @@ namespace vantor::text {
 
 /// A whole number in decimal digits. std::to_wstring would add 20 KB to the program.
 [[nodiscard]] std::wstring Decimal(long long number);
-/// A whole number, with blanks around it allowed; nothing when the text is something else or beyond 16 bits.
+/// A whole number, optionally surrounded by blanks; nothing if the text is not one or exceeds 16 bits.
 [[nodiscard]] std::optional<std::int16_t> ParseInt16(std::wstring_view text);
-/// A decimal number with "." as its point, whatever the user's locale; exact for whole numbers below 2^53. Nothing
-/// when the text is something else.
+/// A decimal number with "." as the decimal point, whatever the user's locale; exact for whole numbers below 2^53.
+/// Nothing if the text is not a number.
 [[nodiscard]] std::optional<double> ParseDouble(std::wstring_view text);
 
 }  // namespace vantor::text

@@ -26,8 +26,8 @@ std::basic_string_view<Char> TrimBlanks(std::basic_string_view<Char> text) {
 
 using Unit = std::make_unsigned_t<wchar_t>;
 
-/// Copies an ASCII text in double quotes and returns the end. `all` gathers the bits of the characters, by which
-/// the caller sees whether it was one.
+/// Copies an ASCII text in double quotes and returns the end. `all` collects the bits of all characters, so that the
+/// caller can check whether the text was ASCII.
 char* CopyQuoted(char* to, std::wstring_view text, Unit& all) {
   Unit bits = 0;
   *to++ = '"';
@@ -55,7 +55,7 @@ void SequentialWriter::Write(std::wstring_view text) {
 }
 
 void SequentialWriter::Write(std::wstring_view first, std::wstring_view second) {
-  // Most of a save goes by here: one look at the room for the whole record.
+  // A save spends most of its time here, so the space is checked once for the whole record.
   char* const start = Room(first.size() + second.size() + 7);
   Unit all = 0;
   char* to = CopyQuoted(start, first, all);

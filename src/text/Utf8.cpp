@@ -8,7 +8,7 @@ constexpr char32_t Replacement = 0xFFFD;
 bool IsHigh(char32_t c) { return c >= 0xD800 && c < 0xDC00; }
 bool IsLow(char32_t c) { return c >= 0xDC00 && c < 0xE000; }
 
-/// Takes one character of the text: two of its units where they are a surrogate pair.
+/// Consumes one character of the text: two units if they are a surrogate pair.
 char32_t Take(std::wstring_view text, std::size_t& at) {
   const auto unit = static_cast<char32_t>(text[at++]);
   if (IsHigh(unit) && at < text.size() && IsLow(static_cast<char32_t>(text[at])))
@@ -25,7 +25,7 @@ void AppendWide(std::wstring& text, char32_t c) {
   }
 }
 
-/// Takes one character that begins at `at`, or one byte that begins none.
+/// Consumes one character that begins at `at`, or a single byte if none begins there.
 char32_t Take(std::string_view bytes, std::size_t& at) {
   const auto first = static_cast<unsigned char>(bytes[at++]);
   if (first < 0x80) return first;
@@ -37,7 +37,7 @@ char32_t Take(std::string_view bytes, std::size_t& at) {
     if ((next & 0xC0) != 0x80) return Replacement;
     c = (c << 6) | (next & 0x3Fu);
   }
-  // Longer than needed, or no character at all.
+  // An overlong form, or not a character at all.
   static constexpr char32_t Least[] = {0, 0x80, 0x800, 0x10000};
   if (c < Least[more] || c > 0x10FFFF) return Replacement;
   at += static_cast<std::size_t>(more);

@@ -5,10 +5,10 @@
 
 namespace vantor::text {
 
-/// Appends text as UTF-8. Half of a surrogate pair, which a file name may hold, is kept in three bytes.
+/// Appends text as UTF-8. Half a surrogate pair, which a file name may contain, is kept as three bytes.
 void AppendUtf8(std::string& bytes, std::wstring_view text);
 
-/// Text from UTF-8, with what AppendUtf8 kept. A byte that means nothing becomes U+FFFD.
+/// Text from UTF-8, including the halves that AppendUtf8 keeps. Invalid bytes become U+FFFD.
 [[nodiscard]] std::wstring FromUtf8(std::string_view bytes);
 
 /// Whether all bytes are below 128.

@@ -105,7 +105,7 @@ Twips GroupFrame::LayOut(Twips left, Twips top, Twips width) {
   Path.SetBounds({boxLeft, y, boxWidth, lineHeight});
   y = Path.Bottom() + Margin;
 
-  // The three buttons are together as wide as the boxes, each as much wider or narrower than its caption asks for.
+  // The three buttons together are as wide as the boxes; the difference to their usual widths is divided equally.
   Twips x = boxLeft;
   const auto place = [&x](form::CommandButton& button, Twips at, Twips more) {
     button.SetBounds({x, at, form::ButtonWidth(button) + more, form::ButtonHeight});
@@ -205,7 +205,7 @@ void GroupFrame::Remove_Click() {
   Path.RemoveItem(index);
   if (Path.ListCount() > 0) Path.SetListIndex(0);
   EnableByCount();
-  Name.SetFocus();  // not the button, which another key press would remove the next item by
+  Name.SetFocus();  // not the button, or another key press would remove the next item
   context_.Host.ListChanged();
 }
 

@@ -12,15 +12,15 @@
 
 namespace vantor::list {
 
-/// What the frames of the groups do alike, and what they say differently.
+/// The texts in which the frames of the groups differ.
 struct GroupTexts {
   std::wstring_view Code;  // "Prog", "File", …: part of the controls' names
   std::wstring_view Caption;
-  std::wstring_view Item;          // what an item is, for the accessible names
+  std::wstring_view Item;          // what an item is called in the accessible names
   std::wstring_view NewNameLabel;  // of the rename box
 };
 
-/// One group on the list page: its two boxes and what can be done with the entry that is selected in both.
+/// One group on the list page: its two boxes, and the buttons that act on the entry selected in both.
 class GroupFrame {
  public:
   GroupFrame(panel::Page& page, LaunchGroup group, const GroupTexts& texts, const panel::PanelContext& context);
@@ -40,7 +40,7 @@ class GroupFrame {
   form::CommandButton RenOK;
   form::CommandButton RenCancel;
 
-  /// The width, in twips, that shows the texts of its labels and buttons whole.
+  /// The width, in twips, at which its labels and buttons show their whole texts.
   [[nodiscard]] form::Twips LeastWidth() const;
   /// Places the controls in a frame of the given width with its corner at (left, top), in twips. Returns the height.
   form::Twips LayOut(form::Twips left, form::Twips top, form::Twips width);

@@ -11,7 +11,7 @@ namespace {
 
 using form::Twips;
 
-constexpr Twips GroupWidth = 5580;  // two beside each other fit a screen of 800 pixels
+constexpr Twips GroupWidth = 5580;  // two side by side fit a screen 800 pixels wide
 
 }  // namespace
 
@@ -39,7 +39,7 @@ form::Size ListPage::LayOut() {
   const auto layOutBoth = [width, second](GroupFrame& left, GroupFrame& right, Twips top) {
     const Twips height = std::max(left.LayOut(0, top, width), right.LayOut(second, top, width));
     for (GroupFrame* group : {&left, &right}) {
-      group->Frame.SetBounds({group->Frame.Left(), top, width, height});  // two beside each other end together
+      group->Frame.SetBounds({group->Frame.Left(), top, width, height});  // two side by side have the same height
     }
     return top + height;
   };

@@ -8,7 +8,7 @@
 
 namespace vantor::list {
 
-/// The page of the launch list: a frame for each group. Its eight boxes are the launch list for the length of the run;
+/// The page of the launch list: a frame for each group. Its eight boxes are the launch list while the program runs;
 /// loading frmChoose fills them.
 class ListPage : public panel::Page {
  public:
