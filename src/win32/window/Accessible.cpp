@@ -15,7 +15,7 @@ namespace vantor::win32 {
 
 namespace {
 
-/// The library that only readers need.
+/// The library that only screen readers need.
 struct Library {
   using MakeStandard = HRESULT(WINAPI*)(HWND, LONG, REFIID, void**);
   using MakeAnswer = LRESULT(WINAPI*)(REFIID, WPARAM, IUnknown*);
@@ -30,20 +30,21 @@ struct Library {
   MakeAnswer Answer = nullptr;
 };
 
-/// A window as readers see it: the system's own view of a window of its class, except for what is read here. It may
-/// outlive the window.
+/// A window as screen readers see it: the system's own object for the window class, except for the properties that are
+/// provided here. It may outlive the window.
 class Accessible final : public ComObject<IAccessible, IID_IDispatch, IID_IAccessible> {
  public:
   Accessible(HWND window, ComPointer<IAccessible> standard) : window_(window), standard_(std::move(standard)) {}
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-    // The windows inside, and whose window it is, are the system's to tell. Without the first, parts are counted.
+    // The child windows and the window itself are left to the system. A window with parts has no children to enumerate.
     const bool counted = id == IID_IEnumVARIANT && WindowWithParts(window_) != nullptr;
     if ((id == IID_IEnumVARIANT && !counted) || id == IID_IOleWindow) return standard_->QueryInterface(id, object);
     return ComObject::QueryInterface(id, object);
   }
 
-  // What is read here, of the window itself and of rows. Of other parts, the entries of a list say, the system tells.
+  // What is provided here, for the window itself and for rows. Other parts, such as the entries of a list, are left to
+  // the system.
 
   HRESULT STDMETHODCALLTYPE get_accName(VARIANT child, BSTR* text) override {
     return Tell(child, &AccessibleState::Name, text, [&] { return standard_->get_accName(child, text); });
@@ -107,7 +108,7 @@ class Accessible final : public ComObject<IAccessible, IID_IDispatch, IID_IAcces
     return S_OK;
   }
 
-  // What the system tells.
+  // What is left to the system.
 
   HRESULT STDMETHODCALLTYPE get_accParent(IDispatch** parent) override { return standard_->get_accParent(parent); }
   HRESULT STDMETHODCALLTYPE get_accHelp(VARIANT child, BSTR* text) override {
@@ -140,7 +141,7 @@ class Accessible final : public ComObject<IAccessible, IID_IDispatch, IID_IAcces
   }
   HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID /*id*/, LCID language, WORD kind, DISPPARAMS* parameters,
                                    VARIANT* result, EXCEPINFO* exception, UINT* argument) override {
-    // By the type's description, so that the calls by name come to this object as well.
+    // Through the type information, so that calls by name reach this object as well.
     ComPointer<ITypeInfo> type;
     const HRESULT found = standard_->GetTypeInfo(0, language, type.Put());
     return FAILED(found)
@@ -149,12 +150,12 @@ class Accessible final : public ComObject<IAccessible, IID_IDispatch, IID_IAcces
   }
 
  private:
-  /// Nothing for a part of which the system tells, or when the window is gone.
+  /// Nothing for a part that is left to the system, or if the window is gone.
   [[nodiscard]] std::optional<AccessibleState> Read(const VARIANT& child) const {
     if (child.vt == VT_I4 && child.lVal == CHILDID_SELF) return StateOf(window_);
     return ReadPart(child);
   }
-  /// Nothing for the window itself, too.
+  /// The same, but nothing for the window itself.
   [[nodiscard]] std::optional<AccessibleState> ReadPart(const VARIANT& child) const {
     const ControlWindow* const window = WindowWithParts(window_);
     if (window == nullptr || child.vt != VT_I4 || child.lVal < 1 || child.lVal > window->PartCount()) return {};
@@ -192,7 +193,7 @@ class Accessible final : public ComObject<IAccessible, IID_IDispatch, IID_IAcces
   ComPointer<IAccessible> standard_;
 };
 
-// Written out, because the tool chain's libraries don't hold it.
+// Defined here, because the tool chain's libraries lack them.
 // {608D3DF8-8128-4AA7-A428-F55E49267291}
 constexpr GUID NameProperty = {0x608D3DF8, 0x8128, 0x4AA7, {0xA4, 0x28, 0xF5, 0x5E, 0x49, 0x26, 0x72, 0x91}};
 // {B5F8350B-0548-48B1-A6EE-88BD00B4A5E7}
@@ -201,12 +202,12 @@ constexpr GUID PropertyServices = {0xB5F8350B, 0x0548, 0x48B1, {0xA6, 0xEE, 0x88
 constexpr GUID PropertyServicesInterface = {
     0x6E26E776, 0x04F0, 0x495D, {0x80, 0xE4, 0x33, 0x30, 0x35, 0x2E, 0x31, 0x69}};
 
-/// Readers of the newer interface have their own views of the system's classes, which hold to names put on record.
-/// Fails silently where the system keeps no such record.
+/// Readers that use the newer interface have their own objects for the system's window classes, which take the name
+/// from an annotation. Fails silently if the system has no annotations.
 void Record(HWND window, const std::wstring& name) {
   constexpr wchar_t RecordedMark[] = L"VantorNamed";
   if (name.empty() || GetPropW(window, RecordedMark) != nullptr) return;
-  SetPropW(window, RecordedMark, reinterpret_cast<HANDLE>(1));  // also where it fails, as it would again
+  SetPropW(window, RecordedMark, reinterpret_cast<HANDLE>(1));  // even if it fails, because it would fail again
   ComPointer<IAccPropServices> services;
   if (FAILED(CoCreateInstance(PropertyServices, nullptr, CLSCTX_INPROC_SERVER, PropertyServicesInterface,
                               services.PutVoid()))) {
@@ -218,7 +219,7 @@ void Record(HWND window, const std::wstring& name) {
 }  // namespace
 
 std::optional<LRESULT> AnswerAccessibility(HWND window, Apartment& com, WPARAM wParam, LPARAM lParam) {
-  // Only the low half counts, whatever the sender's width.
+  // Only the low half counts, whether the sender is a 32-bit or a 64-bit program.
   if (static_cast<LONG>(lParam) != OBJID_CLIENT) return {};
   static const Library library;
   if (library.Standard == nullptr || library.Answer == nullptr) return {};

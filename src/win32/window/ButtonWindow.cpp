@@ -20,7 +20,7 @@ bool HasPictures(const form::CommandButton& button) {
 
 DWORD StyleOf(const form::CommandButton& button) { return HasPictures(button) ? BS_OWNERDRAW : BS_PUSHBUTTON; }
 
-/// The window's text is what a screen reader calls the button; the system's own button also shows it.
+/// The window's text is what a screen reader calls the button; a standard button also shows it.
 std::wstring NameOf(const form::CommandButton& button) {
   std::wstring name = button.AccessibleName();
   if ((name.empty() || !HasPictures(button)) && !button.Caption().empty()) name = button.Caption();
@@ -88,7 +88,7 @@ void ButtonWindow::OnDraw(const DRAWITEMSTRUCT& item) {
   canvas.Show(item.hDC, item.rcItem.left, item.rcItem.top);
 }
 
-/// A drawing, a caption, or a drawing with the caption below it.
+/// Draws a drawing, a caption, or a drawing with the caption below it.
 void ButtonWindow::DrawContent(Canvas& canvas, RECT area, const Box& box, const Palette::Face& face) const {
   const Palette& colors = Theme().Colors();
   const form::Drawing drawing = button_.Picture().Drawing;
@@ -121,7 +121,7 @@ void ButtonWindow::SetHot(bool hot) {
 
 LRESULT ButtonWindow::OnMouseButton(form::MouseButton button, bool down, UINT message, WPARAM wParam, LPARAM lParam) {
   if (!down) {
-    // Before the button lets go of the mouse, so that the program sees whether it still has it.
+    // Before the button releases the mouse capture, so that the program sees whether it still has it.
     button_.InputMouseUp(button);
     return Retired() ? 0 : Default(message, wParam, lParam);
   }
@@ -150,7 +150,7 @@ LRESULT ButtonWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       }
       break;
     case WM_MOUSEMOVE: {
-      // A button that is held is told of the mouse wherever that is, and not of its leaving.
+      // While a button is held down, it gets all mouse messages, but none when the mouse leaves it.
       const RECT inside = ClientArea(Hwnd());
       SetHot(PtInRect(&inside, {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}) != FALSE);
       break;

@@ -5,7 +5,7 @@
 
 namespace vantor::win32 {
 
-/// A push button. With pictures it draws itself, else it is the system's own.
+/// A push button. It draws itself if it has pictures, otherwise it is a standard button.
 class ButtonWindow final : public ControlWindow {
  public:
   ButtonWindow(FormWindow& owner, form::CommandButton& button);

@@ -23,7 +23,7 @@ void ChoiceWindow::Refresh() {
 void ChoiceWindow::Show(form::Property property) {
   if (property == form::Property::Caption) {
     std::wstring text = button_.Caption();
-    // An ampersand would underline the letter behind it.
+    // An ampersand would underline the letter after it.
     for (std::size_t at = text.find(L'&'); at != std::wstring::npos; at = text.find(L'&', at + 2))
       text.insert(at, 1, L'&');
     ShowWindowText(text);
@@ -39,7 +39,7 @@ void ChoiceWindow::OnCommand(WORD notification) {
 HBRUSH ChoiceWindow::OnColor(HDC dc) {
   ControlWindow::OnColor(dc);
   SetBkMode(dc, TRANSPARENT);
-  // What is behind the window may be a picture.
+  // There may be a picture behind the window.
   const SIZE size = ClientSize();
   Canvas canvas(size.cx, size.cy);
   DrawBackdrop(canvas);

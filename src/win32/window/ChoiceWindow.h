@@ -5,7 +5,7 @@
 
 namespace vantor::win32 {
 
-/// A check box or an option button: the system draws it, and only the control ticks it.
+/// A check box or an option button: the system draws it, but only the control sets its check mark.
 class ChoiceWindow : public ControlWindow {
  public:
   void Refresh() override;
@@ -23,7 +23,7 @@ class ChoiceWindow : public ControlWindow {
 
  private:
   form::ChoiceButton& button_;
-  bool focusing_ = false;  // a button that gets the focus may say that it was clicked
+  bool focusing_ = false;  // a button may report a click when it gets the focus
   BrushHandle backdrop_;
 };
 
@@ -49,7 +49,7 @@ class OptionWindow final : public ChoiceWindow {
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
-  /// Chooses the option button of the same container that comes next, or before.
+  /// Chooses the next or the previous option button in the same container.
   void ChooseNeighbour(bool backwards);
 
   form::OptionButton& button_;

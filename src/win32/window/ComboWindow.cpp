@@ -15,11 +15,11 @@ namespace vantor::win32 {
 
 namespace {
 
-/// Lines that the dropped list shows at once, and that PageUp and PageDown go by.
+/// The number of lines that the dropped list shows, and that PageUp and PageDown move by.
 constexpr int ShownLines = 12;
-/// Of this many entries, those with most characters, the width is measured.
+/// The width is measured for this many entries, those with the most characters.
 constexpr std::size_t MeasuredEntries = 24;
-/// Keys that follow each other faster spell one beginning; milliseconds.
+/// Keys typed within this time belong to the same search text; milliseconds.
 constexpr DWORD SpellingTime = 1000;
 
 bool BeginsWith(const std::wstring& text, const std::wstring& beginning) {
@@ -51,13 +51,13 @@ COMBOBOXINFO ComboWindow::Parts() const {
 }
 
 void ComboWindow::ApplyBounds() {
-  // The height that the system is given is that of the dropped list; the window's own follows from its line's.
+  // The height given to the system is that of the dropped list; the window's own depends on the height of its line.
   const RECT bounds = BoundsInPixels();
   const int line = RowHeight(Font(), Scale());
   Default(CB_SETITEMHEIGHT, 0, line);
   SetWindowPos(Hwnd(), nullptr, bounds.left, bounds.top, bounds.right, bounds.bottom + ShownLines * line + 2,
                SWP_NOZORDER | SWP_NOACTIVATE);
-  // What is set as the line's height may come out as a little more: then once again, by that much less.
+  // The window may come out slightly higher than the line's height implies; then it is corrected once more.
   int height = static_cast<int>(Default(CB_GETITEMHEIGHT, static_cast<WPARAM>(-1)));
   for (int i = 0; i < 2; ++i) {
     const RECT shown = WindowArea(Hwnd());
@@ -78,11 +78,11 @@ void ComboWindow::Show(form::Property property) {
 }
 
 std::wstring ComboWindow::TipText() const {
-  if (IsDropped()) return {};  // it would lie on the list
+  if (IsDropped()) return {};  // it would cover the list
   if (!list_.ToolTip().empty()) return list_.ToolTip();
   const std::wstring text = list_.Text();
   if (text.empty()) return {};
-  // Only what does not fit is told.
+  // Only texts that don't fit have a tool tip.
   const RECT field = Parts().rcItem;
   return TextSize(text, Font()).cx > field.right - field.left - 2 * RowMargin(Scale()) ? text : std::wstring();
 }
@@ -111,7 +111,7 @@ void ComboWindow::OnCommand(WORD notification) {
       if (list_.ChoosesAtEnd()) chosen_ = static_cast<int>(Default(CB_GETCURSEL));
       break;
     case CBN_CLOSEUP:
-      typed_.clear();  // what is typed next begins anew
+      typed_.clear();  // what is typed next starts a new search
       Redraw();
       if (const auto chosen = std::exchange(chosen_, {})) {
         list_.InputSelect(*chosen, entering_ ? form::ListInput::Enter : form::ListInput::Click);
@@ -122,7 +122,8 @@ void ComboWindow::OnCommand(WORD notification) {
   }
 }
 
-/// Gives the window's list as many entries as the control has. They are empty: what is drawn comes from the control.
+/// Gives the window's list as many entries as the control has. They are empty, because the texts drawn come from the
+/// control.
 void ComboWindow::FitList() {
   const int count = list_.ListCount();
   if (count == shownCount_) return;
@@ -163,7 +164,7 @@ void ComboWindow::OnDraw(const DRAWITEMSTRUCT& item) {
   std::wstring_view text;
   if (index >= 0 && index < list_.ListCount()) text = list_.List(index);
   DRAWITEMSTRUCT drawn = item;
-  // The field shows that it has the focus, not that its entry is chosen.
+  // The field shows whether it has the focus, not that its entry is selected.
   if (field && (item.itemState & ODS_FOCUS) == 0) drawn.itemState &= ~static_cast<UINT>(ODS_SELECTED);
   DrawRow(drawn, {text, 0, list_.Enabled(), list_.ForeColor()}, BackgroundColor(), Font(), Theme(), Scale());
 }
@@ -172,7 +173,7 @@ const std::wstring* ComboWindow::Asked(WPARAM index) const {
   return index < list_.Entries().size() ? &list_.Entries()[index] : nullptr;
 }
 
-/// Answers, for screen readers and other programs, what the window's list does not know.
+/// Answers questions of screen readers and other programs that the window's list can't answer.
 bool ComboWindow::Answer(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) const {
   switch (message) {
     case CB_GETCOUNT:
@@ -219,7 +220,7 @@ LRESULT CALLBACK ComboWindow::ListProcedure(HWND list, UINT message, WPARAM wPar
   return CallWindowProcW(window.listProcedure_, list, message, wParam, lParam);
 }
 
-/// The keys that choose an entry while the list is not dropped.
+/// Handles the keys that choose an entry while the list is not dropped.
 bool ComboWindow::OnKey(WPARAM key) {
   const int index = list_.ListIndex();
   switch (key) {
@@ -248,13 +249,13 @@ bool ComboWindow::OnKey(WPARAM key) {
   }
 }
 
-/// Chooses the next entry that begins with what is being typed.
+/// Chooses the next entry that begins with the text being typed.
 bool ComboWindow::OnCharacter(wchar_t character) {
   if (character < L' ') return false;
   const DWORD now = GetTickCount();
   if (now - typedAt_ > SpellingTime) typed_.clear();
   typedAt_ = now;
-  const bool again = typed_.size() == 1 && typed_[0] == character;  // the same key walks on
+  const bool again = typed_.size() == 1 && typed_[0] == character;  // the same key again moves to the next entry
   if (!again) typed_ += character;
   const int count = list_.ListCount();
   const int from = list_.ListIndex() + (typed_.size() == 1 ? 1 : 0);
@@ -278,7 +279,7 @@ LRESULT ComboWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   if (Answer(message, wParam, lParam, result)) return result;
   switch (message) {
     case WM_KEYDOWN:
-      if (wParam == VK_F4) return 0;  // it would drop the list, but belongs to the form; Alt and Down do so as well
+      if (wParam == VK_F4) return 0;  // it would drop the list, but is a hot key of the form; Alt+Down drops the list
       if (!IsDropped() && OnKey(wParam)) return 0;
       if (wParam == VK_RETURN) {
         const form::Scoped entering(entering_, true);

@@ -8,8 +8,8 @@
 
 namespace vantor::win32 {
 
-/// A drop-down list. The entries stay with the control: the window's list only has their number, and not before
-/// it is first dropped, so that lists of many thousand entries cost nothing until then.
+/// A drop-down list. The entries stay in the control: the window's list only knows their number, and only once it is
+/// first dropped, so that lists of many thousands of entries cost nothing until then.
 class ComboWindow final : public ControlWindow {
  public:
   ComboWindow(FormWindow& owner, form::DropDownList& list);
@@ -27,13 +27,13 @@ class ComboWindow final : public ControlWindow {
   void ApplyBounds() override;
 
  private:
-  /// The windows and areas that the system makes the box of.
+  /// The windows and areas that the box consists of.
   [[nodiscard]] COMBOBOXINFO Parts() const;
   [[nodiscard]] bool IsDropped() const { return Default(CB_GETDROPPEDSTATE) != 0; }
-  /// The entry that a question about the window's list is about; null for none.
+  /// The entry that a question to the window's list refers to; null for none.
   [[nodiscard]] const std::wstring* Asked(WPARAM index) const;
   bool Answer(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) const;
-  /// Sees the messages of the window's list before it does.
+  /// Gets the messages of the window's list before the list does.
   static LRESULT CALLBACK ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam);
   bool OnKey(WPARAM key);
   bool OnCharacter(wchar_t character);
@@ -43,9 +43,9 @@ class ComboWindow final : public ControlWindow {
   form::DropDownList& list_;
   WNDPROC listProcedure_ = nullptr;
   int shownCount_ = 0;  // entries of the window's list
-  std::wstring typed_;  // the beginning of the entry that is looked for by keys
+  std::wstring typed_;  // the start of the entry that the user is typing
   DWORD typedAt_ = 0;
-  std::optional<int> chosen_;  // until the list has closed: what comes of the choice may take its time
+  std::optional<int> chosen_;  // set until the list has closed, because handling the choice may take long
   bool entering_ = false;      // Enter is being handled
 };
 

@@ -7,7 +7,7 @@ namespace {
 /// The manifest that asks for version 6, in the program's resources.
 constexpr WORD ManifestId = 2;
 
-/// Made once and kept, because the windows made under it need it as long as they live.
+/// Created once and kept, because the windows created under it need it as long as they live.
 HANDLE Context() {
   static const HANDLE context = [] {
     ACTCTXW description{};

@@ -4,10 +4,9 @@
 
 namespace vantor::win32 {
 
-/// While one lives, windows of the system's classes are made in the looks of the user's theme: by version 6 of the
-/// common controls. The bar itself has no use for it and draws its own edges, so the library is loaded with the first
-/// panel that has a list, or the first tool tip, instead of with the program. Where it is missing, the plain make of
-/// the same windows takes its place.
+/// While one of these exists, windows of the system's classes are created in the user's theme, by version 6 of the
+/// common controls. The bar does not need it, because it draws its own edges; so the library is loaded with the first
+/// panel that has a list, or the first tool tip, instead of with the program. If it is missing, the windows look plain.
 class CommonControls {
  public:
   CommonControls();

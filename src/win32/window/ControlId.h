@@ -5,8 +5,8 @@
 
 namespace vantor::win32 {
 
-/// The number of a control's window, made from the control's name: it stays the same from version to version, so that
-/// scripts of screen readers, and tests, find the control by it. Above what Windows uses for windows of its own.
+/// The id of a control's window, computed from the control's name: it stays the same from version to version, so that
+/// screen-reader scripts and tests can find the control by it. Greater than the ids that Windows itself uses.
 constexpr std::int32_t ControlId(std::wstring_view name) {
   std::uint32_t hash = 2166136261U;  // FNV-1a, over the characters
   for (const wchar_t character : name) hash = (hash ^ static_cast<std::uint32_t>(character)) * 16777619U;

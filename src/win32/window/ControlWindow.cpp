@@ -28,7 +28,7 @@ HWND ParentOf(const FormWindow& owner, const form::Control& control) {
   return container != nullptr ? container->Hwnd() : owner.Hwnd();
 }
 
-/// Makes the kind of window that a kind of control needs.
+/// Creates the kind of window that a control needs.
 class Maker final : public form::ControlVisitor {
  public:
   explicit Maker(FormWindow& owner) : owner_(owner) {}
@@ -86,7 +86,7 @@ const ControlWindow* ControlWindow::Of(const form::Control* control) {
 
 ControlWindow* ControlWindow::From(HWND handle) {
   if (handle == nullptr) return nullptr;
-  // Mostly nobody has put another procedure before this one, and the answer is at hand.
+  // Usually no other procedure has been installed over this one, and the answer is at hand.
   if (reinterpret_cast<WNDPROC>(GetWindowLongPtrW(handle, GWLP_WNDPROC)) == Procedure) {
     return reinterpret_cast<ControlWindow*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
   }
@@ -180,7 +180,7 @@ void ControlWindow::Changed(form::Property property) {
   }
 }
 
-/// The keyboard must not stay with a window that can't take it.
+/// A window that can't take the focus must not keep it.
 void ControlWindow::LeaveFocus() const {
   const HWND focus = GetFocus();
   if (focus == handle_ || IsChild(handle_, focus) != FALSE) ::SetFocus(owner_.Hwnd());
@@ -245,7 +245,7 @@ void ControlWindow::Redraw() const { InvalidateRect(handle_, nullptr, TRUE); }
 
 COLORREF ControlWindow::BackgroundColor() const {
   for (const form::Control* control = &control_; control != nullptr; control = control->Container()) {
-    // A face that nobody chose takes on what it stands on.
+    // A default background takes on the colour of the container.
     if (control->BackColor() != form::Color::ButtonFace) return Theme().Background(control->BackColor());
   }
   return Theme().Background(owner_.Form().BackColor());
@@ -285,7 +285,7 @@ void ControlWindow::DrawBackdrop(Canvas& canvas) const {
     DrawWindowEdge(canvas, Box::Of(WindowArea(owner_.Hwnd()), here), Theme().Colors(), background, Scale());
   }
   for (const form::Control* other : owner_.Form().Controls()) {
-    if (other == &control_) break;  // those after it stand before it
+    if (other == &control_) break;  // later ones are in front of it
     const bool below = other == container || (other->Container() == container && other->Visible());
     const ControlWindow* const window = Of(other);
     if (!below || window == nullptr) continue;

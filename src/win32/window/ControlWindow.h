@@ -17,12 +17,12 @@
 
 namespace vantor::win32 {
 
-/// The window that mirrors a control. It shows the control's state and tells the control what the user does.
+/// The window that mirrors a control. It shows the control's state and reports what the user does to the control.
 class ControlWindow : public form::ControlWindow {
  public:
-  /// Makes the window for a control, inside its container's.
+  /// Creates the window for a control inside its container's window.
   static std::unique_ptr<ControlWindow> Make(FormWindow& owner, form::Control& control);
-  /// The window of a control; null when it has none yet, or is null itself.
+  /// The window of a control; null if it has none yet, or if `control` is null.
   [[nodiscard]] static const ControlWindow* Of(const form::Control* control);
   /// The control's window with this handle; null for any other handle.
   [[nodiscard]] static ControlWindow* From(HWND handle);
@@ -35,28 +35,28 @@ class ControlWindow : public form::ControlWindow {
   [[nodiscard]] HWND Hwnd() const { return handle_; }
   [[nodiscard]] FormWindow& Owner() const { return owner_; }
   [[nodiscard]] form::Control& Control() const { return control_; }
-  /// The picture that the window shows, and that shows through what stands before it; None for most.
+  /// The picture that the window shows, which also appears behind controls in front of it; None for most.
   [[nodiscard]] virtual form::Picture ShownPicture() const { return {}; }
 
-  /// Shows all of the control's state; for a new window, and after the resolution or the user's settings changed.
+  /// Shows the control's whole state; for a new window, and after a change of the resolution or the user's settings.
   virtual void Refresh();
-  /// What the tool tip says; "" for none.
+  /// The text of the tool tip; "" for none.
   [[nodiscard]] virtual std::wstring TipText() const { return control_.ToolTip(); }
-  /// What a screen reader calls the window; "" for a part of the layout.
+  /// What a screen reader calls the window; "" for a mere part of the layout.
   [[nodiscard]] virtual std::wstring SpokenName() const {
     return shownText_.empty() ? control_.AccessibleName() : shownText_;
   }
-  /// Whether the window uses keys like Escape and Enter for itself at the moment. The function keys are the form's.
+  /// Whether the window currently handles keys like Escape and Enter itself. Function keys always belong to the form.
   [[nodiscard]] virtual bool KeepsKeys() const { return false; }
 
-  /// Adds what a screen reader is told of this kind of control to what it is told of all.
+  /// Adds what a screen reader is told about this kind of control to what it is told about all kinds.
   virtual void Describe(AccessibleState& state) const = 0;
-  /// Does what the description's Action says. Posts it, so that the caller has its answer first.
+  /// Performs the default action. Posts it, so that the caller gets its answer first.
   virtual void Act() {}
 
-  // The parts that readers are told of, rows say, counted from 1 as they do.
+  // The parts that readers are told about, such as rows, numbered from 1 as usual in that interface.
 
-  /// -1: the window's class tells of its parts, if it has any.
+  /// -1: the parts, if any, are left to the window's class.
   [[nodiscard]] virtual long PartCount() const { return -1; }
   /// 0 for none.
   [[nodiscard]] virtual long SelectedPart() const { return 0; }
@@ -64,9 +64,9 @@ class ControlWindow : public form::ControlWindow {
   [[nodiscard]] virtual RECT PartArea(long /*part*/) const { return {}; }
   virtual void ActOnPart(long /*part*/) {}
 
-  // What the window tells its parent, handed back.
+  // Messages of the window to its parent, handed back to it.
 
-  /// Hands a message that a control's window sent its parent back to that control. Returns false when it is none.
+  /// Hands a message that a control's window sent to its parent back to that window. Returns false for other messages.
   static bool Reflect(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
   virtual void OnCommand(WORD /*notification*/) {}
   virtual void OnDraw(const DRAWITEMSTRUCT& /*item*/) {}
@@ -78,16 +78,16 @@ class ControlWindow : public form::ControlWindow {
     const wchar_t* ClassName = nullptr;
     DWORD Style = 0;
     std::wstring Text = {};
-    bool Themed = false;  // whether the system draws it, or a part of it, in the user's theme
+    bool Themed = false;  // whether the system draws at least a part of it in the user's theme
   };
   ControlWindow(FormWindow& owner, form::Control& control, const Kind& kind);
 
-  /// Handles a message. What a kind does not handle goes on to this one, which passes it to the window's class.
+  /// Handles a message. What a derived class does not handle goes to this one, which passes it to the window's class.
   virtual LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT Default(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
   /// Shows a property that only some kinds have.
   virtual void Show(form::Property /*property*/) {}
-  /// Brings the window to the control's bounds.
+  /// Moves the window to the control's bounds.
   virtual void ApplyBounds();
   /// The control's bounds in pixels: x, y, width and height.
   [[nodiscard]] RECT BoundsInPixels() const;
@@ -95,23 +95,23 @@ class ControlWindow : public form::ControlWindow {
   [[nodiscard]] bool Retired() const { return owner_.Retired(); }
   [[nodiscard]] const win32::Theme& Theme() const;
   [[nodiscard]] double Scale() const { return owner_.Dpi() / 96.0; }
-  /// Of the lines that are drawn, in pixels.
+  /// The thickness of drawn lines, in pixels.
   [[nodiscard]] int LineThickness() const { return static_cast<int>(EdgeThickness(Scale())); }
   [[nodiscard]] SIZE ClientSize() const;
   [[nodiscard]] HFONT Font(FontStyle style = FontStyle::Plain) const;
-  /// Tells the parent later that the window, a button, was clicked.
+  /// Posts the parent a message that the window, a button, was clicked.
   void PostClick() const;
   void ShowWindowText(const std::wstring& text);
-  /// Tells screen readers that something about the window has changed that the system doesn't see.
+  /// Tells screen readers about a change that the system doesn't notice.
   void Announce(DWORD event) const;
   void Redraw() const;
-  /// The colour of the control, or of what it stands on.
+  /// The colour of the control, or of its container.
   [[nodiscard]] COLORREF BackgroundColor() const;
-  /// The colour of the window's edge, which tells whether it has the focus.
+  /// The colour of the window's edge, which shows whether it has the focus.
   [[nodiscard]] COLORREF EdgeColor() const;
-  /// Passes a message on, and draws an edge over the system's own wherever that may have been drawn again.
+  /// Passes a message on, and draws an edge over the system's own whenever that may have been redrawn.
   LRESULT OnMessageWithEdge(UINT message, WPARAM wParam, LPARAM lParam, int thickness);
-  /// Draws what stands behind the control: its container's colour and the pictures under it.
+  /// Draws what is behind the control: its container's colour, and pictures.
   void DrawBackdrop(Canvas& canvas) const;
 
  private:
@@ -120,7 +120,7 @@ class ControlWindow : public form::ControlWindow {
 
   FormWindow& owner_;
   form::Control& control_;
-  HWND handle_ = nullptr;  // goes with its parent, which goes before this object does
+  HWND handle_ = nullptr;  // destroyed with its parent, which is destroyed before this object
   WNDPROC classProcedure_ = nullptr;
   RECT placed_{};           // as BoundsInPixels
   std::wstring shownText_;  // the window's text, as far as this object sets it

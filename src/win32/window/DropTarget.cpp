@@ -19,7 +19,7 @@ namespace {
 
 FORMATETC FormatOf(CLIPFORMAT format) { return {format, nullptr, DVASPECT_CONTENT, -1, TYMED_HGLOBAL}; }
 
-/// Browsers offer a link by this one.
+/// The format in which browsers offer a link.
 CLIPFORMAT AddressFormat() { return static_cast<CLIPFORMAT>(RegisterClipboardFormatW(CFSTR_INETURLW)); }
 
 bool Offers(IDataObject& data, CLIPFORMAT format) {
@@ -27,7 +27,7 @@ bool Offers(IDataObject& data, CLIPFORMAT format) {
   return data.QueryGetData(&wanted) == S_OK;
 }
 
-/// Data of one format, given back at the end.
+/// Data in one format, released at the end.
 class Medium {
  public:
   Medium(IDataObject& data, CLIPFORMAT format) {
@@ -72,7 +72,7 @@ std::wstring AddressOf(IDataObject& data) {
   if (medium.Memory() == nullptr) return {};
   const auto* const text = static_cast<const wchar_t*>(GlobalLock(medium.Memory()));
   if (text == nullptr) return {};
-  // The text ends at its null, or with the memory.
+  // The text ends at its null character or at the end of the memory.
   const std::wstring_view whole(text, GlobalSize(medium.Memory()) / sizeof(wchar_t));
   std::wstring address(whole.substr(0, whole.find(L'\0')));
   GlobalUnlock(medium.Memory());
@@ -107,7 +107,7 @@ class DropTarget final : public ComObject<IDropTarget, IID_IDropTarget> {
   }
 
  private:
-  /// Of the effects that the source allows: what is dropped is remembered, never moved.
+  /// Chooses among the effects that the source allows: what is dropped is only noted, never moved.
   void Answer(DWORD& effect) const {
     const DWORD allowed = welcome_ && accepts_() ? effect : DROPEFFECT_NONE;
     effect = (allowed & DROPEFFECT_LINK) != 0 ? DROPEFFECT_LINK : allowed & DROPEFFECT_COPY;
@@ -115,7 +115,7 @@ class DropTarget final : public ComObject<IDropTarget, IID_IDropTarget> {
 
   std::function<bool()> accepts_;
   std::function<void(form::DroppedItems)> take_;
-  bool welcome_ = false;  // what is being dragged is of a kind that is taken
+  bool welcome_ = false;  // what is being dragged is of an accepted kind
 };
 
 }  // namespace
@@ -128,7 +128,7 @@ form::DroppedItems ItemsOf(IDataObject& data) {
 
 std::wstring WebAddressIn(const std::wstring& path) {
   if (!HasExtension(path, L".url")) return {};
-  constexpr DWORD LongestAddress = 2084;  // what Windows' own Internet functions take, with the null
+  constexpr DWORD LongestAddress = 2084;  // the limit of Windows' own Internet functions, including the null
   std::wstring address(LongestAddress, L'\0');
   address.resize(GetPrivateProfileStringW(L"InternetShortcut", L"URL", L"", address.data(), LongestAddress,
                                           CallPath(path).c_str()));

@@ -11,21 +11,22 @@ struct IDataObject;
 
 namespace vantor::win32 {
 
-/// What a drag hands over, in the form that the program knows. Empty when it holds nothing of that kind.
+/// The items that a drag contains, in the program's own form. Empty if there are none of an accepted kind.
 [[nodiscard]] form::DroppedItems ItemsOf(IDataObject& data);
 
-/// What a path dropped stands for: the target of a shortcut that has one on disk, else the path itself. Shows no
-/// dialog and searches for nothing.
+/// What a dropped path stands for: the target of a shortcut if that exists on disk, otherwise the path itself. Shows no
+/// dialogs and searches for nothing.
 [[nodiscard]] std::wstring ShortcutTarget(const std::wstring& path);
 
-/// The web address that a web link dropped as a file holds; "" when the path is no such file, or leads elsewhere.
+/// The web address in a link that was dropped as a file; "" if the path is not such a file or the address is not a web
+/// address.
 [[nodiscard]] std::wstring WebAddressIn(const std::wstring& path);
 
-/// Lets things be dropped on a window, for as long as this object lives.
+/// Accepts drops on a window as long as this object lives.
 class DropRegistration {
  public:
-  /// `accepts` says whether the window takes anything now; `take` gets what was dropped, within the source's call,
-  /// so it should put the work off.
+  /// `accepts` says whether the window accepts drops now; `take` gets what was dropped. It is called while the source
+  /// waits, so it should defer the work.
   DropRegistration(HWND window, std::function<bool()> accepts, std::function<void(form::DroppedItems)> take);
   ~DropRegistration();
   DropRegistration(const DropRegistration&) = delete;
@@ -33,7 +34,7 @@ class DropRegistration {
 
  private:
   HWND window_;
-  bool joined_;  // whether leaving OLE is ours to do
+  bool joined_;  // whether this object has to leave OLE
 };
 
 }  // namespace vantor::win32

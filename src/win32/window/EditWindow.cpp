@@ -26,21 +26,21 @@ struct Selection {
   DWORD End = 0;
 };
 
-/// Whether a message may change what is selected.
+/// Whether a message may change the selection.
 bool MaySelect(UINT message) {
   return (message >= WM_KEYFIRST && message <= WM_KEYLAST) || (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) ||
          message == EM_SETSEL || message == WM_SETFOCUS || message == WM_UNDO || message == EM_UNDO ||
          (message >= WM_CUT && message <= WM_CLEAR) || message == WM_COMMAND || message == WM_CONTEXTMENU;
 }
 
-/// The keys that edit together with Ctrl, and the characters that come of them. They are done with at key down.
+/// Whether a character comes from an editing key with Ctrl. Those are handled when the key goes down.
 bool IsEditingCharacter(WPARAM character) {
   const auto of = [](form::Key letter) { return static_cast<WPARAM>(letter) - L'A' + 1; };
   return character == CharControlBack || character == of(form::Key::A) || character == of(form::Key::C) ||
          character == of(form::Key::V) || character == of(form::Key::X) || character == of(form::Key::Z);
 }
 
-/// Whether a key moves the caret, being pressed alone.
+/// Whether a key moves the caret when pressed without modifiers.
 bool MovesCaret(WPARAM key) {
   return key >= VK_PRIOR && key <= VK_DOWN && GetKeyState(VK_SHIFT) >= 0 && GetKeyState(VK_CONTROL) >= 0;
 }
@@ -55,7 +55,7 @@ EditWindow::EditWindow(FormWindow& owner, form::TextBox& box)
 
 void EditWindow::Refresh() {
   ControlWindow::Refresh();
-  // The room around the text follows the font.
+  // The margins around the text depend on the font.
   SetWindowPos(Hwnd(), nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
   SendMessageW(Hwnd(), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
   if (ShownText() != box_.Text()) ShowText();
@@ -83,11 +83,11 @@ void EditWindow::ShowSelection() {
   const form::Scoped showing(showing_, true);
   SendMessageW(Hwnd(), EM_SETSEL, static_cast<WPARAM>(box_.SelStart()), box_.SelStart() + box_.SelLength());
   SendMessageW(Hwnd(), EM_SCROLLCARET, 0, 0);
-  Announce(EVENT_OBJECT_TEXTSELECTIONCHANGED);  // a completion, say
+  Announce(EVENT_OBJECT_TEXTSELECTIONCHANGED);  // for example by a completion
 }
 
 void EditWindow::OnCommand(WORD notification) {
-  // Told in the middle of the edit's work, and perhaps more than once: the control hears of it afterwards.
+  // This comes in the middle of an edit, and possibly more than once: the control is told afterwards.
   if (notification == EN_CHANGE && !showing_) edited_ = true;
 }
 
@@ -104,7 +104,7 @@ LRESULT EditWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   return result;
 }
 
-/// Tells the control what the user left in the window. Whatever the control's handlers then do is shown by them.
+/// Reports the result of the user's edit to the control. What the control's handlers change is shown by themselves.
 void EditWindow::Report() {
   const bool edited = std::exchange(edited_, false);
   Selection selection;
@@ -117,7 +117,7 @@ void EditWindow::Report() {
   }
   box_.InputEdited(ShownText(), start, length);
   if (Retired() || box_.Text() == ShownText()) return;
-  // The control would not have it.
+  // The control has rejected the edit.
   ShowText();
   ShowSelection();
 }
@@ -148,7 +148,7 @@ LRESULT EditWindow::Process(UINT message, WPARAM wParam, LPARAM lParam) {
       box_.InputComposing(true);
       break;
     case WM_IME_ENDCOMPOSITION:
-      composed_ = true;  // told after the text that it leaves
+      composed_ = true;  // reported after the resulting text
       break;
     case WM_SETFOCUS:
     case WM_KILLFOCUS: {
@@ -157,14 +157,14 @@ LRESULT EditWindow::Process(UINT message, WPARAM wParam, LPARAM lParam) {
       return result;
     }
     case WM_NCCALCSIZE:
-      // In both forms of the message the window's rectangle comes first, and is replaced by its inside.
+      // In both forms of the message, the window's rectangle comes first and is replaced by its client area.
       LayOut(*reinterpret_cast<RECT*>(lParam));
       return 0;
     case WM_NCPAINT:
       PaintEdge();
       return 0;
     case WM_NCHITTEST: {
-      // The room around the text belongs to it.
+      // The margins belong to the text.
       const LRESULT hit = Default(message, wParam, lParam);
       return hit == HTTRANSPARENT || hit == HTERROR ? hit : HTCLIENT;
     }
@@ -179,9 +179,9 @@ LRESULT EditWindow::Process(UINT message, WPARAM wParam, LPARAM lParam) {
   return ControlWindow::OnMessage(message, wParam, lParam);
 }
 
-/// Older Windows tell the window with the focus, wherever the mouse is.
+/// Older versions of Windows send the message to the window with the focus, wherever the mouse is.
 LRESULT EditWindow::OnWheel(WPARAM wParam, LPARAM lParam) {
-  constexpr int PageRows = 8;  // where the user scrolls by pages, whose length is not known here
+  constexpr int PageRows = 8;  // for users who scroll by pages, whose length is not known here
   const HWND under = WindowFromPoint({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
   const ControlWindow* const control = ControlWindow::From(under);
   if (control != nullptr && control->PartCount() >= 0) {
@@ -192,12 +192,13 @@ LRESULT EditWindow::OnWheel(WPARAM wParam, LPARAM lParam) {
   return 0;
 }
 
-/// What Ctrl and a key do, whichever characters the control lets through. Returns whether they do something.
+/// Handles an editing key with Ctrl, independently of the characters that the control accepts. Returns whether it was
+/// one.
 bool EditWindow::OnEditingKey(form::Key key) {
   if (GetKeyState(VK_CONTROL) >= 0 || GetKeyState(VK_MENU) < 0 || GetKeyState(VK_SHIFT) < 0) return false;
   switch (key) {
     case form::Key::Back:
-      // For the control it is a Backspace that takes more.
+      // For the control this is a Backspace that removes more.
       if (box_.InputKeyPress(form::CharBackspace) == form::CharBackspace && !Retired()) {
         Default(EM_SETSEL, static_cast<WPARAM>(box_.WordStart()), box_.SelStart() + box_.SelLength());
         Default(EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L""));
@@ -233,13 +234,13 @@ LRESULT EditWindow::OnCharacter(WPARAM character, LPARAM lParam) {
     case L'\n':
     case form::CharEnter:
     case form::CharEscape:
-      return 0;  // the edit would only beep
+      return 0;  // the window class would only beep
     default:
       return Default(WM_CHAR, typed, lParam);
   }
 }
 
-/// Leaves room for the edge, and puts the one line of text in the middle of the height.
+/// Leaves room for the edge, and centres the line of text vertically.
 void EditWindow::LayOut(RECT& inside) const {
   const auto scaled = [&](int pixels) { return std::lround(pixels * Scale()); };
   const LONG height = inside.bottom - inside.top;

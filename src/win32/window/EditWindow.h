@@ -6,7 +6,7 @@
 
 namespace vantor::win32 {
 
-/// A text box: an EDIT window in which the control has the last word about text and selection.
+/// A text box: an EDIT window whose text and selection are controlled by the control.
 class EditWindow final : public ControlWindow {
  public:
   EditWindow(FormWindow& owner, form::TextBox& box);
@@ -14,7 +14,7 @@ class EditWindow final : public ControlWindow {
   void Refresh() override;
   void Describe(AccessibleState& state) const override;
   [[nodiscard]] bool KeepsKeys() const override { return box_.Composing(); }
-  /// Not its text.
+  /// Not the text, which is its value.
   [[nodiscard]] std::wstring SpokenName() const override { return box_.AccessibleName(); }
   void OnCommand(WORD notification) override;
 
@@ -23,7 +23,7 @@ class EditWindow final : public ControlWindow {
   void Show(form::Property property) override;
 
  private:
-  /// What a message comes to; the edit's own work is done when it returns.
+  /// Handles a message; the window class has done its work on return.
   LRESULT Process(UINT message, WPARAM wParam, LPARAM lParam);
   bool OnEditingKey(form::Key key);
   LRESULT OnCharacter(WPARAM character, LPARAM lParam);
@@ -36,9 +36,9 @@ class EditWindow final : public ControlWindow {
   void PaintEdge();
 
   form::TextBox& box_;
-  int depth_ = 0;          // messages that the edit handles just now, one inside the other
+  int depth_ = 0;          // the number of nested messages being handled
   bool edited_ = false;    // the text changed by the user since it was last reported
-  bool composed_ = false;  // an input method has ended composing, not told yet
+  bool composed_ = false;  // an input method has ended composing; not reported yet
   bool showing_ = false;
   Wheel wheel_;
 };

@@ -17,7 +17,7 @@ void FormControls::Make(const form::Control* container) {
   const bool others = std::any_of(controls.begin(), controls.end(), [&](const form::Control* control) {
     return control->Container() == container && win32::ControlWindow::Of(control) != nullptr;
   });
-  // From the front to the back, because the system puts a new window behind its siblings.
+  // From front to back, because the system puts a new window behind its siblings.
   HWND before = HWND_TOP;
   for (auto next = controls.rbegin(); next != controls.rend(); ++next) {
     form::Control* const control = *next;

@@ -12,7 +12,7 @@ namespace vantor::win32 {
 class ControlWindow;
 class FormWindow;
 
-/// The windows of a form's controls. A control gets its window when it is first visible.
+/// The windows of a form's controls. A control gets its window when it first becomes visible.
 class FormControls {
  public:
   explicit FormControls(FormWindow& owner);
@@ -20,15 +20,15 @@ class FormControls {
   FormControls(const FormControls&) = delete;
   FormControls& operator=(const FormControls&) = delete;
 
-  /// Makes the windows that are missing for the visible controls in a container (null: on the form).
+  /// Creates the missing windows of the visible controls in a container (null: on the form).
   void Make(const form::Control* container);
   /// The control's window with this handle; null for any other handle.
   [[nodiscard]] ControlWindow* Find(HWND handle) const;
-  /// Shows all state of all windows.
+  /// Makes all windows show their controls' whole state.
   void Refresh();
 
  private:
-  /// Stands for the windows of controls that have not been visible yet.
+  /// A substitute for the windows of controls that have not been visible yet.
   class Pending final : public form::ControlWindow {
    public:
     explicit Pending(FormControls& controls) : controls_(controls) {}

@@ -24,7 +24,7 @@ void FormDrops::Begin() {
       owner_.Hwnd(), [this] { return !owner_.Retired() && owner_.Form().AcceptsInput(); },
       [this](form::DroppedItems items) {
         dropped_ = std::move(items);
-        PostMessageW(owner_.Hwnd(), DroppedMessage, 0, 0);  // the program that they come from is waiting
+        PostMessageW(owner_.Hwnd(), DroppedMessage, 0, 0);  // deferred, because the source of the drop is waiting
       });
 }
 

@@ -11,7 +11,7 @@ namespace vantor::win32 {
 
 class FormWindow;
 
-/// What is dropped on a form's window. Both steps are put off by messages of the window to itself.
+/// Handles drops on a form's window. Both steps are deferred by messages that the window posts to itself.
 class FormDrops {
  public:
   static constexpr UINT BeginMessage = WM_APP + 1;
@@ -19,10 +19,10 @@ class FormDrops {
 
   explicit FormDrops(FormWindow& owner) : owner_(owner) {}
 
-  /// Has the window accept drops once the form has been shown: what this needs of the system takes its time.
+  /// Makes the window accept drops once the form has been shown, because registering takes some time.
   void BeginLater() const;
   void End() { registration_.reset(); }
-  /// Handles the two messages; false for any other.
+  /// Handles the two messages. Returns false for any other.
   bool OnMessage(UINT message);
 
  private:
@@ -31,7 +31,7 @@ class FormDrops {
 
   FormWindow& owner_;
   std::optional<DropRegistration> registration_;
-  form::DroppedItems dropped_;  // not told yet
+  form::DroppedItems dropped_;  // not reported yet
 };
 
 }  // namespace vantor::win32

@@ -16,11 +16,11 @@ bool FormKeys::OnKey(const MSG& message) {
     form_.MoveFocus(GetKeyState(VK_SHIFT) < 0);
     return true;
   }
-  // A key that went down elsewhere was meant for elsewhere: the Enter that closed a message, say.
+  // A key that was pressed in another window was meant for that one, such as the Enter that closed a message.
   if (!down_[key]) return false;
   down_[key] = false;
   form_.InputKeyUp(static_cast<form::Key>(key));
-  return form_.Window() == nullptr;  // unloaded: nobody is left to see the message
+  return form_.Window() == nullptr;  // unloaded: there is no window left for the message
 }
 
 }  // namespace vantor::win32

@@ -14,7 +14,7 @@ WindowStyles StylesOf(const form::Form& form) {
     return {WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN, WS_EX_DLGMODALFRAME};
   }
   if (form.Host() != nullptr) return {WS_POPUP | WS_CLIPCHILDREN, WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW};
-  // The box and the menu are not drawn, but let the taskbar minimise the window.
+  // The minimise box and the menu are not drawn, but let the taskbar minimise the window.
   return {WS_POPUP | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN, 0};
 }
 
@@ -28,7 +28,7 @@ int FormPlacement::ScaledDpi() const { return static_cast<int>(std::lround(scree
 RECT FormPlacement::BoundsInPixels() const {
   const form::Form& form = owner_.Form();
   RECT place = AllScreens().PixelsOf(form.Bounds());
-  // While it is between two screens, its size is still that of its controls.
+  // While the form is between two screens, its size still is that of its controls.
   place.right = place.left + Screens::ToPixels(form.Inside().Width, dpi_);
   place.bottom = place.top + Screens::ToPixels(form.Inside().Height, dpi_);
   const WindowStyles styles = StylesOf(form);
@@ -53,7 +53,7 @@ void FormPlacement::Apply() {
   placing_ = false;
 }
 
-/// Not every Windows scales a title bar with the screen: what counts is that the controls have their room.
+/// Not every version of Windows scales title bars with the screen: what counts is the room for the controls.
 void FormPlacement::FitInside() const {
   const HWND window = owner_.Hwnd();
   const RECT inside = ClientArea(window);
@@ -74,8 +74,8 @@ void FormPlacement::Report() {
   owner_.Form().InputMoved(bounds.Left, bounds.Top);
 }
 
-/// Where the top left corner goes when the resolution changes. While the user drags the form, what is under the cursor
-/// stays there; and the form's middle stays on the screen that it came to, or it would be sent back to the other.
+/// The new place of the top left corner when the resolution changes. While the user drags the form, the point under the
+/// cursor stays there; and the form's middle stays on its new screen, or the form would be sent back to the old one.
 POINT FormPlacement::CornerAt(int dpi) const {
   const RECT place = WindowArea(owner_.Hwnd());
   POINT fixed{place.left, place.top};

@@ -15,28 +15,28 @@ struct WindowStyles {
 };
 [[nodiscard]] WindowStyles StylesOf(const form::Form& form);
 
-/// Where a form's window stands, and at how many dots per inch it is shown.
+/// The place of a form's window, and the number of dots per inch at which it is shown.
 class FormPlacement {
  public:
   explicit FormPlacement(FormWindow& owner);
 
-  /// Dots per inch that the form is shown at: its screen's, or less where the form would not fit.
+  /// The dots per inch at which the form is shown: those of its screen, or fewer if the form would not fit.
   [[nodiscard]] int Dpi() const { return dpi_; }
   /// The form's bounds in pixels, with the edges of a dialog around them.
   [[nodiscard]] RECT BoundsInPixels() const;
 
-  /// Brings the window to where the form is.
+  /// Moves the window to the form's bounds.
   void Apply();
-  /// Moves the window to where it is to be when its screen has another resolution.
+  /// Moves the window to its new place when the resolution of its screen changes.
   void MoveForDpi(int dpi);
-  /// Tells the form where the window is, if it was moved.
+  /// Reports the window's place to the form if it was moved.
   void Report();
-  /// The form's window is to be shown at the scale that the form has now. Returns whether that is another one.
+  /// Takes on the form's current scale. Returns whether it has changed.
   bool TakeScale();
-  /// Notes the resolution of the screen that the window is on. Returns whether it is another one, of which the form
-  /// then knows.
+  /// Takes on the resolution of the screen that the window is on, and tells the form if it has changed. Returns whether
+  /// it has.
   bool TakeScreenDpi(int dpi);
-  /// The same, asking for it.
+  /// The same, asking the system for the resolution.
   bool TakeScreenDpi();
 
  private:

@@ -32,7 +32,7 @@ const wchar_t* FormClass(form::BorderStyle border, WNDPROC procedure) {
   return name;
 }
 
-/// After a drag one more move may be told with the button held that is up by now: what counts is the mouse itself.
+/// After a drag, one more move may be reported with the button held down although it is up: the mouse itself is asked.
 form::MouseButton HeldButton(WPARAM buttons) {
   const int left = GetSystemMetrics(SM_SWAPBUTTON) != 0 ? VK_RBUTTON : VK_LBUTTON;
   if ((buttons & MK_LBUTTON) != 0)
@@ -120,7 +120,7 @@ void FormWindow::ShowVisible() {
   if (form_.Visible()) {
     SetOwnerWindow(desktop_.OwnerFor(*this));
     placement_.Apply();
-    if (placement_.TakeScreenDpi()) TakeScale();  // a hidden window may not be told
+    if (placement_.TakeScreenDpi()) TakeScale();  // a hidden window may not have been told
     if (form_.Host() != nullptr) return ShowOnHost();
     SetWindowPos(Hwnd(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
     if (form_.WindowState() == form::WindowState::Minimized) {
@@ -132,16 +132,16 @@ void FormWindow::ShowVisible() {
     }
     return;
   }
-  // Otherwise the system brings another program's window to the front.
+  // Otherwise the system would bring another program's window to the front.
   if (GetActiveWindow() == Hwnd()) {
     if (const FormWindow* successor = desktop_.SuccessorOf(*this)) SetActiveWindow(successor->Hwnd());
   }
   ShowWindow(Hwnd(), SW_HIDE);
-  SetOwnerWindow(nullptr);  // Wine does not let a window into the topmost band that owns a hidden one
+  SetOwnerWindow(nullptr);  // Wine does not make a window topmost that owns a hidden one
   desktop_.WakeUp();
 }
 
-/// Without taking the keyboard from the host.
+/// Shows the window without taking the focus from the host.
 void FormWindow::ShowOnHost() {
   SetWindowPos(Hwnd(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   SetTopMost(form_.TopMost());
@@ -165,7 +165,7 @@ void FormWindow::SetTopMost(bool topMost) {
 }
 
 void FormWindow::Drag() {
-  // The system has taken the button's release by the time the move ends.
+  // The system has consumed the release of the button by the time the move ends.
   const DWORD point = GetMessagePos();
   ReleaseCapture();
   SendMessageA(Hwnd(), WM_NCLBUTTONDOWN, HTCAPTION, static_cast<LPARAM>(point));
@@ -174,7 +174,7 @@ void FormWindow::Drag() {
 
 void FormWindow::Activate() {
   if (IsWindowVisible(Hwnd()) == FALSE || GetActiveWindow() == Hwnd()) return;
-  // Another program's window that the user works in is left in front.
+  // If the user is working in another program's window, that stays in front.
   DWORD process = 0;
   const HWND foreground = GetForegroundWindow();
   if (foreground != nullptr) GetWindowThreadProcessId(foreground, &process);
@@ -185,11 +185,11 @@ void FormWindow::Activate() {
   }
 }
 
-/// Fits the outline to the size.
+/// Fits the window's outline to its size.
 void FormWindow::Shape() const {
   if (form_.BorderStyle() != form::BorderStyle::Line || IsIconic(Hwnd()) != FALSE) return;
   RoundCorners(Hwnd(), desktop_.Theme().Colors(), Dpi() / 96.0);
-  // The controls at the old edge show a piece of it.
+  // Controls at the old edge still show a part of it.
   RedrawWindow(Hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
@@ -213,7 +213,7 @@ void FormWindow::OnDpiChanged(int dpi) {
 }
 
 void FormWindow::ScreensChanged() {
-  if (!placement_.TakeScreenDpi()) placement_.Report();  // the same pixels may lie elsewhere on the desktop now
+  if (!placement_.TakeScreenDpi()) placement_.Report();  // the same pixels may now be at another place on the desktop
   TakeScale();
   Refresh();
   form_.InputScreensChanged();
@@ -225,11 +225,11 @@ void FormWindow::OnSize(WPARAM kind) {
   if (state == form_.WindowState()) return;
   form_.InputWindowState(state);
   if (state == form::WindowState::Minimized) return;
-  placement_.Apply();  // the program may have moved the form meanwhile
+  placement_.Apply();  // the program may have moved the form while it was minimised
   if (GetActiveWindow() == Hwnd()) GiveFocus();
 }
 
-/// The form itself does nothing with the keyboard.
+/// Passes the focus on to a control, because the form itself does not use it.
 void FormWindow::GiveFocus() const {
   const form::Control* const control = form_.ActiveControl();
   if (control != nullptr && control->Window() != nullptr) control->Window()->TakeFocus();
@@ -260,7 +260,7 @@ LRESULT CALLBACK FormWindow::Procedure(HWND handle, UINT message, WPARAM wParam,
   return result;
 }
 
-/// The colour of the form, and its line.
+/// Paints the colour of the form, and its line.
 void FormWindow::PaintBackground(HDC dc) const {
   const RECT area = ClientArea(Hwnd());
   const Theme& theme = desktop_.Theme();
@@ -276,7 +276,7 @@ void FormWindow::OnActivate(bool active) {
   form_.InputActive(active);
   if (active) {
     desktop_.Activated(*this);
-    desktop_.StandBehind(*this);  // other programs' windows may have come between
+    desktop_.StandBehind(*this);  // other programs' windows may have got in between
   } else {
     keys_.Forget();
   }
@@ -294,7 +294,7 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_LBUTTONDOWN:
       form_.InputMouseDown();
-      SetCapture(Hwnd());  // a narrow gap between buttons is soon left
+      SetCapture(Hwnd());  // the mouse soon leaves a narrow gap between buttons
       return 0;
     case WM_LBUTTONUP:
       ReleaseCapture();
@@ -314,9 +314,9 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_WINDOWPOSCHANGED:
       placement_.Report();
-      break;  // WM_SIZE comes of it
+      break;  // which sends WM_SIZE
     case WM_DPICHANGED:
-      // Not where it says: any program may send an address.
+      // The place that it suggests is ignored: any program may send any address.
       OnDpiChanged(desktop_.Screens().WithTextScale(HIWORD(wParam)));
       return 0;
     case WM_CLOSE:
@@ -328,11 +328,11 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   return DefWindowProcW(Hwnd(), message, wParam, lParam);
 }
 
-/// What the system and other programs ask.
+/// Handles messages of the system and other programs.
 LRESULT FormWindow::OnSystemMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_SYSCOMMAND:
-      // F10 and Alt would begin a menu that the form doesn't have; Alt and Space open the system's.
+      // F10 and Alt would open a menu that the form doesn't have; Alt+Space opens the system menu.
       if ((wParam & 0xFFF0) == SC_KEYMENU && lParam != VK_SPACE) return 0;
       break;
     case WM_GETOBJECT:

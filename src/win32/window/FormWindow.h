@@ -15,7 +15,7 @@ namespace vantor::win32 {
 class ControlWindow;
 class Desktop;
 
-/// A form's window with the windows of its controls.
+/// A form's window: its life and painting. Its parts deal with the controls, keys, drops, place and tool tips.
 class FormWindow final : public form::FormWindow {
  public:
   FormWindow(Desktop& desktop, form::Form& form, bool onTaskbar);
@@ -32,17 +32,17 @@ class FormWindow final : public form::FormWindow {
   [[nodiscard]] HWND Hwnd() const { return handle_.Get(); }
   [[nodiscard]] win32::Desktop& Desktop() const { return desktop_; }
   [[nodiscard]] form::Form& Form() const { return form_; }
-  /// Dots per inch that the form is shown at: its screen's, or less where the form would not fit.
+  /// The dots per inch at which the form is shown: those of its screen, or fewer if the form would not fit.
   [[nodiscard]] int Dpi() const { return placement_.Dpi(); }
 
   /// The control's window with this handle; null for any other handle.
   [[nodiscard]] ControlWindow* Find(HWND handle) const { return controls_.Find(handle); }
 
-  /// The window that this one stands above and goes away with.
+  /// The window that this one stays above and is destroyed with.
   [[nodiscard]] HWND OwnerWindow() const { return owner_; }
   void SetOwnerWindow(HWND owner);
 
-  /// From here on the form and its controls are not touched any more; the window is hidden.
+  /// Hides the window; from now on it does not access the form or its controls any more.
   void Retire();
   [[nodiscard]] bool Retired() const { return retired_; }
 
@@ -59,16 +59,16 @@ class FormWindow final : public form::FormWindow {
   };
   [[nodiscard]] bool IsHandling() const { return handling_ > 0; }
 
-  /// Sees the messages for the form and its controls before they do. Returns true for one that is done with.
+  /// Gets the messages for the form and its controls first. Returns true if one needs no further handling.
   bool Preview(const MSG& message);
-  /// The mouse moves over a free spot, with the buttons of a mouse message's wParam.
+  /// The mouse moves over the form itself; `buttons` is the wParam of the mouse message.
   void MouseMoves(WPARAM buttons);
   void HideToolTip() const { tips_.Hide(); }
-  /// Whether the user may use the form changed.
+  /// Enables or disables the window, depending on which form is modal.
   void ShowEnabled();
-  /// Fonts, colours and places are shown anew.
+  /// Shows all fonts, colours and places again.
   void Refresh();
-  /// The screens, their resolutions or the room on them are others now.
+  /// The screens, their resolutions or their work areas have changed.
   void ScreensChanged();
 
  private:
@@ -78,7 +78,7 @@ class FormWindow final : public form::FormWindow {
   void OnActivate(bool active);
   void OnSize(WPARAM kind);
   void OnDpiChanged(int dpi);
-  /// Lays all out for the resolution that the form is to be shown at, if that is another one.
+  /// Lays everything out again if the scale of the form has changed.
   void TakeScale();
   void PaintBackground(HDC dc) const;
   void Shape() const;
@@ -96,7 +96,7 @@ class FormWindow final : public form::FormWindow {
   FormControls controls_;
   ToolTips tips_;
   FormDrops drops_;
-  WindowHandle handle_;  // goes before the controls' windows, which are its children
+  WindowHandle handle_;  // destroyed before the controls' windows, which are its children
 };
 
 }  // namespace vantor::win32

@@ -13,10 +13,10 @@ namespace vantor::win32 {
 
 namespace {
 
-/// How far a folder stands in from the one that holds it, in pixels at 96 dots per inch.
+/// The indentation of a folder relative to its parent, in pixels at 96 dots per inch.
 constexpr int Indentation = 10;
 
-/// An entry's indentation in pixels. In a deep folder the steps are smaller, so that half of the width is left.
+/// An entry's indentation in pixels. In a deep folder the steps are smaller, so that half of the width remains.
 int IndentOf(const form::OpenList& list, int index, LONG width, double scale) {
   const int deepest = list.LevelOf(list.ListCount() - 1);
   const double step = std::min(Indentation * scale, width / 2.0 / std::max(deepest, 1));
@@ -66,7 +66,7 @@ void ListWindow::ShowIndex() {
   if (SendMessageW(Hwnd(), LB_GETCURSEL, 0, 0) == list_.ListIndex()) return;
   SendMessageW(Hwnd(), LB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()), 0);
   if (list_.ListCount() == 0 || list_.LevelOf(list_.ListCount() - 1) == 0) return;
-  // Below a folder stands what is in it, which should be seen as well.
+  // The subfolders below the folder should be visible as well.
   const auto shown = static_cast<int>(ClientSize().cy / SendMessageW(Hwnd(), LB_GETITEMHEIGHT, 0, 0));
   SendMessageW(Hwnd(), LB_SETTOPINDEX, static_cast<WPARAM>(std::max(list_.ListIndex() - shown / 3, 0)), 0);
 }

@@ -11,9 +11,9 @@ class PaintedWindow : public ControlWindow {
 
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   void Show(form::Property /*property*/) override { Redraw(); }
-  /// Paints the window onto the screen; by Paint, unless a kind knows better.
+  /// Paints the window onto the screen; by means of Paint unless overridden.
   virtual void PaintOn(HDC dc);
-  /// Draws all of the window.
+  /// Draws the whole window.
   virtual void Paint(Canvas& /*canvas*/) {}
 };
 

@@ -13,7 +13,7 @@ namespace vantor::win32 {
 
 namespace {
 
-/// Starts a row for a reader, after that has had its answer.
+/// Starts a row for a screen reader, after the reader has its answer.
 constexpr UINT StartRowMessage = WM_APP + 1;
 
 }  // namespace
@@ -33,7 +33,7 @@ std::wstring RowListWindow::ShownText(std::size_t place) const {
 
 void RowListWindow::Show(form::Property property) {
   if (property == form::Property::List) {
-    // A mouse that rests where the rows come up points at none of them.
+    // A resting mouse does not point at rows that appear under it.
     hot_ = -1;
     GetCursorPos(&stillAt_);
   }
@@ -110,7 +110,7 @@ void RowListWindow::PaintOn(HDC dc) {
   FillRect(dc, &rest, Theme().Brush(background));
 }
 
-/// Readers follow the row that is walked to, while the keyboard stays with the line.
+/// Makes readers follow the current row, while the focus stays with the line.
 void RowListWindow::SayCurrent() const {
   const int row = list_.CurrentRow();
   if (row == -1) {
@@ -191,11 +191,11 @@ void RowListWindow::OnScroll(WORD what) {
 LRESULT RowListWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_SIZE:
-      // The rows are cut elsewhere.
+      // The texts are cut off at another place.
       if (std::exchange(width_, LOWORD(lParam)) != LOWORD(lParam)) Redraw();
       break;
     case WM_NCHITTEST:
-      return DefWindowProcW(Hwnd(), message, wParam, lParam);  // the class would take the scroll bar for its inside
+      return DefWindowProcW(Hwnd(), message, wParam, lParam);  // the class would not see the scroll bar
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
       pressed_ = true;

@@ -10,14 +10,14 @@
 
 namespace vantor::win32 {
 
-/// A list of drawn rows. It remembers the rows that it shows, so that only those that changed are painted.
+/// A list of drawn rows. It remembers the rows that it shows, so that only changed rows are painted.
 class RowListWindow final : public PaintedWindow {
  public:
   RowListWindow(FormWindow& owner, form::RowList& list);
 
   void Refresh() override;
   void Describe(AccessibleState& state) const override;
-  /// The text of a row on the window, counted from the top; "" for none.
+  /// The text of a visible row, counted from the top; "" for none.
   [[nodiscard]] std::wstring ShownText(std::size_t place) const;
   [[nodiscard]] long PartCount() const override { return list_.RowCount(); }
   [[nodiscard]] long SelectedPart() const override { return list_.CurrentRow() + 1; }
@@ -39,10 +39,10 @@ class RowListWindow final : public PaintedWindow {
     friend bool operator==(const ShownRow&, const ShownRow&) = default;
   };
 
-  /// Asks for the rows in sight.
+  /// Asks for the visible rows.
   void Update();
   void UpdateScrollBar();
-  /// A row's place on the window, by its number from the top.
+  /// The area of a visible row, counted from the top.
   [[nodiscard]] RECT AreaOf(int place) const;
   /// The row under a point of the window; -1 for none.
   [[nodiscard]] int RowAt(LPARAM point) const;
@@ -56,7 +56,7 @@ class RowListWindow final : public PaintedWindow {
   std::vector<ShownRow> shown_;
   Wheel wheel_;
   int hot_ = -1;     // the row that the mouse is over
-  POINT stillAt_{};  // where the mouse was when the rows came, on the screen
+  POINT stillAt_{};  // where the mouse was on the screen when the rows appeared
   int width_ = 0;
   bool pressed_ = false;
   int pressedRow_ = -1;

@@ -97,7 +97,7 @@ void FrameWindow::Paint(Canvas& canvas) {
   canvas.EdgedBox({0, top, double(canvas.Width()), canvas.Height() - top}, 4 * Scale(), line, Theme().Colors().Line,
                   background);
   if (frame_.Caption().empty()) return;
-  // The caption interrupts the line, which it stands on: above the line is what is behind the frame.
+  // The caption interrupts the line, on which it is centred: above the line, the frame's surroundings show through.
   const LONG left = std::lround(8 * Scale());
   const LONG gap = std::lround(4 * Scale());
   const LONG right = std::min(left + text.cx + 2 * gap, canvas.Width() - left);
@@ -122,7 +122,7 @@ LRESULT FrameWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       Owner().Form().InputMouseDown();
       pressed_ = true;
       pressedAt_ = point;
-      SetCapture(Hwnd());  // a narrow gap between buttons is soon left
+      SetCapture(Hwnd());  // the mouse soon leaves a narrow gap between buttons
       return 0;
     case WM_LBUTTONUP:
       return OnRelease();
@@ -138,7 +138,7 @@ LRESULT FrameWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   }
 }
 
-/// A frame may be clicked, or the form may be dragged by it: the hand decides by moving.
+/// A frame can be clicked, and the form can be dragged by it: it is a drag if the mouse moves.
 LRESULT FrameWindow::OnMouseMove(WPARAM buttons, POINT point) {
   if ((buttons & MK_LBUTTON) == 0) pressed_ = false;
   if (pressed_) {

@@ -11,7 +11,7 @@ namespace vantor::win32 {
 
 namespace {
 
-/// Widest tool tip, in pixels at 96 dots per inch; longer ones are broken into lines.
+/// The greatest width of a tool tip, in pixels at 96 dots per inch; longer texts wrap.
 constexpr int MaximumWidth = 480;
 
 }  // namespace
@@ -22,7 +22,7 @@ void ToolTips::Relay(const MSG& message) {
   if (!window_) {
     if (control->TipText().empty()) return;
     const CommonControls version6;
-    // Owned by the form it would take the form's topmost place from it under Wine.
+    // If the form owned it, the form would stop being topmost under Wine.
     window_.Reset(CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
                                   CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT,
                                   owner_.Desktop().ApplicationWindow(), nullptr, nullptr, nullptr));

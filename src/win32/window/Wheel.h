@@ -4,11 +4,11 @@
 
 namespace vantor::win32 {
 
-/// Turns the wheel's messages into rows to scroll by, as the user has set. Fine wheels turn by parts of a row, which
-/// are kept until they are a whole one.
+/// Converts wheel messages to rows to scroll by, according to the user's settings. Fractions of a row, which
+/// high-resolution wheels send, are added up to whole rows.
 class Wheel {
  public:
-  /// Down is positive. `page` is the number of rows that the user may have set instead.
+  /// Positive is down. `page` is the number of rows for users who have chosen to scroll by pages.
   [[nodiscard]] int Rows(WPARAM turned, int page) {
     UINT lines = 3;
     SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);

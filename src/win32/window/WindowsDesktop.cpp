@@ -87,14 +87,14 @@ void Desktop::ReportError() const {
   try {
     if (OnError) OnError(std::current_exception());
   } catch (...) {
-    // Not even the question could be asked. Nothing may go on into the system's frames.
+    // Not even the question could be asked. No exception may reach the system's code.
   }
 }
 
 void Desktop::StartTimer(form::Timer& timer) {
   StopTimer(timer);
   if (timer.Interval() <= 0) return;
-  // Each start has its own id, so that a tick of an earlier start that still waits counts for nothing.
+  // Each start has its own id, so that a pending tick of an earlier start is ignored.
   timers_.push_back({++lastTimerId_, &timer});
   SetTimer(application_.Get(), lastTimerId_, static_cast<UINT>(timer.Interval()), nullptr);
 }
@@ -154,7 +154,7 @@ void Desktop::SessionEnds() {
 void Desktop::SettingsChanged() {
   theme_.Forget();
   screens_.Forget();
-  // By index, because what this causes may unload forms.
+  // By index, because forms may be unloaded in the process.
   std::size_t next = 0;
   while (next < windows_.size()) {
     FormWindow& window = *windows_[next++];
@@ -177,7 +177,7 @@ void Desktop::Discard(std::unique_ptr<form::FormWindow> window) {
   std::erase(windows_, gone.get());
   if (main_ == gone.get()) main_ = nullptr;
   if (active_ == gone.get()) active_ = nullptr;
-  // Windows destroys what a window owns along with it.
+  // Windows destroys owned windows together with their owner.
   for (FormWindow* other : windows_) {
     if (other->OwnerWindow() == gone->Hwnd()) other->SetOwnerWindow(application_.Get());
   }
@@ -190,7 +190,7 @@ void Desktop::Sweep() {
   const auto gone = std::stable_partition(discarded_.begin(), discarded_.end(),
                                           [](const auto& window) { return window->IsHandling(); });
   if (gone == discarded_.end()) return;
-  // Destroying a window may make others act, which may discard more.
+  // Destroying a window may trigger handlers, which may discard further windows.
   std::vector<std::unique_ptr<FormWindow>> doomed(std::make_move_iterator(gone),
                                                   std::make_move_iterator(discarded_.end()));
   discarded_.erase(gone, discarded_.end());
@@ -201,13 +201,13 @@ void Desktop::ModalChanged() {
 }
 
 HWND Desktop::OwnerFor(const FormWindow& window) const {
-  // Wine does not let a window out of the topmost band while its owner stands directly behind it.
+  // Wine can't stop a window being topmost while its owner is directly behind it.
   if (IsMain(window)) return nullptr;
-  // Nor one into it that owns another above it. One that hangs on another is placed by hand.
+  // Nor can it make a window topmost that owns another one above it. An attached form is placed explicitly.
   if (window.Form().Host() != nullptr) return nullptr;
   const FormWindow* owner = main_;
   if (ModalForm() == &window.Form() && active_ != nullptr && active_ != &window) owner = active_;
-  // What a minimised or hidden window owns can't be seen.
+  // A window owned by a minimised or hidden one is invisible.
   const bool useful = owner != nullptr && IsWindowVisible(owner->Hwnd()) != FALSE && IsIconic(owner->Hwnd()) == FALSE;
   return useful ? owner->Hwnd() : application_.Get();
 }

@@ -16,21 +16,21 @@
 
 namespace vantor::win32 {
 
-/// Forms as real windows. One for a program, on the thread that uses it.
+/// Forms as real windows. There is one per program, on the thread that uses it.
 class Desktop final : public form::UserInterface {
  public:
   Desktop();
   ~Desktop() override;
 
-  /// Told of exceptions that reach a window procedure or the message loop; they end there. The loop goes on.
+  /// Called for exceptions that reach a window procedure or the message loop. They are caught there; the loop goes on.
   std::function<void(std::exception_ptr)> OnError;
 
-  /// Names the hidden application window, by which another copy of the program finds this one.
+  /// Sets the title of the hidden application window, by which other copies of the program find this one.
   void SetApplicationTitle(std::wstring_view title);
   /// The hidden window (class "ThunderRT6Main") that owns the forms' windows.
   [[nodiscard]] HWND ApplicationWindow() const { return application_.Get(); }
 
-  /// Handles the messages that wait, and returns when there are none.
+  /// Handles pending messages and returns when there are none left.
   void HandlePending();
 
   [[nodiscard]] form::Screen ScreenAt(const form::Rect& place) const override;
@@ -45,9 +45,9 @@ class Desktop final : public form::UserInterface {
 
   [[nodiscard]] const win32::Screens& Screens() const { return screens_; }
   [[nodiscard]] const win32::Theme& Theme() const { return theme_; }
-  /// Entered by those who need it.
+  /// To be entered by whatever needs COM.
   [[nodiscard]] Apartment& Com() { return com_; }
-  /// Runs a window's work and hands what it throws to OnError.
+  /// Runs a function and reports exceptions to OnError.
   template <class Work>
   void Guard(const Work& work) const {
     try {
@@ -57,16 +57,16 @@ class Desktop final : public form::UserInterface {
     }
   }
   [[nodiscard]] bool IsMain(const FormWindow& window) const { return &window == main_; }
-  /// The window to stand above: the bar for a panel, the one in use for a modal form.
+  /// The owner for a window, which it stays above: the bar for a panel, the active window for a modal form.
   [[nodiscard]] HWND OwnerFor(const FormWindow& window) const;
-  /// Puts the application window directly behind the main form, where another copy of the program expects it.
+  /// Puts the application window directly behind the main form, where other copies of the program expect it.
   void StandBehind(const FormWindow& window) const;
-  /// The window that comes to the front when this one goes; null for none.
+  /// The window that comes to the front when this one closes; null for none.
   [[nodiscard]] FormWindow* SuccessorOf(const FormWindow& window) const;
   void Activated(FormWindow& window) { active_ = &window; }
-  /// Has the loops look again whether they are to end.
+  /// Makes the loops check again whether they are to end.
   void WakeUp() override;
-  /// Windows ends: the main form closes, once.
+  /// Windows shuts down: the main form closes, once.
   void SessionEnds();
   void SettingsChanged();
 
@@ -86,7 +86,7 @@ class Desktop final : public form::UserInterface {
   void HandleNext();
   void Handle(MSG& message);
   void Tick(UINT_PTR id);
-  /// Destroys the discarded windows that handle no message any more.
+  /// Destroys the discarded windows that are not handling a message any more.
   void Sweep();
 
   win32::Screens screens_;
@@ -95,7 +95,7 @@ class Desktop final : public form::UserInterface {
   WindowHandle application_;
   std::vector<FormWindow*> windows_;
   std::vector<std::unique_ptr<FormWindow>> discarded_;
-  FormWindow* main_ = nullptr;    // the first form that was shown, if not modally: the bar
+  FormWindow* main_ = nullptr;    // the bar: the first form that was shown non-modally
   FormWindow* active_ = nullptr;  // the one activated last
   std::vector<RunningTimer> timers_;
   UINT_PTR lastTimerId_ = 0;
