@@ -21,12 +21,16 @@ bool Near(HWND window, POINT place) {
 
 }  // namespace
 
-TEST_CASE("the bar climbs back above other windows, and comes along when the screen gets smaller") {
+TEST_CASE("the bar and its list climb back above other windows, and come along when the screen gets smaller") {
   const Folder folder;
   const int twips = TwipsPerPixel();
-  folder.WriteSettings({.Left = 740 * twips, .Top = 950 * twips});
+  folder.WriteSettings({.WebUpper = 1, .Left = 740 * twips, .Top = 950 * twips});
+  folder.WriteData("ListWeb", ListBytes({{"One", "http://one"}, {"Other", "http://other"}}));
   const Program program(folder);
   HWND bar = program.AwaitBar();
+  program.Press(VK_F12);
+  program.Type(L"w-o");
+  CHECK_BECOMES(program.FormOf(L"ListMatches") != nullptr, true);
   CHECK_BECOMES(window::IsTopMost(bar), true);
   HWND other = CreateWindowExW(WS_EX_TOPMOST | WS_EX_NOACTIVATE, L"STATIC", L"other", WS_POPUP, 0, 0, 1280, 1024,
                                nullptr, nullptr, nullptr, nullptr);
@@ -36,6 +40,10 @@ TEST_CASE("the bar climbs back above other windows, and comes along when the scr
   CHECK_BECOMES(window::IsAbove(bar, other), true);
   // Another copy takes the window before the application's for the bar.
   CHECK_BECOMES(GetWindow(FindWindowA("ThunderRT6Main", "Vantor Orbel"), GW_HWNDPREV) == bar, true);
+  HWND list = program.FormOf(L"ListMatches");
+  CHECK(window::IsTopMost(list));
+  CHECK(GetWindow(bar, GW_HWNDPREV) == list);
+  CHECK(window::Bounds(list).bottom <= window::Bounds(bar).top);  // there is no room below
   DestroyWindow(other);
 
   SKIP_UNLESS(OwnDesktop(), "a screen of the test's own");
