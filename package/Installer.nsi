@@ -52,7 +52,7 @@ VIAddVersionKey "ProductVersion" "${VERSION}"
 !define MUI_PAGE_HEADER_SUBTEXT "Choose whether one key is to bring it up."
 !define MUI_COMPONENTSPAGE_TEXT_TOP "With the shortcut on the desktop, Ctrl+Shift+L brings Vantor up from anywhere."
 !define MUI_COMPONENTSPAGE_TEXT_INSTTYPE " "
-!define MUI_COMPONENTSPAGE_TEXT_COMPLIST " "
+!define MUI_COMPONENTSPAGE_TEXT_COMPLIST "To install:"
 !insertmacro MUI_PAGE_COMPONENTS
 !define MUI_DIRECTORYPAGE_TEXT_TOP "Vantor keeps your list and settings in its own folder. Choose one that you may write to."
 !define MUI_PAGE_CUSTOMFUNCTION_LEAVE RefuseForeignFolder
@@ -68,7 +68,7 @@ VIAddVersionKey "ProductVersion" "${VERSION}"
 !define MUI_PAGE_HEADER_TEXT "Remove Vantor"
 !define MUI_PAGE_HEADER_SUBTEXT "Choose what goes."
 !define MUI_COMPONENTSPAGE_TEXT_INSTTYPE " "
-!define MUI_COMPONENTSPAGE_TEXT_COMPLIST " "
+!define MUI_COMPONENTSPAGE_TEXT_COMPLIST "To remove:"
 !insertmacro MUI_UNPAGE_COMPONENTS
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE "English"
