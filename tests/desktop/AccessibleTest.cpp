@@ -28,14 +28,18 @@ const Names States = {{STATE_SYSTEM_UNAVAILABLE, " unavailable"}, {STATE_SYSTEM_
 std::string Heard(HWND control) {
   const Accessible heard(control);
   const LONG role = heard.Role();
+  const LONG state = heard.State();
   const auto known = std::ranges::find(Roles, role, &Names::value_type::first);
   std::string line = known != Roles.end() ? known->second : "?";
-  if (!heard.Name().empty()) line += " \"" + Narrow(heard.Name()) + '"';
-  if (!heard.Key().empty()) line += " <" + Narrow(heard.Key()) + '>';
+  const auto add = [&line](const char* begin, const std::wstring& text, char end) {
+    if (!text.empty()) line += begin + Narrow(text) + end;
+  };
+  add(" \"", heard.Name(), '"');
+  add(" <", heard.Key(), '>');
   if (role == ROLE_SYSTEM_TEXT || role == ROLE_SYSTEM_COMBOBOX) line += " {" + Narrow(heard.Value()) + '}';
   for (const auto& [bit, word] : States) {
     const bool taken = bit == STATE_SYSTEM_READONLY && role == ROLE_SYSTEM_STATICTEXT;
-    if ((heard.State() & bit) != 0 && !taken) line += word;
+    if ((state & bit) != 0 && !taken) line += word;
   }
   return line;
 }

@@ -77,16 +77,6 @@ class Folder {
   void CopyProgram(const std::string& program, const std::string& name) const {
     std::filesystem::copy_file(Beside(Wide(program)), Place(name), std::filesystem::copy_options::overwrite_existing);
   }
-  /// Takes the whole folder to the root of another drive, as its medium put in there would.
-  void MoveTo(const std::string& root) {
-    const std::string there = root + path_.substr(path_.rfind('\\') + 1);
-    std::filesystem::copy(Wide(path_), Wide(there), std::filesystem::copy_options::recursive);
-    // A system process that the program called may still stand in the folder, which then stays, empty.
-    std::error_code ignored;
-    std::filesystem::remove_all(Wide(path_), ignored);
-    path_ = there;
-  }
-
   /// A data file, by its name without the ending.
   void WriteData(const std::string& name, const std::string& bytes) const {
     Write("Vantor\\" + name + ".Orbel", bytes);

@@ -35,8 +35,8 @@ class Recorder {
   /// Only on a desktop of the test's own: puts it in the place of Explorer and rundll32, and behind web and mail
   /// addresses.
   void ReplaceSystem() const {
-    RemoveSystemPrograms();
     for (const std::wstring& program : SystemPrograms()) {
+      std::filesystem::remove(program);
       std::filesystem::copy_file(Wide(folder_.Path("recorder.exe")), program);
     }
     for (const std::wstring scheme : {L"http", L"https", L"mailto"}) {
@@ -45,27 +45,16 @@ class Recorder {
       SetKey(ClassesRoot(), Classes + scheme + L"\\shell\\open\\command", L"",
              Wide(Quoted() + ' ' + Narrow(scheme) + " \"%1\""));
     }
-  }
-  /// Only on a desktop of the test's own: takes Explorer, rundll32, the mail program and telephony away.
-  static void RemoveSystemPrograms() {
-    for (const std::wstring& program : SystemPrograms()) std::filesystem::remove(program);
     for (const std::wstring program : {L"rundll32.exe", L"regedit.exe"})
       SetKey(HKEY_CURRENT_USER, L"Software\\Wine\\DllOverrides", program, L"native");
-    SetKey(HKEY_CURRENT_USER, L"Software\\Wine\\DllOverrides", L"tapi32", L"");
-    RegDeleteTreeW(HKEY_CLASSES_ROOT, L"mailto");
+    SetKey(HKEY_CURRENT_USER, L"Software\\Wine\\DllOverrides", L"tapi32", L"");  // nobody is called
   }
-
   /// The command lines recorded so far.
   [[nodiscard]] std::vector<std::string> Lines() const {
     std::istringstream records(folder_.Read(RecordName));
     std::vector<std::string> lines;
     for (std::string line; std::getline(records, line);) lines.push_back(line);
     return lines;
-  }
-  /// Waits for the next command line that was not asked for yet.
-  std::string Next() {
-    if (!Eventually([this] { return Lines().size() > seen_; })) return "(nothing started)";
-    return Lines()[seen_++];
   }
 
  private:
@@ -88,7 +77,6 @@ class Recorder {
   [[nodiscard]] std::string Quoted() const { return '"' + folder_.Path("recorder.exe") + '"'; }
 
   const Folder& folder_;
-  std::size_t seen_ = 0;
 };
 
 inline std::string SystemFolder(int id) {
