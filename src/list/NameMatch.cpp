@@ -56,7 +56,7 @@ message::MessageKey CheckNameListed(const service::Language& language, std::wstr
   NameMatch match(language, StoredName(name));
   const auto& names = nameBox.Entries();
   const bool listed = std::any_of(names.begin(), names.end(), [&](const std::wstring& entry) {
-    return match.Equals(HasQuote(entry) ? StoredName(entry) : entry);
+    return HasQuote(entry) ? match.Equals(StoredName(entry)) : match.Equals(entry);  // most are not copied
   });
   return listed ? message::MessageNameAlreadyListed : message::MessageKey();
 }
