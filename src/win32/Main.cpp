@@ -12,17 +12,17 @@ namespace vantor::win32 {
 
 namespace {
 
-/// Nothing that lies beside the program or in the current folder is to be taken for a part of Windows, and no
-/// drive without a disk makes Windows ask for one. What this program starts inherits the current folder, which the
-/// shell too looks into for names without a folder: a file of the name "www.site.com" there would be run in a site's
-/// place.
+/// Makes sure that no file next to the program or in the current folder is mistaken for a part of Windows, and that
+/// Windows does not ask for a disk when a drive is empty. Programs started from here inherit the current folder, where
+/// the shell also searches for names without a folder: a file named "www.site.com" there would be run instead of
+/// opening the site.
 void Harden() {
   HeapSetInformation(nullptr, HeapEnableTerminationOnCorruption, nullptr, 0);
   SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
   SetCurrentDirectoryW(SystemFolder().c_str());
 
-  // Windows 7 has this call by an update only. SetDllDirectory would do without, but programs started from here
-  // would inherit it.
+  // Windows 7 has this call only after an update. SetDllDirectory does not need it, but programs started from here
+  // would inherit its effect.
   using SetDirectories = BOOL(WINAPI*)(DWORD);
   constexpr DWORD SystemFolderOnly = 0x800;  // LOAD_LIBRARY_SEARCH_SYSTEM32
   const auto setDirectories =
@@ -45,8 +45,8 @@ void RunProgram() {
 }  // namespace vantor::win32
 
 #ifdef __GLIBCXX__
-// The library's own handler writes the name of the uncaught exception's type to a console that is not there, and
-// brings 50 KB of demangler for it.
+// The library's own handler would write the type of the uncaught exception to a console that does not exist, and add
+// 50 KB of demangler for that.
 void __gnu_cxx::__verbose_terminate_handler() { std::abort(); }
 #endif
 
@@ -56,7 +56,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
     vantor::win32::RunProgram();
     return 0;
   } catch (...) {
-    // Every routine has its own trap; what reaches this point found no memory to report with.
+    // Every handler has its own trap; what reaches this point could not be reported for lack of memory.
     return 1;
   }
 }

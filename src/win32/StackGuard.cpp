@@ -1,5 +1,5 @@
-// What functions built with -fstack-protector ask for. The compiler's own library would fetch the guard from the
-// system's cryptography: libraries and milliseconds at every start.
+// What functions compiled with -fstack-protector need. The compiler's own library would get the guard from the system's
+// cryptography, which costs libraries and milliseconds at every start.
 
 #include <windows.h>
 
@@ -8,12 +8,12 @@
 
 extern "C" {
 
-std::uintptr_t __stack_chk_guard = 0xBB40E64E;  // for what runs before the guard is drawn
+std::uintptr_t __stack_chk_guard = 0xBB40E64E;  // for code that runs before the guard is set
 
 [[noreturn]] void __stack_chk_fail();
 }
 
-/// The stack has been overwritten, so nothing of this program may run any more: Windows ends it at once.
+/// The stack has been overwritten, so no more code of this program may run: Windows ends it at once.
 void __stack_chk_fail() {
   constexpr int StackCookieCheckFailure = 2;  // FAST_FAIL_STACK_COOKIE_CHECK_FAILURE
   asm volatile("int $0x29" : : "c"(StackCookieCheckFailure));
@@ -22,14 +22,14 @@ void __stack_chk_fail() {
 
 namespace {
 
-/// Draws the guard, before any other constructor: of what nobody outside foresees together, the time in its finest
-/// measure and where Windows has put stack and program.
+/// Sets the guard before any other constructor runs, to a value that can't be predicted from outside: a mixture of the
+/// time at the finest resolution and the addresses of the stack and the program.
 [[gnu::constructor(101), gnu::used]] void DrawGuard() {
   LARGE_INTEGER counter = {};
   QueryPerformanceCounter(&counter);
   FILETIME now = {};
   GetSystemTimeAsFileTime(&now);
-  constexpr std::uint32_t Spread = 0x9E3779B1;  // a prime that carries every bit upwards
+  constexpr std::uint32_t Spread = 0x9E3779B1;  // a prime that spreads every bit upwards
   std::uint32_t guard = 0;
   for (const DWORD part :
        {static_cast<DWORD>(counter.QuadPart), static_cast<DWORD>(counter.QuadPart >> 32), now.dwLowDateTime,
@@ -38,7 +38,7 @@ namespace {
     guard = (guard ^ static_cast<std::uint32_t>(part)) * Spread;
     guard ^= guard >> 15;
   }
-  // A text that runs over its end can't write the zero.
+  // A text that overflows its buffer can't write the zero byte.
   __stack_chk_guard = guard & 0xFFFFFF00;
 }
 

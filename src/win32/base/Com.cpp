@@ -10,7 +10,7 @@ namespace vantor::win32 {
 
 namespace {
 
-// What an object answers that has no such member, or has it in name only.
+// The answers of an object that lacks a member or does not implement it.
 bool MeansLacking(HRESULT result) {
   switch (result) {
     case E_NOTIMPL:
@@ -42,10 +42,10 @@ void CheckMade(HRESULT result) {
 
 namespace {
 
-/// Keeps the multithreaded apartment, and what services hold in it, from one thread's stay to the next one's. Without
-/// it every stay builds the apartment anew, which costs 3 handles each time under Wine, and hangs after some 60 times.
+/// Keeps the multithreaded apartment, and what services hold in it, alive between threads that use it. Otherwise each
+/// of them would create it again, which loses 3 handles each time under Wine, and hangs after some 60 times.
 void KeepMultithreadedApartment() {
-  // The call came with Windows 8.
+  // Available since Windows 8.
   using Increment = HRESULT(WINAPI*)(HANDLE*);
   static const bool kept = [] {
     const auto increment = FindFunction<Increment>(GetModuleHandleW(L"ole32.dll"), "CoIncrementMTAUsage");
@@ -105,7 +105,8 @@ std::optional<int> Variant::Number() const {
 
 Variant Variant::As(VARTYPE type) const {
   Variant as;
-  // The call only reads its source. Numbers get no separators of the user's, so that they read back anywhere.
+  // The call only reads its source. Numbers are not formatted for the user's locale, so that they can be parsed
+  // anywhere.
   VariantChangeTypeEx(&as, const_cast<Variant*>(this), LOCALE_INVARIANT, 0, type);
   return as;
 }
@@ -154,7 +155,7 @@ Variant LateBound::Invoke(const wchar_t* name, WORD kind, Arguments arguments) c
   EXCEPINFO error = {};
   HRESULT outcome = object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, kind, &parameters, &result, &error, nullptr);
   if (outcome == DISP_E_EXCEPTION) {
-    // The object's own failure is inside; that is the one that counts.
+    // The exception contains the object's own error code, which is the one that counts.
     if (error.pfnDeferredFillIn != nullptr) error.pfnDeferredFillIn(&error);
     if (error.scode != S_OK) outcome = error.scode;
     SysFreeString(error.bstrSource);

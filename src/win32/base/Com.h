@@ -16,13 +16,13 @@
 
 namespace vantor::win32 {
 
-/// An object could not be made, or refused a call. Never leaves the service that it happened in.
+/// An object could not be created, or a call failed. Never thrown out of a service.
 class ComError final : public std::exception {
  public:
   explicit ComError(bool lacking) : lacking_(lacking) {}
 
   [[nodiscard]] const char* what() const noexcept override { return "COM call failed"; }
-  /// Whether the object is missing or has no such call, and so never tried: the time for the plain Windows call.
+  /// Whether the object or the call is missing, so that nothing was attempted: then a plain Windows call can be used.
   [[nodiscard]] bool Lacking() const { return lacking_; }
 
  private:
@@ -31,7 +31,7 @@ class ComError final : public std::exception {
 
 /// Throws ComError unless the call succeeded.
 void Check(HRESULT result);
-/// The same for the making of an object, where any failure means that the object is missing.
+/// The same for creating an object, where any failure means that the object is missing.
 void CheckMade(HRESULT result);
 
 /// One thread's membership in COM, from the first Enter to the end of this object.
@@ -42,13 +42,13 @@ class Apartment {
   Apartment(const Apartment&) = delete;
   Apartment& operator=(const Apartment&) = delete;
 
-  /// Only the first call does anything. A thread that someone else entered in another mode is as good.
+  /// Only the first call does anything. It is no failure if the thread has already entered COM in another mode.
   void Enter();
 
  private:
   DWORD model_;
   bool entered_ = false;
-  bool owed_ = false;  // whether leaving is ours to do
+  bool owed_ = false;  // whether this object has to leave COM
 };
 
 template <class Interface>
@@ -74,7 +74,7 @@ class ComPointer : public Handle<ReferenceTraits<Interface>> {
 struct TextTraits : NullHandle<BSTR> {
   static void Close(BSTR text) { SysFreeString(text); }
 };
-/// Owns the text that a call returned, or one that is made for a call.
+/// Owns a text that a call returned, or one that is created for a call.
 using ComText = Handle<TextTraits>;
 
 /// Throws std::bad_alloc.
@@ -94,27 +94,27 @@ class Variant : public VARIANT {
   Variant(const Variant&) = delete;
   Variant& operator=(const Variant&) = delete;
 
-  /// The value as text or number; nothing when it can't be seen as one.
+  /// The value as text or number; nothing if it can't be converted.
   [[nodiscard]] std::optional<std::wstring> Text() const;
   [[nodiscard]] std::optional<int> Number() const;
 
  private:
-  /// The value in another type; empty when it has none there.
+  /// The value converted to another type; empty if that is impossible.
   [[nodiscard]] Variant As(VARTYPE type) const;
 };
 
-/// An object whose members are found by name at the time of the call. Every failure is a ComError.
+/// An object whose members are looked up by name when they are called. Every failure is a ComError.
 class LateBound {
  public:
   explicit LateBound(ComPointer<IDispatch> object) : object_(std::move(object)) {}
-  /// A new object of a class known by name, such as "WScript.Shell".
+  /// Creates an object by the name of its class, such as "WScript.Shell".
   [[nodiscard]] static LateBound Create(const wchar_t* className);
 
-  // The arguments are borrowed: slices of Variants that live to the end of the call.
+  // The arguments are borrowed: they are slices of Variants that exist until the end of the call.
   using Arguments = std::initializer_list<VARIANT>;
   Variant Call(const wchar_t* name, Arguments arguments = {}) const;
   [[nodiscard]] Variant Get(const wchar_t* name, Arguments arguments = {}) const;
-  /// The same for a member that is an object itself.
+  /// The same for a member that is itself an object.
   [[nodiscard]] LateBound Object(const wchar_t* name, Arguments arguments = {}) const;
   void Put(const wchar_t* name, const Variant& value) const;
 

@@ -8,12 +8,12 @@
 
 namespace vantor::win32 {
 
-// The system's interfaces have no virtual destructor; objects go by Release.
+// The system's interfaces have no virtual destructor; objects are destroyed by Release.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 
-/// The base of an object of our own that others hold by its interface: it ends with the last reference, and begins with
-/// one. Asked for, it is IUnknown and what Ids name, each of which is Interface or a base of it.
+/// The base of COM objects implemented here. An object starts with one reference and is destroyed with the last.
+/// QueryInterface supports IUnknown and Ids, each of which names Interface or a base of it.
 template <class Interface, const IID&... Ids>
 class ComObject : public Interface {
  public:

@@ -24,14 +24,14 @@ class Handle {
   [[nodiscard]] Type Get() const { return handle_; }
   explicit operator bool() const { return handle_ != Traits::Invalid(); }
 
-  /// Gives the handle away unclosed.
+  /// Gives up the handle without closing it.
   [[nodiscard]] Type Release() { return std::exchange(handle_, Traits::Invalid()); }
-  /// Closes what is held and takes another in its place.
+  /// Closes the current handle and takes ownership of another.
   void Reset(Type handle = Traits::Invalid()) {
     const Type old = std::exchange(handle_, handle);
     if (old != Traits::Invalid()) Traits::Close(old);
   }
-  /// For functions that return a handle through a pointer. What was held is closed.
+  /// For functions that return a handle through a pointer. Closes the current handle.
   [[nodiscard]] Type* Put() {
     Reset();
     return &handle_;
@@ -41,7 +41,7 @@ class Handle {
   Type handle_ = Traits::Invalid();
 };
 
-/// What the handle kinds below share: null is no handle.
+/// The base of the traits below for which null means no handle.
 template <class T>
 struct NullHandle {
   using Type = T;

@@ -9,7 +9,7 @@ namespace vantor::win32 {
 
 namespace {
 
-// Folders must leave room for a short file name (MAX_PATH - 12), so that limit holds for all.
+// Folders must leave room for a short file name (MAX_PATH - 12), so this limit is used for all.
 constexpr std::size_t LongestOrdinaryPath = MAX_PATH - 13;
 
 DWORD Attributes(std::wstring_view path) {

@@ -9,18 +9,18 @@
 
 namespace vantor::win32 {
 
-/// What became of a question to the management service. With no value and no failure, the time was up first.
+/// The answer of the management service. Neither a value nor a failure means that it did not answer in time.
 template <class Value>
 struct ServiceAnswer {
   std::optional<Value> Found;
   bool Failed = false;
 };
 
-/// Asks the management service, on a thread and in an apartment of its own (see TimedWork). Whatever `ask` throws
+/// Asks the management service on a separate thread with its own apartment (see TimedWork). Any exception from `ask`
 /// counts as a failure.
 template <class Value>
 [[nodiscard]] ServiceAnswer<Value> AskManagementService(TimedWork& work, Value (*ask)()) {
-  const auto answer = std::make_shared<ServiceAnswer<Value>>();  // the asker may have left by then
+  const auto answer = std::make_shared<ServiceAnswer<Value>>();  // shared, because the caller may have given up by then
   const bool inTime = work.Run([answer, ask] {
     try {
       Apartment apartment(COINIT_MULTITHREADED);

@@ -17,7 +17,7 @@ namespace {
 
 constexpr wchar_t ProgramEnding[] = L".exe";
 
-/// Where a name without a folder is looked for, in CreateProcess's order.
+/// The folders searched for a name without a folder, in CreateProcess's order.
 std::wstring SearchFolders() {
   const std::wstring windows = WindowsFolder();
   return SystemFolder() + L';' + windows + L"\\System;" + windows + L';' + EnvironmentVariable(L"PATH");
@@ -37,7 +37,7 @@ bool NamesFolder(std::wstring_view name) {
   return !text::DriveName(name).empty() || name.starts_with(L'\\') || name.starts_with(L'/');
 }
 
-/// The full path of a program; "" when there is none of this name.
+/// The full path of a program; "" if there is none with this name.
 std::wstring FindProgram(std::wstring_view name) {
   std::wstring given(name);
   if (given.empty()) return {};

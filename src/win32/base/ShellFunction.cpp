@@ -15,8 +15,8 @@ bool UnderWine() {
   return wine;
 }
 
-/// The class that Wine's shell opens this file or address as; "" where it may find that out by itself. Unless it is
-/// told, it replaces variables in any name and opens another file; Windows' replaces them only when asked to.
+/// The class by which Wine's shell should open this file or address; "" if it may determine that itself. Unless it is
+/// told, it replaces variables in any name and opens another file; Windows replaces them only on request.
 std::wstring ClassToKeepName(const std::wstring& target) {
   constexpr DWORD LongestClass = 256;
   if (!UnderWine() || target.find(L'%') == std::wstring::npos) return {};
@@ -24,7 +24,7 @@ std::wstring ClassToKeepName(const std::wstring& target) {
   if (colon != std::wstring::npos && colon > 1) return target.substr(0, colon);
   const std::size_t dot = target.find_last_of(L".\\/");
   if (dot == std::wstring::npos || target[dot] != L'.') return {};
-  wchar_t name[LongestClass] = L"exefile";  // programs have no entry of their own there
+  wchar_t name[LongestClass] = L"exefile";  // programs have no entry there
   DWORD size = sizeof name;
   RegGetValueW(HKEY_CLASSES_ROOT, target.c_str() + dot, nullptr, RRF_RT_REG_SZ, nullptr, name, &size);
   return name;
@@ -33,7 +33,7 @@ std::wstring ClassToKeepName(const std::wstring& target) {
 }  // namespace
 
 FARPROC FindShellFunction(const char* name) {
-  // Never unloaded: it does not bear that well.
+  // Never unloaded, because it does not handle that well.
   const HMODULE library = LoadSystemLibrary(L"shell32.dll");
   const FARPROC found = library != nullptr ? GetProcAddress(library, name) : nullptr;
   if (found == nullptr) throw std::runtime_error("a function of the shell's library is missing");
@@ -47,8 +47,8 @@ bool FitsShell(std::wstring_view target) {
 
 std::optional<TrueSystemFolder> FolderForShell(std::wstring_view path) {
   if (!IsRedirected(path)) return std::nullopt;
-  // What the shell itself loads as late as here: for kinds of documents, for the zone that a file is from, and for a
-  // program's start.
+  // Libraries that the shell itself loads only now: for document types, for the zone that a file comes from, and for
+  // starting programs.
   return std::optional<TrueSystemFolder>(std::in_place,
                                          {L"shell32.dll", L"propsys.dll", L"urlmon.dll", L"apphelp.dll"});
 }

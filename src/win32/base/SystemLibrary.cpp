@@ -13,8 +13,8 @@ HMODULE LoadSystemLibrary(const wchar_t* name) {
   const HMODULE library = LoadLibraryExW(name, nullptr, SystemFolderOnly);
   if (library != nullptr || GetLastError() != ERROR_INVALID_PARAMETER) return library;
 
-  // A Windows 7 without the update that brought the flag. By its full path the library is the right one, and so that
-  // what it stands on is looked for beside it first.
+  // Windows 7 without the update that introduced the flag. The full path makes sure that it is the right library, and
+  // that the libraries it depends on are first searched for next to it.
   const std::wstring folder = SystemFolder();
   if (folder.empty()) return nullptr;
   return LoadLibraryExW((folder + L'\\' + name).c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);

@@ -6,17 +6,17 @@
 
 namespace vantor::win32 {
 
-/// The folder of the system's own programs and libraries, and Windows' own, without a trailing backslash; "" when the
-/// system does not tell.
+/// The folder of the system's programs and libraries, and that of Windows, without a trailing backslash; "" if the
+/// system does not report it.
 [[nodiscard]] std::wstring SystemFolder();
 [[nodiscard]] std::wstring WindowsFolder();
 
-/// Loads one of Windows' own libraries, and what that one stands on, from Windows' folder alone, whatever lies beside
-/// the program or in the current folder. `name` is the bare file name. Returns null when there is no such library.
+/// Loads one of Windows' own libraries, and those it depends on, from Windows' folder only, whatever is next to the
+/// program or in the current folder. `name` is the file name without a folder. Returns null if there is no such
+/// library.
 HMODULE LoadSystemLibrary(const wchar_t* name);
 
-/// A function of a library, such as one that only newer systems have. Null when the library lacks it, or is null
-/// itself.
+/// A function of a library, for example one that only newer systems have. Null if the library lacks it or is null.
 template <class Function>
 Function FindFunction(HMODULE library, const char* name) {
   return library != nullptr ? reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name)))

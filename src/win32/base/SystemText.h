@@ -7,8 +7,8 @@
 
 namespace vantor::win32 {
 
-/// A text of any length that the system puts into a buffer. `call(buffer, size)` returns the text's length, or `size`
-/// and more where the buffer is too small; 0, for none, becomes "".
+/// A text of any length that the system writes to a buffer. `call(buffer, size)` returns the length of the text, or at
+/// least `size` if the buffer is too small, or 0 for no text, which becomes "".
 template <class Call>
 [[nodiscard]] std::wstring SystemText(const Call& call) {
   std::wstring text(MAX_PATH, L'\0');
@@ -20,7 +20,7 @@ template <class Call>
   }
 }
 
-/// The value of an environment variable; "" when there is none.
+/// The value of an environment variable; "" if there is none.
 [[nodiscard]] inline std::wstring EnvironmentVariable(const wchar_t* name) {
   return SystemText([name](wchar_t* buffer, DWORD size) { return GetEnvironmentVariableW(name, buffer, size); });
 }

@@ -12,7 +12,7 @@ namespace {
 
 constexpr DWORD TimeLimit = 5000;  // milliseconds
 
-/// What the two threads share. Whichever lets go last frees it.
+/// Shared by the two threads; the last one to release it frees it.
 struct Task {
   std::function<void()> Work;
   KernelHandle Done;
@@ -25,7 +25,7 @@ DWORD WINAPI WorkAndTell(void* shared) {
   return 0;
 }
 
-/// False when the time was up first.
+/// Returns false if the time was up first.
 bool WaitWhilePainting(HANDLE event, DWORD milliseconds) {
   const DWORD begin = GetTickCount();
   for (;;) {
@@ -34,8 +34,8 @@ bool WaitWhilePainting(HANDLE event, DWORD milliseconds) {
     const DWORD woken =
         MsgWaitForMultipleObjectsEx(1, &event, milliseconds - gone, QS_PAINT | QS_SENDMESSAGE, MWMO_INPUTAVAILABLE);
     if (woken != WAIT_OBJECT_0 + 1) return woken == WAIT_OBJECT_0;
-    // One at a time, with a look at the clock between: a window may ask to be painted again and again. What other
-    // programs send is handled inside this call.
+    // One message at a time, checking the time after each: a window may keep asking to be painted. Messages sent by
+    // other programs are handled inside this call.
     MSG message;
     if (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE | PM_QS_PAINT | PM_QS_SENDMESSAGE)) DispatchMessageW(&message);
   }
@@ -51,7 +51,7 @@ bool TimedWork::Run(std::function<void()> work) {
   auto theirs = std::make_unique<std::shared_ptr<Task>>(task);
   const KernelHandle thread(CreateThread(nullptr, 0, WorkAndTell, theirs.get(), 0, nullptr));
   if (!thread) return false;
-  (void)theirs.release();  // the thread's own now
+  (void)theirs.release();  // now owned by the thread
   if (WaitWhilePainting(task->Done.Get(), TimeLimit)) return true;
   left_ = task;
   return false;

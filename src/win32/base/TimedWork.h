@@ -5,16 +5,16 @@
 
 namespace vantor::win32 {
 
-/// For work that may never end, such as questions to a broken service.
+/// Runs work that may never end, such as questions to a broken service.
 class TimedWork {
  public:
-  /// Runs the work on a thread of its own, the only kind of thread beside the user interface's. After 5 seconds it is
-  /// left behind and this returns false; so the work must own all that it touches. It may not throw. Windows are
-  /// painted meanwhile; input waits. While work that was left behind still runs, this returns false at once.
+  /// Runs the work on a separate thread, the only kind of thread besides that of the user interface. After 5 seconds
+  /// the work is abandoned and this returns false; so the work must own everything it uses. It must not throw.
+  /// Meanwhile windows are painted, but input waits. While abandoned work is still running, this returns false at once.
   [[nodiscard]] bool Run(std::function<void()> work);
 
  private:
-  std::weak_ptr<void> left_;  // there as long as the last work runs
+  std::weak_ptr<void> left_;  // valid as long as the last work is running
 };
 
 }  // namespace vantor::win32

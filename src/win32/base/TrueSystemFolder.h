@@ -6,10 +6,10 @@
 
 namespace vantor::win32 {
 
-/// While one lives, the calling thread's file calls see what a 64-bit program's would. On a 64-bit Windows this program
-/// is otherwise led to other files than it names: to SysWOW64 in the place of System32, and to the 32-bit twin of
-/// regedit.exe. A library loaded meanwhile would be a 64-bit one, which fails. So it is held round one call, and what
-/// that call loads is loaded before, by the bare names given here. On a 32-bit Windows it does nothing.
+/// While one of these exists, file calls of its thread see the same files as a 64-bit program. Otherwise a 64-bit
+/// Windows redirects this program: to SysWOW64 instead of System32, and to the 32-bit version of regedit.exe. A library
+/// loaded meanwhile would be a 64-bit one, which fails. So it is kept only during a single call, and the libraries that
+/// the call loads are loaded before; their names are given here. On a 32-bit Windows it does nothing.
 class TrueSystemFolder {
  public:
   explicit TrueSystemFolder(std::initializer_list<const wchar_t*> libraries = {});
@@ -25,15 +25,14 @@ class TrueSystemFolder {
 /// Whether Windows is a 64-bit one.
 [[nodiscard]] bool On64BitWindows();
 
-/// Whether this is the path of a file or folder that this program would be led away from without the above.
+/// Whether this is the path of a file or folder for which this program would be redirected without the above.
 [[nodiscard]] bool IsRedirected(std::wstring_view path);
 
-/// A path as people and 64-bit programs know it. What a 32-bit program started by the name "Sysnative" lies in
-/// System32.
+/// A path as people and 64-bit programs know it. What 32-bit programs start by the name "Sysnative" is in System32.
 [[nodiscard]] std::wstring KnownPath(std::wstring path);
 
-/// The same for a shortcut's target as the shell reads it here. Where the shortcut says "the folder of the programs",
-/// the shell takes that of the 32-bit ones: with nothing of that name in it, the other is meant.
+/// The same for a shortcut's target as the shell reports it here. If the shortcut refers to the folder of programs, the
+/// shell takes that of 32-bit programs; if there is no such file in it, the other folder is meant.
 [[nodiscard]] std::wstring KnownTarget(std::wstring path);
 
 }  // namespace vantor::win32

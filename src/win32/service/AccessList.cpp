@@ -21,7 +21,7 @@ struct LocalTraits : NullHandle<void*> {
 };
 using LocalMemory = Handle<LocalTraits>;
 
-/// The user that this program runs for, as the system tells of him; empty when it does not.
+/// The user that this program runs as, in the system's format; empty if it can't be determined.
 std::vector<char> ThisUser() {
   KernelHandle token;
   if (!OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, token.Put())) return {};
@@ -38,12 +38,12 @@ bool IsSystem(PSID who) {
       WinAccountAdministratorSid,
       WinAccountDomainAdminsSid,
       WinAccountEnterpriseAdminsSid,
-      WinCreatorOwnerRightsSid};  // the last is the owner, who is looked at as well
+      WinCreatorOwnerRightsSid};  // the last stands for the owner, who is checked as well
   if (std::any_of(std::begin(kinds), std::end(kinds),
                   [who](WELL_KNOWN_SID_TYPE kind) { return IsWellKnownSid(who, kind) != FALSE; })) {
     return true;
   }
-  // The service that installs Windows' own parts, to which they belong.
+  // The service that installs and owns Windows' own files.
   constexpr wchar_t Installer[] = L"S-1-5-80-956008885-3418522649-1831038044-1853292631-2271478464";
   LocalMemory installer;
   return ConvertStringSidToSidW(Installer, installer.Put()) != FALSE && EqualSid(who, installer.Get()) != FALSE;
@@ -53,7 +53,7 @@ bool IsTrusted(PSID who, const std::vector<char>& user) {
   return EqualSid(who, reinterpret_cast<const TOKEN_USER*>(user.data())->User.Sid) != FALSE || IsSystem(who);
 }
 
-/// Whether one entry of an access list lets somebody write who is not trusted. What takes rights away does not count.
+/// Whether an entry of an access list lets someone write who is not trusted. Entries that deny rights do not count.
 bool LetsOthersWrite(const ACE_HEADER& header, const std::vector<char>& user) {
   constexpr ACCESS_MASK Writing = FILE_ADD_FILE | FILE_ADD_SUBDIRECTORY | FILE_DELETE_CHILD | DELETE | WRITE_DAC |
                                   WRITE_OWNER | GENERIC_WRITE | GENERIC_ALL;
@@ -70,7 +70,7 @@ bool LetsOthersWrite(const ACE_HEADER& header, const std::vector<char>& user) {
       return (entry.Mask & Writing) != 0 && !IsTrusted(const_cast<DWORD*>(&entry.SidStart), user);
     }
     default:
-      return true;  // of a kind that files don't have
+      return true;  // of a kind that is not used for files
   }
 }
 
@@ -89,7 +89,7 @@ bool AccessListLetsOthersWrite(std::wstring_view path) {
   if (GetNamedSecurityInfoW(name.data(), SE_FILE_OBJECT, OWNER_SECURITY_INFORMATION | DACL_SECURITY_INFORMATION, &owner,
                             nullptr, &list, nullptr, descriptor.Put()) != ERROR_SUCCESS ||
       owner == nullptr || list == nullptr || !IsTrusted(owner, user)) {
-    return true;  // without a list everybody may do everything
+    return true;  // without a list, everyone may do anything
   }
   for (DWORD i = 0; i < list->AceCount; ++i) {
     void* entry = nullptr;

@@ -11,7 +11,7 @@ namespace vantor::win32 {
 
 namespace {
 
-// Far above any data file; whatever is larger is none of ours.
+// Far larger than any data file of the program.
 constexpr LONGLONG LargestFile = 256LL * 1024 * 1024;
 
 bool WriteAll(HANDLE file, std::string_view bytes) {
@@ -19,7 +19,7 @@ bool WriteAll(HANDLE file, std::string_view bytes) {
   return WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) && written == bytes.size();
 }
 
-/// The new file, with the attributes of the one that it is to replace.
+/// Creates the new file with the attributes of the one that it is to replace.
 FileHandle MakeFile(const std::wstring& path, DWORD oldAttributes) {
   const DWORD attributes = oldAttributes == INVALID_FILE_ATTRIBUTES
                                ? FILE_ATTRIBUTE_NORMAL
@@ -27,8 +27,8 @@ FileHandle MakeFile(const std::wstring& path, DWORD oldAttributes) {
   return FileHandle(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, attributes, nullptr));
 }
 
-/// Does what fails while somebody else holds a file, for which whoever looks through new files, such as a virus
-/// scanner, needs a moment. Returns the error code.
+/// Retries an operation that fails while another program holds the file, such as a virus scanner that checks new files.
+/// Returns the error code.
 template <class Attempt>
 DWORD Patiently(Attempt attempt) {
   constexpr int Attempts = 10;
@@ -50,13 +50,13 @@ DWORD MoveOver(const std::wstring& from, const std::wstring& to) {
 
 bool IsMissing(DWORD error) { return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND; }
 
-/// What a write is refused for at once: waiting would not help.
+/// Whether a write is refused at once because waiting would not help.
 bool IsRefused(DWORD attributes) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY));
 }
 
-/// For a folder whose files may be changed but not added to or taken away. The new bytes go over the old ones
-/// and the rest is cut off last, so that a full disk finds most of either.
+/// For a folder in which files may be changed but not created or deleted. The new bytes overwrite the old ones and the
+/// rest is cut off last, so that on a full disk most of the old or the new contents remains.
 bool WriteOver(const std::wstring& path, std::string_view bytes) {
   const FileHandle file(CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
                                     FILE_ATTRIBUTE_NORMAL, nullptr));
@@ -85,7 +85,7 @@ bool DataFiles::Write(std::wstring_view path, std::string_view bytes) {
   if (bytes.size() > LargestFile) return false;
   const std::wstring place = CallPath(path);
   const DWORD attributes = GetFileAttributesW(place.c_str());
-  if (IsRefused(attributes)) return false;  // a replacement would not ask
+  if (IsRefused(attributes)) return false;  // replacing the file would ignore it
 
   const std::wstring beside = CallPath(std::wstring(path) + service::UnfinishedEnding);
   FileHandle file = MakeFile(beside, attributes);

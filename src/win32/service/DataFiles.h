@@ -9,7 +9,7 @@
 
 namespace vantor::win32 {
 
-/// The program's own files. Write replaces a file by a finished new one, so that no power cut leaves half of it.
+/// The program's own files. Write replaces a file by a complete new one, so that a power cut never leaves half a file.
 class DataFiles final : public service::DataFiles {
  public:
   [[nodiscard]] service::FileRead Read(std::wstring_view path) override;

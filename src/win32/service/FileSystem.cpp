@@ -10,7 +10,7 @@ namespace vantor::win32 {
 
 namespace {
 
-/// "C:\" of "C:", "c:\x"; "\\server\share\" of a path on a share; the path itself when it names no drive.
+/// "C:\" of "C:", "c:\x"; "\\server\share\" of a path on a share; the path itself if it has no drive.
 std::wstring RootOf(std::wstring_view path) {
   const std::wstring_view drive = text::DriveName(path);
   return drive.empty() ? std::wstring(path) : std::wstring(drive) + L'\\';
@@ -77,7 +77,7 @@ std::wstring FileSystem::ExtensionName(std::wstring_view path) {
     ComText extension;
     Check(Make()->GetExtensionName(MakeComText(path).Get(), extension.Put()));
     std::wstring found = ToText(extension.Get());
-    // Some such objects look for the dot in the whole path.
+    // Some implementations search for the dot in the whole path.
     return found.find_first_of(L"\\/") == std::wstring_view::npos ? found : std::wstring();
   } catch (const ComError&) {
     const std::wstring_view name = path.substr(path.find_last_of(L"\\/:") + 1);
@@ -159,7 +159,7 @@ ComPointer<scripting::IDrive> FileSystem::GetDrive(std::wstring_view path) {
 }
 
 bool FileSystem::Exists(std::wstring_view path, Test test, bool (*plainTest)(std::wstring_view)) {
-  // The object says of every long path that there is nothing.
+  // The object claims that nothing with a long path exists.
   if (path.size() >= MAX_PATH) return plainTest(path);
   try {
     const Object object = Make();

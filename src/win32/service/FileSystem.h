@@ -11,7 +11,7 @@
 
 namespace vantor::win32 {
 
-/// Asks "Scripting.FileSystemObject", and Windows itself for what the object does not tell.
+/// Asks "Scripting.FileSystemObject", and Windows itself for what the object does not offer.
 class FileSystem final : public service::FileSystem {
  public:
   explicit FileSystem(Apartment& apartment) : apartment_(apartment) {}
@@ -35,7 +35,7 @@ class FileSystem final : public service::FileSystem {
  private:
   using Object = ComPointer<scripting::IFileSystem>;
 
-  /// The held object, or a new one. Throws a lacking ComError when there is none.
+  /// The held object, or a new one. Throws a ComError with Lacking() if there is none.
   [[nodiscard]] Object Make();
   [[nodiscard]] ComPointer<scripting::IDrive> GetDrive(std::wstring_view path);
   using Test = HRESULT (STDMETHODCALLTYPE scripting::IFileSystem::*)(BSTR, VARIANT_BOOL*);
@@ -44,7 +44,7 @@ class FileSystem final : public service::FileSystem {
   Apartment& apartment_;
   int many_ = 0;
   Object held_;           // between BeginMany and EndMany, from the first call on
-  bool missing_ = false;  // in that time: there is no object, and no need to ask thousands of times
+  bool missing_ = false;  // in that time: there is no such object, and it is not asked for again
 };
 
 }  // namespace vantor::win32

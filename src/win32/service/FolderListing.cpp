@@ -15,20 +15,20 @@ namespace vantor::win32 {
 namespace {
 
 bool Wanted(const WIN32_FIND_DATAW& entry, EntryKind kind, const std::wstring& pattern) {
-  // As Explorer does by default: what is marked as the system's alone, such as the folder of the fonts, is shown.
+  // As in Explorer by default: files with only the system attribute, such as the fonts folder, are shown.
   if ((entry.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) != 0) return false;
   const bool folder = (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
   if (folder != (kind == EntryKind::Folders)) return false;
   const std::wstring_view name = entry.cFileName;
   if (folder && (name == L"." || name == L"..")) return false;
-  // The system's own search also takes names whose short form fits: "a.exe1" is A12345~1.EXE there.
+  // The system's own search also finds files whose short name matches: "a.exe1" is A12345~1.EXE there.
   return PathMatchSpecW(entry.cFileName, pattern.c_str()) != FALSE;
 }
 
 bool ComesBefore(const std::wstring& left, const std::wstring& right) {
   const int order = CompareStringW(LOCALE_USER_DEFAULT, NORM_IGNORECASE | SORT_STRINGSORT, left.data(),
                                    static_cast<int>(left.size()), right.data(), static_cast<int>(right.size()));
-  // Names that differ in letter case alone keep one order too.
+  // Names that differ only in case have a fixed order too.
   return order == CSTR_EQUAL ? left < right : order == CSTR_LESS_THAN;
 }
 

@@ -12,7 +12,7 @@ namespace vantor::win32 {
 
 namespace {
 
-/// A number for this program's file: one that lies elsewhere is another program, with lists of its own.
+/// A number for this program's file: a copy in another folder counts as another program, with its own lists.
 std::wstring FileNumber() {
   std::wstring path = ImageName(GetCurrentProcessId());
   CharLowerBuffW(path.data(), static_cast<DWORD>(path.size()));
@@ -20,7 +20,7 @@ std::wstring FileNumber() {
 }
 
 std::wstring UserName() {
-  wchar_t name[257] = L"";  // 256 is the longest user name there can be
+  wchar_t name[257] = L"";  // 256 is the maximum length of a user name
   DWORD length = 257;
   if (!GetUserNameW(name, &length)) return {};
   std::wstring plain(name);
@@ -44,8 +44,8 @@ BOOL CALLBACK Collect(HWND window, LPARAM windows) {
   return TRUE;
 }
 
-/// The shown window of the application window's process that stands closest before it in the order of windows,
-/// else the closest behind.
+/// The visible window of the application window's process that is closest in front of it in the z-order, otherwise the
+/// closest one behind it.
 HWND ShownWindowNear(HWND application) {
   std::vector<HWND> windows;
   EnumWindows(Collect, reinterpret_cast<LPARAM>(&windows));
@@ -60,13 +60,13 @@ HWND ShownWindowNear(HWND application) {
 
 HWND BarOf(HWND application) {
   const HWND before = GetWindow(application, GW_HWNDPREV);
-  // An input method keeps windows of its own beside the application's.
+  // An input method has windows of its own next to the application window.
   if (before != nullptr && ProcessOf(before) == ProcessOf(application) && IsShown(before)) return before;
   return ShownWindowNear(application);
 }
 
-/// The application window of a copy of this program; null when there is none. Any program may make a window of this
-/// class and title.
+/// The application window of a copy of this program; null if there is none. Other programs may have a window with this
+/// class and title, too.
 HWND FindApplication(std::wstring_view title) {
   const std::wstring wanted(title);
   HWND window = nullptr;
@@ -87,9 +87,9 @@ bool Instance::OtherRuns() {
   if (!mutex_) {
     const std::wstring name = L"Local\\" + name_ + L" " + FileNumber() + L" " + UserName();
     mutex_.Reset(CreateMutexW(nullptr, FALSE, name.c_str()));
-    // A copy with an administrator's rights lets others wait only.
+    // The mutex of a copy with administrator rights can only be opened for waiting.
     if (!mutex_) mutex_.Reset(OpenMutexW(SYNCHRONIZE, FALSE, name.c_str()));
-    if (!mutex_) return true;  // somebody took the name, and it need not be a copy
+    if (!mutex_) return true;  // the name is taken, though not necessarily by a copy
   }
   const DWORD waited = WaitForSingleObject(mutex_.Get(), 0);
   owned_ = waited == WAIT_OBJECT_0 || waited == WAIT_ABANDONED;
@@ -103,10 +103,10 @@ Activation ActivateBar(std::wstring_view title) {
   if (bar == nullptr) return Activation::NoBar;
   AllowSetForegroundWindow(ProcessOf(application));
   if (IsIconic(bar)) OpenIcon(bar);
-  // While a dialog is open the bar takes no input; the dialog is what the user has to see.
+  // While a dialog is open the bar is disabled, and the user has to see the dialog.
   const HWND front = IsWindowEnabled(bar) ? bar : GetLastActivePopup(bar);
   SetForegroundWindow(front);
-  // Wine leaves it behind other windows then.
+  // Otherwise Wine leaves it behind other windows.
   SetWindowPos(front, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_ASYNCWINDOWPOS);
   return Activation::Done;
 }

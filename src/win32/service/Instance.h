@@ -7,17 +7,17 @@
 
 namespace vantor::win32 {
 
-/// The one copy of a program's file that runs for a user in a session.
+/// Makes sure that a program's file runs only once per user and session.
 class Instance {
  public:
-  /// `name` tells the program from others; there may be no backslash in it.
+  /// `name` distinguishes the program from others; it must not contain a backslash.
   explicit Instance(std::wstring_view name) : name_(name) {}
   ~Instance();
   Instance(const Instance&) = delete;
   Instance& operator=(const Instance&) = delete;
 
-  /// Whether another copy seems to run: some process holds the name by which copies know each other. As soon as this is
-  /// false this copy is the one that others see.
+  /// Whether another copy seems to be running: some process holds the name by which copies recognise each other. Once
+  /// this returns false, this copy holds the name.
   [[nodiscard]] bool OtherRuns();
 
  private:
@@ -26,10 +26,10 @@ class Instance {
   bool owned_ = false;
 };
 
-/// Whether a bar was brought to the front; there may be no application window of the title, or it has no bar yet. Only
-/// a window counts that has the program's mark and whose process runs the same file.
+/// Whether a bar was brought to the front, or there is no application window with the title, or it has no bar yet. Only
+/// windows count that have the program's mark and whose process runs the same file.
 enum class Activation { NoWindow, NoBar, Done };
-/// Restores and brings to the front the bar that stands before the application window of this title.
+/// Restores the bar in front of the application window with this title and brings it to the front.
 [[nodiscard]] Activation ActivateBar(std::wstring_view title);
 
 }  // namespace vantor::win32

@@ -8,7 +8,7 @@
 
 namespace vantor::win32 {
 
-/// Letters by the user's language, bytes by the system's ANSI code page.
+/// Letter case by the user's language, bytes by the system's ANSI code page.
 class Language final : public service::Language {
  public:
   [[nodiscard]] std::wstring Lower(std::wstring_view text) const override;

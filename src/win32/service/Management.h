@@ -7,8 +7,8 @@
 
 namespace vantor::win32 {
 
-/// Asks the management service by its moniker. Nobody stands in for it: what Windows tells of a disk is not what it
-/// tells, and the computer would be taken for another.
+/// Asks the management service by its moniker. There is no substitute for it: plain Windows calls return different
+/// values for a disk, and the computer would be mistaken for another.
 class Management final : public service::Management {
  public:
   [[nodiscard]] std::optional<service::DiskIdentity> ReadDiskIdentity() override;

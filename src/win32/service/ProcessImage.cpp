@@ -47,7 +47,7 @@ bool CopyRuns() {
   PROCESSENTRY32W process = {};
   process.dwSize = sizeof process;
   for (BOOL more = Process32FirstW(snapshot.Get(), &process); more; more = Process32NextW(snapshot.Get(), &process)) {
-    // The name comes with the list; the path has to be asked for.
+    // The list contains the name; the path requires another call.
     const DWORD id = process.th32ProcessID;
     if (SameName(process.szExeFile, name) && InThisSession(id) && IsCopy(id)) return true;
   }

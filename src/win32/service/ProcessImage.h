@@ -6,10 +6,10 @@
 
 namespace vantor::win32 {
 
-/// The path of a process's program; "" when the system does not tell, as of protected processes.
+/// The path of a process's program; "" if it can't be determined, for example for protected processes.
 [[nodiscard]] std::wstring ImageName(DWORD processId);
 
-/// Whether another process of this session runs this process's own program file, and whether this one does.
+/// Whether another process in this session runs this process's program file, and whether the given one does.
 [[nodiscard]] bool CopyRuns();
 [[nodiscard]] bool IsCopy(DWORD processId);
 

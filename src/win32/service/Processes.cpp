@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-// The records are wanted in their ANSI form, which this header has only by its unmarked names.
+// The ANSI form of the records is needed, which this header defines only without UNICODE.
 #undef UNICODE
 #include <tlhelp32.h>
 
@@ -21,7 +21,7 @@ HANDLE HandleOf(service::SnapshotId snapshot) {
   return reinterpret_cast<HANDLE>(static_cast<std::uintptr_t>(snapshot));
 }
 
-/// Hands the record to one of the enumeration calls in the system's own type and back.
+/// Passes the record to an enumeration call in the system's own type, and converts it back.
 template <class Call>
 bool Fill(Call call, service::SnapshotId snapshot, service::ProcessEntry& entry) {
   static_assert(sizeof(PROCESSENTRY32) == service::ProcessEntrySize);

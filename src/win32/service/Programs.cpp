@@ -29,10 +29,10 @@ DWORD Start(const std::wstring& program, std::wstring commandLine) {
   startup.dwFlags = STARTF_USESHOWWINDOW;
   startup.wShowWindow = SW_SHOWNORMAL;
   PROCESS_INFORMATION started = {};
-  // Not by a path that names "Sysnative": the program would take that for its own folder, which no 64-bit program sees.
-  // CreateProcess asks this library whether the program is a known troublemaker.
+  // Not by a path with "Sysnative": the program would take that for its own folder, which 64-bit programs can't see.
+  // CreateProcess uses this library to check whether the program has known problems.
   const TrueSystemFolder folder({L"apphelp.dll"});
-  // Our own error mode, without Windows' boxes, is not for others.
+  // This program's error mode, without message boxes of Windows, should not be inherited.
   if (!CreateProcessW(CallPath(program).c_str(), commandLine.data(), nullptr, nullptr, FALSE, CREATE_DEFAULT_ERROR_MODE,
                       nullptr, nullptr, &startup, &started)) {
     return GetLastError();
@@ -47,8 +47,8 @@ DWORD Start(const std::wstring& program, std::wstring commandLine) {
 
 bool Programs::StartCommandLine(std::wstring_view commandLine) {
   if (commandLine.empty() || commandLine.size() > LongestCommandLine) return false;
-  // Named to Windows by its full path: a bare name would be looked for beside this program and in the current folder
-  // before the system's own.
+  // The full path is passed, because a bare name would be searched for next to this program and in the current folder
+  // first.
   const ProgramCommand parts = ParseProgramCommand(commandLine);
   if (parts.Path.empty()) return false;
   std::wstring text(commandLine);
@@ -56,7 +56,7 @@ bool Programs::StartCommandLine(std::wstring_view commandLine) {
   if (blankInName) text = L'"' + text + L'"';
   const DWORD error = Start(parts.Path, std::move(text));
   if (error != ElevationRequired) return error == ERROR_SUCCESS;
-  // Only the shell can give a program the administrator's rights.
+  // Only the shell can start a program with administrator rights.
   apartment_.Enter();
   return OpenByShell(parts.Path, parts.Arguments);
 }
@@ -64,7 +64,7 @@ bool Programs::StartCommandLine(std::wstring_view commandLine) {
 int Programs::ShellOpen(std::wstring_view file) {
   if (!FitsShell(file)) return ERROR_FILE_NOT_FOUND;
   apartment_.Enter();
-  // What opens it may be running already and has to come to the front.
+  // The program that opens it may be running already and has to come to the front.
   AllowSetForegroundWindow(ASFW_ANY);
   const HINSTANCE result = ShellFunction<decltype(ShellExecuteW)>("ShellExecuteW")(
       nullptr, L"open", std::wstring(file).c_str(), nullptr, nullptr, SW_SHOW);

@@ -57,7 +57,7 @@ std::wstring PlainRegistryRead(std::wstring_view name) {
   if (RegQueryValueExW(key.Get(), parsed->Value.c_str(), nullptr, nullptr, reinterpret_cast<BYTE*>(text.data()),
                        &size) != ERROR_SUCCESS)
     return {};
-  return text.substr(0, text.find(L'\0'));  // its end is usually part of the value
+  return text.substr(0, text.find(L'\0'));  // the terminating null is usually part of the value
 }
 
 void PlainRegistryWrite(std::wstring_view name, std::wstring_view value) {

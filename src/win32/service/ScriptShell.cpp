@@ -16,7 +16,7 @@ namespace {
 
 constexpr short NormalWindow = 1;
 
-/// The file that a command line begins with, its variables replaced.
+/// The file at the start of a command line whose variables are replaced.
 std::wstring FileIn(std::wstring_view commandLine) {
   const ProgramCommand parts = ParseProgramCommand(commandLine);
   return parts.Path.empty() ? parts.Program : parts.Path;
@@ -27,7 +27,7 @@ bool PlainRun(std::wstring_view target) {
   return OpenByShell(parts.Path.empty() ? parts.Program : parts.Path, parts.Arguments);
 }
 
-/// Whether the scripting object, which thinks in the code page, keeps all of a shortcut's texts.
+/// Whether the scripting object, which uses the code page, preserves all texts of a shortcut.
 bool FitsCodePage(const service::Shortcut& shortcut) {
   const std::wstring all =
       shortcut.File + shortcut.TargetPath + shortcut.IconLocation + shortcut.Description + shortcut.WorkingDirectory;
@@ -38,16 +38,16 @@ bool FitsCodePage(const service::Shortcut& shortcut) {
 
 bool ScriptShell::Run(std::wstring_view target) {
   if (!FitsShell(target)) return false;
-  // What opens it may be running already and has to come to the front.
+  // The program that opens it may be running already and has to come to the front.
   AllowSetForegroundWindow(ASFW_ANY);
   try {
     const LateBound shell = Make();
     const auto folder = FolderForShell(On64BitWindows() ? FileIn(ExpandVariables(target)) : std::wstring());
     const Variant result = shell.Call(L"Run", {Variant(target), Variant(NormalWindow)});
-    // Without waiting there is no exit code: anything but 0 is an error that was not raised as one.
+    // Without waiting there is no exit code: anything but 0 is an error that was not raised.
     return result.Number().value_or(0) == 0;
   } catch (const ComError& error) {
-    // After a refusal a second way might start it a second time.
+    // After a failed attempt, a second method might start it a second time.
     return error.Lacking() && PlainRun(target);
   }
 }
@@ -55,7 +55,7 @@ bool ScriptShell::Run(std::wstring_view target) {
 std::wstring ScriptShell::ExpandVariables(std::wstring_view text) {
   std::wstring given(text);
   std::wstring expanded = SystemText([&](wchar_t* buffer, DWORD size) {
-    const DWORD needed = ExpandEnvironmentStringsW(given.c_str(), buffer, size);  // with the ending null
+    const DWORD needed = ExpandEnvironmentStringsW(given.c_str(), buffer, size);  // including the terminating null
     return needed == 0 || needed > size ? needed : needed - 1;
   });
   return expanded.empty() ? given : expanded;
@@ -107,7 +107,7 @@ bool ScriptShell::SaveShortcut(const service::Shortcut& shortcut) {
       return true;
     }
   } catch (const ComError&) {
-    // Written anew below: a shortcut saved twice is still one.
+    // It is written again below; saving a shortcut twice does no harm.
   }
   try {
     WriteShortcutFile(shortcut);

@@ -8,7 +8,7 @@
 
 namespace vantor::win32 {
 
-/// Asks "WScript.Shell", made for one call each, and Windows itself where that object lacks the call.
+/// Asks "WScript.Shell", created for each call, and Windows itself if that object lacks the call.
 class ScriptShell final : public service::ScriptShell {
  public:
   explicit ScriptShell(Apartment& apartment) : apartment_(apartment) {}

@@ -4,14 +4,13 @@
 
 namespace vantor::win32::scripting {
 
-// The scripting run time's interfaces as its type library publishes them, down to the last member used here.
-// They are called directly: one load asks thousands of times, and finding the member by its name each time would
-// make it a third longer.
+// The scripting run time's interfaces as published in its type library, up to the last member used here. They are
+// called directly: a load makes thousands of calls, and looking up the members by name would make it a third slower.
 
 inline constexpr GUID DriveId = {0xC7C3F5A0, 0x88A3, 0x11D0, {0xAB, 0xCB, 0x00, 0xA0, 0xC9, 0x0F, 0xFF, 0xC0}};
 inline constexpr GUID FileSystemId = {0x0AB5A3D0, 0xE5B6, 0x11D0, {0xAB, 0xF5, 0x00, 0xA0, 0xC9, 0x0F, 0xFF, 0xC0}};
 
-// Objects of the system are released, never destroyed from here.
+// The system's objects are released, never destroyed here.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 

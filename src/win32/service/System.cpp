@@ -13,7 +13,7 @@ std::wstring System::WindowsDirectory() { return WindowsFolder(); }
 
 std::wstring System::ProgramFolder() {
   std::wstring file = SystemText([](wchar_t* buffer, DWORD size) { return GetModuleFileNameW(nullptr, buffer, size); });
-  // Started by such a path, the program is told so; everything else of it wants the usual form.
+  // If the program was started by a literal path, it is converted to the usual form.
   if (file.starts_with(L"\\\\?\\UNC\\"))
     file.erase(2, 6);
   else
@@ -24,15 +24,15 @@ std::wstring System::ProgramFolder() {
 }
 
 bool System::ActivateInstance(std::wstring_view title) {
-  constexpr DWORD TimeLimit = 3000;  // milliseconds: the time that a cold start from a slow stick takes
+  constexpr DWORD TimeLimit = 3000;  // milliseconds: how long a cold start from a slow USB stick takes
   constexpr DWORD Pause = 25;
   const DWORD begin = GetTickCount();
   for (;;) {
     const Activation activation = ActivateBar(title);
     if (activation == Activation::Done) return true;
     const bool waited = GetTickCount() - begin >= TimeLimit;
-    // It may be ending instead of starting; then this copy takes its place. So it does where the name is held by what
-    // is no copy at all.
+    // The other copy may be ending instead of starting; then this copy replaces it. It also does so if the name is held
+    // by something that is not a copy.
     if (waited || !instance_.OtherRuns() || !CopyRuns()) return activation == Activation::NoBar && waited;
     Sleep(Pause);
   }

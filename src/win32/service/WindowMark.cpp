@@ -24,7 +24,7 @@ LRESULT CALLBACK BarProcedure(HWND window, UINT message, WPARAM wParam, LPARAM l
 
 HINSTANCE OwnModule() { return GetModuleHandleW(nullptr); }
 
-/// Registering it again does no harm.
+/// May be called more than once.
 void RegisterBarClass() {
   WNDCLASSW bar = {};
   bar.lpfnWndProc = BarProcedure;
@@ -35,7 +35,7 @@ void RegisterBarClass() {
 }
 
 WindowHandle MakeBar() {
-  // Layered and transparent together let the mouse, and the search for the window under it, pass through.
+  // With both styles, mouse input and the search for the window under the mouse pass through.
   constexpr DWORD Style = WS_EX_LAYERED | WS_EX_TRANSPARENT | WS_EX_TOPMOST | WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE;
   WindowHandle bar(CreateWindowExW(Style, ClassName, L"", WS_POPUP | WS_DISABLED, 0, 0, 0, 0, nullptr, nullptr,
                                    OwnModule(), nullptr));

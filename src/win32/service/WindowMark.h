@@ -8,15 +8,15 @@
 
 namespace vantor::win32 {
 
-/// A frame around a window of any program, made of four windows of our own that the mouse does not feel: the
-/// marked window is never drawn upon.
+/// A frame around a window of any program, consisting of four windows that let the mouse through. Nothing is drawn on
+/// the marked window itself.
 class WindowMark {
  public:
   WindowMark() = default;
   WindowMark(const WindowMark&) = delete;
   WindowMark& operator=(const WindowMark&) = delete;
 
-  /// Frames the top-level window that holds `window`; the desktop, or null, takes the frame away.
+  /// Frames the top-level window that contains `window`; the desktop, or null, removes the frame.
   void Show(HWND window);
 
  private:

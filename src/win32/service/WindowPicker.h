@@ -16,7 +16,7 @@ class WindowPicker final : public service::WindowPicker {
   [[nodiscard]] bool LeftButtonDown() override;
   [[nodiscard]] std::uint32_t ProcessOfWindow(service::WindowId window) override;
 
-  /// The cursor stays only while the mouse is captured: otherwise each window sets its own.
+  /// The cursor stays changed only while the mouse is captured; otherwise each window sets its own.
   void ShowTarget(bool target) override;
   void Mark(service::WindowId window) override;
 

@@ -16,7 +16,7 @@
 
 namespace vantor::win32 {
 
-/// The real side of all services. COM is entered at their first need of it.
+/// The Windows side of all services. COM is entered when a service first needs it.
 class WindowsServices {
  public:
   WindowsServices(std::wstring_view program, System::TitleSetter setTitle)
