@@ -23,6 +23,7 @@ struct Installation {
   std::string Name = "Gr\u00F6\u00DFe \u65E5\u672C";
   std::string Program = Work.Path(Name + "\\Vantor.exe");
   std::string StartMenu = SystemFolder(CSIDL_PROGRAMS) + "\\Vantor.lnk";
+  std::string Shortcut = SystemFolder(CSIDL_DESKTOPDIRECTORY) + "\\Vantor.lnk";
 
   [[nodiscard]] DWORD Install(const std::string& folder = {}) const {
     return Run('"' + Work.Path("setup.exe") + "\" /S" + (folder.empty() ? "" : " /D=" + folder));
@@ -111,6 +112,7 @@ TEST_CASE("install, upgrade over a running copy, uninstall and come back, in a f
   it.Uninstall(" /DELETEDATA");
   CHECK_BECOMES(Exists(it.Work.Path(it.Name)), false);
   CHECK_FALSE(Exists(it.StartMenu));
+  CHECK_FALSE(Exists(it.Shortcut));  // nobody asked for it
 }
 
 TEST_CASE("an installation that can't be done says so and leaves all as it was") {
@@ -131,24 +133,49 @@ TEST_CASE("an installation that can't be done says so and leaves all as it was")
   CHECK(Entry(L"DisplayName") == "(none)");
 }
 
-TEST_CASE("nothing asked for, the folder is one that its user may write to; what preferences make goes with it") {
+TEST_CASE("installed by hand, Enter is enough, and the folder is the user's; what preferences make goes with it") {
   SKIP_UNLESS(OwnDesktop(), "a Windows installation of the test's own");
   const Installation it;
   const std::string folder = SystemFolder(CSIDL_LOCAL_APPDATA) + "\\Programs\\Vantor";
   const std::wstring program = Wide(folder + "\\Vantor.exe");
-  REQUIRE(it.Install() == 0);
+  {
+    const Program setup(it.Work.Path("setup.exe"));
+    for (const char* const button : {"&Next >", "&Install"}) {
+      Await(button, [&] { return window::Text(GetDlgItem(GetForegroundWindow(), IDOK)) == button; });
+      setup.Press(VK_RETURN);
+    }
+    Await("the shortcut, which is ticked", [&] { return Exists(it.Shortcut); });
+  }
   CHECK(Exists(folder + "\\Vantor.exe"));
   CHECK(BytesOf(it.StartMenu).find(folder + "\\Vantor.exe") != std::string::npos);
 
-  const std::string desktop = SystemFolder(CSIDL_DESKTOPDIRECTORY) + "\\Vantor.lnk";
-  REQUIRE(CopyFileW(Wide(it.StartMenu).c_str(), Wide(desktop).c_str(), FALSE));
+  const std::string setups = BytesOf(it.Shortcut);
+  DeleteFileW(Wide(it.Shortcut).c_str());
+  {
+    const Program first(folder + "\\Vantor.exe");
+    first.AwaitForm(L"TextInput0");
+    first.Press(VK_RETURN);
+    Await("the greeting", [&] { return first.Message() != nullptr && first.Control(L"TextInput0") == nullptr; });
+    first.Press(VK_RETURN);
+    first.AwaitBar();
+    first.Press(VK_F6);
+    first.Click(L"CommandOptionShortcut");
+    first.AwaitForm(L"LabelMessage");
+  }
+  const std::string own = BytesOf(it.Shortcut);
+  constexpr std::size_t Header = 0x38;  // the number of the icon, the window and the key
+  CHECK(own.substr(Header, 10) == setups.substr(Header, 10));
+  for (const std::string& text : {folder, folder + "\\Vantor.exe"}) {
+    CHECK((own.find(Utf16(text)) != own.npos && setups.find(Utf16(text)) != own.npos));
+  }
+
   for (HKEY root : {HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER}) {
     RegSetKeyValueW(root, RunKey, RunValue, REG_SZ, program.c_str(),
                     static_cast<DWORD>(program.size() + 1) * sizeof(wchar_t));
   }
-  Run('"' + folder + "\\Uninstall.exe\" /S");
+  Run('"' + folder + "\\Uninstall.exe\" /S /DELETEDATA");
   CHECK_BECOMES(Exists(folder), false);
-  CHECK_FALSE(Exists(desktop));
+  CHECK_FALSE(Exists(it.Shortcut));
   CHECK_FALSE(Exists(it.StartMenu));
   for (HKEY root : {HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER}) CHECK(RegistryText(root, RunKey, RunValue) == "(none)");
 }

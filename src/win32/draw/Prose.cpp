@@ -73,16 +73,15 @@ void Prose::Add(HDC dc, std::wstring_view text, int left) {
   width_ = std::max(width_, left + WidthOf(dc, text));
 }
 
-void Prose::Draw(HDC dc, int height, COLORREF color) const {
+void Prose::Draw(HDC dc, POINT corner, int height, COLORREF color) const {
   const Selected selected(dc, font_);
   SetBkMode(dc, TRANSPARENT);
   SetTextColor(dc, color);
-  const int whole = rows_ * lineHeight_;
+  // Lines may be higher than on the screen that they were measured for.
+  const int tooHigh = std::max(rows_ * lineHeight_ - height, 0);
   for (const Piece& piece : pieces_) {
-    const int top = piece.Row * lineHeight_;
-    // Where lines are higher than on the screen that they were measured for.
-    DrawPlaced(dc, piece.Left, height < whole ? top - MulDiv(whole - height, piece.Row, std::max(rows_ - 1, 1)) : top,
-               piece.Text);
+    const int top = piece.Row * lineHeight_ - MulDiv(tooHigh, piece.Row, std::max(rows_ - 1, 1));
+    DrawPlaced(dc, corner.x + piece.Left, corner.y + top, piece.Text);
   }
 }
 

@@ -16,8 +16,9 @@ class Prose {
 
   /// Pixels.
   [[nodiscard]] SIZE Size() const { return {width_, rows_ * lineHeight_}; }
-  /// Draws it without a ground. In a height that is less than its own the lines come nearer to each other.
-  void Draw(HDC dc, int height, COLORREF color) const;
+  /// Draws it from a corner, without a ground. In a height that is less than its own the lines come nearer to each
+  /// other.
+  void Draw(HDC dc, POINT corner, int height, COLORREF color) const;
 
  private:
   struct Piece {

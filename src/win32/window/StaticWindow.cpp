@@ -28,7 +28,7 @@ void LabelWindow::Paint(Canvas& canvas) {
     canvas.Text(label_.Caption(), {0, 0, canvas.Width(), canvas.Height()}, font, color,
                 DT_SINGLELINE | DT_END_ELLIPSIS);
   } else {
-    Prose(label_.Caption(), font, canvas.Width()).Draw(canvas.Dc(), canvas.Height(), color);
+    Prose(label_.Caption(), font, canvas.Width()).Draw(canvas.Dc(), {}, canvas.Height(), color);
   }
 }
 
@@ -102,8 +102,8 @@ void FrameWindow::Paint(Canvas& canvas) {
   const LONG gap = std::lround(4 * Scale());
   const LONG right = std::min(left + text.cx + 2 * gap, canvas.Width() - left);
   canvas.Shade({double(left), top, double(right - left), line}, background, background);
-  canvas.Text(frame_.Caption(), {left + gap, 0, right, text.cy}, Font(),
-              Theme().TextColor(frame_.ForeColor(), frame_.Enabled(), background), DT_SINGLELINE | DT_END_ELLIPSIS);
+  const COLORREF color = Theme().TextColor(frame_.ForeColor(), frame_.Enabled(), background);
+  Prose(frame_.Caption(), Font(), right - left).Draw(canvas.Dc(), {left + gap, 0}, text.cy, color);
 }
 
 void FrameWindow::PaintBanner(Canvas& canvas) const {
