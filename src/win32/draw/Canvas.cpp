@@ -9,7 +9,7 @@ namespace vantor::win32 {
 namespace {
 
 constexpr double Pi = 3.14159265358979323846;
-/// Lines that each row of pixels is sampled at; across, coverage is exact.
+/// The number of lines at which each row of pixels is sampled; horizontally, coverage is exact.
 constexpr int LinesPerRow = 5;
 
 struct Crossing {
@@ -31,7 +31,7 @@ void FindCrossings(const Outlines& outlines, double y, std::vector<Crossing>& cr
   std::sort(crossings.begin(), crossings.end(), [](const Crossing& a, const Crossing& b) { return a.X < b.X; });
 }
 
-/// Adds the stretch from `from` to `to` to a row's coverage.
+/// Adds the range from `from` to `to` to a row's coverage.
 void Cover(std::vector<double>& row, double from, double to) {
   from = std::max(from, 0.0);
   to = std::min(to, double(row.size()));
@@ -139,7 +139,7 @@ void Canvas::RoundedBox(const Box& box, double radius, COLORREF color) {
   radius = std::min({radius, box.Width / 2, box.Height / 2});
   const double right = box.Left + box.Width;
   const double bottom = box.Top + box.Height;
-  // Between the round ends nothing needs smoothing when the sides lie on pixels, as they mostly do.
+  // Between the rounded ends nothing needs smoothing if the sides are on pixel boundaries, as they usually are.
   const double end = std::ceil(radius);
   const bool onPixels = IsWhole(box.Left) && IsWhole(box.Top) && IsWhole(box.Width) && IsWhole(box.Height);
   const bool split = onPixels && box.Height > 2 * end;
@@ -167,7 +167,7 @@ void Canvas::EdgedBox(const Box& box, double radius, double thickness, COLORREF 
 
 void Canvas::Line(const std::vector<Point>& points, double thickness, COLORREF color) {
   const double half = thickness / 2;
-  // Round ends and corners, and a box from each to the next. All turn the same way, so that together they are one area.
+  // Round ends and corners, and a box from each to the next. All have the same orientation, so that they form one area.
   Outlines outlines;
   const Point* previous = nullptr;
   for (const Point& point : points) {

@@ -17,14 +17,14 @@ struct Point {
   double Y = 0;
 };
 
-/// A box in pixels, which may lie between them.
+/// A box in pixels, possibly fractional.
 struct Box {
   double Left = 0;
   double Top = 0;
   double Width = 0;
   double Height = 0;
 
-  /// An area, as seen from the point that is to be (0, 0).
+  /// An area relative to the point `from`.
   [[nodiscard]] static Box Of(const RECT& area, POINT from = {}) {
     return {double(area.left - from.x), double(area.top - from.y), double(area.right - area.left),
             double(area.bottom - area.top)};
@@ -40,25 +40,25 @@ using Outlines = std::vector<std::vector<Point>>;
 /// A picture in memory, drawn with smooth edges and then shown at once, so that nothing flickers.
 class Canvas {
  public:
-  /// Size in pixels, at least 1 by 1. Throws std::bad_alloc when the system gives no memory for it.
+  /// Size in pixels, at least 1 by 1. Throws std::bad_alloc if the system has no memory for it.
   Canvas(int width, int height);
-  /// For what the system draws into the picture.
+  /// For drawing into the picture by system calls.
   [[nodiscard]] HDC Dc() const { return dc_.Get(); }
   [[nodiscard]] int Width() const { return width_; }
   [[nodiscard]] int Height() const { return height_; }
   [[nodiscard]] Box Whole() const { return {0, 0, double(width_), double(height_)}; }
 
   void Clear(COLORREF color);
-  /// Fills between two colours, from top to bottom.
+  /// Fills a box with a vertical gradient.
   void Shade(const Box& box, COLORREF top, COLORREF bottom);
-  /// Fills what lies inside the outlines, and only once where outlines that turn the same way overlap.
+  /// Fills the inside of the outlines. Outlines with the same orientation that overlap form one area.
   void Fill(const Outlines& outlines, COLORREF color);
   void RoundedBox(const Box& box, double radius, COLORREF color);
   /// A box with an edge of the given thickness inside it.
   void EdgedBox(const Box& box, double radius, double thickness, COLORREF edge, COLORREF fill);
-  /// A line through the points, with round corners and ends.
+  /// Draws a line through the points, with round corners and ends.
   void Line(const std::vector<Point>& points, double thickness, COLORREF color);
-  /// Text as DrawText does it; ampersands are plain characters.
+  /// Draws text as DrawText does; ampersands are ordinary characters.
   void Text(std::wstring_view text, RECT area, HFONT font, COLORREF color, UINT format);
 
   /// Copies the picture to (x, y).

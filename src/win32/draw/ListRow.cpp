@@ -10,7 +10,7 @@ namespace vantor::win32 {
 
 namespace {
 
-/// A web address that is wider than its room, without a piece behind its host. Any other text as it is.
+/// Shortens a web address that is too wide by leaving out a part after the host. Other texts are unchanged.
 std::wstring ShortAddress(const std::wstring& text, HFONT font, int room) {
   const std::size_t scheme = text.find(L"://");
   const std::size_t host = scheme != std::wstring::npos ? text.find(L'/', scheme + 3) : std::wstring::npos;

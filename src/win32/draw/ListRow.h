@@ -19,9 +19,9 @@ struct ListRow {
 
 /// The height of a row in pixels, for a font.
 [[nodiscard]] int RowHeight(HFONT font, double scale);
-/// The room that a row's text leaves free at each side.
+/// The margin at each side of a row's text.
 [[nodiscard]] int RowMargin(double scale);
-/// Draws a row in the state that the system says. A text that is too long is cut with an ellipsis, a path's in its
+/// Draws a row in the state given by the system. A text that is too long is shortened with an ellipsis, a path in the
 /// middle.
 void DrawRow(const DRAWITEMSTRUCT& item, const ListRow& row, COLORREF background, HFONT font, const Theme& theme,
              double scale);

@@ -9,7 +9,7 @@ namespace {
 
 constexpr double Units = 16;
 
-/// Takes numbers and commands from the beginning of a text.
+/// Reads numbers and commands from the start of a text.
 class Reader {
  public:
   explicit Reader(std::string_view text) : text_(text) {}

@@ -7,15 +7,15 @@
 
 namespace vantor::win32 {
 
-/// One stretch of a path: points joined by straight lines.
+/// One section of a path: points joined by straight lines.
 struct Stretch {
   std::vector<Point> Points;
   bool Closed = false;
-  bool Curved = false;  // some of its points stand for a curve
+  bool Curved = false;  // some of its points approximate a curve
 };
 
-/// Reads path data (see form::Shape) into points of a box, whose sides stand for 16 units. What is not path data ends
-/// the reading.
+/// Converts path data (see form::Shape) to points in a box, whose sides represent 16 units. Stops at anything that is
+/// not path data.
 [[nodiscard]] std::vector<Stretch> ReadPath(std::string_view path, const Box& box);
 
 }  // namespace vantor::win32

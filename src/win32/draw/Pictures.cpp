@@ -15,7 +15,7 @@ using form::Background;
 
 constexpr double FaceRadius = 4;  // pixels at 96 dots per inch
 
-/// The thickness of a picture's lines: near 1.5 pixels at 96 dots per inch, in half pixels.
+/// The thickness of a picture's lines: about 1.5 pixels at 96 dots per inch, in steps of half a pixel.
 double LineThickness(double scale) { return std::max(std::floor(3 * scale + 0.25) / 2, 1.0); }
 
 COLORREF FillOf(form::Color color, const Palette& colors) {
@@ -23,10 +23,10 @@ COLORREF FillOf(form::Color color, const Palette& colors) {
   return color == form::Color::MarkBlue ? colors.Normal.Text : colors.Normal.Fill;
 }
 
-/// Moves a line's middle so that its left or upper edge lies between two pixels.
+/// Moves the centre of a line so that its left or upper edge is on a pixel boundary.
 double OnPixels(double middle, double thickness) { return std::round(middle - thickness / 2) + thickness / 2; }
 
-/// The side band of a message: the accent, deepening to its foot, with the drawing at its head.
+/// Draws the side band of a message: the accent colour, darker towards the bottom, with the drawing at the top.
 void DrawBand(Canvas& canvas, const form::Picture& picture, const Box& box, const Palette& colors, double scale) {
   canvas.Shade(box, colors.Accent, colors.AccentFoot);
   const double side = std::round(std::min({box.Width * 0.6, box.Height * 0.6, 32 * scale}));

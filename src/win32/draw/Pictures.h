@@ -15,11 +15,11 @@ void DrawPicture(Canvas& canvas, const form::Picture& picture, const Box& box, c
 void DrawFace(Canvas& canvas, const Box& box, const Palette& colors, const Palette::Face& face, bool focused,
               double scale);
 
-/// Draws the background of a text box; with the focus its edge is thicker at the foot.
+/// Draws the background of a text box; with the focus its edge is thicker at the bottom.
 void DrawField(Canvas& canvas, const Box& box, COLORREF edge, COLORREF fill, bool focused, double scale);
 
-/// Draws lines and areas into the largest square in the middle of a box. All lines have one thickness, which depends on
-/// the scale alone, and upright and level ones lie on whole pixels.
+/// Draws lines and areas into the largest square in the middle of a box. All lines have one thickness, which depends
+/// only on the scale, and horizontal and vertical ones are aligned to pixels.
 void DrawShapes(Canvas& canvas, form::Drawing drawing, const Box& box, const Palette& colors, COLORREF color,
                 double scale);
 

@@ -16,13 +16,13 @@ int WidthOf(HDC dc, std::wstring_view text) {
   return size.cx;
 }
 
-/// Where the way to the second column begins; the line's end if it has none. Blanks before the first word are none.
+/// The start of the gap before the second column; the end of the line if it has none. Leading blanks do not count.
 std::size_t GapOf(std::wstring_view line) {
   const std::size_t word = std::min(line.find_first_not_of(L' '), line.size());
   return std::min(line.find(ColumnGap, word), line.size());
 }
 
-/// Takes the first line off a text, without the blanks at its end.
+/// Removes the first line from a text and returns it without trailing blanks.
 std::wstring_view TakeLine(std::wstring_view& text) {
   const std::size_t end = std::min(text.find(L"\r\n"), text.size());
   const std::wstring_view line = text.substr(0, end);

@@ -7,11 +7,11 @@
 
 namespace vantor::win32 {
 
-/// A text set in lines. They are broken where it says; between words, or within one, where they are too long; and three
-/// blanks or more within a line stand for the way to a second column, which all such lines share.
+/// A text laid out in lines. Lines that are too long wrap between words, or within a word. Three or more blanks within
+/// a line separate two columns, the second of which is aligned in all such lines.
 class Prose {
  public:
-  /// Sets the text, which outlives this, to a width in pixels in a font.
+  /// Lays the text out for a width in pixels in a font. The text must outlive this object.
   Prose(std::wstring_view text, HFONT font, int width);
 
   /// Pixels.

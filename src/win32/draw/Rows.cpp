@@ -15,7 +15,7 @@ namespace {
 constexpr int Margin = 6;
 constexpr int DetailGap = 10;
 
-/// The detail's size beside the text's.
+/// The size of the detail relative to the text.
 constexpr double SmallFont = 0.88;
 /// How far the detail's colour is on the way from the text's to the background's.
 constexpr double Faintness = 0.36;
@@ -26,7 +26,7 @@ COLORREF Mix(COLORREF textColor, COLORREF background, double share) {
              mix(GetBValue(textColor), GetBValue(background)));
 }
 
-/// A row's text, cut to its room, where each character ends.
+/// A row's text, shortened to the space available, and the end of each character.
 struct Measured {
   std::wstring Text;
   std::vector<int> Ends;  // pixels from the text's beginning
@@ -102,7 +102,7 @@ void DrawMarkedRow(Canvas& canvas, const form::Row& row, RowState state, COLORRE
   const LONG gap = std::lround(DetailGap * scale);
   const LONG textWidth = TextSize(row.Text, font).cx;
   const LONG detailWidth = row.Detail.empty() ? 0 : TextSize(row.Detail, small).cx + gap;
-  // Of two that are too long the text keeps more than half.
+  // If both are too long, the text gets more than half of the width.
   const LONG room = std::max((right - left) * 3 / 5, right - left - detailWidth);
   const LONG textEnd = left + std::min(textWidth, room);
   constexpr UINT OneLine = DT_SINGLELINE | DT_VCENTER;

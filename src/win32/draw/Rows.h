@@ -6,11 +6,11 @@
 
 namespace vantor::win32 {
 
-/// How a row stands out.
+/// How a row is highlighted.
 enum class RowState { Plain, Hot, Current };
 
 /// Draws a row over the whole canvas: its text with a line under the marked part, and the detail after it, smaller and
-/// fainter. What is too long is cut with an ellipsis, a path in its middle.
+/// fainter. Texts that are too long are shortened with an ellipsis, a path in the middle.
 void DrawMarkedRow(Canvas& canvas, const form::Row& row, RowState state, COLORREF background, COLORREF textColor,
                    const Theme& theme, int dpi);
 

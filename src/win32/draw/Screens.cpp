@@ -12,7 +12,7 @@ namespace vantor::win32 {
 
 namespace {
 
-/// A function that only newer systems have; null elsewhere.
+/// A function that only newer systems have; null on others.
 template <class Function>
 Function FindInUser32(const char* name) {
   return FindFunction<Function>(GetModuleHandleW(L"user32.dll"), name);
@@ -26,9 +26,9 @@ int PlainSystemDpi() {
   return dpi;
 }
 
-/// The resolution that Windows tells of.
+/// The resolution that Windows reports.
 int PlainDpiOf(HMONITOR monitor) {
-  // Shcore.dll came with Windows 8.1.
+  // Shcore.dll exists since Windows 8.1.
   using GetDpi = HRESULT(WINAPI*)(HMONITOR, int, UINT*, UINT*);
   static const auto getDpi = FindFunction<GetDpi>(LoadSystemLibrary(L"shcore.dll"), "GetDpiForMonitor");
   UINT x = 0;
@@ -41,7 +41,7 @@ HMONITOR PrimaryMonitor() { return MonitorFromPoint(POINT{}, MONITOR_DEFAULTTOPR
 LOGFONTW PlainMessageFont() {
   NONCLIENTMETRICSW metrics{};
   metrics.cbSize = sizeof metrics;
-  // The call that knows resolutions came with Windows 10.
+  // The call with a resolution exists since Windows 10.
   using ParametersForDpi = BOOL(WINAPI*)(UINT, UINT, void*, UINT, UINT);
   static const auto forDpi = FindInUser32<ParametersForDpi>("SystemParametersInfoForDpi");
   if (forDpi == nullptr || forDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, 96) == FALSE) {
@@ -60,7 +60,7 @@ int Gap(int from, int to, int otherFrom, int otherTo) { return std::max({otherFr
 
 }  // namespace
 
-/// A screen in both measures.
+/// A screen in pixels and in twips.
 struct Screens::Monitor {
   RECT Pixels{};
   RECT WorkArea{};
@@ -86,12 +86,12 @@ const Screens::TextSize& Screens::UserTextSize() const {
   const double wanted = std::abs(size.Font.lfHeight) / UsualHeight;
   if (wanted > 1) {
     size.Scale = wanted;
-    size.Font.lfHeight = std::lround(size.Font.lfHeight / wanted);  // the scale makes up for it
+    size.Font.lfHeight = std::lround(size.Font.lfHeight / wanted);  // the scale compensates for it
   }
   return textSize_.emplace(size);
 }
 
-/// The start in twips of a stretch of pixels: the edge nearer to zero, where the main screen is, stands still.
+/// The start in twips of a range of pixels: the edge nearer to zero, where the main screen is, stays fixed.
 form::Twips Screens::Start(LONG from, LONG to, int dpi) const {
   if (to <= 0) return ToTwips(to, SystemDpi()) - ToTwips(to - from, dpi);
   return ToTwips(from, SystemDpi());
@@ -137,7 +137,7 @@ void Screens::DeclareAwareness() {
 }
 
 int Screens::WithTextScale(int dpi) const {
-  constexpr double Inexactness = 0.01;  // of the scale, which may stand for a whole number
+  constexpr double Inexactness = 0.01;  // of the scale, whose product may be meant as a whole number
   return static_cast<int>(dpi * UserTextSize().Scale + Inexactness);
 }
 
@@ -173,7 +173,7 @@ form::Rect Screens::TwipsOf(const RECT& pixels) const {
 }
 
 void Screens::AddEdges(RECT& inside, DWORD style, DWORD extendedStyle, int dpi) const {
-  // The call that knows resolutions came with Windows 10.
+  // The call with a resolution exists since Windows 10.
   using AdjustForDpi = BOOL(WINAPI*)(RECT*, DWORD, BOOL, DWORD, UINT);
   static const auto forDpi = FindInUser32<AdjustForDpi>("AdjustWindowRectExForDpi");
   const long plainDpi = std::lround(dpi / UserTextSize().Scale);
@@ -188,7 +188,7 @@ form::Screen Screens::Primary() const { return Describe(PrimaryMonitor()).ToScre
 
 LOGFONTW Screens::MessageFont(int dpi) const {
   LOGFONTW font = UserTextSize().Font;
-  font.lfHeight = font.lfHeight * dpi / 96;  // rounded down, so that texts need no more room than was measured
+  font.lfHeight = font.lfHeight * dpi / 96;  // rounded down, so that texts don't need more space than was measured
   return font;
 }
 

@@ -8,35 +8,35 @@
 
 namespace vantor::win32 {
 
-/// The screens of the desktop, and the way between twips and pixels.
+/// The screens of the desktop, and the conversion between twips and pixels.
 ///
-/// Every screen has a resolution of its own, and the system's is the one of the main screen when the user signed
-/// in. Places on the desktop are told in twips such that lengths within a screen are true on it: a screen's edge
-/// that is nearer to the main screen lies where the system's resolution puts it, and the rest is counted from there.
+/// Every screen has its own resolution; the system's is that of the main screen when the user signed in. Positions on
+/// the desktop are given in twips in such a way that lengths within a screen are correct: the edge of a screen that is
+/// nearer to the main screen is placed by the system's resolution, and everything else is measured from there.
 ///
-/// Where the user has asked for larger texts, all resolutions here are raised by as much, so that whatever holds a text
-/// grows with it.
+/// If the user has chosen larger texts, all resolutions here are increased by the same factor, so that whatever
+/// contains a text grows with it.
 class Screens {
  public:
-  /// Tells Windows that the program scales itself on every screen. Does nothing when the manifest has said so.
+  /// Tells Windows that the program scales itself on every screen. Does nothing if the manifest already says so.
   static void DeclareAwareness();
 
-  /// The user's settings or the screens have changed: what is remembered of them is asked for anew.
+  /// The user's settings or the screens have changed: cached values are discarded.
   void Forget() { textSize_.reset(); }
 
-  /// The resolution that Windows tells of, raised for larger texts.
+  /// The resolution that Windows reports, increased for larger texts.
   [[nodiscard]] int WithTextScale(int dpi) const;
   [[nodiscard]] int SystemDpi() const;
-  /// Dots per inch of the screen that holds most of the window, or of the rectangle in pixels.
+  /// The dots per inch of the screen that contains most of the window, or of the rectangle in pixels.
   [[nodiscard]] int DpiOf(HWND window) const;
   [[nodiscard]] int DpiOf(const RECT& pixels) const;
 
   [[nodiscard]] static int ToPixels(form::Twips twips, int dpi);
   [[nodiscard]] static form::Twips ToTwips(int pixels, int dpi);
 
-  /// A place on the desktop in pixels. Its size is the one that it has on the screen it is on.
+  /// A rectangle on the desktop in pixels. Its size is the one that it has on its screen.
   [[nodiscard]] RECT PixelsOf(const form::Rect& place) const;
-  /// Where a window's top left corner stands, in twips.
+  /// A rectangle in pixels, converted to twips.
   [[nodiscard]] form::Rect TwipsOf(const RECT& pixels) const;
 
   /// Adds a window's title bar and edges around its inside.
@@ -49,7 +49,8 @@ class Screens {
   [[nodiscard]] LOGFONTW MessageFont(int dpi) const;
 
  private:
-  /// The user's font for messages and dialogs at 96 dots per inch, and what its size makes of everything else.
+  /// The user's font for messages and dialogs at 96 dots per inch, and the scale of everything else that follows from
+  /// it.
   struct TextSize {
     LOGFONTW Font{};
     double Scale = 1;
@@ -58,7 +59,7 @@ class Screens {
 
   const TextSize& UserTextSize() const;
   [[nodiscard]] Monitor Describe(HMONITOR handle) const;
-  /// The monitor that holds most of the place; the nearest one if none does.
+  /// The monitor that contains most of the place; the nearest one if none does.
   [[nodiscard]] Monitor Best(const form::Rect& place) const;
   [[nodiscard]] form::Twips Start(LONG from, LONG to, int dpi) const;
 

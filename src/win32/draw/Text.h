@@ -6,7 +6,8 @@
 
 namespace vantor::win32 {
 
-/// A window's device context, or the screen's for null, for the length of a scope. Whole: with the window's edges.
+/// The device context of a window, or of the screen for null, for the length of a scope. Whole: including the window's
+/// edges.
 class WindowDc {
  public:
   enum class Part { Inside, Whole };
@@ -24,7 +25,7 @@ class WindowDc {
   HDC dc_;
 };
 
-/// Draws with a font or on a bitmap for the length of a scope.
+/// Selects a font or a bitmap for the length of a scope.
 class Selected {
  public:
   Selected(HDC dc, HGDIOBJ object) : dc_(dc), old_(SelectObject(dc, object)) {}
@@ -37,14 +38,15 @@ class Selected {
   HGDIOBJ old_;
 };
 
-/// The size in pixels that a text is drawn in, its lines broken where it says. Ampersands are plain characters.
+/// The size of a text in pixels, with its own line breaks only. Ampersands are ordinary characters.
 [[nodiscard]] SIZE TextSize(std::wstring_view text, HFONT font);
 /// The height in pixels of a line.
 [[nodiscard]] int TextHeight(HFONT font);
-/// Draws a text as DrawText does, leaving its background as it is; ampersands are plain characters.
+/// Draws a text as DrawText does, without a background; ampersands are ordinary characters.
 void DrawPlainText(HDC dc, std::wstring_view text, RECT area, HFONT font, COLORREF color, UINT format);
-/// Draws a line of text with the font and the colour of the device context, its characters where they were measured:
-/// not every Windows draws as wide as it measures. Letters that are shaped or turned are left to it all the same.
+/// Draws a line of text with the font and the colour of the device context, with its characters where they were
+/// measured: not every version of Windows draws text as wide as it measures it. Scripts with shaping or from right to
+/// left are left to the system.
 void DrawPlaced(HDC dc, int x, int y, std::wstring_view text);
 
 }  // namespace vantor::win32

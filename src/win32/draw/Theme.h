@@ -11,8 +11,8 @@
 
 namespace vantor::win32 {
 
-/// The colours of what the program draws itself: one light blue line of thought, or the system's colours alone
-/// where the user has asked for high contrast.
+/// The colours of what the program draws itself: shades of blue, or only the system's colours if the user has chosen
+/// high contrast.
 struct Palette {
   struct Face {
     COLORREF Fill;
@@ -28,17 +28,17 @@ struct Palette {
   Face Disabled;
   COLORREF Outline;           // the edge of a window
   COLORREF Line;              // edges of frames and boxes
-  COLORREF Focus;             // the edge of what has the focus
+  COLORREF Focus;             // the edge of the control with the focus
   COLORREF Accent;            // the product's light blue
-  COLORREF AccentFoot;        // what it deepens to at the foot of a large area
+  COLORREF AccentFoot;        // the darker shade at the bottom of a large area
   COLORREF Letter;            // the small letters below a drawing
   COLORREF DisabledOnSilver;  // text
 };
 
-/// The user's font for messages, as it is, bold, or small and bold for a single letter.
+/// The user's font for messages: unchanged, bold, or small and bold for a single letter.
 enum class FontStyle { Plain, Bold, Small };
 
-/// Colours, brushes and fonts as the user's settings have them, looked up when first needed.
+/// Colours, brushes and fonts according to the user's settings, looked up when first needed.
 class Theme {
  public:
   explicit Theme(const Screens& screens) : screens_(screens) {}
@@ -47,11 +47,11 @@ class Theme {
   void Forget();
 
   [[nodiscard]] const Palette& Colors() const;
-  /// A form's colours on the screen. With high contrast on, only the system's own come through.
+  /// A form's colour on the screen. With high contrast, only system colours are used.
   [[nodiscard]] COLORREF Background(form::Color color) const;
-  /// What is disabled has a colour that depends on what it is on.
+  /// The colour of disabled text depends on its background.
   [[nodiscard]] COLORREF TextColor(form::Color color, bool enabled, COLORREF background) const;
-  /// Lives as long as the theme.
+  /// Valid as long as the theme exists.
   [[nodiscard]] HBRUSH Brush(COLORREF color) const;
   [[nodiscard]] HFONT Font(int dpi, FontStyle style) const;
 
@@ -67,11 +67,11 @@ class Theme {
   };
 
   const Screens& screens_;
-  // What was looked up.
+  // Cached values.
   mutable std::optional<Palette> palette_;
   mutable std::vector<ColoredBrush> brushes_;
   mutable std::vector<SizedFont> fonts_;
-  std::vector<SizedFont> oldFonts_;  // windows may hold them until they are given new ones
+  std::vector<SizedFont> oldFonts_;  // windows may use them until they are given new ones
 };
 
 }  // namespace vantor::win32

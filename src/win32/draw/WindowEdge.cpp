@@ -18,7 +18,7 @@ constexpr DWORD FirstBuildWithRoundCorners = 22000;
 
 double CornerRadius(double scale) { return std::round(6 * scale); }
 
-/// Wine's compositor accepts whatever it is told, so the system's version has to answer.
+/// Wine's compositor accepts any attribute, so the decision depends on the system's version.
 bool CompositorRoundsCorners() {
   static const bool rounds = [] {
     using GetVersion = LONG(WINAPI*)(OSVERSIONINFOW*);
@@ -48,7 +48,7 @@ void RoundCorners(HWND window, const Palette& colors, double scale) {
   }
   const RECT place = WindowArea(window);
   const int across = static_cast<int>(2 * CornerRadius(scale));
-  // The system keeps the region.
+  // The system takes ownership of the region.
   SetWindowRgn(window,
                CreateRoundRectRgn(0, 0, place.right - place.left + 1, place.bottom - place.top + 1, across, across),
                TRUE);

@@ -12,12 +12,12 @@ namespace vantor::win32 {
 /// The thickness of all edges, in whole pixels.
 [[nodiscard]] double EdgeThickness(double scale);
 
-/// Gives a window round corners for its size: by the desktop's compositor where that knows how to (Windows 11), else by
-/// cutting them off.
+/// Gives a window rounded corners for its size: by the desktop's compositor if it supports that (Windows 11), otherwise
+/// by cutting them off.
 void RoundCorners(HWND window, const Palette& colors, double scale);
 
-/// Draws the edge and the inside of a window, of which the canvas may show a part only. Leaves a canvas as it is that
-/// lies off the edge.
+/// Draws the edge and the inside of a window, of which the canvas may show only a part. Leaves the canvas unchanged if
+/// it is not at the edge.
 void DrawWindowEdge(Canvas& canvas, const Box& window, const Palette& colors, COLORREF background, double scale);
 
 /// The same for all of a window of this size, on the screen.
