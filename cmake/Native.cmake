@@ -30,7 +30,7 @@ target_include_directories(flows PRIVATE "${PROJECT_SOURCE_DIR}/tests")
 add_test(NAME ${prefix}flows COMMAND flows ${VANTOR_FLOWS})
 set_tests_properties(${prefix}flows PROPERTIES LABELS native TIMEOUT 120)
 
-# A fixed piece of what the fuzzer does.
+# A fixed part of what the fuzzer does.
 if(VANTOR_SANITIZE)
   add_executable(fixed_fuzz ${VANTOR_FIXED_FUZZ} ${VANTOR_FUZZ_SOURCES})
   target_link_libraries(fixed_fuzz PRIVATE vantor_core vantor_doctest)

@@ -1,4 +1,4 @@
-# Flags that hold for every target, and the helper that makes tests.
+# Flags for every target, and the function that defines tests.
 
 option(VANTOR_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
 option(VANTOR_FUZZ "Build only the fuzzer, which needs Clang" OFF)
@@ -18,11 +18,11 @@ target_compile_options(
     -Woverloaded-virtual
     -Wextra-semi
     -Wcast-qual
-    # A designated initialiser that leaves members at their defaults is the point of using one.
+    # Designated initialisers are used in order to leave members at their defaults.
     -Wno-missing-field-initializers)
 
 if(VANTOR_SANITIZE)
-  # Without recovery a finding ends the program, so that no test can pass over it.
+  # Without recovery, a finding ends the program, so that no test can ignore it.
   target_compile_options(
     vantor_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -g1)
   target_link_options(vantor_flags INTERFACE -fsanitize=address,undefined)
@@ -34,8 +34,8 @@ endif()
 
 # One CTest test for each source file: a failure names its file, and files can run side by side.
 # A filter that matches nothing is a failure too. A line "// desktop: OPTIONS" in a file sets options of the command that
-# runs it: the desktop that its tests need, a 64-bit Windows, say ("--root win64"). A file with several such lines runs on
-# each of these desktops.
+# runs it, for the desktop that its tests need, such as a 64-bit Windows ("--root win64"). A file with several such lines
+# is run on each of these desktops.
 function(vantor_add_tests label sources)
   cmake_parse_arguments(arg "" "TIMEOUT;PREFIX" "RUNNER;COMMAND" ${ARGN})
   foreach(source IN LISTS ${sources})

@@ -1,4 +1,4 @@
-# The installer (target "installer") and what goes into it. tools/package makes everything that is published.
+# The installer (target "installer") and its contents. tools/package builds everything that is published.
 
 find_program(VANTOR_MAKENSIS makensis)
 find_program(VANTOR_CMARK cmark-gfm)
@@ -42,7 +42,7 @@ add_custom_command(
   VERBATIM)
 add_custom_target(installer DEPENDS "${VANTOR_INSTALLER}")
 
-# What tools/package fills into the package managers' manifests.
+# The values that tools/package fills into the package managers' manifests.
 file(
   WRITE "${package_folder}/values"
   "VERSION=${PROJECT_VERSION}\nPUBLISHER=${VANTOR_PUBLISHER}\nDESCRIPTION=${VANTOR_DESCRIPTION}\n"

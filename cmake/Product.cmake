@@ -1,4 +1,4 @@
-# What a maker who ships the program fills in. The defaults lie in a reserved domain, where nobody can be reached.
+# To be set by a maker who ships the program. The defaults are in a reserved domain, where nobody can be reached.
 
 set(VANTOR_PUBLISHER "Orbel" CACHE STRING "The maker's name")
 set(VANTOR_DESCRIPTION "Opens programs, files, folders and web addresses by short codes."

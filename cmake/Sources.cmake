@@ -15,7 +15,7 @@ foreach(folder IN LISTS VANTOR_CORE_FOLDERS)
   list(APPEND VANTOR_CORE_SOURCES ${found})
 endforeach()
 
-# The desktop without windows is for tests alone. It asks what kind a control is, which the Windows build can't tell.
+# The desktop without windows is only for tests. It uses dynamic_cast, which the Windows build does not have.
 if(WIN32)
   list(REMOVE_ITEM VANTOR_CORE_SOURCES "${PROJECT_SOURCE_DIR}/src/form/Headless.cpp")
 endif()
@@ -31,7 +31,7 @@ foreach(folder IN LISTS VANTOR_UNIT_TEST_FOLDERS)
   list(APPEND VANTOR_UNIT_TEST_SOURCES ${found})
 endforeach()
 
-# Flows: users' stories, and what plays them in each of two worlds.
+# Flows: users' stories, and the code that plays them in each of two worlds.
 vantor_glob(VANTOR_FLOWS tests/flows/*.txt)
 set(VANTOR_FLOW_PLAYER "${PROJECT_SOURCE_DIR}/tests/flows/Main.cpp" "${PROJECT_SOURCE_DIR}/tests/flows/Player.cpp")
 set(VANTOR_NATIVE_WORLD "${PROJECT_SOURCE_DIR}/tests/flows/NativeWorld.cpp")

@@ -11,33 +11,33 @@ target_compile_definitions(
             WINVER=0x0601
             _WIN32_WINNT=0x0601
             _WIN32_IE=0x0800)
-# Without the descriptions of types that nothing asks for: 11 KB of the program.
+# Run-time type information is not used, and would add 11 KB to the program.
 target_compile_options(vantor_flags INTERFACE -ffunction-sections -fdata-sections -fno-rtti)
 target_link_options(
   vantor_flags
   INTERFACE
-    # The run time is linked in: the program needs nothing but what every Windows has.
+    # The run time is linked statically: the program needs only what every Windows has.
     -static
     -Wl,--gc-sections
-    # At a place that can't be foretold, without code on the stack or the heap, and without handlers that Windows
-    # would have to take from the stack.
+    # Loaded at an unpredictable address, without executable stack or heap, and without exception handlers on the
+    # stack.
     -Wl,--dynamicbase
     -Wl,--nxcompat
     -Wl,--no-seh
     -Wl,--tsaware
     # Windows 7 and newer.
     -Wl,--major-os-version=6,--minor-os-version=1,--major-subsystem-version=6,--minor-subsystem-version=1
-    # The same sources make the same file.
+    # The same sources produce the same file.
     -Wl,--no-insert-timestamp)
 
-# The program is optimised as a whole, which takes a seventh off its size. In one partition, because this compiler
-# (GCC 12) fails with several. The objects hold plain code as well, so that the test programs link quickly.
+# The program is optimised as a whole, which reduces its size by a seventh; in one partition, because this compiler
+# (GCC 12) fails with several. The objects also contain ordinary code, so that the test programs link quickly.
 set(VANTOR_WHOLE_COMPILE -flto -ffat-lto-objects)
 set(VANTOR_WHOLE_LINK -flto -flto-partition=none)
 set(VANTOR_PLAIN_LINK -fno-lto)
 
-# Of the program's functions, those that hold arrays look at their return address before they take it. What they ask for
-# is no part of a library, because the optimised whole asks for it when libraries are no longer searched.
+# Functions with arrays check their return address before they return. The guard that they need is not in a library,
+# because whole-program optimisation refers to it only after libraries have been searched.
 set(VANTOR_STACK_GUARD_COMPILE -fstack-protector-strong)
 add_library(vantor_stack_guard OBJECT ${VANTOR_STACK_GUARD})
 target_link_libraries(vantor_stack_guard PRIVATE vantor_flags)
@@ -57,7 +57,7 @@ foreach(library IN ITEMS vantor_core vantor_win32)
   target_compile_options(${library} PRIVATE ${VANTOR_WHOLE_COMPILE} ${VANTOR_STACK_GUARD_COMPILE})
 endforeach()
 
-# What the resource compiler reads beside its own file.
+# What the resource compiler reads besides its own file.
 file(GLOB resource_parts CONFIGURE_DEPENDS src/win32/*.manifest src/win32/*.ico)
 list(APPEND resource_parts "${PROJECT_BINARY_DIR}/generated/product/Product.rc.h"
      "${PROJECT_BINARY_DIR}/generated/product/Vantor.manifest")
@@ -76,18 +76,18 @@ add_library(vantor_doctest INTERFACE)
 target_include_directories(vantor_doctest SYSTEM INTERFACE "${PROJECT_BINARY_DIR}/third_party")
 target_include_directories(vantor_doctest INTERFACE "${PROJECT_SOURCE_DIR}/tests")
 
-# Where the test desktop is not there (a real Windows, say), the programs run by themselves.
+# Without the test desktop (on a real Windows, for example), the programs run by themselves.
 set(on_desktop)
 if(CMAKE_HOST_UNIX)
   set(on_desktop "${PROJECT_SOURCE_DIR}/tools/wine" --test)
 endif()
 
-# The same contract as natively, here with real windows behind it, and the Windows side's own tests.
+# The same contract tests as natively, here with real windows, and the Windows side's own tests.
 set(contract_test_sources ${VANTOR_CONTRACT_SOURCES} ${VANTOR_WIN32_TEST_SOURCES})
-# With the program's resources, because its manifests decide which make of controls the windows get.
+# With the program's resources, because its manifests decide which version of the common controls is used.
 add_executable(contract_tests ${VANTOR_TEST_MAIN} ${contract_test_sources} ${VANTOR_WIN32_RESOURCES})
 target_link_libraries(contract_tests PRIVATE vantor_win32 vantor_stack_guard vantor_doctest version)
-# What the shipped file holds is looked at as well.
+# The shipped file is checked as well.
 add_dependencies(contract_tests Vantor)
 target_link_options(contract_tests PRIVATE ${VANTOR_PLAIN_LINK})
 vantor_add_tests(
@@ -98,7 +98,7 @@ add_executable(recorder WIN32 ${VANTOR_RECORDER_SOURCES})
 target_link_libraries(recorder PRIVATE vantor_flags ${VANTOR_WINDOWS_LIBRARIES})
 target_include_directories(recorder PRIVATE "${PROJECT_SOURCE_DIR}/tests")
 target_link_options(recorder PRIVATE -municode -s)
-# As a program of a 64-bit Windows too, which this build's compiler can't make. Only the test desktop needs it.
+# Also as a 64-bit program, which this build's compiler can't produce. Only the test desktop needs it.
 if(on_desktop)
   set(recorder64 "${PROJECT_BINARY_DIR}/recorder64.exe")
   add_custom_command(
@@ -110,7 +110,7 @@ if(on_desktop)
   add_custom_target(recorder64 DEPENDS "${recorder64}")
 endif()
 
-# Flows and desktop tests in one program, which a real Windows can be tried with too: tools/package makes a zip of it.
+# Flows and desktop tests in one program, which can also be used on a real Windows: tools/package makes a zip of it.
 add_executable(VantorCheck ${VANTOR_CHECK_SOURCES})
 target_link_libraries(VantorCheck PRIVATE vantor_core vantor_stack_guard vantor_doctest ${VANTOR_WINDOWS_LIBRARIES} oleacc)
 target_link_options(VantorCheck PRIVATE -s ${VANTOR_PLAIN_LINK})
@@ -138,13 +138,13 @@ endfunction()
 set(drives "--drive d:=hd --drive e:=floppy --drive f:=cdrom --drive n:=network --drive r:=cdrom:empty")
 vantor_add_flows(win32 "${drives}" ${VANTOR_FLOWS})
 vantor_add_flows(win64 "--root win64 ${drives}" ${VANTOR_FLOWS})
-# On systems whose code page holds two bytes a letter (932), or everything (65001).
+# On systems whose code page has two bytes per letter (932), or is UTF-8 (65001).
 set(letters "${PROJECT_SOURCE_DIR}/tests/flows/letters.txt" "${PROJECT_SOURCE_DIR}/tests/flows/code-page.txt")
 vantor_add_flows(932 "--env LC_ALL=ja_JP.UTF-8" ${letters})
 vantor_add_flows(65001 "--env LC_ALL=hi_IN.UTF-8 --env LOCPATH=/locale" ${letters})
 
-# The floor program, built as Vantor.exe is, a host of the system's Run dialog, and what measures them all. Soak uses
-# the program as the desktop tests do.
+# The floor program, built like Vantor.exe, a host of the system's Run dialog, and the programs that measure them all.
+# Soak uses the program as the desktop tests do.
 foreach(source IN LISTS VANTOR_WIN32_BENCH_SOURCES)
   get_filename_component(name "${source}" NAME_WE)
   add_executable(${name} ${source})
