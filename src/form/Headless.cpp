@@ -41,8 +41,12 @@ class Headless::Window : public FormWindow {
   void Changed(Property property) override {
     const bool gone = property == Property::Visible && !form_.Visible() && form_.Host() == nullptr;
     if (gone) desktop_.TellActive(desktop_.ActiveForm());
+    if (property == Property::Visible) SetTopMost(form_.Visible() && form_.TopMost());
   }
-  void SetTopMost(bool /*topMost*/) override {}
+  void SetTopMost(bool topMost) override {
+    std::erase(desktop_.topMost_, &form_);
+    if (topMost) desktop_.topMost_.push_back(&form_);
+  }
   void Drag() override {
     const Rect& bounds = form_.Bounds();
     form_.InputMoved(bounds.Left + std::exchange(desktop_.dragX_, 0), bounds.Top + std::exchange(desktop_.dragY_, 0));
@@ -85,6 +89,10 @@ Form* Headless::ActiveForm() const {
   const auto active =
       std::find_if(activated_.rbegin(), activated_.rend(), [](const Form* form) { return form->Visible(); });
   return active != activated_.rend() ? *active : nullptr;
+}
+
+bool Headless::IsTopMost(const Form& form) const {
+  return std::find(topMost_.begin(), topMost_.end(), &form) != topMost_.end();
 }
 
 void Headless::Type(std::wstring_view text) {
@@ -205,6 +213,7 @@ void Headless::Discard(std::unique_ptr<FormWindow> window) { window.reset(); }
 
 void Headless::FormGone(Form& form) {
   std::erase(activated_, &form);
+  std::erase(topMost_, &form);
   if (toldActive_ == &form) toldActive_ = nullptr;
 }
 

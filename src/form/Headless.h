@@ -37,6 +37,9 @@ class Headless : public UserInterface {
   /// The form that has the focus: the modal one, else the one activated or shown last that is still shown.
   [[nodiscard]] Form* ActiveForm() const;
 
+  /// Whether the form's window stays above all others.
+  [[nodiscard]] bool IsTopMost(const Form& form) const;
+
   // What the user does.
 
   /// Types characters into the control that has the focus. Backspace is '\b', Enter '\r', Escape '\x1b'.
@@ -86,6 +89,7 @@ class Headless : public UserInterface {
   std::vector<RunningTimer> timers_;
   Form* toldActive_ = nullptr;
   std::vector<Form*> activated_;  // the last one most recently; a hidden form yields to the one before it
+  std::vector<const Form*> topMost_;
   Twips dragX_ = 0;
   Twips dragY_ = 0;
   std::deque<std::function<void(Form&)>> modalScripts_;

@@ -170,7 +170,7 @@ class NativeWorld : public World {
       return has ? active->ActiveControl()->Name() : Text();
     }
     if (what == L"minimised") return yes(bar.WindowState() == form::WindowState::Minimized);
-    if (what == L"on top") return yes(bar.TopMost());
+    if (what == L"on top") return yes(Desktop->IsTopMost(name.empty() ? bar : Reachable(name).OwnerForm()));
     if (what == L"place")
       return std::to_wstring(bar.Bounds().Left / 15) + L' ' + std::to_wstring(bar.Bounds().Top / 15);
     if (what == L"line") return Line(dynamic_cast<const form::TextBox&>(*Find(L"TextMain")));

@@ -226,7 +226,8 @@ class RealWorld : public World {
       return GetWindowLongW(focus, GWL_ID) == win32::ControlId(name) ? name : Wide(window::ClassName(focus));
     }
     if (what == L"minimised") return yes(window::IsMinimised(Bar()));
-    if (what == L"on top") return yes(window::IsTopMost(Bar()));
+    if (what == L"on top")
+      return yes(window::IsTopMost(name.empty() ? Bar() : GetAncestor(program_->Control(name), GA_ROOT)));
     if (what == L"place") {
       const RECT bar = window::Bounds(Bar());
       return std::to_wstring(bar.left) + L' ' + std::to_wstring(bar.top);

@@ -27,6 +27,8 @@ TEST_CASE("names are listed regardless of letter case, paths only when identical
   NameMatch match(program.Computer, L"\u0431");
   CHECK(!match.Begins(L"\u0111"));
   CHECK(match.Begins(L"\u0411x"));
+  for (const wchar_t c : {L' ', L'\u00A9', L'\u00AB', L'\u00B7', L'\u00BB', L'\u2014', L'\u3001', L'\u00AA', L'z'})
+    CHECK((match.Find(std::wstring{L'a', c, L'\u0431'}).How == Fit::WordBegins) == (c != L'z' && c != L'\u00AA'));
 }
 
 }  // namespace

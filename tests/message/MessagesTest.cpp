@@ -46,5 +46,16 @@ TEST_CASE("messages that open over others take nothing from them, and errors do 
   CHECK((desk.Desktop.ModalScriptsDone() && !desk.Program.MessageState.BugReportPending));
 }
 
+TEST_CASE("no message opens after the end, which may come while a service is waited for") {
+  test::StartedProgram program;
+  program.Computer.Decide = [&](std::string_view /*call*/) {
+    program.Desktop.End();
+    return fake::Outcome::Fails;
+  };
+  program.Expect();
+  program.Type(L"p=x\r");
+  CHECK(program.Told.empty());
+}
+
 }  // namespace
 }  // namespace vantor::message
