@@ -180,9 +180,10 @@ void ListFiles::SaveLaunchList(const LaunchList& list, form::Twips barLeft, form
 
 ListFiles::Split ListFiles::SplitGroup(const Group& group, const GroupBoxes& boxes) const {
   const bool remembered = group.MachineFile != nullptr && environment_.MachineRemembered;
-  const std::int16_t count = text::ToInt16(boxes.Path.ListCount());
+  // A full list on the medium and the items of the computer are more than one file may hold.
+  const int count = boxes.Path.ListCount();
   Split split;
-  split.Main.reserve(static_cast<std::size_t>(boxes.Path.ListCount()));
+  split.Main.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) {
     const bool onMain = !remembered || boxes.Item(i).Target.substr(0, 1) == environment_.MediaDriveLetter;
     (onMain ? split.Main : split.Machine).push_back(i);
@@ -191,8 +192,8 @@ ListFiles::Split ListFiles::SplitGroup(const Group& group, const GroupBoxes& box
 }
 
 std::int16_t ListFiles::CountMediaItems(const Group& group, const Split& split) {
-  *group.MachineUpper = static_cast<std::int16_t>(static_cast<int>(split.Machine.size()) - 1);
-  return static_cast<std::int16_t>(static_cast<int>(split.Main.size()) - 1);
+  *group.MachineUpper = text::ToInt16(static_cast<int>(split.Machine.size()) - 1);
+  return text::ToInt16(static_cast<int>(split.Main.size()) - 1);
 }
 
 void ListFiles::SaveSettings() {

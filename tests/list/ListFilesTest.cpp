@@ -158,5 +158,16 @@ TEST_CASE("four groups of 32,767 items come back whole, the last of them is comp
   CHECK(program.Told == Texts{L"This list is full."});
 }
 
+TEST_CASE("the computer's own items are kept beside a full list on the medium") {
+  fake::Computer computer;
+  StoredList run(computer, true);
+  for (int i = 0; i < 32767; ++i) run.Add(LaunchGroup::Prog, L"Item", L"E:\\Tool.EXE");
+  run.Add(LaunchGroup::Prog, L"Own", L"C:\\Work\\Tool.EXE");
+  run.Save();
+  CHECK(run.Settings.ProgUpper == 32766);
+  CHECK(run.Settings.MachineProgUpper == 0);
+  CHECK(computer.Disk.Bytes(run.Environment.Files.MachineProg) == "\"Own\",\"C:\\Work\\Tool.EXE\"\r\n");
+}
+
 }  // namespace
 }  // namespace vantor::list
