@@ -95,7 +95,7 @@ Function ${un}CloseRunningCopy
         SendMessage $0 ${WM_ENDSESSION} 1 1 /TIMEOUT=10000
         ; It has saved before it answers; what is left takes no time.
         System::Call 'kernel32::WaitForSingleObject(p r2, i 3000) i .r4'
-        ${IfThen} $4 = 0 ${|} StrCpy $0 0 ${|} ; with its window gone, the search begins anew
+        ${IfThen} $4 = 0 ${|} StrCpy $0 0 ${|} ; its window is gone, so the search starts again
       ${EndIf}
     ${EndIf}
     System::Call 'kernel32::CloseHandle(p r2)'

@@ -165,7 +165,7 @@ struct Soak {
     const WPARAM key = keys[static_cast<std::size_t>(number) % std::size(keys)];
     for (const bool open : {true, false}) {
       Key(Focused(), key);
-      // A key goes on only when the window manager is done as well, which else takes the focus away in the midst of it.
+      // The next key waits until the window manager is done, which would otherwise take the focus away meanwhile.
       Await("the panel", [&] {
         const HWND front = GetAncestor(Focused(), GA_ROOT);
         return front != nullptr && (front != Bar) == open && IsWindowVisible(front);

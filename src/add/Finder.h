@@ -20,9 +20,6 @@ class Finder {
 
   /// True between press and release.
   [[nodiscard]] bool FinderActive() const { return finderActive_; }
-  [[nodiscard]] service::WindowId FinderWindow() const { return finderWindow_; }
-  /// The number of processes in the snapshot, which exists from press to release.
-  [[nodiscard]] int ProcessCount() const { return processCount_; }
 
   /// Starts the search; `button` is the window that will get the release. Does nothing while a search is active.
   void Press(service::WindowId button);

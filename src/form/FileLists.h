@@ -81,7 +81,6 @@ class FileList : public OpenList {
 
   [[nodiscard]] const std::wstring& Path() const { return path_; }
   void SetPath(std::wstring_view path);
-  [[nodiscard]] const std::wstring& Pattern() const { return pattern_; }
   void SetPattern(std::wstring_view pattern);
   /// Reads the folder again; no file is selected afterwards. A folder that can't be read is shown as empty.
   void Refresh();

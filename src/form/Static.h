@@ -9,7 +9,7 @@
 
 namespace vantor::form {
 
-/// Text that the user can't change. Lines are broken at words and at CR LF.
+/// Text that the user can't change, on the background of its container. Lines are broken at words and at CR LF.
 class Label : public Control {
  public:
   template <class Parent>
@@ -19,9 +19,6 @@ class Label : public Control {
 
   [[nodiscard]] const std::wstring& Caption() const { return caption_; }
   void SetCaption(std::wstring_view caption) { Update(caption_, caption, Property::Caption); }
-  /// The container shows through instead of BackColor.
-  [[nodiscard]] bool Transparent() const { return transparent_; }
-  void SetTransparent(bool transparent) { Update(transparent_, transparent, Property::Colors); }
   [[nodiscard]] bool Bold() const { return bold_; }
   void SetBold(bool bold) { Update(bold_, bold, Property::Caption); }
   /// A text that is too long ends in an ellipsis instead of being broken.
@@ -33,7 +30,6 @@ class Label : public Control {
 
  private:
   std::wstring caption_;
-  bool transparent_ = true;
   bool bold_ = false;
   bool oneLine_ = false;
 };

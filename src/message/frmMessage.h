@@ -16,7 +16,7 @@ namespace vantor::message {
 enum class Answer { None, Accepted, Cancelled };
 
 /// The message box: a head line, a text, two buttons, and one input. Each
-/// message gets a form of its own; whoever opens it applies the answer.
+/// message gets a form of its own; its opener applies the answer.
 class frmMessage : public form::Form {
  public:
   explicit frmMessage(form::UserInterface& ui);

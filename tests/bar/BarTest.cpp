@@ -10,7 +10,7 @@ namespace {
 using form::Key;
 using test::StartedProgram;
 
-TEST_CASE("a drag ends within the screen, whoever tells of its end") {
+TEST_CASE("a drag ends within the screen, whatever reports its end") {
   StartedProgram program;
   frmMain& bar = program.Main;
   bar.InputMouseMove(form::MouseButton::None);
@@ -66,7 +66,7 @@ TEST_CASE("a change of settings that are none of the bar's leaves it where it is
   CHECK(program.Choose.Bounds().Left == 30000);
 }
 
-TEST_CASE("the open panel follows the bar, and closes with the bar's minimising whoever minimises it") {
+TEST_CASE("the open panel follows the bar, and closes when the bar is minimised in any way") {
   StartedProgram program;
   frmMain& bar = program.Main;
   form::Headless& desktop = program.Desktop;

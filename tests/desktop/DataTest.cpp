@@ -7,7 +7,7 @@
 namespace vantor::desktop {
 namespace {
 
-/// A list whose lines end otherwise than the program writes them, so that every save has to write the file anew, and
+/// A list whose lines end differently from what the program writes, so that every save has to rewrite the file, and
 /// what is loaded from the old and the new is the same.
 struct LongList {
   explicit LongList(int count) : Count(count) {
@@ -48,7 +48,7 @@ void StartAndClose(const Folder& folder) {
 
 }  // namespace
 
-TEST_CASE("the program killed in the midst of a save has lost nothing at its next start") {
+TEST_CASE("the program killed during a save has lost nothing at its next start") {
   const LongList list(32767);
   const Folder folder;
   const std::string saving = folder.Path("Vantor\\Saving.Orbel");
@@ -87,7 +87,7 @@ TEST_CASE("Windows ends while a panel or a message is open: all is saved, and in
     if (message && OwnDesktop()) {
       CHECK(Run("wineboot --end-session") == 0);
     } else {
-      // What Windows sends, without ending the session of whoever runs this.
+      // What Windows sends, without ending the session of the person who runs this.
       const ULONGLONG begin = GetTickCount64();
       CHECK(SendMessageW(bar, WM_QUERYENDSESSION, 0, 0) != 0);
       SendMessageW(bar, WM_ENDSESSION, TRUE, 0);

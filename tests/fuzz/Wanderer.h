@@ -193,7 +193,7 @@ struct Wandering {
     End();
   }
 
-  /// The user's or the system's doings, which no exception may leave.
+  /// Something that the user or the system does; no exception may leave it.
   template <class Action>
   void Do(Action action) {
     try {

@@ -21,7 +21,6 @@ void LabelWindow::Show(form::Property property) {
 
 void LabelWindow::Paint(Canvas& canvas) {
   DrawBackdrop(canvas);
-  if (!label_.Transparent()) canvas.Clear(BackgroundColor());
   const HFONT font = Font(label_.Bold() ? FontStyle::Bold : FontStyle::Plain);
   const COLORREF color = Theme().TextColor(label_.ForeColor(), label_.Enabled(), BackgroundColor());
   if (label_.OneLine()) {
