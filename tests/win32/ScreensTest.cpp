@@ -11,7 +11,9 @@
 #include "form/ListControl.h"
 #include "form/Static.h"
 #include "form/TextBox.h"
+#include "win32/draw/Prose.h"
 #include "win32/draw/Screens.h"
+#include "win32/draw/Text.h"
 #include "win32/draw/Theme.h"
 #include "win32/window/ControlWindow.h"
 #include "win32/window/WindowsDesktop.h"
@@ -140,4 +142,17 @@ TEST_CASE("texts and edges stand out from what they are on") {
       CHECK(std::max(one, other) / std::min(one, other) >= row.Least);
     }
   }
+}
+
+TEST_CASE("a text is set in lines no wider than their room, and its second columns stand under each other") {
+  const win32::Screens screens;
+  const win32::Theme theme(screens);
+  HFONT const font = theme.Font(96, win32::FontStyle::Plain);
+  const auto size = [font](std::wstring_view text, int width) { return win32::Prose(text, font, width).Size(); };
+  const int line = win32::TextHeight(font);
+  CHECK(size(L"", 100).cy == line);
+  CHECK(size(L"    two words \r\n\r\n", 1000).cy == 2 * line);
+  CHECK(size(L"    two words", size(L"    words", 1000).cx).cy == 2 * line);
+  CHECK(size(L"C:\\OneWordThatIsTooLong", 50).cx <= 50);
+  CHECK(size(L"first words   x\r\n1        second words", 1000).cx == size(L"first words   second words", 1000).cx);
 }
