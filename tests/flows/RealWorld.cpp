@@ -82,9 +82,10 @@ class RealWorld : public World {
       hasShortcut_ = false;
       throw Skip("there is a shortcut already");
     }
-    const std::size_t start = line.find(L"see started ");
-    if (start == line.npos || line.starts_with(L"native:")) return;
-    const Text what = line.substr(start + 12);
+    const Text step = line.starts_with(L"real: ") ? line.substr(6) : line;
+    const Text mark = step.starts_with(L"see started ") ? L"see started " : L" > ";
+    if (!step.starts_with(L"see started ") && !step.starts_with(L"starts ")) return;
+    const Text what = step.substr(step.rfind(mark) + mark.size());
     if (!what.starts_with(L"run {f}") && !what.starts_with(L"open {f}")) throw Skip("starts what is not the test's");
   }
   [[nodiscard]] std::wstring_view Name() const override { return L"real"; }
