@@ -1,10 +1,18 @@
 #include <doctest/doctest.h>
 
+#include <new>
+
 #include "fake/TestProgram.h"
 #include "list/NameMatch.h"
 
 namespace vantor::list {
 namespace {
+
+/// A window that has no room for what it is to show.
+struct Full : form::ControlWindow {
+  void Changed(form::Property /*property*/) override { throw std::bad_alloc(); }
+  void TakeFocus() override {}
+};
 
 TEST_CASE("names are listed regardless of letter case, paths only when identical") {
   test::TestProgram program;
@@ -19,9 +27,12 @@ TEST_CASE("names are listed regardless of letter case, paths only when identical
   // What is the same once it is saved: the name above, and an address.
   CHECK_FALSE(PathAlreadyListed(LaunchGroup::Web, L"the %22best\"", box).empty());
   CHECK(PathAlreadyListed(LaunchGroup::Web, L"the 'best'", box).empty());
-  // What does not fit into memory leaves no name without a target.
+  // What there is no room for leaves no name without a target.
   const GroupBoxes& boxes = program.List.Of(LaunchGroup::Web);
-  CHECK_THROWS(boxes.AddItem({L"x", std::wstring_view(L"", std::wstring().max_size() + 1)}));
+  Full window;
+  boxes.Path.AttachWindow(&window);
+  CHECK_THROWS(boxes.AddItem({L"x", L"y"}));
+  boxes.Path.AttachWindow(nullptr);
   CHECK(boxes.Name.ListCount() == 0);
   // Letters that share a place in the memory of letters, 0x111 and 0x411, are kept apart.
   NameMatch match(program.Computer, L"\u0431");
