@@ -47,7 +47,6 @@ set(VANTOR_WINDOWS_LIBRARIES
     ole32
     oleaut32
     shell32
-    shlwapi
     user32
     uuid)
 

@@ -35,7 +35,7 @@ class FileSystem {
   /// The names of the folders in a folder, sorted without regard to case and without hidden ones, as in Explorer by
   /// default. Empty if the folder can't be read.
   [[nodiscard]] virtual std::vector<std::wstring> Folders(std::wstring_view path) = 0;
-  /// The same for the files whose names match `pattern` ("*.exe"; "*.*" is every name).
+  /// The same for the files whose names match `pattern`: "*" and an ending ("*.exe"), or "*.*", which is every name.
   [[nodiscard]] virtual std::vector<std::wstring> Files(std::wstring_view path, std::wstring_view pattern) = 0;
 
   /// Whether another ordinary user may change, replace or take ownership of the file or folder, or create something in

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "win32/base/Handle.h"
 #include "win32/draw/Text.h"
 
 namespace vantor::win32 {
@@ -33,15 +34,15 @@ std::wstring_view TakeLine(std::wstring_view& text) {
 }  // namespace
 
 Prose::Prose(std::wstring_view text, HFONT font, int width) : font_(font), lineHeight_(TextHeight(font)) {
-  const WindowDc screen(nullptr);
-  const Selected selected(screen.Get(), font);
+  const MemoryDcHandle dc(CreateCompatibleDC(nullptr));
+  const Selected selected(dc.Get(), font);
   for (std::wstring_view rest = text; !rest.empty();) {
     const std::wstring_view line = TakeLine(rest);
     const std::size_t gap = GapOf(line);
-    if (gap < line.size()) column_ = std::max(column_, WidthOf(screen.Get(), line.substr(0, gap)));
+    if (gap < line.size()) column_ = std::max(column_, WidthOf(dc.Get(), line.substr(0, gap)));
   }
-  column_ += WidthOf(screen.Get(), ColumnGap);
-  do Break(screen.Get(), TakeLine(text), width);
+  column_ += WidthOf(dc.Get(), ColumnGap);
+  do Break(dc.Get(), TakeLine(text), width);
   while (!text.empty());
 }
 

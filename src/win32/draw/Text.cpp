@@ -4,21 +4,26 @@
 #include <numeric>
 #include <vector>
 
+#include "win32/base/Handle.h"
+
 namespace vantor::win32 {
 
+// Texts are measured on a context of their own, as wide as on the screen's. For the screen's Windows has to find out
+// what of the desktop can be seen, and a start measures dozens of texts.
+
 SIZE TextSize(std::wstring_view text, HFONT font) {
-  const WindowDc screen(nullptr);
-  const Selected selected(screen.Get(), font);
+  const MemoryDcHandle dc(CreateCompatibleDC(nullptr));
+  const Selected selected(dc.Get(), font);
   RECT area{};
-  DrawTextW(screen.Get(), text.data(), static_cast<int>(text.size()), &area, DT_CALCRECT | DT_NOPREFIX);
+  DrawTextW(dc.Get(), text.data(), static_cast<int>(text.size()), &area, DT_CALCRECT | DT_NOPREFIX);
   return {area.right, area.bottom};
 }
 
 int TextHeight(HFONT font) {
-  const WindowDc screen(nullptr);
-  const Selected selected(screen.Get(), font);
+  const MemoryDcHandle dc(CreateCompatibleDC(nullptr));
+  const Selected selected(dc.Get(), font);
   TEXTMETRICW metrics{};
-  GetTextMetricsW(screen.Get(), &metrics);
+  GetTextMetricsW(dc.Get(), &metrics);
   return metrics.tmHeight;
 }
 

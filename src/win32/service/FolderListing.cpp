@@ -2,8 +2,6 @@
 
 #include <windows.h>
 
-#include <shlwapi.h>
-
 #include <algorithm>
 
 #include "win32/base/Handle.h"
@@ -14,15 +12,26 @@ namespace vantor::win32 {
 
 namespace {
 
-bool Wanted(const WIN32_FIND_DATAW& entry, EntryKind kind, const std::wstring& pattern) {
+/// Whether a name has the pattern's ending. No other patterns are used, and PathMatchSpec would load a library at the
+/// start.
+bool Matches(std::wstring_view name, std::wstring_view pattern) {
+  if (pattern == L"*.*") return true;
+  const std::wstring_view ending = pattern.substr(1);
+  if (name.size() < ending.size()) return false;
+  const int length = static_cast<int>(ending.size());
+  return CompareStringOrdinal(name.data() + name.size() - ending.size(), length, ending.data(), length, TRUE) ==
+         CSTR_EQUAL;
+}
+
+bool Wanted(const WIN32_FIND_DATAW& entry, EntryKind kind, std::wstring_view pattern) {
   // As in Explorer by default: files with only the system attribute, such as the fonts folder, are shown.
   if ((entry.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) != 0) return false;
   const bool folder = (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
   if (folder != (kind == EntryKind::Folders)) return false;
   const std::wstring_view name = entry.cFileName;
   if (folder && (name == L"." || name == L"..")) return false;
-  // The system's own search also finds files whose short name matches: "a.exe1" is A12345~1.EXE there.
-  return PathMatchSpecW(entry.cFileName, pattern.c_str()) != FALSE;
+  // The system's own search also takes names whose short form fits: "a.exe1" is A12345~1.EXE there.
+  return Matches(name, pattern);
 }
 
 bool ComesBefore(const std::wstring& left, const std::wstring& right) {
@@ -50,9 +59,8 @@ std::vector<std::wstring> ListFolder(std::wstring_view folder, EntryKind kind, s
   WIN32_FIND_DATAW entry;
   const FindHandle found = FindFirst(CallPath(search), entry);
   if (!found) return names;
-  const std::wstring fits(pattern);
   do {
-    if (Wanted(entry, kind, fits)) names.emplace_back(entry.cFileName);
+    if (Wanted(entry, kind, pattern)) names.emplace_back(entry.cFileName);
   } while (FindNextFileW(found.Get(), &entry));
   std::sort(names.begin(), names.end(), ComesBefore);
   return names;
