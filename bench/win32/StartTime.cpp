@@ -1,7 +1,9 @@
 // What it takes from the start of a process to its first paint and to the first key that its text box takes, for the
 // programs named on the command line, and what a second start of one of them takes.
 //
-//   StartTime.exe ROUNDS NAME=COMMAND…           median and quickest in milliseconds, paint and key, a line a program
+//   StartTime.exe ROUNDS NAME=COMMAND…           median and quickest in milliseconds, and both as multiples of the
+//   first
+//                                                program's, paint and key, a line a program
 //   StartTime.exe ROUNDS --second NAME=COMMAND   the same for a second start, which brings the first copy forward
 //
 // Exit code 1 when a program showed no text box, or did not come forward.
@@ -54,6 +56,8 @@ int wmain(int argc, wchar_t** argv) {
   for (int i = 2; i < argc; ++i) contestants.push_back(FromArgument(argv[i]));
   MeasureStarts(contestants, rounds);
   int status = 0;
+  const Figures floorPaint = FiguresOf(contestants.front().Paints);
+  const Figures floorKey = FiguresOf(contestants.front().Keys);
   for (const Contestant& contestant : contestants) {
     if (contestant.Absent) {
       std::fprintf(stderr, "%ls showed no text box that took a key\n", contestant.Name.c_str());
@@ -62,8 +66,9 @@ int wmain(int argc, wchar_t** argv) {
     }
     const Figures paint = FiguresOf(contestant.Paints);
     const Figures key = FiguresOf(contestant.Keys);
-    std::printf("%6.1f %6.1f   %6.1f %6.1f   %ls\n", paint.Median, paint.Quickest, key.Median, key.Quickest,
-                contestant.Name.c_str());
+    std::printf("%6.1f %6.1f %5.2f %5.2f   %6.1f %6.1f %5.2f %5.2f   %ls\n", paint.Median, paint.Quickest,
+                paint.Median / floorPaint.Median, paint.Quickest / floorPaint.Quickest, key.Median, key.Quickest,
+                key.Median / floorKey.Median, key.Quickest / floorKey.Quickest, contestant.Name.c_str());
   }
   return status;
 }

@@ -120,9 +120,12 @@ void ActiveStart::LookForCompanions() {
 }
 
 void ActiveStart::ShowForms() {
-  program_.frmMain.Load();
-  program_.frmBrowse.Load();
-  program_.frmChoose.Load();
+  {
+    const service::ManyFileCalls many(program_.Services.FileSystem);
+    program_.frmMain.Load();
+    program_.frmBrowse.Load();
+    program_.frmChoose.Load();
+  }
   program_.frmMain.Show();
   if (program_.Environment.FirstStart) program_.Messages.ShowListMessage(message::MessageFisrtStart);
 }
