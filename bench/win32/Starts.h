@@ -73,19 +73,17 @@ inline double TimeToKey(const std::wstring& command) {
   return -1;
 }
 
-/// Milliseconds from the start of a second copy until it has ended, with the first one's bar in front; below 0 when it
-/// did not come to that.
+/// Milliseconds from the start of a second copy until the first one's bar is in front; below 0 if it does not get
+/// there, or the second copy does not end.
 inline double TimeSecondStart(const std::wstring& command, HWND bar) {
   const double begin = NowMs();
   const StartedProcess second(command);
-  if (!second.Started() || WaitForSingleObject(second.Handle(), static_cast<DWORD>(PatienceMs)) != WAIT_OBJECT_0) {
-    return -1;
-  }
   while (GetForegroundWindow() != bar) {
-    if (NowMs() - begin > PatienceMs) return -1;
+    if (!second.Started() || NowMs() - begin > PatienceMs) return -1;
     Sleep(0);
   }
-  return NowMs() - begin;
+  const double time = NowMs() - begin;
+  return WaitForSingleObject(second.Handle(), static_cast<DWORD>(PatienceMs)) == WAIT_OBJECT_0 ? time : -1;
 }
 
 /// Median and quickest of some measurements, in milliseconds.
