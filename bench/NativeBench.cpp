@@ -1,4 +1,4 @@
-// What the launch list costs at several sizes, up to the greatest, beside the least that the same work can cost.
+// What the launch list costs at several sizes, up to the greatest, compared with the least that the same work can cost.
 
 #include <sys/stat.h>
 #include <unistd.h>

@@ -1,4 +1,4 @@
-// The least that a bar with a text box can be: what Vantor.exe is measured beside.
+// The least that a bar with a text box can be, for comparison with Vantor.exe.
 
 #include <windows.h>
 

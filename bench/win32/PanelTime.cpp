@@ -39,7 +39,7 @@ HWND PanelOf(DWORD process, HWND bar) {
   return windows.Panel;
 }
 
-/// Presses F4 on the bar. Milliseconds until the panel has come, or has gone; below 0 when it did not.
+/// Presses F4 on the bar. Returns the milliseconds until the panel has appeared or disappeared; below 0 if it did not.
 double TimeKey(DWORD process, HWND edit, bool opens) {
   HWND const bar = GetAncestor(edit, GA_ROOT);
   const double begin = NowMs();
@@ -57,7 +57,7 @@ double TimeKey(DWORD process, HWND edit, bool opens) {
   return -1;
 }
 
-/// The times of all openings; none when the bar or a panel did not come.
+/// The times of all openings; none if the bar or a panel did not appear.
 std::vector<double> TimeOpenings(const wchar_t* program, int rounds) {
   STARTUPINFOW startup{};
   startup.cb = sizeof startup;

@@ -1,6 +1,6 @@
 #pragma once
 
-// What the programs that time the bar from outside share.
+// Shared by the programs that time the bar from outside.
 
 #include <windows.h>
 
@@ -45,7 +45,7 @@ inline HWND EditOf(DWORD process) {
   return search.Edit;
 }
 
-/// Whether the process's text box shows its ground on the screen: light blue, or that of the system's windows.
+/// Whether the process's text box shows its background on the screen: light blue, or that of the system's windows.
 inline bool HasPainted(DWORD process, HDC screen) {
   HWND const edit = EditOf(process);
   RECT place;

@@ -1,4 +1,4 @@
-// Long use: whether what the program holds of the system levels off. tools/soak runs it.
+// Long use: checks whether the system resources that the program holds level off. Run by tools/soak.
 //
 //   Soak.exe PERCENT [KIND]
 //
@@ -18,7 +18,7 @@
 namespace vantor::desktop {
 namespace {
 
-/// What a process holds. Wine counts no USER objects (0); there its windows stand for them.
+/// The resources that a process holds. Wine does not count USER objects (0); its windows are counted instead.
 struct Usage {
   DWORD Gdi = 0;
   DWORD User = 0;
@@ -212,7 +212,7 @@ bool Measure(int hundredths, std::wstring_view only) {
       Await("the add box", [&] { return soak.FinderButton() != nullptr; });
     }
     const int count = kind.Count * hundredths / 100;
-    // What is made at the first use, once and for all, comes before.
+    // What is created once at the first use comes before.
     const int warmUp = std::max(count / 10, 12);
     for (int i = 0; i < warmUp; ++i) (soak.*kind.Do)(i);
     const Usage before = soak.Now();

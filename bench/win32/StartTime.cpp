@@ -1,4 +1,4 @@
-// What it takes from the start of a process to its first paint and to the first key that its text box takes, for the
+// The time from the start of a process to its first paint and to the first key that its text box takes, for the
 // programs named on the command line, and what a second start of one of them takes.
 //
 //   StartTime.exe ROUNDS NAME=COMMAND…           median and quickest in milliseconds, and both as multiples of the
@@ -29,7 +29,7 @@ int SecondStarts(const Contestant& program, int rounds) {
   HWND const bar = GetAncestor(EditOf(first.Id()), GA_ROOT);
   std::vector<double> times;
   for (int round = 0; round <= rounds; ++round) {
-    // Another window stands in front meanwhile.
+    // Meanwhile another window is in front.
     HWND const other = CreateWindowExW(0, L"STATIC", L"Other", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 300, 300, 200, 100,
                                        nullptr, nullptr, nullptr, nullptr);
     SetForegroundWindow(other);

@@ -2,7 +2,7 @@
 
 // Times programs from the start of their process: to the first paint of their text box, to the first key that it takes,
 // and to the end of a second copy that only brings the first one forward. Programs are started in turns, so that
-// whatever else the machine does falls on all of them alike.
+// other load on the machine affects all of them alike.
 
 #include <algorithm>
 #include <string>

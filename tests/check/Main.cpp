@@ -1,9 +1,9 @@
-// VantorCheck: tries the Vantor.exe beside it on the Windows that it is started on, and writes what came of it into a
+// VantorCheck: tests the Vantor.exe next to it on the Windows that it is started on, and writes the results to a
 // report. Needs nothing but Windows, and what lies beside it. package/VantorCheck.txt is for who runs it.
 //
 //   VantorCheck               asks whether it may have the keyboard and the mouse, and does everything
 //   VantorCheck --yes         does everything without asking
-//   VantorCheck --flows FILE… plays these flows, and tells those that failed
+//   VantorCheck --flows FILE… plays these flows, and reports those that failed
 //   VantorCheck --tests …     runs the desktop tests, with doctest's options
 
 #define DOCTEST_CONFIG_IMPLEMENT

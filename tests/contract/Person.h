@@ -11,7 +11,7 @@
 
 namespace vantor::contract {
 
-/// Somebody in front of a back end, who looks and uses the keyboard and the mouse. What is done has been handled
+/// A person who uses a back end with the keyboard and the mouse. What is done has been handled
 /// when the call returns.
 class Person {
  public:

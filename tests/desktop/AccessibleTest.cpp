@@ -1,4 +1,4 @@
-// What a screen reader hears, read as one reads it; and the keyboard's way through every panel.
+// What a screen reader is told, asked for in the same way; and moving through every panel with the keyboard.
 
 #include <doctest/doctest.h>
 #include <algorithm>
@@ -44,7 +44,7 @@ std::string Heard(HWND control) {
   return line;
 }
 
-/// The form that opens beside the bar, once it has the input.
+/// The form that opens next to the bar, once it has the input.
 HWND AwaitForm(const Program& program) {
   HWND form = nullptr;
   Await("a form", [&] {

@@ -1,6 +1,6 @@
 // desktop: --root win32
 // desktop: --root win64
-// The installer and the uninstaller, quietly, with and without a running copy. What a person had entered stays.
+// The installer and the uninstaller in silent mode, with and without a running copy. The user's data is kept.
 
 #include <doctest/doctest.h>
 
@@ -28,7 +28,7 @@ struct Installation {
   [[nodiscard]] DWORD Install(const std::string& folder = {}) const {
     return Run('"' + Work.Path("setup.exe") + "\" /S" + (folder.empty() ? "" : " /D=" + folder));
   }
-  /// The uninstaller goes on by a copy of itself that nobody can wait for.
+  /// The uninstaller continues in a copy of itself, for which one can't wait.
   void Uninstall(const std::string& options) const {
     const std::string uninstaller = Work.Path(Name + "\\Uninstall.exe");
     Run('"' + uninstaller + "\" /S" + options);
@@ -40,7 +40,7 @@ struct Installation {
     Work.Write(Name + "\\Vantor\\User.Orbel", "\"Anna\"\r\n");
     Work.Write(Name + "\\Vantor\\ListWeb.Orbel", ListBytes({{"One", "http://one"}}));
   }
-  /// Whether a copy has saved at its end: the count is right then.
+  /// Whether a copy has saved when it ended: then the count is right.
   [[nodiscard]] bool Saved() const {
     // Its folder is none that the code page could hold.
     const std::string settings = "\xEF\xBB\xBF" + Settings{.WebUpper = 0, .Folder = Work.Path(Name)}.Bytes();

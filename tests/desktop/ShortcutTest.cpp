@@ -1,6 +1,6 @@
 // desktop: --root win32
 // desktop: --root win64
-// What the desktop shortcut holds.
+// The contents of the desktop shortcut.
 
 #include <doctest/doctest.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// What the desktop tests stand on. They hold texts in UTF-8, so that a failed comparison can be read.
+// The basis of the desktop tests. They use texts in UTF-8, so that a failed comparison is readable.
 
 #include <windows.h>
 
@@ -31,7 +31,7 @@ inline std::string Utf16(const std::string& text) {
 
 inline bool UnderWine() { return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr; }
 
-/// Whether the Windows installation is the test's alone, so that its system files may be replaced: tools/wine says so.
+/// Whether the Windows installation belongs to the test, so that its system files may be replaced: tools/wine says so.
 inline bool OwnDesktop() { return GetEnvironmentVariableW(L"VANTOR_TEST_DESKTOP", nullptr, 0) > 0; }
 
 /// Whether Windows is a 64-bit one, on which the program and its tests are guests.
@@ -40,7 +40,7 @@ inline bool On64Bit() {
   return IsWow64Process(GetCurrentProcess(), &guest) && guest;
 }
 
-/// The path of this program, and of a file beside it.
+/// The path of this program, and of a file next to it.
 inline std::wstring OwnPath() {
   wchar_t own[MAX_PATH];
   return {own, GetModuleFileNameW(nullptr, own, MAX_PATH)};
@@ -70,7 +70,7 @@ bool Eventually(Condition condition, DWORD milliseconds = 20000) {
   return true;
 }
 
-/// Waits for what the rest of a test stands on; ends the test when it does not come.
+/// Waits for a condition that the rest of a test depends on; ends the test if it does not come true.
 template <class Condition>
 void Await(const std::string& what, Condition condition) {
   if (!Eventually(condition)) throw std::runtime_error("waited in vain for " + what);

@@ -43,7 +43,7 @@ inline std::string ListBytes(const Items& items) {
   return bytes;
 }
 
-/// A folder of a test's own, with the program in it; gone when the test ends.
+/// A folder for one test, with the program in it; deleted when the test ends.
 class Folder {
  public:
   /// In the temporary folder, or in the root of the drive that is named ("E:\\").
@@ -73,7 +73,7 @@ class Folder {
     std::ofstream(Place(name), std::ios::binary) << bytes;
   }
   [[nodiscard]] std::string Read(const std::string& name) const { return BytesOf(Path(name)); }
-  /// Copies a program that was built beside this one.
+  /// Copies a program that was built in the same folder as this one.
   void CopyProgram(const std::string& program, const std::string& name) const {
     std::filesystem::copy_file(Beside(Wide(program)), Place(name), std::filesystem::copy_options::overwrite_existing);
   }
@@ -82,7 +82,7 @@ class Folder {
     Write("Vantor\\" + name + ".Orbel", bytes);
   }
   [[nodiscard]] std::string Data(const std::string& name) const { return Read("Vantor\\" + name + ".Orbel"); }
-  /// What the program finds when it is not its first start: settings and a user's name.
+  /// What the program finds if it is not its first start: settings and a user's name.
   void WriteSettings(const Settings& settings) const {
     WriteData("Set", settings.Bytes());
     WriteData("User", "\"Anna\"\r\n");

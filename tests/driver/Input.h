@@ -58,7 +58,7 @@ inline void Paste(const std::wstring& text) {
 inline void Mouse(POINT at, DWORD flags = 0) {
   INPUT input = {};
   input.type = INPUT_MOUSE;
-  // Whole pixels, each aimed at its middle.
+  // Whole pixels, aimed at the middle of each.
   input.mi.dx = (at.x * 65536 + 32768) / GetSystemMetrics(SM_CXSCREEN);
   input.mi.dy = (at.y * 65536 + 32768) / GetSystemMetrics(SM_CYSCREEN);
   input.mi.dwFlags = flags | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
@@ -75,7 +75,7 @@ inline void Hold(POINT at) {
 }
 inline void LetGo(POINT at) { Mouse(at, MOUSEEVENTF_LEFTUP); }
 
-/// One click, or two that make a double click. Those of two calls never make one: the second is a little beside.
+/// One click, or a double click. Clicks of two calls never form a double click: the second is slightly displaced.
 inline void Click(POINT at, bool twice = false) {
   static POINT last{};
   if (at.x == last.x && at.y == last.y) at.x -= 8;

@@ -25,7 +25,7 @@ class Program {
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
 
-  // What is there; null for what is not.
+  // The windows that exist; null for those that don't.
   [[nodiscard]] HWND Control(std::wstring_view name) const {
     for (HWND form : window::OfProcess(process_.dwProcessId)) {
       for (HWND control : window::Controls(form)) {
@@ -42,7 +42,7 @@ class Program {
   [[nodiscard]] std::string Line() const { return window::Text(Control(L"TextMain")); }
   [[nodiscard]] List ListOf(std::wstring_view name) const { return List(Control(name), name == L"ListMatches"); }
 
-  /// The form that has the input, with a control of its own focused.
+  /// The form that has the input and whose control has the focus.
   [[nodiscard]] HWND Active() const {
     HWND const front = GetForegroundWindow();
     return window::ProcessOf(front) == process_.dwProcessId && window::Focus(front) != nullptr ? front : nullptr;

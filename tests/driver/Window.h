@@ -88,7 +88,7 @@ inline bool IsEnabled(HWND window) { return IsWindowEnabled(window) != FALSE; }
 inline bool IsMinimised(HWND window) { return IsIconic(window) != FALSE; }
 inline bool IsTopMost(HWND window) { return (GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; }
 
-/// Whether the first window stands somewhere above the second.
+/// Whether the first window is above the second in the z-order.
 inline bool IsAbove(HWND upper, HWND lower) {
   for (HWND window = upper; window; window = GetWindow(window, GW_HWNDNEXT)) {
     if (window == lower) return true;

@@ -40,7 +40,7 @@ class Computer : public service::DataFiles,
 
   [[nodiscard]] service::Services Services() { return {*this, *this, *this, *this, *this, *this, *this, *this, *this}; }
 
-  /// Whether a call fails in the way its interface speaks of, or throws what nobody expected.
+  /// Whether a call fails in the way described by its interface, or throws an unexpected exception.
   std::function<Outcome(std::string_view call)> Decide;
   /// From now on this is the outcome of the calls of one name; of all for "".
   void Let(std::string_view name, Outcome outcome) {

@@ -61,7 +61,7 @@ class FakeDisk {
   std::size_t Used = 0;               // by the calls since then
   std::vector<std::wstring> Written;  // the paths, in order
 
-  // What the services ask.
+  // Questions of the services.
 
   [[nodiscard]] const DriveState* DriveOf(std::wstring_view path) const {
     if (path.size() < 2 || path[1] != L':') return nullptr;
@@ -82,7 +82,7 @@ class FakeDisk {
     if (IsRoot(path)) return DriveOf(path) && DriveOf(path)->Ready;
     return Find(path) && !HasFile(path);
   }
-  /// What stands directly in a folder, sorted without regard to letter case.
+  /// The direct contents of a folder, sorted without regard to case.
   [[nodiscard]] std::vector<const Entry*> In(std::wstring_view folder) const {
     std::vector<const Entry*> result;
     for (const auto& [key, entry] : entries_)

@@ -47,7 +47,7 @@ struct OwnComputer {
   fake::Computer Computer;
 };
 
-/// The program on a computer of its own, on which it was used before, from C: in fixed-disk mode.
+/// The program on a new computer, where it was used before, from C: in fixed-disk mode.
 struct TestProgram : OwnComputer, ProgramRun {
   bar::frmMain& Main = Program.frmMain;
   panel::frmChoose& Choose = Program.frmChoose;
@@ -64,7 +64,7 @@ struct TestProgram : OwnComputer, ProgramRun {
     return Main.Visible() && !Desktop.Ended();
   }
 
-  /// Types a line in the place of what stands in the box.
+  /// Replaces the text of the box by typing a line.
   void Type(std::wstring_view line) {
     Main.TextMain.SetText(L"");
     Main.TextMain.SetFocus();

@@ -1,4 +1,4 @@
-// flows FILE...: plays flows in memory, and tells those that failed. README.md says what they are.
+// flows FILE...: plays flows in memory and reports those that failed. README.md describes them.
 
 #include <cstdio>
 

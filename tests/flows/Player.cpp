@@ -171,7 +171,7 @@ class Player : public Steps {
       items_[list] += L"\"" + name + L"\",\"" + target + L"\" | ";
     }
   }
-  /// What the program finds when it is not its first start.
+  /// What the program finds if it is not its first start.
   void WriteGiven() {
     if (firstStart_) return;
     firstStart_ = true;
@@ -227,7 +227,7 @@ class Player : public Steps {
     }
     if (!line.empty()) Check("line", L"line", {}, line);
   }
-  /// In the place of what stands in the bar's box.
+  /// Replaces the text of the bar's box.
   void WriteLine(const Text& rest, bool enter) {
     world_->Press(form::Key::F12);
     Check("line", L"line", {}, L"");
@@ -306,7 +306,7 @@ class Player : public Steps {
                        : "there is no such file");
   }
 
-  /// Words in braces by what they stand for.
+  /// Replaces words in braces by what they stand for.
   [[nodiscard]] Text Fill(Text text) {
     for (std::size_t begin = text.find(L'{'); begin != text.npos; begin = text.find(L'{', begin + 1)) {
       const std::size_t end = text.find(L'}', begin);

@@ -58,7 +58,7 @@ class RealWorld : public World {
   }
   ~RealWorld() override {
     for (HWND window : {other_, front_}) DestroyWindow(window);
-    // What a flow that failed left.
+    // What a failed flow has left behind.
     if (GetAsyncKeyState(VK_LBUTTON) < 0) input::LetGo(mouse_);
     program_.reset();
     if (startsWithWindows_) {

@@ -31,7 +31,7 @@ inline Text Joined(const Texts& texts) {
   return all;
 }
 
-/// A computer with the program on it, and somebody who uses it. Controls go by their names, files by full paths.
+/// A computer with the program on it, and a person who uses it. Controls go by their names, files by full paths.
 class World {
  public:
   World() = default;
@@ -55,7 +55,7 @@ class World {
   /// The bytes of a text in the system's code page; none where that lacks a character.
   [[nodiscard]] virtual std::optional<std::string> InCodePage(const Text& text) = 0;
 
-  // Files. What is on the way to them is made.
+  // Files. Missing folders on their paths are created.
   virtual void Write(const Text& path, const std::string& bytes) = 0;
   virtual void MakeProgram(const Text& path) = 0;
   virtual void MakeFolder(const Text& path) = 0;

@@ -11,7 +11,7 @@
 namespace vantor::form {
 namespace {
 
-/// The window behind a control, which keeps what it was told last.
+/// The window behind a control, which remembers the last notification.
 struct Listener : ControlWindow {
   void Changed(Property property) override { Last = static_cast<int>(property); }
   void TakeFocus() override { Last = -2; }

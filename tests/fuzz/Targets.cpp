@@ -10,7 +10,7 @@ namespace {
 
 using test::StoredList;
 
-/// What is left of a text by being written: a record can't hold a quote.
+/// What remains of a text when it is written: a record can't contain a quote.
 std::wstring Written(std::wstring text, std::wstring_view quote) {
   for (auto at = text.find(L'"'); at != std::wstring::npos; at = text.find(L'"', at)) text.replace(at, 1, quote);
   return text;

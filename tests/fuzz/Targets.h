@@ -11,7 +11,7 @@ namespace vantor::fuzz {
 
 using Bytes = std::span<const unsigned char>;
 
-/// What the fuzzers run: each takes any bytes, and aborts when the program does what it must never do.
+/// The functions that the fuzzers run: each takes any bytes, and aborts if the program does what it must never do.
 struct Target {
   std::string_view Name;
   void (*Run)(Bytes bytes);

@@ -1,4 +1,4 @@
-// What the finished Vantor.exe promises to Windows, read from the file as it lies beside this test.
+// The properties of the finished Vantor.exe that matter to Windows, read from the file next to this test.
 #include <doctest/doctest.h>
 
 #include <windows.h>

@@ -24,7 +24,7 @@ struct Starts {
   std::wstring Ran = Folder / L"ran.txt";
 };
 
-/// A batch file that leaves a file beside itself when it runs.
+/// A batch file that creates a file next to itself when it runs.
 constexpr char Leaves[] = "@echo ran>\"%~dp0ran.txt\"\r\n";
 
 }  // namespace

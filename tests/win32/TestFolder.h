@@ -15,7 +15,7 @@ using desktop::Eventually;
 using desktop::OwnDesktop;
 using desktop::UnderWine;
 
-/// An empty folder of its own, with a blank in its name; gone at the end with all that is in it.
+/// An empty temporary folder with a blank in its name; deleted at the end with its contents.
 class TestFolder {
  public:
   TestFolder() {

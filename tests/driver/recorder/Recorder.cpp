@@ -1,4 +1,4 @@
-// Stands in for whatever Vantor starts: adds its command line, in UTF-8, to the file that VANTOR_RECORD names.
+// Replaces the programs that Vantor starts: appends its command line, in UTF-8, to the file named by VANTOR_RECORD.
 
 #include "driver/Desktop.h"
 
