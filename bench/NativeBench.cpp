@@ -7,7 +7,8 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
-#include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <functional>
 #include <string>
 #include <vector>
@@ -305,7 +306,8 @@ int main() {
   for (const int count : {400, 4000, 32767}) {
     const std::string home = folder + '/' + std::to_string(count);
     const std::string program = home + "/Program Files/Some Vendor/Some Program";
-    if (std::system(("mkdir -p '" + program + "' && : >'" + program + "/program.exe'").c_str()) != 0) return 1;
+    std::filesystem::create_directories(program);
+    std::ofstream(program + "/program.exe").put('\n');
     std::printf("%d items a group\n", count);
     const std::wstring place(home.begin(), home.end());
     Bench(place, count).WriteLists();
@@ -316,5 +318,5 @@ int main() {
     LoadAndSave(bench);
     ListPanel(bench);
   }
-  return std::system(("rm -rf '" + folder + "'").c_str()) == 0 ? 0 : 1;
+  std::filesystem::remove_all(folder);
 }
