@@ -29,9 +29,7 @@ form::Rect PlacePanel(const form::Rect& bar, form::Size panel, const form::Rect&
   };
   const form::Rect places[] = {on(bar.Left, bar.Bottom()), on(bar.Left, bar.Top - panel.Height),
                                on(bar.Right(), bar.Top), on(bar.Left - panel.Width, bar.Top)};
-  return *std::min_element(std::begin(places), std::end(places), [&](const form::Rect& one, const form::Rect& other) {
-    return Covered(one, bar) < Covered(other, bar);
-  });
+  return *std::ranges::min_element(places, {}, [&](const form::Rect& place) { return Covered(place, bar); });
 }
 
 }  // namespace vantor::panel

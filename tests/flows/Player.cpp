@@ -168,7 +168,7 @@ class Player : public Steps {
     const auto [list, items] = Cut(rest);
     for (const Text& item : Split(items, L" | ")) {
       const auto [name, target] = Cut(item, L" > ");
-      items_[list] += L"\"" + name + L"\",\"" + target + L"\" | ";
+      items_[list].append(L"\"").append(name).append(L"\",\"").append(target).append(L"\" | ");
     }
   }
   /// What the program finds if it is not its first start.
