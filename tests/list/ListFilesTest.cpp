@@ -70,11 +70,11 @@ TEST_CASE("a damaged settings file gives what could be read of it") {
 
 TEST_CASE("a file keeps every character, in the code page or in UTF-8 with its mark") {
   fake::Computer computer;
-  const std::wstring halfPair{L'x', static_cast<wchar_t>(0xD83D)};
+  const std::wstring halfPairs{L'x', static_cast<wchar_t>(0xDE00), static_cast<wchar_t>(0xD83D)};
   const std::pair<std::wstring, std::string> cases[] = {
       {L"\u00C9t\u00E9 \u20AC", "\"\xC9t\xE9 \x80\"\r\n"},
       {L"\u0416 \u4E2D \U0001F600", "\xEF\xBB\xBF\"\xD0\x96 \xE4\xB8\xAD \xF0\x9F\x98\x80\"\r\n"},
-      {halfPair, "\xEF\xBB\xBF\"x\xED\xA0\xBD\"\r\n"}};
+      {halfPairs, "\xEF\xBB\xBF\"x\xED\xB8\x80\xED\xA0\xBD\"\r\n"}};
   for (const auto& [text, bytes] : cases) {
     text::SequentialWriter writer;
     writer.Write(text);
