@@ -144,7 +144,10 @@ TEST_CASE("installed by hand, Enter is enough, and the folder is the user's; wha
       Await(button, [&] { return window::Text(GetDlgItem(GetForegroundWindow(), IDOK)) == button; });
       setup.Press(VK_RETURN);
     }
-    Await("the shortcut, which is ticked", [&] { return Exists(it.Shortcut); });
+    Await("the shortcut, which is ticked, to be written and closed", [&] {
+      const HANDLE alone = CreateFileW(Wide(it.Shortcut).c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+      return alone != INVALID_HANDLE_VALUE && CloseHandle(alone) != FALSE;
+    });
   }
   CHECK(Exists(folder + "\\Vantor.exe"));
   CHECK(BytesOf(it.StartMenu).find(folder + "\\Vantor.exe") != std::string::npos);
