@@ -1,0 +1,57 @@
+#pragma once
+
+// The words of a flow's line: parts, and the names of keys.
+
+#include <algorithm>
+#include <iterator>
+#include <string>
+#include <utility>
+
+#include "flows/World.h"
+#include "text/Utf8.h"
+
+namespace vantor::flows {
+
+inline std::string Narrow(std::wstring_view text) {
+  std::string bytes;
+  text::AppendUtf8(bytes, text);
+  return bytes;
+}
+
+/// The parts between separators, blanks around them apart; none of "".
+inline Texts Split(std::wstring_view text, std::wstring_view separator) {
+  Texts parts;
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t end = std::min(text.find(separator, at), text.size());
+    if (end > at || separator.size() > 1) parts.emplace_back(text.substr(at, end - at));
+    at = end + separator.size();
+  }
+  return parts;
+}
+inline Texts Words(const Text& text) { return Split(text, L" "); }
+
+/// The first word, and the rest after it.
+inline std::pair<Text, Text> Cut(const Text& text, std::wstring_view separator = L" ") {
+  const std::size_t end = text.find(separator);
+  if (end == text.npos) return {text, {}};
+  return {text.substr(0, end), text.substr(end + separator.size())};
+}
+
+inline constexpr std::pair<std::wstring_view, form::Key> Keys[] = {
+    {L"Backspace", form::Key::Back},    {L"Tab", form::Key::Tab},
+    {L"Enter", form::Key::Enter},       {L"Escape", form::Key::Escape},
+    {L"Space", form::Key::Space},       {L"Home", form::Key::Home},
+    {L"End", form::Key::End},           {L"Up", form::Key::Up},
+    {L"Down", form::Key::Down},         {L"PageUp", form::Key::PageUp},
+    {L"PageDown", form::Key::PageDown}, {L"Left", form::Key::Left},
+    {L"Right", form::Key::Right},       {L"Delete", form::Key::Delete}};
+
+/// By its name, its letter, or F and its number.
+inline form::Key KeyOf(const Text& word) {
+  const auto* const key = std::ranges::find(Keys, word, &std::pair<std::wstring_view, form::Key>::first);
+  if (key != std::end(Keys)) return key->second;
+  if (word.size() == 1) return static_cast<form::Key>(word[0]);
+  return static_cast<form::Key>(static_cast<int>(form::Key::F1) - 1 + std::stoi(word.substr(1)));
+}
+
+}  // namespace vantor::flows
