@@ -37,10 +37,7 @@ class ControlVisitor {
   virtual void Visit(RowList& list) = 0;
 
  protected:
-  ControlVisitor() = default;
-  ~ControlVisitor() = default;
-  ControlVisitor(const ControlVisitor&) = default;
-  ControlVisitor& operator=(const ControlVisitor&) = default;
+  ~ControlVisitor() = default;  // nobody owns one by this type
 };
 
 /// The property of a control that has changed, for the window that mirrors it.
@@ -71,11 +68,6 @@ class ControlWindow {
   virtual void PaintNow() {}
   /// The system's handle of the window as a number; 0 if there is none.
   [[nodiscard]] virtual std::uintptr_t Handle() const { return 0; }
-
- protected:
-  ControlWindow() = default;
-  ControlWindow(const ControlWindow&) = default;
-  ControlWindow& operator=(const ControlWindow&) = default;
 };
 
 /// The base of all controls. A control is complete without a window: its state lives here, and a window only shows

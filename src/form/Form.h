@@ -25,11 +25,6 @@ class FormWindow {
   /// Lets the window manager move the window with the mouse, as with a title bar; returns when the move is over.
   virtual void Drag() = 0;
   virtual void Activate() = 0;
-
- protected:
-  FormWindow() = default;
-  FormWindow(const FormWindow&) = default;
-  FormWindow& operator=(const FormWindow&) = default;
 };
 
 /// What the user dropped on a form: files and folders, or the address of a web site.

@@ -25,10 +25,7 @@ class RowSource {
   [[nodiscard]] virtual Row RowAt(int index) const = 0;
 
  protected:
-  RowSource() = default;
-  RowSource(const RowSource&) = default;
-  RowSource& operator=(const RowSource&) = default;
-  ~RowSource() = default;
+  ~RowSource() = default;  // nobody owns one by this type
 };
 
 /// A list that asks for its rows only when they become visible, so that their number costs nothing. It never has the

@@ -46,11 +46,6 @@ class DataFiles {
   /// The names of everything in a folder, including hidden files; empty if the folder does not exist. Nothing if it
   /// can't be read.
   [[nodiscard]] virtual std::optional<std::vector<std::wstring>> FolderEntries(std::wstring_view path) = 0;
-
- protected:
-  DataFiles() = default;
-  DataFiles(const DataFiles&) = default;
-  DataFiles& operator=(const DataFiles&) = default;
 };
 
 }  // namespace vantor::service

@@ -45,11 +45,6 @@ class FileSystem {
   /// Between these two calls, one object answers all questions instead of a new one each. They may be nested.
   virtual void BeginMany() {}
   virtual void EndMany() {}
-
- protected:
-  FileSystem() = default;
-  FileSystem(const FileSystem&) = default;
-  FileSystem& operator=(const FileSystem&) = default;
 };
 
 /// Keeps one file-system object for the duration of a load or a save.

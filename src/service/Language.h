@@ -20,11 +20,6 @@ class Language {
   [[nodiscard]] virtual std::wstring FromCodePage(std::string_view bytes) const = 0;
   /// The reverse; nothing if the code page lacks one of the characters.
   [[nodiscard]] virtual std::optional<std::string> ToCodePage(std::wstring_view text) const = 0;
-
- protected:
-  Language() = default;
-  Language(const Language&) = default;
-  Language& operator=(const Language&) = default;
 };
 
 }  // namespace vantor::service

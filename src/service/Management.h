@@ -20,11 +20,6 @@ class Management {
   /// The identity of disk C:; nothing if the service does not answer within 5 seconds. Throws std::runtime_error if it
   /// can't be read, for example because there is no such disk or service.
   [[nodiscard]] virtual std::optional<DiskIdentity> ReadDiskIdentity() = 0;
-
- protected:
-  Management() = default;
-  Management(const Management&) = default;
-  Management& operator=(const Management&) = default;
 };
 
 }  // namespace vantor::service

@@ -49,11 +49,6 @@ class Processes {
   [[nodiscard]] virtual std::optional<std::vector<ManagedProcess>> ManagedProcesses() = 0;
   /// The path of a process's program by the plain Windows call; "" if that fails.
   [[nodiscard]] virtual std::wstring ImageName(std::uint32_t processId) = 0;
-
- protected:
-  Processes() = default;
-  Processes(const Processes&) = default;
-  Processes& operator=(const Processes&) = default;
 };
 
 }  // namespace vantor::service

@@ -17,11 +17,6 @@ class Programs {
   [[nodiscard]] virtual int ShellOpen(std::wstring_view file) = 0;
   /// `tapiRequestMakeCall`. Returns its result: 0, or a negative error code; also if telephony is not available.
   [[nodiscard]] virtual int RequestMakeCall(std::wstring_view number, std::wstring_view applicationName) = 0;
-
- protected:
-  Programs() = default;
-  Programs(const Programs&) = default;
-  Programs& operator=(const Programs&) = default;
 };
 
 }  // namespace vantor::service

@@ -39,11 +39,6 @@ class ScriptShell {
 
   /// Writes a shortcut file, replacing an existing one. Returns false if it could not be saved.
   [[nodiscard]] virtual bool SaveShortcut(const Shortcut& shortcut) = 0;
-
- protected:
-  ScriptShell() = default;
-  ScriptShell(const ScriptShell&) = default;
-  ScriptShell& operator=(const ScriptShell&) = default;
 };
 
 }  // namespace vantor::service

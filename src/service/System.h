@@ -22,11 +22,6 @@ class System {
   /// Restores the bar of the copy whose application window has this title, and brings it to the front. Returns
   /// false if there is no such window.
   [[nodiscard]] virtual bool ActivateInstance(std::wstring_view title) = 0;
-
- protected:
-  System() = default;
-  System(const System&) = default;
-  System& operator=(const System&) = default;
 };
 
 }  // namespace vantor::service

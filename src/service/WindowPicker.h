@@ -34,11 +34,6 @@ class WindowPicker {
   /// Draws a frame around the top-level window that contains `window` and removes the previous frame. None only removes
   /// it.
   virtual void Mark(WindowId window) = 0;
-
- protected:
-  WindowPicker() = default;
-  WindowPicker(const WindowPicker&) = default;
-  WindowPicker& operator=(const WindowPicker&) = default;
 };
 
 }  // namespace vantor::service

@@ -52,15 +52,15 @@ class Apartment {
 };
 
 template <class Interface>
-struct ReferenceTraits : NullHandle<Interface*> {
-  static void Close(Interface* object) { object->Release(); }
-};
+void ReleaseObject(Interface* object) {
+  object->Release();
+}
 
 /// Owns one reference to an object.
 template <class Interface>
-class ComPointer : public Handle<ReferenceTraits<Interface>> {
+class ComPointer : public Handle<Interface*, ReleaseObject<Interface>> {
  public:
-  using Handle<ReferenceTraits<Interface>>::Handle;
+  using Handle<Interface*, ReleaseObject<Interface>>::Handle;
 
   Interface* operator->() const { return this->Get(); }
   [[nodiscard]] void** PutVoid() { return reinterpret_cast<void**>(this->Put()); }
@@ -71,11 +71,8 @@ class ComPointer : public Handle<ReferenceTraits<Interface>> {
   }
 };
 
-struct TextTraits : NullHandle<BSTR> {
-  static void Close(BSTR text) { SysFreeString(text); }
-};
 /// Owns a text that a call returned, or one that is created for a call.
-using ComText = Handle<TextTraits>;
+using ComText = Handle<BSTR, SysFreeString>;
 
 /// Throws std::bad_alloc.
 [[nodiscard]] ComText MakeComText(std::wstring_view text);

@@ -2,16 +2,15 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <utility>
 
 namespace vantor::win32 {
 
-/// Owns a handle of any kind. Traits has `Type`, `static Type Invalid()` and `static void Close(Type)`.
-template <class Traits>
+/// Owns a handle of any kind, which the function Close frees. Invalid is the value, as a number, that means no handle.
+template <class Type, auto Close, std::intptr_t Invalid = 0>
 class Handle {
  public:
-  using Type = typename Traits::Type;
-
   Handle() = default;
   explicit Handle(Type handle) : handle_(handle) {}
   Handle(Handle&& other) noexcept : handle_(other.Release()) {}
@@ -22,14 +21,14 @@ class Handle {
   ~Handle() { Reset(); }
 
   [[nodiscard]] Type Get() const { return handle_; }
-  explicit operator bool() const { return handle_ != Traits::Invalid(); }
+  explicit operator bool() const { return handle_ != None(); }
 
   /// Gives up the handle without closing it.
-  [[nodiscard]] Type Release() { return std::exchange(handle_, Traits::Invalid()); }
+  [[nodiscard]] Type Release() { return std::exchange(handle_, None()); }
   /// Closes the current handle and takes ownership of another.
-  void Reset(Type handle = Traits::Invalid()) {
+  void Reset(Type handle = None()) {
     const Type old = std::exchange(handle_, handle);
-    if (old != Traits::Invalid()) Traits::Close(old);
+    if (old != None()) Close(old);
   }
   /// For functions that return a handle through a pointer. Closes the current handle.
   [[nodiscard]] Type* Put() {
@@ -38,56 +37,22 @@ class Handle {
   }
 
  private:
-  Type handle_ = Traits::Invalid();
-};
+  static Type None() { return reinterpret_cast<Type>(Invalid); }
 
-/// The base of the traits below for which null means no handle.
-template <class T>
-struct NullHandle {
-  using Type = T;
-  static Type Invalid() { return nullptr; }
+  Type handle_ = None();
 };
 
 /// A kernel object whose creation reports failure by null (events, processes).
-struct KernelTraits : NullHandle<HANDLE> {
-  static void Close(HANDLE handle) { CloseHandle(handle); }
-};
+using KernelHandle = Handle<HANDLE, CloseHandle>;
 /// A kernel object whose creation reports failure by INVALID_HANDLE_VALUE (files, snapshots).
-struct FileTraits {
-  using Type = HANDLE;
-  static HANDLE Invalid() { return INVALID_HANDLE_VALUE; }
-  static void Close(HANDLE handle) { CloseHandle(handle); }
-};
-struct FindTraits : FileTraits {
-  static void Close(HANDLE handle) { FindClose(handle); }
-};
-struct KeyTraits : NullHandle<HKEY> {
-  static void Close(HKEY key) { RegCloseKey(key); }
-};
-struct LibraryTraits : NullHandle<HMODULE> {
-  static void Close(HMODULE library) { FreeLibrary(library); }
-};
-struct WindowTraits : NullHandle<HWND> {
-  static void Close(HWND window) { DestroyWindow(window); }
-};
-struct MemoryDcTraits : NullHandle<HDC> {
-  static void Close(HDC dc) { DeleteDC(dc); }
-};
-/// Brushes, fonts, bitmaps.
-template <class T>
-struct GdiTraits : NullHandle<T> {
-  static void Close(T object) { DeleteObject(object); }
-};
-
-using KernelHandle = Handle<KernelTraits>;
-using FileHandle = Handle<FileTraits>;
-using FindHandle = Handle<FindTraits>;
-using KeyHandle = Handle<KeyTraits>;
-using LibraryHandle = Handle<LibraryTraits>;
-using WindowHandle = Handle<WindowTraits>;
-using MemoryDcHandle = Handle<MemoryDcTraits>;
-using BrushHandle = Handle<GdiTraits<HBRUSH>>;
-using FontHandle = Handle<GdiTraits<HFONT>>;
-using BitmapHandle = Handle<GdiTraits<HBITMAP>>;
+using FileHandle = Handle<HANDLE, CloseHandle, -1>;
+using FindHandle = Handle<HANDLE, FindClose, -1>;
+using KeyHandle = Handle<HKEY, RegCloseKey>;
+using LibraryHandle = Handle<HMODULE, FreeLibrary>;
+using WindowHandle = Handle<HWND, DestroyWindow>;
+using MemoryDcHandle = Handle<HDC, DeleteDC>;
+using BrushHandle = Handle<HBRUSH, DeleteObject>;
+using FontHandle = Handle<HFONT, DeleteObject>;
+using BitmapHandle = Handle<HBITMAP, DeleteObject>;
 
 }  // namespace vantor::win32

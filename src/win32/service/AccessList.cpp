@@ -16,10 +16,7 @@ namespace vantor::win32 {
 
 namespace {
 
-struct LocalTraits : NullHandle<void*> {
-  static void Close(void* memory) { LocalFree(memory); }
-};
-using LocalMemory = Handle<LocalTraits>;
+using LocalMemory = Handle<void*, LocalFree>;
 
 /// The user that this program runs as, in the system's format; empty if it can't be determined.
 std::vector<char> ThisUser() {
