@@ -74,10 +74,10 @@ TEST_CASE("without the scripting shell Windows does the same") {
   CHECK(Eventually([&] { return std::filesystem::exists(ran); }));
   CHECK_FALSE(shell.Run(L"nosuchprogram"));
   CHECK(shell.SpecialFolder(L"SendTo").find(L":\\") == 1);
-  shell.RegistryWrite(L"HKCU\\Software\\Vantor Test\\x", L"y");
-  CHECK(shell.RegistryRead(L"HKCU\\Software\\Vantor Test\\x") == L"y");
-  shell.RegistryDelete(L"HKCU\\Software\\Vantor Test\\x");
-  CHECK(shell.RegistryRead(L"HKCU\\Software\\Vantor Test\\x").empty());
+  shell.RegistryWrite(L"HKEY_CURRENT_USER\\Software\\Vantor Test\\x", L"y");
+  CHECK(shell.RegistryRead(L"HKEY_CURRENT_USER\\Software\\Vantor Test\\x") == L"y");
+  shell.RegistryDelete(L"HKEY_CURRENT_USER\\Software\\Vantor Test\\x");
+  CHECK(shell.RegistryRead(L"HKEY_CURRENT_USER\\Software\\Vantor Test\\x").empty());
   vantor::service::Shortcut shortcut;
   shortcut.File = folder / L"Vantor.lnk";
   shortcut.TargetPath = L"C:\\windows\\explorer.exe";

@@ -12,11 +12,9 @@
 #include "win32/base/Handle.h"
 #include "win32/base/TimedWork.h"
 #include "win32/service/Language.h"
+#include "win32/service/PlainShell.h"
 #include "win32/service/Processes.h"
-#include "win32/service/RegistryValue.h"
 #include "win32/service/ScriptShell.h"
-#include "win32/service/ShortcutFile.h"
-#include "win32/service/SpecialFolders.h"
 #include "win32/service/WindowPicker.h"
 #include "win32/service/WindowsServices.h"
 #include "win32/window/DropTarget.h"
@@ -72,14 +70,9 @@ TEST_CASE("the registry is read in both ways alike, and everything that is not t
   ScriptShell shell(com);
   const std::wstring key = L"HKEY_CURRENT_USER\\Software\\Vantor Test";
   const std::wstring name = key + L"\\Orbels\x00C4\x4E2D";
-  const DWORD number = 42;
-  RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Vantor Test", L"n", REG_DWORD, &number, sizeof number);
   shell.RegistryWrite(name, L"C:\\\x4E2D");
-  const std::pair<std::wstring, std::wstring> rows[] = {{name, L"C:\\\x4E2D"},
-                                                        {key + L"\\n", L"42"},
-                                                        {key + L"\\none", L""},
-                                                        {L"nonsense", L""},
-                                                        {L"HKEY_NONE\\a\\b", L""}};
+  const std::pair<std::wstring, std::wstring> rows[] = {
+      {name, L"C:\\\x4E2D"}, {key + L"\\none", L""}, {L"nonsense", L""}, {L"HKEY_NONE\\a\\b", L""}};
   for (const auto& [what, expected] : rows) {
     CHECK(shell.RegistryRead(what) == expected);
     CHECK(PlainRegistryRead(what) == expected);
@@ -96,13 +89,13 @@ TEST_CASE("a shortcut is saved for any letters and keys, and stands for its targ
   const TestFolder folder;
   vantor::service::Shortcut shortcut;
   shortcut.File = folder / L"link.LNK";
+  shortcut.Hotkey = L"CTRL+SHIFT+L";
   for (const std::wstring name : {L"V\x00E4ntor \x4E2D\x0416.exe", L"Vantor.exe"}) {
     shortcut.TargetPath = folder.Make(name);
     CHECK(shell.SaveShortcut(shortcut));
-    CHECK(DataFiles()
-              .Read(shortcut.File)
-              .Bytes.value_or("")
-              .find(vantor::desktop::Utf16(vantor::desktop::Narrow(name))) != std::string::npos);
+    const std::string bytes = DataFiles().Read(shortcut.File).Bytes.value();
+    CHECK(bytes.find(vantor::desktop::Utf16(vantor::desktop::Narrow(name))) != std::string::npos);
+    CHECK(bytes.substr(64, 2) == "L\x03");  // the hot key
   }
   CHECK(ShortcutTarget(shortcut.File) == shortcut.TargetPath);
   CHECK(ShortcutTarget(shortcut.TargetPath) == shortcut.TargetPath);
@@ -120,10 +113,6 @@ TEST_CASE("a shortcut is saved for any letters and keys, and stands for its targ
   CHECK(ShortcutTarget(broken) == broken);
   shortcut.File = folder / L"none\\Vantor.lnk";
   CHECK_FALSE(shell.SaveShortcut(shortcut));
-
-  CHECK(HotkeyCode(L"CTRL+SHIFT+L") == 0x034C);
-  CHECK(HotkeyCode(L"F24") == 0x87);
-  for (const wchar_t* none : {L"F25", L"HYPER+A", L"", L"CTRL+"}) CHECK(HotkeyCode(none) == 0);
 }
 
 TEST_CASE("letter case follows the user's language, and the code page takes what it holds and no more") {

@@ -94,8 +94,8 @@ namespace {
 
 DWORD WINAPI HoldUntilTold(void* handles) {
   auto* const events = static_cast<KernelHandle*>(handles);
-  Instance first(L"Vantor Test");
-  if (!first.OtherRuns()) SetEvent(events[0].Get());
+  System first(L"Vantor Test", {});
+  if (!first.PreviousInstance()) SetEvent(events[0].Get());
   WaitForSingleObject(events[1].Get(), 10000);
   return 0;
 }

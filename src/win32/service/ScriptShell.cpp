@@ -6,9 +6,7 @@
 #include "win32/base/ShellFunction.h"
 #include "win32/base/SystemText.h"
 #include "win32/service/Language.h"
-#include "win32/service/RegistryValue.h"
-#include "win32/service/ShortcutFile.h"
-#include "win32/service/SpecialFolders.h"
+#include "win32/service/PlainShell.h"
 
 namespace vantor::win32 {
 
@@ -16,15 +14,13 @@ namespace {
 
 constexpr short NormalWindow = 1;
 
-/// The file at the start of a command line whose variables are replaced.
-std::wstring FileIn(std::wstring_view commandLine) {
-  const ProgramCommand parts = ParseProgramCommand(commandLine);
-  return parts.Path.empty() ? parts.Program : parts.Path;
+const std::wstring& FileOf(const ProgramCommand& command) {
+  return command.Path.empty() ? command.Program : command.Path;
 }
 
 bool PlainRun(std::wstring_view target) {
   const ProgramCommand parts = ParseProgramCommand(target);
-  return OpenByShell(parts.Path.empty() ? parts.Program : parts.Path, parts.Arguments);
+  return OpenByShell(FileOf(parts), parts.Arguments);
 }
 
 /// Whether the scripting object, which uses the code page, preserves all texts of a shortcut.
@@ -42,7 +38,8 @@ bool ScriptShell::Run(std::wstring_view target) {
   AllowSetForegroundWindow(ASFW_ANY);
   try {
     const LateBound shell = Make();
-    const auto folder = FolderForShell(On64BitWindows() ? FileIn(ExpandVariables(target)) : std::wstring());
+    const auto folder =
+        FolderForShell(On64BitWindows() ? FileOf(ParseProgramCommand(ExpandVariables(target))) : std::wstring());
     const Variant result = shell.Call(L"Run", {Variant(target), Variant(NormalWindow)});
     // Without waiting there is no exit code: anything but 0 is an error that was not raised.
     return result.Number().value_or(0) == 0;
