@@ -7,7 +7,7 @@ target_include_directories(vantor_doctest SYSTEM INTERFACE "${VANTOR_DOCTEST_INC
 target_include_directories(vantor_doctest INTERFACE "${PROJECT_SOURCE_DIR}/tests")
 
 if(VANTOR_FUZZ)
-  add_executable(vantor_fuzz ${VANTOR_FUZZER} ${VANTOR_FUZZ_SOURCES})
+  add_executable(vantor_fuzz ${VANTOR_FUZZER} ${VANTOR_FUZZ_SOURCES} ${VANTOR_FAKE_SOURCES})
   target_link_libraries(vantor_fuzz PRIVATE vantor_core vantor_doctest)
   target_link_options(vantor_fuzz PRIVATE -fsanitize=fuzzer)
   return()
@@ -32,7 +32,7 @@ set_tests_properties(${prefix}flows PROPERTIES LABELS native TIMEOUT 120)
 
 # A fixed part of what the fuzzer does.
 if(VANTOR_SANITIZE)
-  add_executable(fixed_fuzz ${VANTOR_FIXED_FUZZ} ${VANTOR_FUZZ_SOURCES})
+  add_executable(fixed_fuzz ${VANTOR_FIXED_FUZZ} ${VANTOR_FUZZ_SOURCES} ${VANTOR_FAKE_SOURCES})
   target_link_libraries(fixed_fuzz PRIVATE vantor_core vantor_doctest)
   foreach(run IN ITEMS settings:500 list:500 media:200 line:300 walk:200)
     string(REPLACE ":" ";" run "${run}")

@@ -36,7 +36,7 @@ vantor_glob(VANTOR_FLOWS tests/flows/*.txt)
 set(VANTOR_FLOW_PLAYER "${PROJECT_SOURCE_DIR}/tests/flows/Main.cpp" "${PROJECT_SOURCE_DIR}/tests/flows/Player.cpp")
 set(VANTOR_NATIVE_WORLD "${PROJECT_SOURCE_DIR}/tests/flows/NativeWorld.cpp")
 
-# By which tests in C++ play steps, too.
+# By which tests in C++ and the fuzzers play steps, too.
 set(VANTOR_FAKE_SOURCES "${PROJECT_SOURCE_DIR}/tests/flows/Player.cpp" "${VANTOR_NATIVE_WORLD}")
 vantor_glob(VANTOR_WIN32_TEST_SOURCES tests/win32/*.cpp)
 vantor_glob(VANTOR_CONTRACT_SOURCES tests/contract/*.cpp)

@@ -197,6 +197,20 @@ class NativeWorld : public World {
   }
   bool Becomes(const std::function<bool()>& condition) override { return condition(); }
 
+  /// The controls that are on the screen, those of the foremost form last.
+  [[nodiscard]] std::vector<form::Control*> Shown() const {
+    std::vector<form::Control*> all;
+    for (const form::Form* form : Desktop->Forms()) {
+      if (!form->Visible()) continue;
+      for (form::Control* control : form->Controls()) {
+        const form::Control* shown = control;
+        while (shown != nullptr && shown->Visible()) shown = shown->Container();
+        if (shown == nullptr) all.push_back(control);
+      }
+    }
+    return all;
+  }
+
   fake::Computer Computer;
   std::unique_ptr<Desk> Desktop;  // of the run that goes on
   std::unique_ptr<start::Program> Program;
@@ -231,13 +245,8 @@ class NativeWorld : public World {
   /// The control of a name that is on the screen; of two, that of the form before the other. Null when there is none.
   [[nodiscard]] form::Control* Find(const Text& name) const {
     form::Control* found = nullptr;
-    for (const form::Form* form : Desktop->Forms()) {
-      if (!form->Visible()) continue;
-      for (form::Control* control : form->Controls()) {
-        const form::Control* shown = control;
-        while (shown != nullptr && shown->Visible()) shown = shown->Container();
-        if (control->Name() == name && shown == nullptr) found = control;
-      }
+    for (form::Control* control : Shown()) {
+      if (control->Name() == name) found = control;
     }
     return found;
   }

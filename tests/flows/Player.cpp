@@ -386,10 +386,13 @@ bool PlayAll(const std::vector<std::filesystem::path>& files, const std::functio
   return failed == 0 && files.size() > skipped;
 }
 
-void Try(World& world, const Text& step) {
-  try {
-    Player("", &world).Do(step, 1);
-  } catch (const Failure&) {
+void Try(World& world, const Text& steps) {
+  Player player("", &world);
+  for (const Text& step : Split(steps, L"\n")) {
+    try {
+      player.Do(step, 1);
+    } catch (const Failure&) {
+    }
   }
 }
 

@@ -14,7 +14,7 @@ namespace vantor::flows {
 /// Returns whether all passed that could be played here, and one could.
 bool PlayAll(const std::vector<std::filesystem::path>& files, const std::function<void(const std::string& line)>& tell);
 
-/// Plays one step, as far as it can be done.
-void Try(World& world, const Text& step);
+/// Plays steps, each on a line of its own, as far as they can be done.
+void Try(World& world, const Text& steps);
 
 }  // namespace vantor::flows

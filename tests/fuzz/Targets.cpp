@@ -16,14 +16,12 @@ std::wstring Written(std::wstring text, std::wstring_view quote) {
   return text;
 }
 
-std::string Text(Bytes bytes) { return {bytes.begin(), bytes.end()}; }
-
 }  // namespace
 
 void FuzzSettings(Bytes bytes) {
   fake::Computer computer;
   StoredList first(computer);
-  computer.Disk.AddFile(first.Environment.Files.Set, Text(bytes));
+  computer.Disk.AddFile(first.Environment.Files.Set, Choices(bytes).Rest());
   first.Load();
   first.Save();
   StoredList second(computer);
@@ -65,46 +63,41 @@ void FuzzList(Bytes bytes) {
 }
 
 void FuzzMedia(Bytes bytes) {
+  constexpr unsigned char flags[] = {1};
+  Choices none{Bytes(flags)};
+  Wanderer user(none);
   Choices choices(bytes);
-  Choices flags(bytes.first(std::min<std::size_t>(bytes.size(), 1)));
-  Wandering wandering(flags);
-  const std::size_t which = choices.Byte() % 5;
-  wandering.Computer.Home = L"E:\\Work";
   constexpr std::wstring_view names[] = {L"MediaSet", L"Machine", L"User", L"Saving", L"Unsaved"};
-  const auto path = [](std::wstring_view name) { return L"E:\\Work\\Vantor\\" + std::wstring(name) + L".Orbel"; };
-  wandering.Computer.Disk.AddFile(path(names[0]), "\"Vantor Media 1\"\r\n\"Ready\"\r\n\"Ada\"\r\n");
-  wandering.Computer.Disk.AddFile(path(names[which]), choices.Rest());
-  wandering.Run();
+  const auto put = [&](std::wstring_view name, const std::string& content) {
+    user.Write(L"E:\\Vantor\\Vantor\\" + std::wstring(name) + L".Orbel", content);
+  };
+  put(names[0], "\"Vantor Media 1\"\r\n\"Ready\"\r\n\"Ada\"\r\n");
+  const std::size_t which = choices.Below(std::size(names));
+  put(names[which], choices.Rest());
+  user.Run();
 }
 
 void FuzzLine(Bytes bytes) {
-  constexpr unsigned char used[] = {2};  // a start that is not the first
-  Choices start{Bytes(used)};
-  Wandering wandering(start);
-  wandering.Do([&] { wandering.Program.Main(); });
-  wandering.Program.ListPage.List.Of(list::LaunchGroup::Web).AddItem({L"line", L"http://a\r\nb"});
-  form::TextBox& line = wandering.Program.frmMain.TextMain;
-  for (Choices choices(bytes); choices.Left() && !wandering.Desktop.Ended();) {
-    const unsigned byte = choices.Byte();
-    wandering.Do([&] {
-      if (byte != 0xFF) return wandering.Desktop.Type(std::wstring(1, static_cast<wchar_t>(byte)));
-      // The clipboard brings what can't be typed.
-      const std::wstring pasted{static_cast<wchar_t>(choices.Byte()), static_cast<wchar_t>(choices.Byte() * 256)};
-      line.InputEdited(line.Text() + pasted, 0, 0);
-    });
-    const command::CommandState& state = wandering.Program.CommandState;
-    Require(state.MatchedItemIndex >= command::NoIndex && state.MailTargetIndex >= command::NoIndex &&
-                state.MailTargetIndex < 3,
-            "what was completed is there");
-    const auto size = static_cast<int>(line.Text().size());
-    Require(line.SelStart() >= 0 && line.SelStart() + line.SelLength() <= size, "the selection lies in the line");
+  constexpr unsigned char flags[] = {2};  // a start that is not the first
+  Choices none{Bytes(flags)};
+  Wanderer user(none);
+  user.Do(L"start");
+  for (Choices choices(bytes); choices.Left();) {
+    const auto typed = static_cast<wchar_t>(choices.Byte());
+    if (typed == 0xFF)  // the clipboard brings what can't be typed
+      user.Do(L"paste " +
+              std::wstring{static_cast<wchar_t>(choices.Byte()), static_cast<wchar_t>(choices.Byte() * 256)});
+    else if (typed > L' ')
+      user.Do(L"type " + std::wstring(1, typed));
+    else
+      user.Do(typed == L' ' ? L"type {space}" : typed == L'\b' ? L"press Backspace" : L"press Enter");
   }
-  wandering.End();
+  user.End();
 }
 
 void FuzzWalk(Bytes bytes) {
   Choices choices(bytes);
-  Wandering(choices).Run();
+  Wanderer(choices).Run();
 }
 
 }  // namespace vantor::fuzz
