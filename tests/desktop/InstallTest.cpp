@@ -67,7 +67,7 @@ TEST_CASE("install, upgrade over a running copy, uninstall and come back, in a f
   // An older version is there, and its start-menu entry was not wanted.
   it.Work.Write(it.Name + "\\Vantor.exe", "old");
   it.Work.Write(it.Name + "\\Guide.html", "old");
-  RegSetKeyValueW(HKEY_CURRENT_USER, UninstallKey, L"DisplayVersion", REG_SZ, L"1.0", 8);
+  SetRegistryText(HKEY_CURRENT_USER, UninstallKey, L"DisplayVersion", L"1.0");
   DeleteFileW(Wide(it.StartMenu).c_str());
   it.WriteData();
   REQUIRE(it.Install() == 0);
@@ -173,8 +173,7 @@ TEST_CASE("installed by hand, Enter is enough, and the folder is the user's; wha
   }
 
   for (HKEY root : {HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER}) {
-    RegSetKeyValueW(root, RunKey, RunValue, REG_SZ, program.c_str(),
-                    static_cast<DWORD>(program.size() + 1) * sizeof(wchar_t));
+    SetRegistryText(root, RunKey, RunValue, program);
   }
   Run('"' + folder + "\\Uninstall.exe\" /S /DELETEDATA");
   CHECK_BECOMES(Exists(folder), false);

@@ -57,6 +57,19 @@ inline std::string BytesOf(const std::string& path) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
+/// A text in the registry; "(none)" when there is none. The second one writes it.
+inline std::string RegistryText(HKEY root, const std::wstring& key, const std::wstring& name) {
+  wchar_t text[1024] = L"";
+  DWORD bytes = sizeof text;
+  const LSTATUS read = RegGetValueW(root, key.c_str(), name.c_str(), RRF_RT_REG_SZ, nullptr, text, &bytes);
+  return read == ERROR_SUCCESS ? Narrow(text) : "(none)";
+}
+inline void SetRegistryText(HKEY root, const std::wstring& key, const std::wstring& name, const std::wstring& text) {
+  const auto bytes = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
+  if (RegSetKeyValueW(root, key.c_str(), name.c_str(), REG_SZ, text.c_str(), bytes) != ERROR_SUCCESS)
+    throw std::runtime_error("the registry can't be written");
+}
+
 /// Asks until the condition holds. False when it does not within the time.
 template <class Condition>
 bool Eventually(Condition condition, DWORD milliseconds = 20000) {

@@ -20,8 +20,9 @@ class Recorder {
     folder_.CopyProgram(ProgramName(), "recorder.exe");
     folder_.Write(RecordName);
     SetEnvironmentVariableW(L"VANTOR_RECORD", Wide(folder_.Path(RecordName)).c_str());
-    SetKey(ClassesRoot(), Classes + L".vantortest", L"", L"VantorTest");
-    SetKey(ClassesRoot(), Classes + LR"(VantorTest\shell\open\command)", L"", Wide(Quoted() + R"( document "%1")"));
+    SetRegistryText(ClassesRoot(), Classes + L".vantortest", L"", L"VantorTest");
+    SetRegistryText(ClassesRoot(), Classes + LR"(VantorTest\shell\open\command)", L"",
+                    Wide(Quoted() + R"( document "%1")"));
   }
   ~Recorder() {
     RegDeleteTreeW(ClassesRoot(), (Classes + L".vantortest").c_str());
@@ -41,13 +42,13 @@ class Recorder {
     }
     for (const std::wstring scheme : {L"http", L"https", L"mailto"}) {
       RegDeleteTreeW(HKEY_CLASSES_ROOT, (scheme + L"\\shell").c_str());  // how Wine opens them by itself
-      SetKey(ClassesRoot(), Classes + scheme, L"URL Protocol", L"");
-      SetKey(ClassesRoot(), Classes + scheme + L"\\shell\\open\\command", L"",
-             Wide(Quoted() + ' ' + Narrow(scheme) + " \"%1\""));
+      SetRegistryText(ClassesRoot(), Classes + scheme, L"URL Protocol", L"");
+      SetRegistryText(ClassesRoot(), Classes + scheme + L"\\shell\\open\\command", L"",
+                      Wide(Quoted() + ' ' + Narrow(scheme) + " \"%1\""));
     }
     for (const std::wstring program : {L"rundll32.exe", L"regedit.exe"})
-      SetKey(HKEY_CURRENT_USER, L"Software\\Wine\\DllOverrides", program, L"native");
-    SetKey(HKEY_CURRENT_USER, L"Software\\Wine\\DllOverrides", L"tapi32", L"");  // nobody is called
+      SetRegistryText(HKEY_CURRENT_USER, L"Software\\Wine\\DllOverrides", program, L"native");
+    SetRegistryText(HKEY_CURRENT_USER, L"Software\\Wine\\DllOverrides", L"tapi32", L"");  // nobody is called
   }
   /// The command lines recorded so far.
   [[nodiscard]] std::vector<std::string> Lines() const {
@@ -63,12 +64,6 @@ class Recorder {
 
   /// Where document kinds are told: for the user alone, but Wine looks at the machine's only.
   static HKEY ClassesRoot() { return UnderWine() ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER; }
-  static void SetKey(HKEY root, const std::wstring& key, const std::wstring& name, const std::wstring& value) {
-    if (RegSetKeyValueW(root, key.c_str(), name.c_str(), REG_SZ, value.c_str(),
-                        static_cast<DWORD>(value.size() + 1) * sizeof(wchar_t)) != ERROR_SUCCESS) {
-      throw std::runtime_error("the registry can't be written");
-    }
-  }
   static std::vector<std::wstring> SystemPrograms() {
     wchar_t path[MAX_PATH];
     const std::wstring windows(path, GetWindowsDirectoryW(path, MAX_PATH));
@@ -85,12 +80,6 @@ inline std::string SystemFolder(int id) {
   return Narrow(path);
 }
 
-/// A text in the registry; "(none)" when there is none.
-inline std::string RegistryText(HKEY root, const wchar_t* key, const wchar_t* name) {
-  wchar_t text[1024] = L"";
-  DWORD bytes = sizeof text;
-  return RegGetValueW(root, key, name, RRF_RT_REG_SZ, nullptr, text, &bytes) == ERROR_SUCCESS ? Narrow(text) : "(none)";
-}
 /// Where Windows looks for what starts with it, and the program's own entry.
 constexpr wchar_t RunKey[] = L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
 constexpr wchar_t RunValue[] = L"OrbelsLauncher";

@@ -13,7 +13,7 @@ using namespace desktop;
 /// Wine only: keeps the window manager of the X display away, which would take a drag for one of its own mouse.
 class WindowsLeftToWine {
  public:
-  WindowsLeftToWine() { RegSetKeyValueW(HKEY_CURRENT_USER, Key, L"Managed", REG_SZ, L"N", 2 * sizeof(wchar_t)); }
+  WindowsLeftToWine() { SetRegistryText(HKEY_CURRENT_USER, Key, L"Managed", L"N"); }
   ~WindowsLeftToWine() { RegDeleteKeyValueW(HKEY_CURRENT_USER, Key, L"Managed"); }
   WindowsLeftToWine(const WindowsLeftToWine&) = delete;
   WindowsLeftToWine& operator=(const WindowsLeftToWine&) = delete;

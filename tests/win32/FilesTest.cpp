@@ -28,16 +28,50 @@ void SetAttributes(const std::wstring& path, DWORD attributes) { SetFileAttribut
 
 }  // namespace
 
-TEST_CASE("drives are listed by their letters, and what is no drive, or can't be read, has no kind") {
+TEST_CASE("drives, files and folders are known with the scripting object or without it, at any length of the path") {
   Disk disk;
-  for (const wchar_t* root : {L"C:", L"c:\\", L"C:\\windows\\system32"}) CHECK(disk.Files.DriveType(root) == 2);
-  for (const wchar_t* root : {L"", L"Q:\\", L"J:", L"nonsense", L"\\\\no-such-server\\share\\"}) {
-    CHECK_FALSE(disk.Files.DriveType(root));
-    CHECK_FALSE(disk.Files.DriveReady(root));
-  }
+  DataFiles data;
+  const std::wstring file = disk.Folder.Make(L"a \x00E4\x4E2D,b.Tar.GZ");
+  const std::wstring deep = disk.Folder / std::wstring(230, L'd');
+  const std::wstring deepFile = deep + L"\\" + std::wstring(200, L'x') + L".txt";
+  REQUIRE(data.MakeFolder(deep));
+  REQUIRE(data.Write(deepFile, "deep"));
+  CHECK(data.Read(deepFile).Bytes == "deep");
+  CHECK(disk.Files.Files(deep, L"*.txt").size() == 1);
+  const auto check = [&] {
+    for (const wchar_t* path : {L"C:", L"c:\\", L"C:\\windows\\system32"}) {
+      CHECK(disk.Files.DriveType(path) == 2);
+      CHECK(disk.Files.DriveReady(path));
+    }
+    for (const wchar_t* none : {L"", L"Q:\\", L"nonsense", L"\\\\no-such-server\\share\\"}) {
+      CHECK_FALSE(disk.Files.DriveType(none));
+      CHECK_FALSE(disk.Files.DriveReady(none));
+    }
+    const std::tuple<std::wstring, bool, bool> paths[] = {
+        {file, true, false}, {deepFile, true, false},     {disk.Folder.Path, false, true},
+        {deep, false, true}, {file + L"x", false, false}, {L"", false, false}};
+    for (const auto& [path, isFile, isFolder] : paths) {
+      CHECK(disk.Files.FileExists(path) == isFile);
+      CHECK(disk.Files.FolderExists(path) == isFolder);
+    }
+    const std::pair<const wchar_t*, const wchar_t*> extensions[] = {
+        {L"C:\\a\\Edit.EXE", L"EXE"}, {L"a.tar.gz", L"gz"}, {L"C:\\b.c\\plain", L""}, {L"", L""}, {L"end.", L""}};
+    for (const auto& [path, extension] : extensions) CHECK(disk.Files.ExtensionName(path) == extension);
+  };
+  WithAndWithout(L"Scripting.FileSystemObject", [&](bool with) {
+    CAPTURE(with);
+    CHECK(disk.Files.Available() == with);
+    check();
+    const vantor::service::ManyFileCalls many(disk.Files);
+    check();
+  });
+  CHECK_FALSE(disk.Files.DriveType(L"J:"));
   const auto drives = disk.Files.Drives();
   CHECK(std::ranges::is_sorted(drives, {}, [](const auto& drive) { return drive.Letter; }));
   CHECK(std::ranges::any_of(drives, [](const auto& drive) { return drive.Letter == L'C' && drive.Type == 2; }));
+  // What the clean-up of the folder can't reach.
+  DeleteFileW((L"\\\\?\\" + deepFile).c_str());
+  RemoveDirectoryW((L"\\\\?\\" + deep).c_str());
 }
 
 TEST_CASE("a place is others' to write to when its access list says so, or can't be read") {
@@ -55,37 +89,6 @@ TEST_CASE("a place is others' to write to when its access list says so, or can't
   }
   CHECK_FALSE(disk.Files.OthersMayWrite(disk.Folder.Path));
   CHECK(disk.Files.OthersMayWrite(disk.Folder / L"none"));
-}
-
-TEST_CASE("files and folders are told apart, at any length of the path") {
-  Disk disk;
-  const std::wstring file = disk.Folder.Make(L"a \x00E4\x4E2D,b.Tar.GZ");
-  std::wstring deep = disk.Folder.Path;
-  DataFiles data;
-  for (int i = 0; i < 4; ++i) REQUIRE(data.MakeFolder(deep += L'\\' + std::wstring(100, L'd')));
-  REQUIRE(data.Write(deep + L"\\x.txt", "deep"));
-  for (const bool many : {false, true}) {
-    if (many) disk.Files.BeginMany();
-    for (const std::wstring& there : {file, deep + L"\\x.txt"}) {
-      CHECK(disk.Files.FileExists(there));
-      CHECK_FALSE(disk.Files.FolderExists(there));
-    }
-    for (const std::wstring& folder : {disk.Folder.Path, deep, file + L"x", std::wstring()}) {
-      CHECK_FALSE(disk.Files.FileExists(folder));
-      CHECK(disk.Files.FolderExists(folder) == (folder.size() > file.size() + 1 || folder == disk.Folder.Path));
-    }
-    CHECK(disk.Files.Files(deep, L"*.txt") == Names{L"x.txt"});
-    if (many) disk.Files.EndMany();
-  }
-  CHECK(data.Read(deep + L"\\x.txt").Bytes == "deep");
-  // What the clean-up of the folder can't reach.
-  const std::wstring literal = L"\\\\?\\" + deep;
-  CHECK(DeleteFileW((literal + L"\\x.txt").c_str()));
-  for (std::size_t cut = 0; cut < 4; ++cut) RemoveDirectoryW(literal.substr(0, literal.size() - cut * 101).c_str());
-
-  const std::pair<const wchar_t*, const wchar_t*> extensions[] = {
-      {L"C:\\a\\Edit.EXE", L"EXE"}, {L"a.tar.gz", L"gz"}, {L"C:\\b.c\\plain", L""}, {L"", L""}, {L"end.", L""}};
-  for (const auto& [path, extension] : extensions) CHECK(disk.Files.ExtensionName(path) == extension);
 }
 
 TEST_CASE("a folder's entries fit the pattern by their long names, sorted, without the hidden ones") {
@@ -119,31 +122,27 @@ TEST_CASE("a data file is replaced whole or left whole, in its place too where t
   CHECK(data.WriteInPlace(path, "longer than the next"));
   REQUIRE(data.WriteInPlace(path, old));
   CHECK(data.Read(path).Bytes == old);
-  const auto write = [&](const std::wstring& file, bool inPlace) {
-    return inPlace ? data.WriteInPlace(file, "new") : data.Write(file, "new");
+  const auto open = [&](DWORD shared) {
+    return FileHandle(CreateFileW(path.c_str(), GENERIC_READ, shared, nullptr, OPEN_EXISTING, 0, nullptr));
   };
-  for (const bool inPlace : {false, true}) {
-    CAPTURE(inPlace);
+  for (const auto write : {&DataFiles::Write, &DataFiles::WriteInPlace}) {
     for (const std::wstring& none : {folder.Path, folder / L"none\\Set.Orbel", std::wstring(L"Q:\\Set.Orbel")})
-      CHECK_FALSE(write(none, inPlace));
+      CHECK_FALSE((data.*write)(none, "new"));
     SetAttributes(path, FILE_ATTRIBUTE_READONLY);
-    CHECK_FALSE(write(path, inPlace));
+    CHECK_FALSE((data.*write)(path, "new"));
     CHECK_FALSE(data.CanWrite(path));
     SetAttributes(path, FILE_ATTRIBUTE_NORMAL);
-    {
-      const FileHandle held(
-          CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
-      CHECK_FALSE(write(path, inPlace));
-      CHECK_FALSE(data.Remove(path));
-      CHECK(data.CanWrite(path));
-    }
-    {
-      const FileHandle alone(CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
-      CHECK(data.Read(path).Failed());
-    }
+    FileHandle held = open(FILE_SHARE_READ);
+    CHECK_FALSE((data.*write)(path, "new"));
+    CHECK_FALSE(data.Remove(path));
+    CHECK(data.CanWrite(path));
+    held.Reset();
+    held = open(0);
+    CHECK(data.Read(path).Failed());
+    held.Reset();
     CHECK(data.Read(path).Bytes == old);
     SetAttributes(path, FILE_ATTRIBUTE_HIDDEN);
-    CHECK(write(path, inPlace));
+    CHECK((data.*write)(path, "new"));
     CHECK((GetFileAttributesW(path.c_str()) & FILE_ATTRIBUTE_HIDDEN) != 0);
     CHECK(data.Read(path).Bytes == "new");
     SetAttributes(path, FILE_ATTRIBUTE_NORMAL);

@@ -5,30 +5,26 @@
 
 #include <shlobj.h>
 
+#include <algorithm>
 #include <memory>
+#include <stdexcept>
 
 #include "TestFolder.h"
 #include "win32/base/Com.h"
 #include "win32/base/Handle.h"
 #include "win32/base/TimedWork.h"
 #include "win32/service/Language.h"
-#include "win32/service/PlainShell.h"
+#include "win32/service/Management.h"
 #include "win32/service/Processes.h"
 #include "win32/service/ScriptShell.h"
-#include "win32/service/WindowPicker.h"
+#include "win32/service/WindowMark.h"
 #include "win32/service/WindowsServices.h"
 #include "win32/window/DropTarget.h"
 
 using namespace vantor::win32;
-using vantor::service::WindowId;
+using namespace vantor::desktop;
 
 namespace {
-
-std::wstring OwnPath() {
-  wchar_t path[MAX_PATH] = L"";
-  GetModuleFileNameW(nullptr, path, MAX_PATH);
-  return path;
-}
 
 /// What Explorer drags for a file.
 ComPointer<IDataObject> DraggedFile(const std::wstring& path) {
@@ -43,43 +39,36 @@ ComPointer<IDataObject> DraggedFile(const std::wstring& path) {
   return data;
 }
 
-struct OleMember {
-  OleMember() { OleInitialize(nullptr); }
-  ~OleMember() { OleUninitialize(); }
-};
-
 }  // namespace
 
-TEST_CASE("every special folder is found, by the scripting shell or without it") {
+TEST_CASE("the scripting shell tells folders, and reads, writes and deletes in the registry; without it Windows does") {
   Apartment com;
   ScriptShell shell(com);
-  for (const wchar_t* name : {L"AllUsersDesktop", L"AllUsersStartMenu", L"AllUsersPrograms", L"AllUsersStartup",
-                              L"Desktop", L"Favorites", L"Fonts", L"MyDocuments", L"NetHood", L"PrintHood", L"Programs",
-                              L"Recent", L"SendTo", L"StartMenu", L"Startup", L"Templates"}) {
-    const std::wstring path = shell.SpecialFolder(name);
-    CAPTURE(std::string(path.begin(), path.end()));
-    CHECK(path.find(L":\\") == 1);
-    CHECK(path == PlainSpecialFolder(name));
-  }
-  CHECK(shell.SpecialFolder(L"nosuch").empty());
-  CHECK(shell.SpecialFolder(L"").empty());
-}
+  const std::wstring key = L"HKEY_CURRENT_USER\\Software\\Vantor Test\\";
+  std::vector<std::wstring> known;
+  WithAndWithout(L"WScript.Shell", [&](bool with) {
+    CAPTURE(with);
+    std::vector<std::wstring> folders;
+    for (const wchar_t* name : {L"AllUsersDesktop", L"AllUsersStartMenu", L"AllUsersPrograms", L"AllUsersStartup",
+                                L"Desktop", L"Favorites", L"Fonts", L"MyDocuments", L"NetHood", L"PrintHood",
+                                L"Programs", L"Recent", L"SendTo", L"StartMenu", L"Startup", L"Templates"}) {
+      folders.push_back(shell.SpecialFolder(name));
+      CHECK(folders.back().find(L":\\") == 1);
+    }
+    if (with) known = folders;
+    CHECK(folders == known);
+    CHECK(shell.SpecialFolder(L"nosuch").empty());
+    CHECK(shell.SpecialFolder(L"").empty());
 
-TEST_CASE("the registry is read in both ways alike, and everything that is not there is silence") {
-  Apartment com;
-  ScriptShell shell(com);
-  const std::wstring key = L"HKEY_CURRENT_USER\\Software\\Vantor Test";
-  const std::wstring name = key + L"\\Orbels\x00C4\x4E2D";
-  shell.RegistryWrite(name, L"C:\\\x4E2D");
-  const std::pair<std::wstring, std::wstring> rows[] = {
-      {name, L"C:\\\x4E2D"}, {key + L"\\none", L""}, {L"nonsense", L""}, {L"HKEY_NONE\\a\\b", L""}};
-  for (const auto& [what, expected] : rows) {
-    CHECK(shell.RegistryRead(what) == expected);
-    CHECK(PlainRegistryRead(what) == expected);
-    if (expected.empty()) shell.RegistryDelete(what);
-    PlainRegistryDelete(what);
-    CHECK(shell.RegistryRead(what).empty());
-  }
+    shell.RegistryWrite(key + L"\x00C4\x4E2D", L"C:\\\x4E2D");
+    const std::pair<std::wstring, std::wstring> rows[] = {
+        {key + L"\x00C4\x4E2D", L"C:\\\x4E2D"}, {key + L"none", L""}, {L"nonsense", L""}, {L"HKEY_NONE\\a\\b", L""}};
+    for (const auto& [name, value] : rows) {
+      CHECK(shell.RegistryRead(name) == value);
+      shell.RegistryDelete(name);
+      CHECK(shell.RegistryRead(name).empty());
+    }
+  });
   RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Vantor Test");
 }
 
@@ -90,18 +79,21 @@ TEST_CASE("a shortcut is saved for any letters and keys, and stands for its targ
   vantor::service::Shortcut shortcut;
   shortcut.File = folder / L"link.LNK";
   shortcut.Hotkey = L"CTRL+SHIFT+L";
-  for (const std::wstring name : {L"V\x00E4ntor \x4E2D\x0416.exe", L"Vantor.exe"}) {
-    shortcut.TargetPath = folder.Make(name);
-    CHECK(shell.SaveShortcut(shortcut));
-    const std::string bytes = DataFiles().Read(shortcut.File).Bytes.value();
-    CHECK(bytes.find(vantor::desktop::Utf16(vantor::desktop::Narrow(name))) != std::string::npos);
-    CHECK(bytes.substr(64, 2) == "L\x03");  // the hot key
-  }
+  WithAndWithout(L"WScript.Shell", [&](bool with) {
+    CAPTURE(with);
+    for (const std::string name : {"V\u00E4ntor \u4E2D\u0416.exe", "Vantor.exe"}) {
+      shortcut.TargetPath = folder.Make(Wide(name));
+      CHECK(shell.SaveShortcut(shortcut));
+      const std::string bytes = BytesOf(Narrow(shortcut.File));
+      CHECK(bytes.find(Utf16(name)) != std::string::npos);
+      CHECK(bytes.substr(64, 2) == "L\x03");  // the hot key
+    }
+  });
   CHECK(ShortcutTarget(shortcut.File) == shortcut.TargetPath);
   CHECK(ShortcutTarget(shortcut.TargetPath) == shortcut.TargetPath);
   DeleteFileW(shortcut.TargetPath.c_str());
   CHECK(ShortcutTarget(shortcut.File) == shortcut.File);
-  if (vantor::desktop::On64Bit() && UnderWine()) {
+  if (On64Bit() && UnderWine()) {
     // What Windows' shell makes of "the folder of the programs" for a 32-bit program.
     const std::wstring there = L"C:\\Program Files\\only64.exe";
     std::ofstream(std::filesystem::path(there)).close();
@@ -126,50 +118,52 @@ TEST_CASE("letter case follows the user's language, and the code page takes what
     CHECK_FALSE(language.ToCodePage(foreign));
 }
 
-TEST_CASE("the service and Windows both tell where a process has its program") {
+TEST_CASE("the management service and Windows both tell where a process has its program") {
   Processes processes;
-  const auto managed = processes.ManagedProcesses();
-  REQUIRE(managed);
-  const auto own = std::find_if(managed->begin(), managed->end(),
-                                [](const auto& process) { return process.ProcessId == GetCurrentProcessId(); });
-  REQUIRE(own != managed->end());
-  CHECK(own->ExecutablePath == OwnPath());
-  CHECK(processes.ImageName(GetCurrentProcessId()) == OwnPath());
+  const auto check = [&](DWORD id, const std::wstring& path) {
+    const auto managed = processes.ManagedProcesses().value();
+    CHECK(std::ranges::any_of(managed,
+                              [&](const auto& one) { return one.ProcessId == id && one.ExecutablePath == path; }));
+    CHECK(processes.ImageName(id) == path);
+  };
+  check(GetCurrentProcessId(), OwnPath());
   CHECK(processes.ImageName(3).empty());
-  if (vantor::desktop::On64Bit()) {
+  if (On64Bit()) {
     // By the name under which a 32-bit program, and nobody else, sees the system's folder.
-    const PROCESS_INFORMATION other = vantor::desktop::Start(R"(C:\windows\Sysnative\notepad.exe)");
-    const std::wstring known = L"C:\\windows\\system32\\notepad.exe";
-    const auto all = processes.ManagedProcesses().value();
-    CHECK(std::any_of(all.begin(), all.end(), [&](const auto& process) {
-      return process.ProcessId == other.dwProcessId && process.ExecutablePath == known;
-    }));
-    CHECK(processes.ImageName(other.dwProcessId) == known);
+    const PROCESS_INFORMATION other = Start(R"(C:\windows\Sysnative\notepad.exe)");
+    check(other.dwProcessId, L"C:\\windows\\system32\\notepad.exe");
     TerminateProcess(other.hProcess, 0);
     CloseHandle(other.hProcess);
   }
-
   WindowsServices services(L"Vantor Test", [](std::wstring_view) {});
   auto& system = services.All().System;
   CHECK(system.ProgramFolder() == OwnPath().substr(0, OwnPath().rfind(L'\\')));
   CHECK(services.All().FileSystem.FileExists(system.WindowsDirectory() + L"\\explorer.exe"));
 }
 
-TEST_CASE("the mark stands around a window, is not felt by the mouse, and goes") {
-  WindowPicker picker;
+TEST_CASE("disk C: tells who it is, the same each time, and nobody does without the management service") {
+  WithAndWithout(L"WinMgmts", [](bool with) {
+    if (with) {
+      const auto told = Management().ReadDiskIdentity().value();
+      CHECK(told.DriveType == 3);
+      CHECK(told.VolumeSerialNumber.size() == 8);
+      CHECK(told.Size > 1e6);
+      CHECK(Management().ReadDiskIdentity()->VolumeSerialNumber == told.VolumeSerialNumber);
+    } else {
+      CHECK_THROWS_AS((void)Management().ReadDiskIdentity(), std::runtime_error);
+    }
+  });
+}
+
+TEST_CASE("the mark around a window is not felt by the mouse, and there is none around the whole screen") {
   const WindowHandle window(CreateWindowExW(WS_EX_TOPMOST, L"BUTTON", L"", WS_POPUP | WS_VISIBLE, 100, 100, 200, 100,
                                             nullptr, nullptr, GetModuleHandleW(nullptr), nullptr));
-  const auto id = WindowId{reinterpret_cast<std::uintptr_t>(window.Get())};
-  const auto marked = [] { return FindWindowW(L"VantorMark", nullptr) != nullptr; };
-  CHECK(picker.ProcessOfWindow(id) == GetCurrentProcessId());
-  for (const auto other : {WindowId{reinterpret_cast<std::uintptr_t>(GetDesktopWindow())}, WindowId::None}) {
-    picker.Mark(id);
-    CHECK(marked());
-    CHECK(picker.WindowFromPoint({101, 150}) == id);
-    picker.Mark(other);
-    CHECK_FALSE(marked());
-  }
-  CHECK(picker.ProcessOfWindow(WindowId::None) == 0);
+  WindowMark mark;
+  mark.Show(window.Get());
+  CHECK(FindWindowW(L"VantorMark", nullptr) != nullptr);
+  CHECK(WindowFromPoint({101, 150}) == window.Get());
+  mark.Show(GetDesktopWindow());
+  CHECK(FindWindowW(L"VantorMark", nullptr) == nullptr);
 }
 
 TEST_CASE("work that ends is waited for, work that does not for five seconds at most") {
@@ -180,24 +174,17 @@ TEST_CASE("work that ends is waited for, work that does not for five seconds at 
 
   // As with a service that never answers: the work goes on behind, and comes to its end later.
   const auto answer = std::make_shared<KernelHandle>(CreateEventW(nullptr, TRUE, FALSE, nullptr));
-  const auto ended = std::make_shared<KernelHandle>(CreateEventW(nullptr, TRUE, FALSE, nullptr));
   const DWORD begin = GetTickCount();
-  CHECK_FALSE(work.Run([answer, ended] {
-    WaitForSingleObject(answer->Get(), INFINITE);
-    SetEvent(ended->Get());
-  }));
+  CHECK_FALSE(work.Run([answer] { WaitForSingleObject(answer->Get(), INFINITE); }));
   CHECK(GetTickCount() - begin >= 4900);
   // Nothing more is asked meanwhile, so that not one thread after the other is left behind.
-  const auto asked = std::make_shared<bool>(false);
-  CHECK_FALSE(work.Run([asked] { *asked = true; }));
-  CHECK_FALSE(*asked);
+  CHECK_FALSE(work.Run([&] { done = false; }));
+  CHECK(done);
   SetEvent(answer->Get());
-  CHECK(WaitForSingleObject(ended->Get(), 20000) == WAIT_OBJECT_0);
-  CHECK(vantor::desktop::Eventually([&] { return work.Run([] {}); }));
+  CHECK(Eventually([&] { return work.Run([] {}); }));
 }
 
 TEST_CASE("files that are dropped on a window arrive, those it does not want don't") {
-  const OleMember ole;
   const TestFolder folder;
   const std::wstring path = folder.Make(L"\x416 it's, a 'file'.txt");
   const WindowHandle window(

@@ -13,6 +13,7 @@
 #include "win32/window/WindowsDesktop.h"
 
 using namespace vantor::win32;
+using vantor::desktop::Eventually;
 
 namespace {
 
@@ -35,13 +36,19 @@ TEST_CASE("a text that names a file starts exactly that file; a command line the
   // Windows would rather start this one.
   CopyFileW(L"C:\\windows\\system32\\attrib.exe", (starts.Folder / L"my.exe").c_str(), FALSE);
   const std::wstring arguments = L" /c echo ran>\"" + starts.Ran + L"\"";
-  SUBCASE("as a command line") { CHECK(starts.Plain.StartCommandLine(program)); }
-  SUBCASE("through the scripting shell") { CHECK(starts.Shell.Run(L'"' + program + L'"')); }
-  SUBCASE("by the shell") { CHECK(starts.Plain.ShellOpen(program) > 32); }
-  SUBCASE("on the search path") { CHECK(starts.Plain.StartCommandLine(L"cmd" + arguments)); }
-  SUBCASE("in quotes") { CHECK(starts.Plain.StartCommandLine(L"\"C:\\windows\\system32\\cmd.exe\"" + arguments)); }
-  SUBCASE("on the path, by the scripting shell") { CHECK(starts.Shell.Run(L"cmd.exe" + arguments)); }
-  CHECK(Eventually([&] { return DataFiles().Read(starts.Ran).Bytes.value_or("").starts_with("ran"); }));
+  const auto ran = [&] {
+    return Eventually([&] { return DataFiles().Read(starts.Ran).Bytes.value_or("").starts_with("ran"); }) &&
+           Eventually([&] { return DeleteFileW(starts.Ran.c_str()) != FALSE; });
+  };
+  for (const std::wstring& line : {program, L"cmd" + arguments, L"\"C:\\windows\\system32\\cmd.exe\"" + arguments})
+    CHECK((starts.Plain.StartCommandLine(line) && ran()));
+  CHECK((starts.Plain.ShellOpen(program) > 32 && ran()));
+  WithAndWithout(L"WScript.Shell", [&](bool with) {
+    CAPTURE(with);
+    for (const std::wstring& line : {L'"' + program + L'"', L"cmd.exe" + arguments})
+      CHECK((starts.Shell.Run(line) && ran()));
+    CHECK_FALSE(starts.Shell.Run(L"nosuchprogram"));
+  });
 }
 
 TEST_CASE("the scripting shell replaces variables, in the name of a file too; what is opened keeps its name") {

@@ -11,18 +11,14 @@
 
 namespace vantor::win32 {
 
-using desktop::Eventually;
-using desktop::OwnDesktop;
-using desktop::UnderWine;
-
 /// An empty temporary folder with a blank in its name; deleted at the end with its contents.
 class TestFolder {
  public:
-  TestFolder() {
-    Remove();
-    std::filesystem::create_directory(Path);
+  TestFolder() { std::filesystem::create_directory(Path); }
+  ~TestFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(Path, ignored);
   }
-  ~TestFolder() { Remove(); }
   TestFolder(const TestFolder&) = delete;
   TestFolder& operator=(const TestFolder&) = delete;
 
@@ -36,12 +32,19 @@ class TestFolder {
 
   std::wstring Path =
       std::filesystem::temp_directory_path() / (L"vantor test " + std::to_wstring(GetCurrentProcessId()));
-
- private:
-  void Remove() const {
-    std::error_code ignored;
-    std::filesystem::remove_all(Path, ignored);
-  }
 };
+
+/// Does it with a scripting or management object (true), and then, where the registry is the test's own, without it, as
+/// after an administrator has taken its class away (false).
+template <class Action>
+void WithAndWithout(const std::wstring& className, Action action) {
+  action(true);
+  if (!desktop::OwnDesktop()) return;
+  const std::wstring key = L"Software\\Classes\\" + className + L"\\CLSID";
+  const std::string id = desktop::RegistryText(HKEY_LOCAL_MACHINE, key, L"");
+  desktop::SetRegistryText(HKEY_LOCAL_MACHINE, key, L"", L"{00000000-1111-2222-3333-444444444444}");
+  action(false);
+  desktop::SetRegistryText(HKEY_LOCAL_MACHINE, key, L"", desktop::Wide(id));
+}
 
 }  // namespace vantor::win32
