@@ -7,78 +7,65 @@
 namespace vantor::desktop {
 namespace {
 
-/// A list whose lines end differently from what the program writes, so that every save has to rewrite the file, and
-/// what is loaded from the old and the new is the same.
-struct LongList {
-  explicit LongList(int count) : Count(count) {
+/// A full list whose lines end differently from what the program writes, so that every save has to rewrite the file,
+/// and what is loaded from the old and the new is the same.
+struct FullList {
+  FullList() {
     Items items;
-    for (int i = 0; i < count; ++i) items.emplace_back("Site " + std::to_string(i), "http://www.example.org/");
-    Old = New = ListBytes(items);
-    std::erase(Old, '\r');
+    for (int i = 0; i < Count; ++i) items.emplace_back("Site " + std::to_string(i), "http://www.example.org/");
+    New = ListBytes(items);
   }
-  void PutInto(const Folder& folder) const {
-    folder.WriteSettings({.WebUpper = Count - 1});
-    folder.WriteData("ListWeb", Old);
+  void Put() const {
+    Place.WriteSettings({.WebUpper = Count - 1});
+    std::string old = New;
+    std::erase(old, '\r');
+    Place.WriteData("ListWeb", old);
   }
   /// Whether all items are saved.
-  void CheckSaved(const Folder& folder) const {
-    CHECK((folder.Data("ListWeb") == New));
-    const Settings settings{.WebUpper = Count - 1};
-    CHECK(folder.Data("Set") == folder.Saved(settings));
+  void CheckSaved() const {
+    CHECK((Place.Data("ListWeb") == New));
+    CHECK(Place.Data("Set") == Settings{.WebUpper = Count - 1, .Folder = Place.Path()}.Bytes());
     // The mark of a save under way goes by being emptied, then removed: killed in between, a save is whole.
-    const std::string mark = folder.Data("Saving");
+    const std::string mark = Place.Data("Saving");
     CHECK((mark.empty() || mark == "(none)"));
   }
 
-  int Count;
-  std::string Old, New;
+  static constexpr int Count = 32767;
+  Folder Place;
+  std::string New;
 };
-
-void Close(const Program& program) {
-  PostMessageW(program.AwaitBar(), WM_CLOSE, 0, 0);
-  CHECK(program.AwaitEnd() == 0);
-}
-
-void StartAndClose(const Folder& folder) {
-  const Program program(folder);
-  program.AwaitBar();
-  CHECK(program.Message() == nullptr);
-  Close(program);
-}
 
 }  // namespace
 
 TEST_CASE("the program killed during a save has lost nothing at its next start") {
-  const LongList list(32767);
-  const Folder folder;
-  const std::string saving = folder.Path("Vantor\\Saving.Orbel");
-  const std::string backup = folder.Path("Vantor\\Backup\\ListWeb.Orbel");
+  const FullList list;
+  const std::string saving = list.Place.Path("Vantor\\Saving.Orbel");
+  const std::string backup = list.Place.Path("Vantor\\Backup\\ListWeb.Orbel");
   int brokenOff = 0;
   // The moment is Windows' choice: most hit the save, all must do no harm.
   for (int attempt = 0; attempt < 12 && brokenOff < 3; ++attempt) {
-    list.PutInto(folder);
+    list.Put();
     {
-      const Program program(folder);
+      const Program program(list.Place);
       PostMessageW(program.AwaitBar(), WM_CLOSE, 0, 0);
       const std::string& sign = attempt % 2 == 0 ? saving : backup;
       CHECK(Eventually([&] { return Exists(sign) || !program.Running(); }));
     }
     brokenOff += Exists(saving) ? 1 : 0;
-    StartAndClose(folder);
-    list.CheckSaved(folder);
+    Program(list.Place).Exit();
+    list.CheckSaved();
     DeleteFileW(Wide(backup).c_str());
   }
   CHECK(brokenOff > 0);
 }
 
 TEST_CASE("Windows ends while a panel or a message is open: all is saved, and in time") {
-  const LongList list(32767);
+  const FullList list;
   for (const bool message : {false, true}) {
     CAPTURE(message);
-    const Folder folder;
-    list.PutInto(folder);
-    const Program program(folder);
-    HWND bar = program.AwaitBar();
+    list.Put();
+    const Program program(list.Place);
+    HWND const bar = program.AwaitBar();
     if (message)
       program.Enter(L"p=nosuchprogram");
     else
@@ -96,40 +83,37 @@ TEST_CASE("Windows ends while a panel or a message is open: all is saved, and in
       CHECK(milliseconds < 5000);  // what Windows grants before it ends a program by force
     }
     // From here on Windows may end the process at any moment.
-    list.CheckSaved(folder);
+    list.CheckSaved();
     (void)program.AwaitEnd();
   }
 }
 
 TEST_CASE("a second copy hands over to the first, minimised or covered; of two at one moment one stays") {
   const Folder folder;
-  folder.WriteSettings({.OptionMask = 0, .WebUpper = 0, .Left = 600, .Top = 600});
-  folder.WriteData("ListWeb", ListBytes({{"One", "http://one"}}));
+  folder.WriteSettings({.OptionMask = 0, .Left = 600, .Top = 600});
   const Program one(folder);
   const Program two(folder);
   CHECK(Eventually([&] { return one.Running() != two.Running(); }));
   const Program& first = one.Running() ? one : two;
-  HWND bar = first.AwaitBar();
-  first.Enter(L"w-kept");
+  HWND const bar = first.AwaitBar();
+  first.Type(L"kept");
   for (const bool minimised : {true, false}) {
     CAPTURE(minimised);
-    if (minimised) input::Press(VK_F9);
+    if (minimised) first.Press(VK_F9);
     CHECK_BECOMES(window::IsMinimised(bar), minimised);
     HWND const cover = CreateWindowExW(0, L"STATIC", L"cover", WS_POPUP | WS_VISIBLE, 0, 0, 700, 300, nullptr, nullptr,
                                        GetModuleHandleW(nullptr), nullptr);
     SetForegroundWindow(cover);
     CHECK_BECOMES(GetForegroundWindow(), cover);
-    const Program second(folder);
-    CHECK(second.AwaitEnd() == 0);
-    CHECK_BECOMES(window::IsMinimised(bar), false);
+    CHECK(Program(folder).AwaitEnd() == 0);
     CHECK(first.AwaitBar() == bar);
-    CHECK(first.Line() == "w-kept");
+    CHECK_BECOMES(window::IsMinimised(bar), false);
     CHECK_BECOMES(window::IsAbove(bar, cover), true);
+    CHECK(first.Line() == "kept");
     DestroyWindow(cover);
   }
   first.Exit();
-  CHECK(folder.Data("ListWeb") == ListBytes({{"One", "http://one"}}));
-  StartAndClose(folder);  // the way is free again
+  Program(folder).Exit();  // the way is free again
 }
 
 }  // namespace vantor::desktop

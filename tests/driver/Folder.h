@@ -87,11 +87,6 @@ class Folder {
     WriteData("Set", settings.Bytes());
     WriteData("User", "\"Anna\"\r\n");
   }
-  /// The bytes that settings are saved as: where none was chosen, the folder shown last is the program's own.
-  [[nodiscard]] std::string Saved(Settings settings) const {
-    if (settings.Folder.empty()) settings.Folder = Path();
-    return settings.Bytes();
-  }
 
  private:
   [[nodiscard]] std::filesystem::path Place(const std::string& name) const {
