@@ -44,14 +44,10 @@ std::string Heard(HWND control) {
   return line;
 }
 
-/// The form that opens next to the bar, once it has the input.
+/// The form beside the bar, once it has the input.
 HWND AwaitForm(const Program& program) {
-  HWND form = nullptr;
-  Await("a form", [&] {
-    form = GetForegroundWindow();
-    return form != program.Bar() && window::Focus(form) != nullptr;
-  });
-  return form;
+  Await("a form", [&] { return program.Active() != nullptr && program.Active() != program.Bar(); });
+  return program.Active();
 }
 
 /// Walks once round a form by Tab: all that can be used must be on the way.
@@ -59,21 +55,17 @@ void CheckTabs(HWND form) {
   std::set<HWND> awaited;
   for (HWND control : window::Controls(form)) {
     const LONG state = Accessible(control).State();
-    if ((state & STATE_SYSTEM_FOCUSABLE) != 0 && (state & (STATE_SYSTEM_UNAVAILABLE | STATE_SYSTEM_INVISIBLE)) == 0) {
-      awaited.insert(control);
-    }
+    constexpr LONG Unusable = STATE_SYSTEM_UNAVAILABLE | STATE_SYSTEM_INVISIBLE;
+    if ((state & (STATE_SYSTEM_FOCUSABLE | Unusable)) == STATE_SYSTEM_FOCUSABLE) awaited.insert(control);
   }
-  HWND const first = window::FocusOf(form);
   std::set<HWND> visited;
-  HWND control = first;
-  do {
+  HWND control = window::FocusOf(form);
+  while (visited.insert(control).second && awaited.size() > 1) {
     CAPTURE(Heard(control));
-    visited.insert(control);
     input::Press(VK_TAB);
-    if (awaited.size() == 1) break;
     Await("Tab to go on", [&] { return window::FocusOf(form) != control; });
     control = window::FocusOf(form);
-  } while (control != first && visited.size() <= awaited.size());
+  }
   CHECK(visited == awaited);
 }
 

@@ -3,13 +3,16 @@
 
 #include <doctest/doctest.h>
 
+#include <future>
+#include <thread>
+
 #include "TestFolder.h"
 #include "win32/base/Handle.h"
 #include "win32/base/ProgramCommand.h"
 #include "win32/service/DataFiles.h"
 #include "win32/service/Programs.h"
 #include "win32/service/ScriptShell.h"
-#include "win32/service/WindowsServices.h"
+#include "win32/service/System.h"
 #include "win32/window/WindowsDesktop.h"
 
 using namespace vantor::win32;
@@ -97,34 +100,26 @@ TEST_CASE("a command line is parted where Windows would") {
   }
 }
 
-namespace {
-
-DWORD WINAPI HoldUntilTold(void* handles) {
-  auto* const events = static_cast<KernelHandle*>(handles);
-  System first(L"Vantor Test", {});
-  if (!first.PreviousInstance()) SetEvent(events[0].Get());
-  WaitForSingleObject(events[1].Get(), 10000);
-  return 0;
-}
-
-}  // namespace
-
 TEST_CASE("what only looks like a copy that runs neither holds a start up nor ends it") {
-  KernelHandle events[] = {KernelHandle(CreateEventW(nullptr, TRUE, FALSE, nullptr)),
-                           KernelHandle(CreateEventW(nullptr, TRUE, FALSE, nullptr))};
-  const KernelHandle thread(CreateThread(nullptr, 0, HoldUntilTold, events, 0, nullptr));
-  REQUIRE(WaitForSingleObject(events[0].Get(), 10000) == WAIT_OBJECT_0);
-  WindowsServices services(L"Vantor Test", [](std::wstring_view) {});
-  auto& system = services.All().System;
-  CHECK(system.PreviousInstance());
-  // A window such as a copy has, shown, of a process that is none: this one.
+  // The name is held by another thread of this process, which has a window such as a copy has, but is none.
+  std::promise<bool> held;
+  std::promise<void> end;
+  std::thread holder([&] {
+    System first(L"Vantor Test", {});
+    held.set_value(!first.PreviousInstance());
+    end.get_future().wait();
+  });
+  CHECK(held.get_future().get());
   Desktop desktop;
   desktop.SetApplicationTitle(L"Vantor Test");
   const WindowHandle bar(
       CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr));
+  System system(L"Vantor Test", {});
+  CHECK(system.PreviousInstance());
   const DWORD begin = GetTickCount();
   CHECK_FALSE(system.ActivateInstance(L"Vantor Test"));
   CHECK(GetTickCount() - begin < 2500);
-  SetEvent(events[1].Get());
-  CHECK(Eventually([&] { return !system.PreviousInstance(); }));
+  end.set_value();
+  holder.join();
+  CHECK_FALSE(system.PreviousInstance());
 }
