@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "add/Drives.h"
-
 namespace vantor::add {
 namespace {
 
@@ -41,6 +39,14 @@ std::int16_t TakeDriveType(BrowseState& browse) {
 }
 
 }  // namespace
+
+std::int16_t DriveTypeOf(const service::Services& services, std::wstring_view path) {
+  return static_cast<std::int16_t>(services.FileSystem.DriveType(path).value_or(0));
+}
+
+bool OnFixedDrive(const service::Services& services, std::wstring_view path) {
+  return path.size() >= 3 && path.substr(1, 2) == L":\\" && DriveTypeOf(services, path.substr(0, 3)) == FixedDrive;
+}
 
 std::wstring_view FixedDiskRule(BrowseState& browse) {
   return TakeDriveType(browse) == FixedDrive ? std::wstring_view() : NotFixed;

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "add/Drives.h"
 #include "add/ItemGroup.h"
 #include "add/PlaceRules.h"
 #include "text/Path.h"
@@ -126,11 +125,9 @@ void frmBrowse::OptionBrowse_Click(AddKind kind) {
 void frmBrowse::ShowChosenKind() {
   const bool folder = ChoosesFolder();
   const bool program = state_.WhatToAdd == AddKind::Program;
-  for (form::Control* control :
-       {static_cast<form::Control*>(&CommandFindPath), static_cast<form::Control*>(&LabelFindHow),
-        static_cast<form::Control*>(&LabelFindResult)}) {
-    control->SetEnabled(program);
-  }
+  CommandFindPath.SetEnabled(program);
+  LabelFindHow.SetEnabled(program);
+  LabelFindResult.SetEnabled(program);
   if (folder) FileWork.SetListIndex(-1);
   OfferFiles(state_.WhatToAdd == AddKind::File ? EveryFile : Programs, !folder);
   if (!Adding()) return;
@@ -195,9 +192,10 @@ void frmBrowse::DirWork_Unreachable() {
 }
 
 void frmBrowse::NoteDrive() {
-  const DriveInfo drive = DriveOf(context_.Services, DirWork.Path());
-  state_.SelectedDriveLetter = context_.Services.Language.Upper(drive.DriveLetter);
-  state_.BrowseDriveType = drive.DriveType;
+  const std::wstring_view drive = text::DriveName(DirWork.Path());
+  const bool lettered = drive.size() == 2;
+  state_.SelectedDriveLetter = context_.Services.Language.Upper(drive.substr(0, lettered ? 1 : 0));
+  state_.BrowseDriveType = DriveTypeOf(context_.Services, DirWork.Path());
 }
 
 void frmBrowse::NoteFolder() {

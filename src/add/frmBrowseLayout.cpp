@@ -4,20 +4,12 @@
 #include "add/ItemGroup.h"
 #include "add/frmBrowse.h"
 #include "form/Grid.h"
-#include "form/PictureButton.h"
-#include "panel/PageText.h"
 
 namespace vantor::add {
 namespace {
 
-using form::ButtonHeight;
-using form::DressButton;
 using form::Twips;
-using form::grid::CheckHeight;
-using form::grid::FrameTop;
-using form::grid::Gap;
-using form::grid::LineHeight;
-using form::grid::Margin;
+using namespace form::grid;
 
 constexpr Twips LeastWidth = 5040;
 constexpr Twips HeadTop = 75;  // of the box's own caption
@@ -46,13 +38,9 @@ void frmBrowse::Dress() {
   DriveWork.SetAccessibleName(L"Drive");
   DirWork.SetAccessibleName(L"Folder");
   FileWork.SetAccessibleName(L"File");
-  for (form::Control* list : {static_cast<form::Control*>(&DriveWork), static_cast<form::Control*>(&DirWork)}) {
-    list->SetBackColor(form::Color::WindowBackground);
-    list->SetForeColor(form::Color::WindowText);
-  }
 
   FrameFindPath.SetCaption(L"To add a running Program :");
-  DressButton(CommandFindPath, L"Find Program Path");
+  CommandFindPath.Dress(L"Find Program Path");
   LabelFindHow.SetCaption(
       L"Left click on \"Find Program Path\" button, keep the mouse button down, place cursor on the open Window of "
       L"the Program that you want to add and release mouse button.");
@@ -66,16 +54,16 @@ void frmBrowse::Dress() {
 
   FrameAddToList.SetCaption(L"Type a Launch Name");
   TextAddName.SetAccessibleName(L"Type a Launch Name");
-  DressButton(CommandAddOK, L"Add");
+  CommandAddOK.Dress(L"Add");
   FrameAddedInfo.SetCaption(BannerOf(list::LaunchGroup::Prog));  // the longest
   FrameAddedInfo.SetBanner(true);
   FrameAddedInfo.SetBackColor(form::Color::LineBlue);
   FrameAddedInfo.SetVisible(false);
 
   FrameSelect.SetBorder(false);
-  DressButton(CommandSelectOK, L"Open");
+  CommandSelectOK.Dress(L"Open");
   FrameAddCancel.SetBorder(false);
-  DressButton(CommandAddCancel, L"Cancel");
+  CommandAddCancel.Dress(L"Cancel");
   PictureNo.SetTabStop(false);
   PictureNo.SetTabIndex(CommandAddOK.TabIndex());  // so that Tab continues from the button that was pressed
 }
@@ -89,7 +77,7 @@ void frmBrowse::LayOut() {
   }
   FrameSelect.SetVisible(opening);
 
-  const Twips cancelWidth = form::ButtonWidth(CommandAddCancel);
+  const Twips cancelWidth = CommandAddCancel.FullWidth();
   const Twips width = std::max(
       {LeastWidth, CancelLeft + cancelWidth + Margin, AddedInfoLeft + FrameAddedInfo.LeastSize().Width + Margin});
   const Twips boxTop = FrameBrowseBack.HeightFor(BoxTop);
@@ -113,7 +101,7 @@ void frmBrowse::LayOut() {
     LayOutLists(listsTop, listsTop + listsHeight, width);
     top = LayOutAddFrames(listsTop + listsHeight + Margin, innerWidth);
   }
-  const Twips selectWidth = form::ButtonWidth(CommandSelectOK);
+  const Twips selectWidth = CommandSelectOK.FullWidth();
   FrameSelect.SetBounds({SelectLeft, SelectTop, selectWidth, ButtonHeight});
   CommandSelectOK.SetBounds({0, 0, selectWidth, ButtonHeight});
   FrameAddCancel.SetBounds({CancelLeft, top, cancelWidth, ButtonHeight});
@@ -127,8 +115,8 @@ void frmBrowse::LayOut() {
 void frmBrowse::LayOutLists(Twips top, Twips bottom, Twips width) {
   const Twips columnWidth = (width - 3 * Margin) / 2;
   const Twips secondLeft = width - Margin - columnWidth;
-  const Twips listTop = std::max(panel::Place(LabelFolderSelect, Margin, top, columnWidth),
-                                 panel::Place(LabelAddSelect, secondLeft, top, columnWidth)) +
+  const Twips listTop = std::max(LabelFolderSelect.PlaceAt(Margin, top, columnWidth),
+                                 LabelAddSelect.PlaceAt(secondLeft, top, columnWidth)) +
                         Gap / 2;
   DriveWork.SetBounds({Margin, listTop, columnWidth, DriveWork.HeightFor(LineHeight)});
   const Twips folderTop = DriveWork.Bottom() + Gap;
@@ -140,19 +128,19 @@ void frmBrowse::LayOutLists(Twips top, Twips bottom, Twips width) {
 Twips frmBrowse::LayOutAddFrames(Twips top, Twips width) {
   const Twips inTop = FrameFindPath.HeightFor(FrameTop);
   const Twips lineHeight = TextAddPath.HeightFor(LineHeight);
-  const Twips findButtonWidth = form::ButtonWidth(CommandFindPath);
+  const Twips findButtonWidth = CommandFindPath.FullWidth();
   const Twips findTextLeft = Margin + findButtonWidth + Margin;
   const Twips findTextWidth = width - findTextLeft - Margin;
   CommandFindPath.SetBounds({Margin, inTop + Gap / 2, findButtonWidth, ButtonHeight});
-  const Twips resultTop = panel::Place(LabelFindHow, findTextLeft, inTop, findTextWidth) + Gap;
-  const Twips findBottom = panel::Place(LabelFindResult, findTextLeft, resultTop, findTextWidth);
+  const Twips resultTop = LabelFindHow.PlaceAt(findTextLeft, inTop, findTextWidth) + Gap;
+  const Twips findBottom = LabelFindResult.PlaceAt(findTextLeft, resultTop, findTextWidth);
   FrameFindPath.SetBounds({Margin, top, width, findBottom + Margin});
 
   TextAddPath.SetBounds({Margin, inTop, width - 2 * Margin, lineHeight});
-  const Twips pathBottom = panel::Place(LabelAddPath, Margin, TextAddPath.Bottom() + Gap / 2, width - 2 * Margin);
+  const Twips pathBottom = LabelAddPath.PlaceAt(Margin, TextAddPath.Bottom() + Gap / 2, width - 2 * Margin);
   FrameAddPath.SetBounds({Margin, FrameFindPath.Bottom() + Gap, width, pathBottom + Gap});
 
-  const Twips addWidth = form::ButtonWidth(CommandAddOK);
+  const Twips addWidth = CommandAddOK.FullWidth();
   const Twips nameWidth = width - addWidth - 3 * Margin;
   TextAddName.SetBounds({Margin, inTop, nameWidth, lineHeight});
   CommandAddOK.SetBounds({TextAddName.Right() + Margin, inTop - Gap, addWidth, ButtonHeight});

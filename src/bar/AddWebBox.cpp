@@ -4,7 +4,6 @@
 
 #include "form/Grid.h"
 #include "form/Keys.h"
-#include "form/PictureButton.h"
 #include "list/AddToList.h"
 
 namespace vantor::bar {
@@ -12,7 +11,7 @@ namespace vantor::bar {
 namespace {
 
 using form::Twips;
-using form::grid::Gap;
+using namespace form::grid;
 
 // The usual widths. The labels are above the fields, so that the unfolded bar fits a screen of 800 pixels.
 constexpr Twips LabelTop = 30;
@@ -38,7 +37,7 @@ AddWebBox::AddWebBox(form::Form& bar, panel::PanelHost& host, const list::Launch
   TextWebUrl.SetAccessibleName(L"Add URL");
   LabelWebName.SetCaption(L"Launch Name");
   TextWebName.SetAccessibleName(L"Launch Name");
-  form::DressButton(CommandAddWeb, L"Add");
+  CommandAddWeb.Dress(L"Add");
   FrameAddedInfo.SetCaption(AddedCaption);
   FrameAddedInfo.SetBanner(true);
   FrameAddedInfo.SetBackColor(form::Color::LineBlue);
@@ -104,17 +103,11 @@ void AddWebBox::TextWebName_KeyPress(wchar_t& character) {
 void AddWebBox::CommandAddWeb_Click() {
   PictureNo.SetFocus();
   const list::AddBox box{TextWebUrl, TextWebName, FrameAddedInfo};
-  switch (list::AddUnlessListed(box, list_, list::LaunchGroup::Web, AddedCaption, messages_, language_)) {
-    case list::AddResult::PathListed:
-    case list::AddResult::Full:
-      TextWebUrl.SetFocus();
-      break;
-    case list::AddResult::NameListed:
-      break;
-    case list::AddResult::Added:
-      host_.ClearLine();
-      break;
-  }
+  using list::AddResult;
+  const AddResult result =
+      list::AddUnlessListed(box, list_, list::LaunchGroup::Web, AddedCaption, messages_, language_);
+  if (result == AddResult::PathListed || result == AddResult::Full) TextWebUrl.SetFocus();
+  if (result == AddResult::Added) host_.ClearLine();
 }
 
 }  // namespace vantor::bar

@@ -66,14 +66,13 @@ void frmMain::NameControls() {
   }
   CommandMin.SetTabIndex(tabIndex++);
   CommandExit.SetTabIndex(tabIndex++);
-  for (form::Control* control :
-       {static_cast<form::Control*>(&Web.TextWebUrl), static_cast<form::Control*>(&Web.TextWebName),
-        static_cast<form::Control*>(&Web.CommandAddWeb)}) {
-    control->SetTabIndex(tabIndex++);
-  }
+  Web.TextWebUrl.SetTabIndex(tabIndex++);
+  Web.TextWebName.SetTabIndex(tabIndex++);
+  Web.CommandAddWeb.SetTabIndex(tabIndex++);
 }
 
 void frmMain::HandleEvents() {
+  using command::CommandLine;
   message::Messages& messages = parts_.Messages;
   messages.Connect(CommandWeb, CommandWeb.Click, L"Click", this, &frmMain::CommandWeb_Click);
   for (std::size_t i = 0; i < menu::Count; ++i) {
@@ -81,15 +80,15 @@ void frmMain::HandleEvents() {
   }
   messages.Connect(CommandMin, CommandMin.Click, L"Click", this, &frmMain::CommandMin_Click);
   messages.Connect(CommandExit, CommandExit.Click, L"Click", this, &frmMain::CommandExit_Click);
-  messages.Connect(TextMain, TextMain.KeyPress, L"KeyPress", this, &frmMain::TextMain_KeyPress);
-  messages.Connect(TextMain, TextMain.KeyDown, L"KeyDown", this, &frmMain::TextMain_KeyDown);
-  messages.Connect(TextMain, TextMain.Change, L"Change", this, &frmMain::TextMain_Change);
-  messages.Connect(TextMain, TextMain.Wheel, L"Wheel", this, &frmMain::TextMain_Wheel);
-  messages.Connect(TextMain, TextMain.Compose, L"Compose", this, &frmMain::TextMain_Compose);
+  messages.Connect(TextMain, TextMain.KeyPress, L"KeyPress", &commandLine_, &CommandLine::TextMain_KeyPress);
+  messages.Connect(TextMain, TextMain.KeyDown, L"KeyDown", &commandLine_, &CommandLine::TextMain_KeyDown);
+  messages.Connect(TextMain, TextMain.Change, L"Change", &commandLine_, &CommandLine::TextMain_Change);
+  messages.Connect(TextMain, TextMain.Wheel, L"Wheel", &commandLine_, &CommandLine::TextMain_Wheel);
+  messages.Connect(TextMain, TextMain.Compose, L"Compose", &commandLine_, &CommandLine::TextMain_Compose);
   messages.Connect(TextMain, TextMain.DblClick, L"DblClick", this, &frmMain::EmptyTextMain);
-  messages.Connect(TextMain, TextMain.KeyDone, L"KeyDone", this, &frmMain::TextMain_KeyDone);
+  messages.Connect(TextMain, TextMain.KeyDone, L"KeyDone", &commandLine_, &CommandLine::TextMain_KeyDone);
   form::RowList& matches = parts_.Matches.ListMatches;
-  messages.Connect(matches, matches.Click, L"Click", this, &frmMain::ListMatches_Click);
+  messages.Connect(matches, matches.Click, L"Click", &commandLine_, &CommandLine::ListMatches_Click);
   messages.Connect(TimerOnTop.Tick, L"TimerOnTop_Timer", this, &frmMain::TimerOnTop_Timer);
   messages.Connect(TimerWatchOnTop.Tick, L"TimerWatchOnTop_Timer", this, &frmMain::TimerWatchOnTop_Timer);
   parts_.Matches.SetHost(*this);

@@ -118,13 +118,6 @@ class frmMain : public form::Form, public panel::MenuBar, private command::LineO
   void CommandMenu_Click(std::size_t index) { parts_.Panels.Click(index); }
   void CommandMin_Click();
   void CommandExit_Click() { Unload(); }
-  void TextMain_KeyPress(wchar_t& character) { commandLine_.TextMain_KeyPress(character); }
-  void TextMain_KeyDown(form::Key& key) { commandLine_.TextMain_KeyDown(key); }
-  void TextMain_Wheel(int rows) { commandLine_.TextMain_Wheel(rows); }
-  void TextMain_Compose(bool composing) { commandLine_.TextMain_Compose(composing); }
-  void ListMatches_Click(int row) { commandLine_.ListMatches_Click(row); }
-  void TextMain_KeyDone() { commandLine_.TextMain_KeyDone(); }
-  void TextMain_Change() { commandLine_.TextMain_Change(); }
   void WatchForRestore();
   void Minimize() override { CommandMin.DoClick(); }
   void ClosePanel() override { parts_.Panels.ClosePanel(); }

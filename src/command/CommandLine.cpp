@@ -10,6 +10,7 @@
 #include "form/Keys.h"
 #include "form/Scoped.h"
 #include "list/NameMatch.h"
+#include "text/Ascii.h"
 
 namespace vantor::command {
 
@@ -44,8 +45,7 @@ void CommandLine::TextMain_KeyPress(wchar_t& character) {
       return;
     default: {
       const CommandCode* code = CodeOf(textMain_.Text());
-      const bool digit = character >= L'0' && character <= L'9';
-      if (code != nullptr && code->Starter == Starter::Telephone && !digit) character = 0;
+      if (code != nullptr && code->Starter == Starter::Telephone && !text::IsDigit(character)) character = 0;
     }
   }
 }
@@ -194,7 +194,7 @@ void CommandLine::CompleteAgain() {
 bool CommandLine::KeepDigits() {
   const CommandCode* const code = CodeOf(textMain_.Text());
   if (code == nullptr || code->Starter != Starter::Telephone) return false;
-  const auto isOther = [](wchar_t c) { return c < L'0' || c > L'9'; };
+  const auto isOther = [](wchar_t c) { return !text::IsDigit(c); };
   std::wstring text = textMain_.Text();
   const auto number = text.begin() + static_cast<std::ptrdiff_t>(CodeLength);
   const auto caret = std::max(number, text.begin() + textMain_.SelStart());

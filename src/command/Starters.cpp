@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "text/Ascii.h"
 #include "text/DirectionMarks.h"
 
 namespace vantor::command {
@@ -74,9 +75,7 @@ message::MessageKey Starters::SendMailTo(std::wstring_view address, std::wstring
   constexpr int GreatestShellError = 32;
 
   std::wstring link(address);
-  const auto sameLetter = [](wchar_t lower, wchar_t letter) {
-    return letter == lower || (letter >= L'A' && letter <= L'Z' && letter - L'A' == lower - L'a');
-  };
+  const auto sameLetter = [](wchar_t lower, wchar_t letter) { return lower == text::ToLower(letter); };
   const std::wstring_view start = address.substr(0, Scheme.size());
   if (!std::equal(Scheme.begin(), Scheme.end(), start.begin(), start.end(), sameLetter)) link.insert(0, Scheme);
   if (!subject.empty()) link.append(L"?subject=").append(subject);

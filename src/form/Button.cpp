@@ -13,6 +13,17 @@ void CommandButton::SetPictures(form::Picture normal, form::Picture down, form::
   NotifyWindow(Property::Picture);
 }
 
+void CommandButton::Dress(std::wstring_view caption) {
+  SetCaption(caption);
+  SetPictures({Background::Normal}, {Background::Pressed}, {Background::Disabled});
+}
+
+Twips CommandButton::FullWidth() const {
+  constexpr Twips Padding = 180;
+  constexpr Twips Least = 960;
+  return std::max(TextSize(caption_).Width + 2 * Padding, Least);
+}
+
 Size CommandButton::LeastSize() const {
   const Size text = TextSize(caption_);
   if (picture_.Drawing.empty()) return {text.Width + 180, text.Height + 60};  // the edge and some padding

@@ -16,8 +16,7 @@ enum class ButtonState { Plain, Pressed, Folded, Unfolded };
 /// A push button with a caption, a picture, or both.
 class CommandButton : public Control {
  public:
-  template <class Parent>
-  CommandButton(Parent& parent, std::wstring_view name) : Control(parent, name) {}
+  using Control::Control;
 
   /// The word on the button, drawn over its picture, including the picture of the disabled state.
   [[nodiscard]] const std::wstring& Caption() const { return caption_; }
@@ -36,6 +35,11 @@ class CommandButton : public Control {
   /// The distance from the bounds to the drawn face. The margins can be clicked too.
   [[nodiscard]] const Margins& FaceMargins() const { return faceMargins_; }
   void SetFaceMargins(const Margins& margins) { faceMargins_ = margins; }
+
+  /// Makes it a button of a panel or message: with the pictures of all its states, and a caption.
+  void Dress(std::wstring_view caption);
+  /// The width at which such a button shows its whole caption, in twips.
+  [[nodiscard]] Twips FullWidth() const;
 
   /// The state of what the button opens; shown on its face and reported to screen readers.
   [[nodiscard]] ButtonState State() const { return state_; }
@@ -69,6 +73,8 @@ class CommandButton : public Control {
 /// A control that is either checked or not: check boxes and option buttons.
 class ChoiceButton : public Control {
  public:
+  using Control::Control;
+
   [[nodiscard]] const std::wstring& Caption() const { return caption_; }
   void SetCaption(std::wstring_view caption) { Update(caption_, caption, Property::Caption); }
   [[nodiscard]] bool Value() const { return value_; }
@@ -79,8 +85,6 @@ class ChoiceButton : public Control {
   Event<> Click;
 
  protected:
-  using Control::Control;
-
   /// Returns whether the value has changed.
   bool ChangeValue(bool value) { return Update(value_, value, Property::Value); }
 
@@ -92,8 +96,7 @@ class ChoiceButton : public Control {
 /// A check box. Changing the value raises Click, just as a click by the user does.
 class CheckBox : public ChoiceButton {
  public:
-  template <class Parent>
-  CheckBox(Parent& parent, std::wstring_view name) : ChoiceButton(parent, name) {}
+  using ChoiceButton::ChoiceButton;
 
   Event<> Enter;  // the Enter key was pressed; it does not toggle the box
 
@@ -106,8 +109,7 @@ class CheckBox : public ChoiceButton {
 /// One of the option buttons of its container. Choosing it clears the others, raising Click on itself only.
 class OptionButton : public ChoiceButton {
  public:
-  template <class Parent>
-  OptionButton(Parent& parent, std::wstring_view name) : ChoiceButton(parent, name) {}
+  using ChoiceButton::ChoiceButton;
 
   void SetValue(bool value) override;
   void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }

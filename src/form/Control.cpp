@@ -16,18 +16,11 @@ Control::Control(Control& container, std::wstring_view name) : Control(container
 
 Control::~Control() { form_.RemoveControl(*this); }
 
-void Control::SetVisible(bool visible) {
-  if (visible_ == visible) return;
-  visible_ = visible;
+void Control::SetReachable(bool& how, bool value, Property property) {
+  if (how == value) return;
+  how = value;
   form_.LeaveUnreachable();
-  NotifyWindow(Property::Visible);
-}
-
-void Control::SetEnabled(bool enabled) {
-  if (enabled_ == enabled) return;
-  enabled_ = enabled;
-  form_.LeaveUnreachable();
-  NotifyWindow(Property::Enabled);
+  NotifyWindow(property);
 }
 
 bool Control::IsReachable() const {

@@ -110,9 +110,9 @@ class Control {
   [[nodiscard]] Twips HeightFor(Twips usual) const { return std::max(usual, LeastSize().Height); }
 
   [[nodiscard]] bool Visible() const { return visible_; }
-  void SetVisible(bool visible);
+  void SetVisible(bool visible) { SetReachable(visible_, visible, Property::Visible); }
   [[nodiscard]] bool Enabled() const { return enabled_; }
-  void SetEnabled(bool enabled);
+  void SetEnabled(bool enabled) { SetReachable(enabled_, enabled, Property::Enabled); }
   /// Whether the user can use the control now: it and its containers are visible and enabled, its form is shown,
   /// and no other form is modal.
   [[nodiscard]] bool AcceptsInput() const;
@@ -131,12 +131,12 @@ class Control {
   /// Position in the tab order; 0 comes first. Initially the order of construction.
   [[nodiscard]] int TabIndex() const { return tabIndex_; }
   void SetTabIndex(int index) { tabIndex_ = index; }
-  /// Whether Tab stops here; initially true for the kinds that can take the focus.
+  /// Whether Tab stops here, if this kind of control can take the focus.
   [[nodiscard]] bool TabStop() const { return tabStop_; }
   void SetTabStop(bool tabStop) { tabStop_ = tabStop; }
 
   /// Whether this kind of control can take the focus at all.
-  [[nodiscard]] bool IsFocusable() const { return focusable_; }
+  [[nodiscard]] virtual bool IsFocusable() const { return true; }
   /// Gives the control the focus; does nothing if the control is not focusable, or is hidden or disabled. On a form
   /// that has not been shown yet, the control gets the focus when the form is shown.
   void SetFocus();
@@ -165,12 +165,17 @@ class Control {
     NotifyWindow(property);
     return true;
   }
-  /// For kinds that only display something.
-  void TakeNoFocus() { focusable_ = tabStop_ = false; }
+  /// For kinds whose inside looks like that of a window, not like that of a button.
+  void UseWindowColors() {
+    backColor_ = Color::WindowBackground;
+    foreColor_ = Color::WindowText;
+  }
   /// The size of a text in the user's font, broken into lines only at its own line breaks.
   [[nodiscard]] Size TextSize(std::wstring_view text, bool bold = false) const;
 
  private:
+  /// Sets whether the control is visible, or enabled; both decide where the focus can be.
+  void SetReachable(bool& how, bool value, Property property);
   /// The control and all its containers are visible and enabled.
   [[nodiscard]] bool IsReachable() const;
 
@@ -180,7 +185,6 @@ class Control {
   Rect bounds_;
   bool visible_ = true;
   bool enabled_ = true;
-  bool focusable_ = true;
   bool tabStop_ = true;
   int tabIndex_;
   Color backColor_ = Color::ButtonFace;

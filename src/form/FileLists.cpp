@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "text/Ascii.h"
 #include "text/Path.h"
 
 namespace vantor::form {
@@ -13,7 +14,7 @@ namespace {
 /// The drive of a path as the list shows it, with a lower-case letter.
 std::wstring DriveOf(std::wstring_view path) {
   std::wstring drive(text::DriveName(path));
-  if (!drive.empty() && drive[0] >= L'A' && drive[0] <= L'Z') drive[0] += L'a' - L'A';
+  if (!drive.empty()) drive[0] = text::ToLower(drive[0]);
   return drive;
 }
 
@@ -22,7 +23,7 @@ std::wstring TidyFolder(std::wstring_view path) {
   std::wstring folder(path);
   if (folder.size() == 2 && folder[1] == L':') folder += L'\\';
   if (folder.size() > 3 && folder.back() == L'\\') folder.pop_back();
-  if (folder.size() > 1 && folder[1] == L':' && folder[0] >= L'a' && folder[0] <= L'z') folder[0] -= L'a' - L'A';
+  if (folder.size() > 1 && folder[1] == L':') folder[0] = text::ToUpper(folder[0]);
   return folder;
 }
 

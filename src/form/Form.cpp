@@ -31,10 +31,6 @@ void Form::Unload() {
   TakeWindowAway();
 }
 
-void Form::NotifyWindow(Property property) const {
-  if (window_ != nullptr) window_->Changed(property);
-}
-
 void Form::TakeWindowAway() {
   for (Control* control : controls_) control->AttachWindow(nullptr);
   if (window_ != nullptr) ui_.Discard(std::move(window_));
@@ -91,18 +87,6 @@ bool Form::AcceptsInput() const {
   const Form* modal = ui_.ModalForm();
   const bool inSight = visible_ && windowState_ != WindowState::Minimized;
   return inSight && !ui_.Ended() && (modal == nullptr || modal == this);
-}
-
-void Form::SetCaption(std::wstring_view caption) {
-  if (caption_ == caption) return;
-  caption_ = caption;
-  NotifyWindow(Property::Caption);
-}
-
-void Form::SetBackColor(Color color) {
-  if (backColor_ == color) return;
-  backColor_ = color;
-  NotifyWindow(Property::Colors);
 }
 
 void Form::MoveTo(Twips left, Twips top) { SetPlace(left, top, inside_); }

@@ -83,9 +83,9 @@ class Form {
   void SetHost(Form& host) { host_ = &host; }  // before the form is shown
 
   [[nodiscard]] const std::wstring& Caption() const { return caption_; }
-  void SetCaption(std::wstring_view caption);
+  void SetCaption(std::wstring_view caption) { Update(caption_, caption, Property::Caption); }
   [[nodiscard]] Color BackColor() const { return backColor_; }
-  void SetBackColor(Color color);
+  void SetBackColor(Color color) { Update(backColor_, color, Property::Colors); }
   [[nodiscard]] form::BorderStyle BorderStyle() const { return borderStyle_; }
   void SetBorderStyle(form::BorderStyle style) { borderStyle_ = style; }  // before the form is shown
 
@@ -171,7 +171,16 @@ class Form {
  private:
   friend class Control;
   friend class UserInterface;
-  void NotifyWindow(Property property) const;
+  void NotifyWindow(Property property) const {
+    if (window_ != nullptr) window_->Changed(property);
+  }
+  /// Sets a member and, if its value changes, notifies the window.
+  template <class Member, class Value>
+  void Update(Member& member, const Value& value, Property property) {
+    if (member == value) return;
+    member = value;
+    NotifyWindow(property);
+  }
   void TakeWindowAway();
   void AddControl(Control& control);
   void RemoveControl(Control& control);

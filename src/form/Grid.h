@@ -12,6 +12,7 @@ inline constexpr Twips Gap = 60;           // between things that belong togethe
 inline constexpr Twips FrameTop = 240;     // from the top of a frame with a caption to what is in it
 inline constexpr Twips LineHeight = 315;   // of a box with one line in it
 inline constexpr Twips CheckHeight = 255;  // of a check box or an option button
+inline constexpr Twips ButtonHeight = 390;
 inline constexpr Twips ColumnGap = 360;
 inline constexpr Twips SectionGap = 180;
 

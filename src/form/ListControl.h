@@ -20,6 +20,11 @@ enum class ListInput {
 /// The base of all lists: entries in order, and the index of the selected one (-1: none).
 class ListControl : public Control {
  public:
+  template <class Parent>
+  ListControl(Parent& parent, std::wstring_view name) : Control(parent, name) {
+    UseWindowColors();
+  }
+
   [[nodiscard]] int ListCount() const { return static_cast<int>(list_.size()); }
   /// Entry `index`, 0 to ListCount() - 1; throws std::out_of_range beyond.
   [[nodiscard]] const std::wstring& List(int index) const { return list_.at(static_cast<std::size_t>(index)); }
@@ -50,8 +55,6 @@ class ListControl : public Control {
   void InputEnter();
 
  protected:
-  using Control::Control;
-
   /// Replaces all entries and clears the selection. Raises nothing.
   void ReplaceEntries(std::vector<std::wstring> entries);
   /// An entry was selected by the user or the program.
@@ -74,36 +77,30 @@ class ListControl : public Control {
 /// A list that shows its selected entry, and all entries when it is dropped down.
 class DropDownList : public ListControl {
  public:
+  using ListControl::ListControl;
+
   /// Whether arrow keys in the dropped list only move the highlight, so that Enter or a click chooses.
   [[nodiscard]] virtual bool ChoosesAtEnd() const { return false; }
   void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
   [[nodiscard]] Size LeastSize() const override;
-
- protected:
-  using ListControl::ListControl;
 };
 
 /// A list that shows its entries all the time. Enter does what a double click does.
 class OpenList : public ListControl {
  public:
+  using ListControl::ListControl;
+
   /// The indentation level of entry `index`.
   [[nodiscard]] virtual int LevelOf(int /*index*/) const { return 0; }
 
   void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
   void InputCharacter(wchar_t character) override;
-
- protected:
-  using ListControl::ListControl;
 };
 
 /// A drop-down list whose entries the program adds, renames and removes. It is not sorted.
 class ComboBox : public DropDownList {
  public:
-  template <class Parent>
-  ComboBox(Parent& parent, std::wstring_view name) : DropDownList(parent, name) {
-    SetBackColor(Color::WindowBackground);
-    SetForeColor(Color::WindowText);
-  }
+  using DropDownList::DropDownList;
 
   /// Appends an entry; the selection stays.
   void AddItem(std::wstring_view text);
@@ -119,11 +116,7 @@ class ComboBox : public DropDownList {
 /// Entries that the program gives; a double click or Enter chooses one.
 class ListBox : public OpenList {
  public:
-  template <class Parent>
-  ListBox(Parent& parent, std::wstring_view name) : OpenList(parent, name) {
-    SetBackColor(Color::WindowBackground);
-    SetForeColor(Color::WindowText);
-  }
+  using OpenList::OpenList;
 
   /// Replaces all entries and clears the selection. Raises nothing.
   void SetEntries(std::vector<std::wstring> entries) { ReplaceEntries(std::move(entries)); }

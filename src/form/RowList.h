@@ -36,11 +36,10 @@ class RowList : public Control {
   /// Keeps the source by reference.
   template <class Parent>
   RowList(Parent& parent, std::wstring_view name, const RowSource& source) : Control(parent, name), source_(source) {
-    TakeNoFocus();
-    SetBackColor(Color::WindowBackground);
-    SetForeColor(Color::WindowText);
+    UseWindowColors();
   }
 
+  [[nodiscard]] bool IsFocusable() const override { return false; }
   [[nodiscard]] int RowCount() const { return source_.RowCount(); }
   [[nodiscard]] Row RowAt(int index) const { return source_.RowAt(index); }
   /// What a screen reader says for a row: its text, its number and the number of rows.

@@ -1,6 +1,13 @@
 #include "form/Static.h"
 
+#include "form/UserInterface.h"
+
 namespace vantor::form {
+
+Twips Label::PlaceAt(Twips left, Twips top, Twips width) {
+  SetBounds({left, top, width, OwnerForm().Ui().MeasureText(caption_, bold_, width).Height});
+  return Bottom();
+}
 
 void Frame::InputClick() {
   if (AcceptsInput()) Click();

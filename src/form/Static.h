@@ -12,11 +12,9 @@ namespace vantor::form {
 /// Text that the user can't change, on the background of its container. Lines are broken at words and at CR LF.
 class Label : public Control {
  public:
-  template <class Parent>
-  Label(Parent& parent, std::wstring_view name) : Control(parent, name) {
-    TakeNoFocus();
-  }
+  using Control::Control;
 
+  [[nodiscard]] bool IsFocusable() const override { return false; }
   [[nodiscard]] const std::wstring& Caption() const { return caption_; }
   void SetCaption(std::wstring_view caption) { Update(caption_, caption, Property::Caption); }
   [[nodiscard]] bool Bold() const { return bold_; }
@@ -27,6 +25,8 @@ class Label : public Control {
 
   void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
   [[nodiscard]] Size LeastSize() const override { return TextSize(caption_, bold_); }
+  /// Places the label with the height that its text needs at this width, in twips. Returns its lower edge.
+  Twips PlaceAt(Twips left, Twips top, Twips width);
 
  private:
   std::wstring caption_;
@@ -37,11 +37,9 @@ class Label : public Control {
 /// A box that holds other controls, with a caption on its edge when it has a border.
 class Frame : public Control {
  public:
-  template <class Parent>
-  Frame(Parent& parent, std::wstring_view name) : Control(parent, name) {
-    TakeNoFocus();
-  }
+  using Control::Control;
 
+  [[nodiscard]] bool IsFocusable() const override { return false; }
   [[nodiscard]] const std::wstring& Caption() const { return caption_; }
   void SetCaption(std::wstring_view caption) { Update(caption_, caption, Property::Caption); }
   [[nodiscard]] bool Border() const { return border_; }
@@ -69,32 +67,29 @@ class Frame : public Control {
 /// A control that shows a picture.
 class PictureControl : public Control {
  public:
+  using Control::Control;
+
   [[nodiscard]] form::Picture Picture() const { return picture_; }
   void SetPicture(form::Picture picture) { Update(picture_, picture, Property::Picture); }
 
   void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
 
- protected:
-  using Control::Control;
-
  private:
   form::Picture picture_;
 };
 
-/// A picture. It takes no focus.
+/// A picture that takes no focus.
 class Image : public PictureControl {
  public:
-  template <class Parent>
-  Image(Parent& parent, std::wstring_view name) : PictureControl(parent, name) {
-    TakeNoFocus();
-  }
+  using PictureControl::PictureControl;
+
+  [[nodiscard]] bool IsFocusable() const override { return false; }
 };
 
 /// A picture that can take the focus, so that another control loses it.
 class PictureBox : public PictureControl {
  public:
-  template <class Parent>
-  PictureBox(Parent& parent, std::wstring_view name) : PictureControl(parent, name) {}
+  using PictureControl::PictureControl;
 };
 
 }  // namespace vantor::form

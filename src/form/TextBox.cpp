@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "form/Keys.h"
+#include "text/Ascii.h"
 
 namespace vantor::form {
 
@@ -38,8 +39,7 @@ int TextBox::WordStart() const {
   if (selLength_ > 0) return selStart_;
   const auto kind = [](wchar_t c) {
     if (c == L' ') return 0;
-    const bool word = c > 0x7F || (c >= L'0' && c <= L'9') || (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z');
-    return word ? 1 : 2;
+    return c > 0x7F || text::IsDigit(c) || text::IsLetter(c) ? 1 : 2;
   };
   auto start = static_cast<std::size_t>(selStart_);
   while (start > 0 && kind(text_[start - 1]) == 0) --start;

@@ -14,8 +14,7 @@ class TextBox : public Control {
   /// Parent: a Form, or a control that serves as container.
   template <class Parent>
   TextBox(Parent& parent, std::wstring_view name) : Control(parent, name) {
-    SetBackColor(Color::WindowBackground);
-    SetForeColor(Color::WindowText);
+    UseWindowColors();
   }
 
   [[nodiscard]] const std::wstring& Text() const { return text_; }

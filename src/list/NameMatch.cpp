@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "list/StoredText.h"
+#include "text/Ascii.h"
 
 namespace vantor::list {
 
@@ -11,7 +12,7 @@ namespace {
 /// Whether a character separates words: blanks and punctuation in ASCII, Latin-1, Unicode's general punctuation (U+2000
 /// to U+206F) and that of Chinese and Japanese (U+3000 to U+303F).
 bool PartsWords(wchar_t c) {
-  if (c < 0x80) return !((c >= L'0' && c <= L'9') || (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z'));
+  if (c < 0x80) return !text::IsDigit(c) && !text::IsLetter(c);
   return c <= 0xA9 || c == 0xAB || c == 0xB7 || c == 0xBB || (c >= 0x2000 && c <= 0x206F) ||
          (c >= 0x3000 && c <= 0x303F);
 }
@@ -43,7 +44,7 @@ NameMatch::Place NameMatch::Find(std::wstring_view name) const {
 }
 
 wchar_t NameMatch::Lower(wchar_t character) const {
-  if (character < 128) return character >= L'A' && character <= L'Z' ? static_cast<wchar_t>(character + 32) : character;
+  if (character < 128) return text::ToLower(character);
   Remembered& remembered = remembered_[static_cast<std::size_t>(character) % remembered_.size()];
   if (remembered.Character != character) {
     remembered = {character, language_.Lower(std::wstring_view(&character, 1)).front()};

@@ -4,8 +4,8 @@
 #include <iterator>
 
 #include "form/Grid.h"
-#include "form/PictureButton.h"
 #include "state/Pictures.h"
+#include "text/Ascii.h"
 
 namespace vantor::message {
 namespace {
@@ -20,8 +20,6 @@ constexpr form::Twips NarrowText = 4200;
 constexpr form::Twips WideText = 7200;
 
 constexpr form::Twips TitleBarHeight = 450;  // as it usually is, for the middle of the screen only
-
-constexpr bool IsLetter(wchar_t c) { return (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z'); }
 
 struct ButtonSet {
   std::wstring_view Word;
@@ -52,8 +50,8 @@ frmMessage::frmMessage(form::UserInterface& ui) : Form(ui, L"frmMessage") {
   CheckDoNotShow.SetCaption(L"Do not show this message again.");
   CheckDoNotShow.SetForeColor(form::Color::WindowText);
   CheckDoNotShow.SetVisible(false);
-  form::DressButton(CommandOK, {});
-  form::DressButton(CommandCancel, {});
+  CommandOK.Dress({});
+  CommandCancel.Dress({});
   CommandOK.SetEnabled(false);
   CommandCancel.SetEnabled(false);
   TextInput0.SetBackColor(form::Color::LineBlue);
@@ -107,12 +105,12 @@ void frmMessage::Arrange(const form::Screen& screen) {
   if (CheckDoNotShow.Visible()) place(CheckDoNotShow, CheckDoNotShow.HeightFor(grid::CheckHeight));
 
   top += grid::Margin;
-  const form::Twips buttonWidth = std::max(form::ButtonWidth(CommandOK), form::ButtonWidth(CommandCancel));
-  CommandCancel.SetBounds({left + width - buttonWidth, top, buttonWidth, form::ButtonHeight});
-  CommandOK.SetBounds({CommandCancel.Left() - grid::Gap - buttonWidth, top, buttonWidth, form::ButtonHeight});
+  const form::Twips buttonWidth = std::max(CommandOK.FullWidth(), CommandCancel.FullWidth());
+  CommandCancel.SetBounds({left + width - buttonWidth, top, buttonWidth, grid::ButtonHeight});
+  CommandOK.SetBounds({CommandCancel.Left() - grid::Gap - buttonWidth, top, buttonWidth, grid::ButtonHeight});
 
   const form::Twips formWidth = left + width + Margin;
-  const form::Twips formHeight = top + form::ButtonHeight + Margin;
+  const form::Twips formHeight = top + grid::ButtonHeight + Margin;
   PictureMessage.SetBounds({0, 0, BandWidth, formHeight});
   const form::Rect& area = screen.WorkArea;
   MoveTo(area.Left, area.Top);  // so that it is fitted to that screen
@@ -129,7 +127,7 @@ void frmMessage::TextInput0_Change() {
   if (asksForName_ && !TextInput0.Composing()) {
     // What is pasted passes no key press.
     std::wstring letters = TextInput0.Text();
-    std::erase_if(letters, [](wchar_t c) { return !IsLetter(c); });
+    std::erase_if(letters, [](wchar_t c) { return !text::IsLetter(c); });
     if (letters != TextInput0.Text()) {
       TextInput0.SetText(letters);
       TextInput0.Select(static_cast<int>(letters.size()), 0);
@@ -140,7 +138,7 @@ void frmMessage::TextInput0_Change() {
 }
 
 void frmMessage::TextInput0_KeyPress(wchar_t& character) {
-  if (!asksForName_ || character == form::CharBackspace || IsLetter(character)) return;
+  if (!asksForName_ || character == form::CharBackspace || text::IsLetter(character)) return;
   const bool enter = character == form::CharEnter;
   character = 0;
   if (enter) Leave(TextInput0.Text().empty() ? Answer::Cancelled : Answer::Accepted);

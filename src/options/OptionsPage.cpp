@@ -5,7 +5,6 @@
 
 #include "form/Form.h"
 #include "form/Grid.h"
-#include "form/PictureButton.h"
 #include "list/MachineIdentity.h"
 #include "panel/frmChoose.h"
 
@@ -13,12 +12,9 @@ namespace vantor::options {
 
 namespace {
 
-using form::ButtonHeight;
 using form::Twips;
 
-using form::grid::CheckHeight;
-using form::grid::Gap;
-using form::grid::Margin;
+using namespace form::grid;
 
 constexpr Twips LeastWidth = 3600;
 
@@ -42,10 +38,10 @@ OptionsPage::OptionsPage(panel::frmChoose& form, const panel::PanelContext& cont
 
 void OptionsPage::Dress() {
   for (std::size_t i = 0; i < Count; ++i) CheckOptionMain[i].SetCaption(Captions[i]);
-  form::DressButton(CommandOptionShortcut, L"Create Desktop Shortcut");
-  form::DressButton(CommandOptionRemember, L"Remember My Computer");
-  form::DressButton(CommandOptionOK, L"OK");
-  form::DressButton(CommandOptionCancel, L"Cancel");
+  CommandOptionShortcut.Dress(L"Create Desktop Shortcut");
+  CommandOptionRemember.Dress(L"Remember My Computer");
+  CommandOptionOK.Dress(L"OK");
+  CommandOptionCancel.Dress(L"Cancel");
   CommandOptionRemember.SetEnabled(false);
 }
 
@@ -72,9 +68,9 @@ form::Size OptionsPage::LayOut() {
     width = std::max(width, box.LeastSize().Width + 2 * Margin);
   }
   for (const form::CommandButton* button : {&CommandOptionShortcut, &CommandOptionRemember}) {
-    width = std::max(width, form::ButtonWidth(*button) + 2 * Margin);
+    width = std::max(width, button->FullWidth() + 2 * Margin);
   }
-  Twips top = form::grid::FrameTop;
+  Twips top = FrameTop;
   for (form::CheckBox& box : CheckOptionMain) {
     box.SetBounds({Margin, top, width - 2 * Margin, box.HeightFor(CheckHeight)});
     top = box.Bottom() + Gap;
@@ -88,8 +84,8 @@ form::Size OptionsPage::LayOut() {
   placeWide(CommandOptionShortcut);
   placeWide(CommandOptionRemember);
   top += Margin;
-  const Twips cancelWidth = form::ButtonWidth(CommandOptionCancel);
-  const Twips okWidth = form::ButtonWidth(CommandOptionOK);
+  const Twips cancelWidth = CommandOptionCancel.FullWidth();
+  const Twips okWidth = CommandOptionOK.FullWidth();
   const Twips cancelLeft = width - Margin - cancelWidth;
   CommandOptionCancel.SetBounds({cancelLeft, top, cancelWidth, ButtonHeight});
   CommandOptionOK.SetBounds({cancelLeft - Gap - okWidth, top, okWidth, ButtonHeight});

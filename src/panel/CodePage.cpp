@@ -11,10 +11,7 @@ namespace vantor::panel {
 namespace {
 
 using form::Twips;
-using form::grid::ColumnGap;
-using form::grid::FrameTop;
-using form::grid::Margin;
-using form::grid::SectionGap;
+using namespace form::grid;
 
 constexpr std::wstring_view Letters = L"p\r\nf\r\nd\r\ne\r\nw\r\nt\r\nc";
 constexpr std::wstring_view Items =
@@ -76,7 +73,7 @@ form::Size CodePage::LayOut() {
   bottom = FrameSubstitute.Bottom();
 
   const Twips left = Margin + chartWidth + ColumnGap;
-  const Twips listsTop = Place(predefined_, left, FrameTop, WidthOf(predefined_)) + UnderHead;
+  const Twips listsTop = predefined_.PlaceAt(left, FrameTop, predefined_.LeastSize().Width) + UnderHead;
   // The longest list is next to the other two.
   const Twips width = std::max(folders_.Width(), mails_.Width());
   const Twips mailsTop = folders_.PlaceAt(left, listsTop, width) + SectionGap;

@@ -5,7 +5,6 @@
 
 #include "form/Form.h"
 #include "form/Grid.h"
-#include "form/PictureButton.h"
 #include "form/UserInterface.h"
 #include "product/Product.h"
 
@@ -14,8 +13,7 @@ namespace vantor::panel {
 namespace {
 
 using form::Twips;
-using form::grid::FrameTop;
-using form::grid::Margin;
+using namespace form::grid;
 
 constexpr Twips LeastWidth = 3000;
 constexpr Twips GreatestWidth = 7200;
@@ -29,7 +27,7 @@ std::wstring MakersPrograms() { return std::wstring(product::Publisher).append(L
 CompanionPage::CompanionPage(frmChoose& form, const PanelContext& context)
     : Page(form, menu::Companions, {L"FrameRun", MakersPrograms(), MakersPrograms(), L"Cancel"}), context_(context) {
   ListRunName.SetAccessibleName(Title());
-  form::DressButton(CommandRunOpen, L"Open");
+  CommandRunOpen.Dress(L"Open");
   message::Messages& messages = context_.Messages;
   messages.Connect(ListRunName, ListRunName.DblClick, L"DblClick", this, &CompanionPage::CommandRunOpen_Click);
   messages.Connect(CommandRunOpen, CommandRunOpen.Click, L"Click", this, &CompanionPage::CommandRunOpen_Click);
@@ -50,8 +48,7 @@ form::Size CompanionPage::LayOut() {
   }
   const Twips width = std::clamp(nameWidth + BesideName, LeastWidth, GreatestWidth);
   ListRunName.SetBounds({Margin, FrameTop, width, ListHeight});
-  CommandRunOpen.SetBounds(
-      {Margin, ListRunName.Bottom() + Margin, form::ButtonWidth(CommandRunOpen), form::ButtonHeight});
+  CommandRunOpen.SetBounds({Margin, ListRunName.Bottom() + Margin, CommandRunOpen.FullWidth(), ButtonHeight});
   return {width + 2 * Margin, CommandRunOpen.Bottom() + Margin};
 }
 

@@ -12,11 +12,7 @@ namespace vantor::panel {
 namespace {
 
 using form::Twips;
-using form::grid::ColumnGap;
-using form::grid::FrameTop;
-using form::grid::LineHeight;
-using form::grid::Margin;
-using form::grid::SectionGap;
+using namespace form::grid;
 
 constexpr Twips ProseWidth = 4200;
 
@@ -105,7 +101,7 @@ form::Size HelpPage::LayOut() {
   const Twips tablesWidth = std::max(typing_.Width(), buttons_.Width());
   Twips left = Margin;
   Twips bottom = typing_.PlaceAt(left, FrameTop, tablesWidth) + UnderHead;
-  bottom = Place(completion_, left, bottom, tablesWidth);
+  bottom = completion_.PlaceAt(left, bottom, tablesWidth);
   bottom = buttons_.PlaceAt(left, bottom + SectionGap, tablesWidth);
 
   left += tablesWidth + ColumnGap;

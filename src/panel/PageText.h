@@ -4,7 +4,6 @@
 #include <deque>
 #include <string_view>
 
-#include "form/Form.h"
 #include "form/Static.h"
 
 namespace vantor::panel {
@@ -19,11 +18,6 @@ class PageText {
   std::deque<form::Label> labels_;
 };
 
-/// The width at which no line of a label wraps.
-[[nodiscard]] form::Twips WidthOf(const form::Label& label);
-/// Places a label with the height that its text needs at this width. Returns its lower edge.
-form::Twips Place(form::Label& label, form::Twips left, form::Twips top, form::Twips width);
-
 inline constexpr form::Twips UnderHead = 45;
 
 /// A heading and the text below it.
@@ -31,10 +25,10 @@ struct TextSection {
   form::Label& Head;
   form::Label& Text;
 
-  [[nodiscard]] form::Twips Width() const { return std::max(WidthOf(Head), WidthOf(Text)); }
+  [[nodiscard]] form::Twips Width() const { return std::max(Head.LeastSize().Width, Text.LeastSize().Width); }
   /// Returns the lower edge.
   form::Twips PlaceAt(form::Twips left, form::Twips top, form::Twips width) const {
-    return Place(Text, left, Place(Head, left, top, width) + UnderHead, width);
+    return Text.PlaceAt(left, Head.PlaceAt(left, top, width) + UnderHead, width);
   }
 };
 

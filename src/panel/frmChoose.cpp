@@ -1,13 +1,12 @@
 #include "panel/frmChoose.h"
 
 #include "form/Grid.h"
-#include "form/PictureButton.h"
 
 namespace vantor::panel {
 
 namespace {
 
-using form::grid::Margin;
+using namespace form::grid;
 
 }  // namespace
 
@@ -15,7 +14,7 @@ frmChoose::frmChoose(form::UserInterface& ui, PanelHost& host, message::Messages
     : Form(ui, L"frmChoose"), host_(host), messages_(messages) {
   SetBorderStyle(form::BorderStyle::Line);
   FrameCancel.SetBorder(false);
-  form::DressButton(CommandListCancel, L"Cancel");
+  CommandListCancel.Dress(L"Cancel");
   messages_.Connect(CommandListCancel, CommandListCancel.Click, L"Click", this, &frmChoose::CommandListCancel_Click);
 }
 
@@ -47,10 +46,10 @@ void frmChoose::Arrange(Page& page) {
   form::Twips height = size.Height;
   if (closes) {
     CommandListCancel.SetCaption(page.CloseCaption());
-    const form::Twips width = form::ButtonWidth(CommandListCancel);
-    FrameCancel.SetBounds({size.Width - Margin - width, height, width, form::ButtonHeight});
-    CommandListCancel.SetBounds({0, 0, width, form::ButtonHeight});
-    height += form::ButtonHeight + Margin;
+    const form::Twips width = CommandListCancel.FullWidth();
+    FrameCancel.SetBounds({size.Width - Margin - width, height, width, ButtonHeight});
+    CommandListCancel.SetBounds({0, 0, width, ButtonHeight});
+    height += ButtonHeight + Margin;
   }
   SetInside({size.Width, height});
   host_.PlaceByBar(*this);

@@ -5,11 +5,11 @@
 #include <cstdlib>
 #include <iterator>
 
+#include "text/Ascii.h"
+
 namespace vantor::text {
 
 namespace {
-
-constexpr bool IsDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
 
 /// Parses a number from its start. The library's own functions would also accept "inf" and "0x10", depend on the
 /// locale, and add some 50 KB.

@@ -6,7 +6,6 @@
 #include "form/Form.h"
 #include "form/Grid.h"
 #include "form/Keys.h"
-#include "form/PictureButton.h"
 #include "form/UserInterface.h"
 #include "list/NameMatch.h"
 
@@ -16,10 +15,7 @@ namespace {
 
 using form::Twips;
 
-using form::grid::FrameTop;
-using form::grid::Gap;
-using form::grid::LineHeight;
-using form::grid::Margin;
+using namespace form::grid;
 
 std::wstring ControlName(std::wstring_view kind, std::wstring_view code, std::wstring_view what) {
   return std::wstring(kind).append(L"List").append(code).append(what);
@@ -56,15 +52,15 @@ void GroupFrame::Dress(const GroupTexts& texts) {
   LabelPath.SetCaption(L"Launch Path :");
   Name.SetAccessibleName(item + L" Name");
   Path.SetAccessibleName(item + L" Launch Path");
-  form::DressButton(Open, L"Open");
-  form::DressButton(Rename, L"Rename");
-  form::DressButton(Remove, L"Remove From List");
+  Open.Dress(L"Open");
+  Rename.Dress(L"Rename");
+  Remove.Dress(L"Remove From List");
   FrameRename.SetBorder(false);
   FrameRename.SetVisible(false);
   LabelNewName.SetCaption(texts.NewNameLabel);
   TextRename.SetAccessibleName(item + L" New Name");
-  form::DressButton(RenOK, L"OK");
-  form::DressButton(RenCancel, L"Cancel");
+  RenOK.Dress(L"OK");
+  RenCancel.Dress(L"Cancel");
   RenOK.SetEnabled(false);
 }
 
@@ -86,8 +82,8 @@ Twips GroupFrame::LabelWidth() const {
 }
 
 Twips GroupFrame::LeastWidth() const {
-  return Margin + LabelWidth() + Margin + form::ButtonWidth(Open) + Gap + form::ButtonWidth(Rename) + Gap +
-         form::ButtonWidth(Remove) + Margin;
+  return Margin + LabelWidth() + Margin + Open.FullWidth() + Gap + Rename.FullWidth() + Gap + Remove.FullWidth() +
+         Margin;
 }
 
 Twips GroupFrame::LayOut(Twips left, Twips top, Twips width) {
@@ -108,28 +104,28 @@ Twips GroupFrame::LayOut(Twips left, Twips top, Twips width) {
   // The three buttons together are as wide as the boxes; the difference to their usual widths is divided equally.
   Twips x = boxLeft;
   const auto place = [&x](form::CommandButton& button, Twips at, Twips more) {
-    button.SetBounds({x, at, form::ButtonWidth(button) + more, form::ButtonHeight});
+    button.SetBounds({x, at, button.FullWidth() + more, ButtonHeight});
     x += button.Width() + Gap;
   };
-  const Twips wanted = form::ButtonWidth(Open) + form::ButtonWidth(Rename) + form::ButtonWidth(Remove) + 2 * Gap;
+  const Twips wanted = Open.FullWidth() + Rename.FullWidth() + Remove.FullWidth() + 2 * Gap;
   const Twips more = (boxWidth - wanted) / 3;
   place(Open, y, more);
   place(Rename, y, more);
   place(Remove, y, boxWidth - wanted - 2 * more);
-  y += form::ButtonHeight;
+  y += ButtonHeight;
   if (!FrameRename.Visible()) {
     Frame.SetBounds({left, top, width, y + Margin});
     return Frame.Height();
   }
   y += Gap;
 
-  FrameRename.SetBounds({Gap, y, width - 2 * Gap, form::ButtonHeight});
+  FrameRename.SetBounds({Gap, y, width - 2 * Gap, ButtonHeight});
   const Twips inside = Margin - Gap;
-  LabelNewName.SetBounds({inside, (form::ButtonHeight - labelHeight) / 2, labelWidth, labelHeight});
-  const Twips buttons = form::ButtonWidth(RenOK) + Gap + form::ButtonWidth(RenCancel);
+  LabelNewName.SetBounds({inside, (ButtonHeight - labelHeight) / 2, labelWidth, labelHeight});
+  const Twips buttons = RenOK.FullWidth() + Gap + RenCancel.FullWidth();
   const Twips textLeft = boxLeft - Gap;
   x = FrameRename.Width() - inside - buttons;
-  TextRename.SetBounds({textLeft, (form::ButtonHeight - lineHeight) / 2, x - Gap - textLeft, lineHeight});
+  TextRename.SetBounds({textLeft, (ButtonHeight - lineHeight) / 2, x - Gap - textLeft, lineHeight});
   place(RenOK, 0, 0);
   place(RenCancel, 0, 0);
 
