@@ -163,7 +163,8 @@ class Form {
   virtual void Form_ScreensChanged();
   /// What has to fit into the screen's work area, in the twips of the controls: the inside plus a dialog's title bar.
   [[nodiscard]] virtual Size RoomNeeded() const;
-  /// The mouse moves over the form itself, or over frames, labels and images, which let it through.
+  /// The mouse moves over the form itself, or over frames, labels and images, which let it through; `held` is the left
+  /// button or none.
   virtual void Form_MouseMove(MouseButton /*held*/) {}
   /// Handles the closing of the window; unloads the form unless overridden.
   virtual void Form_Close() { Unload(); }

@@ -43,6 +43,6 @@ inline constexpr wchar_t CharBackspace = 8;
 inline constexpr wchar_t CharEnter = 13;
 inline constexpr wchar_t CharEscape = 27;
 
-enum class MouseButton { None, Left, Right, Middle };
+enum class MouseButton { None, Left, Right };
 
 }  // namespace vantor::form

@@ -11,6 +11,13 @@ namespace vantor::win32 {
   return area;
 }
 
+/// The same, relative to its own top left corner.
+[[nodiscard]] inline RECT WholeArea(HWND window) {
+  RECT area = WindowArea(window);
+  OffsetRect(&area, -area.left, -area.top);
+  return area;
+}
+
 /// A window's inside, whose top left corner is (0, 0).
 [[nodiscard]] inline RECT ClientArea(HWND window) {
   RECT area{};

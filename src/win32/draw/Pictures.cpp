@@ -11,8 +11,6 @@ namespace vantor::win32 {
 
 namespace {
 
-using form::Background;
-
 constexpr double FaceRadius = 4;  // pixels at 96 dots per inch
 
 /// The thickness of a picture's lines: about 1.5 pixels at 96 dots per inch, in steps of half a pixel.
@@ -33,17 +31,6 @@ void DrawBand(Canvas& canvas, const form::Picture& picture, const Box& box, cons
   const double margin = std::max(std::min((box.Width - side) / 2, 15 * scale), 0.0);
   DrawShapes(canvas, picture.Drawing, {std::round(box.Left + margin), std::round(box.Top + margin), side, side}, colors,
              colors.Normal.Text, scale);
-}
-
-const Palette::Face& FaceOf(Background background, const Palette& colors) {
-  switch (background) {
-    case Background::Pressed:
-      return colors.Pressed;
-    case Background::Disabled:
-      return colors.Disabled;
-    default:
-      return colors.Normal;
-  }
 }
 
 }  // namespace
@@ -96,10 +83,8 @@ void DrawShapes(Canvas& canvas, form::Drawing drawing, const Box& box, const Pal
 }
 
 void DrawPicture(Canvas& canvas, const form::Picture& picture, const Box& box, const Palette& colors, double scale) {
-  if (picture.Background == Background::Band) return DrawBand(canvas, picture, box, colors, scale);
-  const Palette::Face& face = FaceOf(picture.Background, colors);
-  if (picture.Background != Background::None) DrawFace(canvas, box, colors, face, false, scale);
-  DrawShapes(canvas, picture.Drawing, box, colors, face.Text, scale);
+  if (picture.Background == form::Background::Band) return DrawBand(canvas, picture, box, colors, scale);
+  DrawShapes(canvas, picture.Drawing, box, colors, colors.Normal.Text, scale);
 }
 
 }  // namespace vantor::win32

@@ -8,7 +8,7 @@ namespace vantor::win32 {
 
 // `scale` is the number of pixels that stand for one at 96 dots per inch.
 
-/// Draws a picture into a box.
+/// Draws a picture that is not on a button into a box.
 void DrawPicture(Canvas& canvas, const form::Picture& picture, const Box& box, const Palette& colors, double scale);
 
 /// Draws the background of a button: its edge, its fill and, with the focus, a ring inside.

@@ -6,14 +6,10 @@
 
 namespace vantor::win32 {
 
-/// The device context of a window, or of the screen for null, for the length of a scope. Whole: including the window's
-/// edges.
+/// The device context of a window with its edges, or of the screen for null, for the length of a scope.
 class WindowDc {
  public:
-  enum class Part { Inside, Whole };
-
-  explicit WindowDc(HWND window, Part part = Part::Inside)
-      : window_(window), dc_(part == Part::Whole ? GetWindowDC(window) : GetDC(window)) {}
+  explicit WindowDc(HWND window) : window_(window), dc_(GetWindowDC(window)) {}
   ~WindowDc() { ReleaseDC(window_, dc_); }
   WindowDc(const WindowDc&) = delete;
   WindowDc& operator=(const WindowDc&) = delete;

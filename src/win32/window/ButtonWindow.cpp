@@ -8,7 +8,6 @@
 
 #include "win32/draw/Areas.h"
 #include "win32/draw/Pictures.h"
-#include "win32/draw/Screens.h"
 
 namespace vantor::win32 {
 
@@ -79,9 +78,8 @@ void ButtonWindow::OnDraw(const DRAWITEMSTRUCT& item) {
   Canvas canvas(size.cx, size.cy);
   DrawBackdrop(canvas);
   const form::Margins& margins = button_.FaceMargins();
-  const auto pixels = [&](form::Twips twips) { return Screens::ToPixels(twips, Owner().Dpi()); };
-  const RECT area{pixels(margins.Left), pixels(margins.Top), size.cx - pixels(margins.Right),
-                  size.cy - pixels(margins.Bottom)};
+  const RECT area{Pixels(margins.Left), Pixels(margins.Top), size.cx - Pixels(margins.Right),
+                  size.cy - Pixels(margins.Bottom)};
   const Box box = Box::Of(area);
   DrawFace(canvas, box, colors, face, enabled && (item.itemState & ODS_FOCUS) != 0, Scale());
   DrawContent(canvas, area, box, face);
@@ -99,9 +97,8 @@ void ButtonWindow::DrawContent(Canvas& canvas, RECT area, const Box& box, const 
                 DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
     return;
   }
-  const double side = Screens::ToPixels(form::CommandButton::DrawingSide, Owner().Dpi());
-  const double above = caption.empty() ? std::round((box.Height - side) / 2)
-                                       : Screens::ToPixels(form::CommandButton::DrawingTop, Owner().Dpi());
+  const double side = Pixels(form::CommandButton::DrawingSide);
+  const double above = caption.empty() ? std::round((box.Height - side) / 2) : Pixels(form::CommandButton::DrawingTop);
   const Box square{box.Left + std::round((box.Width - side) / 2), box.Top + above, side, side};
   DrawShapes(canvas, drawing, square, colors, face.Text, Scale());
   area.top = static_cast<LONG>(square.Top + square.Height);
@@ -119,8 +116,10 @@ void ButtonWindow::SetHot(bool hot) {
   if (HasPictures(button_)) Redraw();
 }
 
-LRESULT ButtonWindow::OnMouseButton(form::MouseButton button, bool down, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (!down) {
+LRESULT ButtonWindow::OnMouseButton(UINT message, WPARAM wParam, LPARAM lParam) {
+  const bool left = message == WM_LBUTTONDOWN || message == WM_LBUTTONUP;
+  const form::MouseButton button = left ? form::MouseButton::Left : form::MouseButton::Right;
+  if (message == WM_LBUTTONUP || message == WM_RBUTTONUP) {
     // Before the button releases the mouse capture, so that the program sees whether it still has it.
     button_.InputMouseUp(button);
     return Retired() ? 0 : Default(message, wParam, lParam);
@@ -131,24 +130,15 @@ LRESULT ButtonWindow::OnMouseButton(form::MouseButton button, bool down, UINT me
 }
 
 LRESULT ButtonWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (OnEnter(message, wParam, lParam)) return 0;
   switch (message) {
-    case WM_LBUTTONDBLCLK:  // a second click like the first
-      return OnMouseButton(form::MouseButton::Left, true, WM_LBUTTONDOWN, wParam, lParam);
+    case WM_LBUTTONDBLCLK:
+      return OnMouseButton(WM_LBUTTONDOWN, wParam, lParam);  // a second click like the first
     case WM_LBUTTONDOWN:
-      return OnMouseButton(form::MouseButton::Left, true, message, wParam, lParam);
     case WM_LBUTTONUP:
-      return OnMouseButton(form::MouseButton::Left, false, message, wParam, lParam);
     case WM_RBUTTONDOWN:
-      return OnMouseButton(form::MouseButton::Right, true, message, wParam, lParam);
     case WM_RBUTTONUP:
-      return OnMouseButton(form::MouseButton::Right, false, message, wParam, lParam);
-    case WM_KEYDOWN:
-      if (wParam == VK_RETURN) {
-        const bool first = (HIWORD(lParam) & KF_REPEAT) == 0;
-        if (first) button_.InputClick();
-        return 0;
-      }
-      break;
+      return OnMouseButton(message, wParam, lParam);
     case WM_MOUSEMOVE: {
       // While a button is held down, it gets all mouse messages, but none when the mouse leaves it.
       const RECT inside = ClientArea(Hwnd());

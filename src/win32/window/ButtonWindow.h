@@ -22,7 +22,7 @@ class ButtonWindow final : public ControlWindow {
  private:
   void DrawContent(Canvas& canvas, RECT area, const Box& box, const Palette::Face& face) const;
   void SetHot(bool hot);
-  LRESULT OnMouseButton(form::MouseButton button, bool down, UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT OnMouseButton(UINT message, WPARAM wParam, LPARAM lParam);
 
   form::CommandButton& button_;
   bool hot_ = false;  // the mouse is over it

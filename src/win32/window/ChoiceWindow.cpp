@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "form/Keys.h"
 #include "form/Scoped.h"
 
 namespace vantor::win32 {
@@ -54,17 +53,9 @@ HBRUSH ChoiceWindow::OnColor(HDC dc) {
 }
 
 LRESULT ChoiceWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-  switch (message) {
-    case WM_SETFOCUS: {
-      const form::Scoped focusing(focusing_, true);
-      return ControlWindow::OnMessage(message, wParam, lParam);
-    }
-    case WM_LBUTTONDBLCLK:
-      message = WM_LBUTTONDOWN;  // a second click like the first
-      break;
-    default:
-      break;
-  }
+  if (OnEnter(message, wParam, lParam)) return 0;
+  if (message == WM_LBUTTONDBLCLK) message = WM_LBUTTONDOWN;  // a second click like the first
+  const form::Scoped focusing(focusing_, focusing_ || message == WM_SETFOCUS);
   return ControlWindow::OnMessage(message, wParam, lParam);
 }
 
@@ -72,15 +63,6 @@ void CheckWindow::Describe(AccessibleState& state) const {
   state.Role = ROLE_SYSTEM_CHECKBUTTON;
   state.Action = Chosen() ? L"Uncheck" : L"Check";
   if (Chosen()) state.State |= STATE_SYSTEM_CHECKED;
-}
-
-LRESULT CheckWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_KEYDOWN && wParam == VK_RETURN) {
-    const bool first = (HIWORD(lParam) & KF_REPEAT) == 0;
-    if (first) box_.InputCharacter(form::CharEnter);
-    return 0;
-  }
-  return ChoiceWindow::OnMessage(message, wParam, lParam);
 }
 
 void OptionWindow::Describe(AccessibleState& state) const {

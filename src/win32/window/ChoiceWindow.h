@@ -29,14 +29,8 @@ class ChoiceWindow : public ControlWindow {
 
 class CheckWindow final : public ChoiceWindow {
  public:
-  CheckWindow(FormWindow& owner, form::CheckBox& box) : ChoiceWindow(owner, box, BS_CHECKBOX), box_(box) {}
+  CheckWindow(FormWindow& owner, form::CheckBox& box) : ChoiceWindow(owner, box, BS_CHECKBOX) {}
   void Describe(AccessibleState& state) const override;
-
- protected:
-  LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-
- private:
-  form::CheckBox& box_;
 };
 
 class OptionWindow final : public ChoiceWindow {

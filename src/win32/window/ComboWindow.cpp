@@ -173,50 +173,38 @@ const std::wstring* ComboWindow::Asked(WPARAM index) const {
   return index < list_.Entries().size() ? &list_.Entries()[index] : nullptr;
 }
 
-/// Answers questions of screen readers and other programs that the window's list can't answer.
-bool ComboWindow::Answer(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) const {
+std::optional<LRESULT> ComboWindow::Answer(UINT message, WPARAM wParam, LPARAM lParam) const {
+  auto* const target = reinterpret_cast<wchar_t*>(lParam);
   switch (message) {
     case CB_GETCOUNT:
-      result = list_.ListCount();
-      return true;
+      return list_.ListCount();
     case CB_GETCURSEL:
-      result = list_.ListIndex();
-      return true;
+      return list_.ListIndex();
     case CB_GETLBTEXTLEN:
     case CB_GETLBTEXT: {
       const std::wstring* const text = Asked(wParam);
-      result = text != nullptr ? static_cast<LRESULT>(text->size()) : CB_ERR;
-      if (text != nullptr && message == CB_GETLBTEXT) {
-        std::copy_n(text->c_str(), text->size() + 1, reinterpret_cast<wchar_t*>(lParam));
-      }
-      return true;
+      if (text == nullptr) return CB_ERR;
+      if (message == CB_GETLBTEXT) std::copy_n(text->c_str(), text->size() + 1, target);
+      return static_cast<LRESULT>(text->size());
     }
     case WM_GETTEXTLENGTH:
-      result = static_cast<LRESULT>(list_.Text().size());
-      return true;
+      return static_cast<LRESULT>(list_.Text().size());
     case WM_GETTEXT: {
-      if (wParam == 0) return false;
-      const std::wstring text = list_.Text();
-      const std::size_t count = std::min<std::size_t>(text.size(), wParam - 1);
-      auto* const target = reinterpret_cast<wchar_t*>(lParam);
-      std::copy_n(text.c_str(), count, target);
-      target[count] = L'\0';
-      result = static_cast<LRESULT>(count);
-      return true;
+      if (wParam == 0) return {};
+      const std::wstring text = list_.Text().substr(0, wParam - 1);
+      std::copy_n(text.c_str(), text.size() + 1, target);
+      return static_cast<LRESULT>(text.size());
     }
     default:
-      return false;
+      return {};
   }
 }
 
 LRESULT CALLBACK ComboWindow::ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam) {
   const auto& window = *reinterpret_cast<const ComboWindow*>(GetWindowLongPtrW(list, GWLP_USERDATA));
-  LRESULT result = 0;
   const bool asksText = message == LB_GETTEXT || message == LB_GETTEXTLEN;
-  if (asksText && !window.Retired() &&
-      window.Answer(message == LB_GETTEXT ? CB_GETLBTEXT : CB_GETLBTEXTLEN, wParam, lParam, result)) {
-    return result;
-  }
+  if (asksText && !window.Retired())
+    return window.Answer(message == LB_GETTEXT ? CB_GETLBTEXT : CB_GETLBTEXTLEN, wParam, lParam).value();
   return CallWindowProcW(window.listProcedure_, list, message, wParam, lParam);
 }
 
@@ -275,8 +263,7 @@ bool ComboWindow::OnCharacter(wchar_t character) {
 }
 
 LRESULT ComboWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-  LRESULT result = 0;
-  if (Answer(message, wParam, lParam, result)) return result;
+  if (const auto answer = Answer(message, wParam, lParam)) return *answer;
   switch (message) {
     case WM_KEYDOWN:
       if (wParam == VK_F4) return 0;  // it would drop the list, but is a hot key of the form; Alt+Down drops the list

@@ -32,7 +32,8 @@ class ComboWindow final : public ControlWindow {
   [[nodiscard]] bool IsDropped() const { return Default(CB_GETDROPPEDSTATE) != 0; }
   /// The entry that a question to the window's list refers to; null for none.
   [[nodiscard]] const std::wstring* Asked(WPARAM index) const;
-  bool Answer(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) const;
+  /// The answer to a question of screen readers or other programs that the window's list can't answer.
+  [[nodiscard]] std::optional<LRESULT> Answer(UINT message, WPARAM wParam, LPARAM lParam) const;
   /// Gets the messages of the window's list before the list does.
   static LRESULT CALLBACK ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam);
   bool OnKey(WPARAM key);

@@ -3,6 +3,7 @@
 #include <optional>
 #include <utility>
 
+#include "form/Keys.h"
 #include "win32/draw/Areas.h"
 #include "win32/draw/Pictures.h"
 #include "win32/draw/Screens.h"
@@ -101,13 +102,13 @@ LRESULT CALLBACK ControlWindow::Procedure(HWND handle, UINT message, WPARAM wPar
     return CallWindowProcW(window.classProcedure_, handle, message, wParam, lParam);
   }
   if (window.Retired()) return window.Default(message, wParam, lParam);
-  const FormWindow::Handling handling(window.owner_);
+  const auto handling = window.owner_.Handling();
   LRESULT result = 0;
   window.owner_.Desktop().Guard([&] { result = window.OnMessage(message, wParam, lParam); });
   return result;
 }
 
-bool ControlWindow::Reflect(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
+std::optional<LRESULT> ControlWindow::Reflect(UINT message, WPARAM wParam, LPARAM lParam) {
   HWND sender = reinterpret_cast<HWND>(lParam);
   switch (message) {
     case WM_DRAWITEM:
@@ -120,20 +121,17 @@ bool ControlWindow::Reflect(UINT message, WPARAM wParam, LPARAM lParam, LRESULT&
     case WM_CTLCOLORBTN:
       break;
     default:
-      return false;
+      return {};
   }
   ControlWindow* const control = From(sender);
-  if (control == nullptr) return false;
-  result = 0;
+  if (control == nullptr) return {};
   if (message == WM_COMMAND) {
     control->OnCommand(HIWORD(wParam));
-  } else if (message == WM_DRAWITEM) {
-    control->OnDraw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
-    result = TRUE;
-  } else {
-    result = reinterpret_cast<LRESULT>(control->OnColor(reinterpret_cast<HDC>(wParam)));
+    return 0;
   }
-  return true;
+  if (message != WM_DRAWITEM) return reinterpret_cast<LRESULT>(control->OnColor(reinterpret_cast<HDC>(wParam)));
+  control->OnDraw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+  return TRUE;
 }
 
 LRESULT ControlWindow::Default(UINT message, WPARAM wParam, LPARAM lParam) const {
@@ -141,13 +139,13 @@ LRESULT ControlWindow::Default(UINT message, WPARAM wParam, LPARAM lParam) const
 }
 
 LRESULT ControlWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-  LRESULT result = 0;
-  if (Reflect(message, wParam, lParam, result)) return result;
+  if (const auto result = Reflect(message, wParam, lParam)) return *result;
   switch (message) {
-    case WM_SETFOCUS:
-      result = Default(message, wParam, lParam);
+    case WM_SETFOCUS: {
+      const LRESULT result = Default(message, wParam, lParam);
       if (!Retired()) owner_.Form().InputFocus(&control_);
       return result;
+    }
     case WM_GETOBJECT:
       if (const auto answer = AnswerAccessibility(handle_, owner_.Desktop().Com(), wParam, lParam)) return *answer;
       break;
@@ -201,9 +199,7 @@ void ControlWindow::Refresh() {
 
 RECT ControlWindow::BoundsInPixels() const {
   const form::Rect& bounds = control_.Bounds();
-  const int dpi = owner_.Dpi();
-  return {Screens::ToPixels(bounds.Left, dpi), Screens::ToPixels(bounds.Top, dpi), Screens::ToPixels(bounds.Width, dpi),
-          Screens::ToPixels(bounds.Height, dpi)};
+  return {Pixels(bounds.Left), Pixels(bounds.Top), Pixels(bounds.Width), Pixels(bounds.Height)};
 }
 
 void ControlWindow::ApplyBounds() {
@@ -215,9 +211,15 @@ void ControlWindow::ApplyBounds() {
 
 HBRUSH ControlWindow::OnColor(HDC dc) {
   const COLORREF background = BackgroundColor();
-  SetTextColor(dc, Theme().TextColor(control_.ForeColor(), control_.Enabled(), background));
+  SetTextColor(dc, TextColor());
   SetBkColor(dc, background);
   return Theme().Brush(background);
+}
+
+bool ControlWindow::OnEnter(UINT message, WPARAM key, LPARAM how) {
+  if (message != WM_KEYDOWN || key != VK_RETURN) return false;
+  if ((HIWORD(how) & KF_REPEAT) == 0) control_.InputCharacter(form::CharEnter);
+  return true;
 }
 
 const Theme& ControlWindow::Theme() const { return owner_.Desktop().Theme(); }
@@ -226,6 +228,8 @@ SIZE ControlWindow::ClientSize() const {
   const RECT area = ClientArea(handle_);
   return {area.right, area.bottom};
 }
+
+int ControlWindow::Pixels(form::Twips twips) const { return Screens::ToPixels(twips, owner_.Dpi()); }
 
 HFONT ControlWindow::Font(FontStyle style) const { return Theme().Font(owner_.Dpi(), style); }
 
@@ -251,6 +255,10 @@ COLORREF ControlWindow::BackgroundColor() const {
   return Theme().Background(owner_.Form().BackColor());
 }
 
+COLORREF ControlWindow::TextColor() const {
+  return Theme().TextColor(control_.ForeColor(), control_.Enabled(), BackgroundColor());
+}
+
 COLORREF ControlWindow::EdgeColor() const {
   const Palette& colors = Theme().Colors();
   if (!control_.Enabled()) return control_.BackColor() == form::Color::Silver ? colors.Line : colors.Disabled.Edge;
@@ -263,9 +271,8 @@ LRESULT ControlWindow::OnMessageWithEdge(UINT message, WPARAM wParam, LPARAM lPa
   const bool drawn = message == WM_PAINT || message == WM_NCPAINT || message == WM_ENABLE || message == WM_SETFOCUS ||
                      message == WM_KILLFOCUS;
   if (!drawn || Retired()) return result;
-  RECT edge = WindowArea(handle_);
-  OffsetRect(&edge, -edge.left, -edge.top);
-  const WindowDc dc(handle_, WindowDc::Part::Whole);
+  RECT edge = WholeArea(handle_);
+  const WindowDc dc(handle_);
   const HBRUSH brush = Theme().Brush(EdgeColor());
   for (; thickness > 0; --thickness) {
     FrameRect(dc.Get(), &edge, brush);

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "form/Control.h"
@@ -66,8 +67,8 @@ class ControlWindow : public form::ControlWindow {
 
   // Messages of the window to its parent, handed back to it.
 
-  /// Hands a message that a control's window sent to its parent back to that window. Returns false for other messages.
-  static bool Reflect(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
+  /// Hands a message that a control's window sent to its parent back to that window. Nothing for other messages.
+  static std::optional<LRESULT> Reflect(UINT message, WPARAM wParam, LPARAM lParam);
   virtual void OnCommand(WORD /*notification*/) {}
   virtual void OnDraw(const DRAWITEMSTRUCT& /*item*/) {}
   /// Sets the colours of a window that draws itself; returns the brush for its background.
@@ -95,6 +96,7 @@ class ControlWindow : public form::ControlWindow {
   [[nodiscard]] bool Retired() const { return owner_.Retired(); }
   [[nodiscard]] const win32::Theme& Theme() const;
   [[nodiscard]] double Scale() const { return owner_.Dpi() / 96.0; }
+  [[nodiscard]] int Pixels(form::Twips twips) const;
   /// The thickness of drawn lines, in pixels.
   [[nodiscard]] int LineThickness() const { return static_cast<int>(EdgeThickness(Scale())); }
   [[nodiscard]] SIZE ClientSize() const;
@@ -107,8 +109,12 @@ class ControlWindow : public form::ControlWindow {
   void Redraw() const;
   /// The colour of the control, or of its container.
   [[nodiscard]] COLORREF BackgroundColor() const;
+  [[nodiscard]] COLORREF TextColor() const;
   /// The colour of the window's edge, which shows whether it has the focus.
   [[nodiscard]] COLORREF EdgeColor() const;
+  /// Hands Enter to the control if it was pressed now and is not merely held down. Returns whether the message was
+  /// Enter.
+  bool OnEnter(UINT message, WPARAM key, LPARAM how);
   /// Passes a message on, and draws an edge over the system's own whenever that may have been redrawn.
   LRESULT OnMessageWithEdge(UINT message, WPARAM wParam, LPARAM lParam, int thickness);
   /// Draws what is behind the control: its container's colour, and pictures.

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <string>
 #include <utility>
 
@@ -33,11 +34,19 @@ bool MaySelect(UINT message) {
          (message >= WM_CUT && message <= WM_CLEAR) || message == WM_COMMAND || message == WM_CONTEXTMENU;
 }
 
+/// Editing keys with Ctrl, and the messages by which the window class does what they are for.
+struct EditingKey {
+  form::Key Key;
+  UINT Message;
+};
+constexpr EditingKey EditingKeys[] = {
+    {form::Key::C, WM_COPY}, {form::Key::V, WM_PASTE}, {form::Key::X, WM_CUT}, {form::Key::Z, WM_UNDO}};
+
 /// Whether a character comes from an editing key with Ctrl. Those are handled when the key goes down.
 bool IsEditingCharacter(WPARAM character) {
-  const auto of = [](form::Key letter) { return static_cast<WPARAM>(letter) - L'A' + 1; };
-  return character == CharControlBack || character == of(form::Key::A) || character == of(form::Key::C) ||
-         character == of(form::Key::V) || character == of(form::Key::X) || character == of(form::Key::Z);
+  const auto comesFrom = [=](form::Key letter) { return character == static_cast<WPARAM>(letter) - L'A' + 1; };
+  return character == CharControlBack || comesFrom(form::Key::A) ||
+         std::ranges::any_of(EditingKeys, comesFrom, &EditingKey::Key);
 }
 
 /// Whether a key moves the caret when pressed without modifiers.
@@ -151,7 +160,8 @@ LRESULT EditWindow::Process(UINT message, WPARAM wParam, LPARAM lParam) {
       composed_ = true;  // reported after the resulting text
       break;
     case WM_SETFOCUS:
-    case WM_KILLFOCUS: {
+    case WM_KILLFOCUS:
+    case WM_ENABLE: {
       const LRESULT result = ControlWindow::OnMessage(message, wParam, lParam);
       if (!Retired()) PaintEdge();
       return result;
@@ -167,11 +177,6 @@ LRESULT EditWindow::Process(UINT message, WPARAM wParam, LPARAM lParam) {
       // The margins belong to the text.
       const LRESULT hit = Default(message, wParam, lParam);
       return hit == HTTRANSPARENT || hit == HTERROR ? hit : HTCLIENT;
-    }
-    case WM_ENABLE: {
-      const LRESULT result = Default(message, wParam, lParam);
-      PaintEdge();
-      return result;
     }
     default:
       break;
@@ -196,32 +201,22 @@ LRESULT EditWindow::OnWheel(WPARAM wParam, LPARAM lParam) {
 /// one.
 bool EditWindow::OnEditingKey(form::Key key) {
   if (GetKeyState(VK_CONTROL) >= 0 || GetKeyState(VK_MENU) < 0 || GetKeyState(VK_SHIFT) < 0) return false;
-  switch (key) {
-    case form::Key::Back:
-      // For the control this is a Backspace that removes more.
-      if (box_.InputKeyPress(form::CharBackspace) == form::CharBackspace && !Retired()) {
-        Default(EM_SETSEL, static_cast<WPARAM>(box_.WordStart()), box_.SelStart() + box_.SelLength());
-        Default(EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L""));
-      }
-      return true;
-    case form::Key::A:
-      Default(EM_SETSEL, 0, -1);
-      return true;
-    case form::Key::C:
-      Default(WM_COPY);
-      return true;
-    case form::Key::V:
-      Default(WM_PASTE);
-      return true;
-    case form::Key::X:
-      Default(WM_CUT);
-      return true;
-    case form::Key::Z:
-      Default(WM_UNDO);
-      return true;
-    default:
-      return false;
+  if (key == form::Key::Back) {
+    // For the control this is a Backspace that removes more.
+    if (box_.InputKeyPress(form::CharBackspace) == form::CharBackspace && !Retired()) {
+      Default(EM_SETSEL, static_cast<WPARAM>(box_.WordStart()), box_.SelStart() + box_.SelLength());
+      Default(EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L""));
+    }
+    return true;
   }
+  if (key == form::Key::A) {
+    Default(EM_SETSEL, 0, -1);
+    return true;
+  }
+  const auto* const editing = std::ranges::find(EditingKeys, key, &EditingKey::Key);
+  if (editing == std::end(EditingKeys)) return false;
+  Default(editing->Message);
+  return true;
 }
 
 LRESULT EditWindow::OnCharacter(WPARAM character, LPARAM lParam) {
@@ -252,15 +247,15 @@ void EditWindow::LayOut(RECT& inside) const {
 }
 
 void EditWindow::PaintEdge() {
-  RECT whole = WindowArea(Hwnd());
+  const RECT place = WindowArea(Hwnd());
+  const RECT whole = WholeArea(Hwnd());
   RECT inside = ClientArea(Hwnd());
   MapWindowPoints(Hwnd(), nullptr, reinterpret_cast<POINT*>(&inside), 2);
-  OffsetRect(&inside, -whole.left, -whole.top);
-  OffsetRect(&whole, -whole.left, -whole.top);
+  OffsetRect(&inside, -place.left, -place.top);
   Canvas canvas(whole.right, whole.bottom);
   DrawBackdrop(canvas);
   DrawField(canvas, canvas.Whole(), EdgeColor(), BackgroundColor(), GetFocus() == Hwnd(), Scale());
-  const WindowDc window(Hwnd(), WindowDc::Part::Whole);
+  const WindowDc window(Hwnd());
   ExcludeClipRect(window.Get(), inside.left, inside.top, inside.right, inside.bottom);
   canvas.Show(window.Get());
 }

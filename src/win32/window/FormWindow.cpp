@@ -33,13 +33,9 @@ const wchar_t* FormClass(form::BorderStyle border, WNDPROC procedure) {
 }
 
 /// After a drag, one more move may be reported with the button held down although it is up: the mouse itself is asked.
-form::MouseButton HeldButton(WPARAM buttons) {
+bool LeftIsHeld(WPARAM buttons) {
   const int left = GetSystemMetrics(SM_SWAPBUTTON) != 0 ? VK_RBUTTON : VK_LBUTTON;
-  if ((buttons & MK_LBUTTON) != 0)
-    return GetAsyncKeyState(left) < 0 ? form::MouseButton::Left : form::MouseButton::None;
-  if ((buttons & MK_RBUTTON) != 0) return form::MouseButton::Right;
-  if ((buttons & MK_MBUTTON) != 0) return form::MouseButton::Middle;
-  return form::MouseButton::None;
+  return (buttons & MK_LBUTTON) != 0 && GetAsyncKeyState(left) < 0;
 }
 
 }  // namespace
@@ -244,7 +240,9 @@ bool FormWindow::Preview(const MSG& message) {
   return false;
 }
 
-void FormWindow::MouseMoves(WPARAM buttons) { form_.InputMouseMove(HeldButton(buttons)); }
+void FormWindow::MouseMoves(WPARAM buttons) {
+  form_.InputMouseMove(LeftIsHeld(buttons) ? form::MouseButton::Left : form::MouseButton::None);
+}
 
 LRESULT CALLBACK FormWindow::Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
   FormWindow* const window = From(handle);
@@ -254,7 +252,7 @@ LRESULT CALLBACK FormWindow::Procedure(HWND handle, UINT message, WPARAM wParam,
     static_cast<void>(window->handle_.Release());  // the system destroys it, not this program
     return DefWindowProcW(handle, message, wParam, lParam);
   }
-  const Handling handling(*window);
+  const auto handling = window->Handling();
   LRESULT result = 0;
   window->desktop_.Guard([&] { result = window->OnMessage(message, wParam, lParam); });
   return result;
@@ -283,8 +281,7 @@ void FormWindow::OnActivate(bool active) {
 }
 
 LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-  LRESULT result = 0;
-  if (ControlWindow::Reflect(message, wParam, lParam, result)) return result;
+  if (const auto result = ControlWindow::Reflect(message, wParam, lParam)) return *result;
   switch (message) {
     case WM_ERASEBKGND:
       PaintBackground(reinterpret_cast<HDC>(wParam));

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include "form/Form.h"
+#include "form/Scoped.h"
 #include "win32/base/Handle.h"
 #include "win32/window/FormControls.h"
 #include "win32/window/FormDrops.h"
@@ -46,17 +47,8 @@ class FormWindow final : public form::FormWindow {
   void Retire();
   [[nodiscard]] bool Retired() const { return retired_; }
 
-  /// Counts the messages of the form or its controls that are being handled.
-  class Handling {
-   public:
-    explicit Handling(FormWindow& window) : window_(window) { ++window_.handling_; }
-    ~Handling() { --window_.handling_; }
-    Handling(const Handling&) = delete;
-    Handling& operator=(const Handling&) = delete;
-
-   private:
-    FormWindow& window_;
-  };
+  /// Counts a message of the form or its controls as being handled, for the length of a scope.
+  [[nodiscard]] form::Scoped<int> Handling() { return {handling_, handling_ + 1}; }
   [[nodiscard]] bool IsHandling() const { return handling_ > 0; }
 
   /// Gets the messages for the form and its controls first. Returns true if one needs no further handling.

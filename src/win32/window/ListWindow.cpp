@@ -81,10 +81,7 @@ void ListWindow::OnCommand(WORD notification) {
 }
 
 LRESULT ListWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_KEYDOWN && wParam == VK_RETURN) {
-    list_.InputEnter();
-    return 0;
-  }
+  if (OnEnter(message, wParam, lParam)) return 0;
   if (message == WM_CHAR && wParam == VK_RETURN) return 0;  // no entry begins with it
   const form::Scoped keying(keying_, keying_ || message == WM_KEYDOWN || message == WM_CHAR);
   return OnMessageWithEdge(message, wParam, lParam, 1);  // as thick as the border that the window has

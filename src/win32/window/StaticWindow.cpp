@@ -10,7 +10,6 @@
 
 #include "win32/draw/Pictures.h"
 #include "win32/draw/Prose.h"
-#include "win32/draw/Screens.h"
 
 namespace vantor::win32 {
 
@@ -22,12 +21,11 @@ void LabelWindow::Show(form::Property property) {
 void LabelWindow::Paint(Canvas& canvas) {
   DrawBackdrop(canvas);
   const HFONT font = Font(label_.Bold() ? FontStyle::Bold : FontStyle::Plain);
-  const COLORREF color = Theme().TextColor(label_.ForeColor(), label_.Enabled(), BackgroundColor());
   if (label_.OneLine()) {
-    canvas.Text(label_.Caption(), {0, 0, canvas.Width(), canvas.Height()}, font, color,
+    canvas.Text(label_.Caption(), {0, 0, canvas.Width(), canvas.Height()}, font, TextColor(),
                 DT_SINGLELINE | DT_END_ELLIPSIS);
   } else {
-    Prose(label_.Caption(), font, canvas.Width()).Draw(canvas.Dc(), {}, canvas.Height(), color);
+    Prose(label_.Caption(), font, canvas.Width()).Draw(canvas.Dc(), {}, canvas.Height(), TextColor());
   }
 }
 
@@ -79,11 +77,8 @@ void FrameWindow::Paint(Canvas& canvas) {
     return;
   }
   if (const auto& place = frame_.CaptionAlone()) {
-    const int dpi = Owner().Dpi();
-    canvas.Text(
-        frame_.Caption(),
-        {Screens::ToPixels(place->Left, dpi), Screens::ToPixels(place->Top, dpi), canvas.Width(), canvas.Height()},
-        Font(), Theme().TextColor(frame_.ForeColor(), frame_.Enabled(), background), DT_SINGLELINE | DT_END_ELLIPSIS);
+    canvas.Text(frame_.Caption(), {Pixels(place->Left), Pixels(place->Top), canvas.Width(), canvas.Height()}, Font(),
+                TextColor(), DT_SINGLELINE | DT_END_ELLIPSIS);
     return;
   }
   if (frame_.Banner()) {
@@ -101,16 +96,14 @@ void FrameWindow::Paint(Canvas& canvas) {
   const LONG gap = std::lround(4 * Scale());
   const LONG right = std::min(left + text.cx + 2 * gap, canvas.Width() - left);
   canvas.Shade({double(left), top, double(right - left), line}, background, background);
-  const COLORREF color = Theme().TextColor(frame_.ForeColor(), frame_.Enabled(), background);
-  Prose(frame_.Caption(), Font(), right - left).Draw(canvas.Dc(), {left + gap, 0}, text.cy, color);
+  Prose(frame_.Caption(), Font(), right - left).Draw(canvas.Dc(), {left + gap, 0}, text.cy, TextColor());
 }
 
 void FrameWindow::PaintBanner(Canvas& canvas) const {
   canvas.EdgedBox(canvas.Whole(), 4 * Scale(), LineThickness(), Theme().Colors().Line, BackgroundColor());
   const LONG margin = std::lround(12 * Scale());
   canvas.Text(frame_.Caption(), {margin, 0, canvas.Width() - std::lround(8 * Scale()), canvas.Height()}, Font(),
-              Theme().TextColor(frame_.ForeColor(), frame_.Enabled(), BackgroundColor()),
-              DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS);
+              TextColor(), DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS);
 }
 
 LRESULT FrameWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -73,7 +73,7 @@ void Desktop::Handle(MSG& message) {
   FormWindow* const window = message.hwnd != nullptr ? FormWindow::From(GetAncestor(message.hwnd, GA_ROOT)) : nullptr;
   bool done = false;
   if (window != nullptr && !window->Retired()) {
-    const FormWindow::Handling handling(*window);
+    const auto handling = window->Handling();
     Guard([&] { done = window->Preview(message); });
   }
   if (!done) {
@@ -147,7 +147,7 @@ void Desktop::WakeUp() { PostMessageW(application_.Get(), WM_NULL, 0, 0); }
 void Desktop::SessionEnds() {
   if (main_ == nullptr || Ended()) return;
   FormWindow& window = *main_;
-  const FormWindow::Handling handling(window);
+  const auto handling = window.Handling();
   Guard([&] { window.Form().InputClose(); });
 }
 
@@ -158,7 +158,7 @@ void Desktop::SettingsChanged() {
   std::size_t next = 0;
   while (next < windows_.size()) {
     FormWindow& window = *windows_[next++];
-    const FormWindow::Handling handling(window);
+    const auto handling = window.Handling();
     Guard([&] { window.ScreensChanged(); });
   }
 }
