@@ -51,7 +51,11 @@ void CommandLine::TextMain_KeyPress(wchar_t& character) {
 }
 
 void CommandLine::TextMain_KeyDown(form::Key& key) {
-  if (walk_.Walk(key) || recall_.Walk(key)) key = form::Key::None;
+  if (!walk_.Walk(key)) {
+    if (!recall_.Walk(key)) return;
+    typed_ = textMain_.Text();
+  }
+  key = form::Key::None;
 }
 
 void CommandLine::TextMain_Change() {
@@ -62,9 +66,9 @@ void CommandLine::TextMain_Change() {
   recall_.Leave();
   const bool byBackspace = std::exchange(state_.BackspaceFlag, false);
   if (!textMain_.Composing() && KeepDigits()) return walk_.Hide();
-  const std::wstring text = textMain_.Text();  // a copy, because completing replaces the text of the box
-  const std::wstring_view line(text);
-  const CommandCode* const code = text.size() > CodeLength && !textMain_.Composing() ? CodeOf(line) : nullptr;
+  typed_ = textMain_.Text();
+  const std::wstring_view line(typed_);
+  const CommandCode* const code = line.size() > CodeLength && !textMain_.Composing() ? CodeOf(line) : nullptr;
   if (code == nullptr || code->Argument == Argument::Typed) return walk_.Hide();
   const Candidates table(*code, list_, environment_);
   const std::wstring_view prefix = line.substr(0, CodeLength);
@@ -174,20 +178,16 @@ void CommandLine::Escape() {
 
 void CommandLine::CompleteAgain() {
   if (state_.MatchedItemIndex == NoIndex) return;
-  LineState line = ReadLine(textMain_, state_);
-  const CommandCode* const code = CodeOf(line.Text);
+  const std::wstring_view line(textMain_.Text());
+  const CommandCode* const code = CodeOf(line);
   if (code == nullptr || code->Argument != Argument::ItemName) return;
   const Candidates table(*code, list_, environment_);
-  if (const int same = table.IndexOf(std::wstring_view(line.Text).substr(CodeLength)); same != NoIndex) {
+  if (const int same = table.IndexOf(line.substr(CodeLength)); same != NoIndex) {
     static_cast<CompletedEntry&>(state_) = table.Record(same);
     return;
   }
-  const auto typedEnd = static_cast<std::size_t>(line.SelStart);
-  const bool proposes =
-      typedEnd > CodeLength && typedEnd + static_cast<std::size_t>(line.SelLength) == line.Text.size();
-  if (proposes) line.Text.resize(typedEnd);
-  PutLine({line.Text, proposes ? line.SelStart : static_cast<int>(line.Text.size())}, textMain_, state_);
-  const std::wstring_view typed(line.Text);
+  PutLine({typed_, static_cast<int>(typed_.size())}, textMain_, state_);
+  const std::wstring_view typed(typed_);
   CompleteFromTable(typed.substr(0, CodeLength), typed.substr(CodeLength), table);
 }
 

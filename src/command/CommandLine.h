@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "command/Candidates.h"
@@ -80,6 +81,7 @@ class CommandLine {
   message::Messages& messages_;
   service::Services services_;
   const state::Environment& environment_;
+  std::wstring typed_;  // the line as it was before it was completed
   Recall recall_;
   MatchWalk walk_;
 };
