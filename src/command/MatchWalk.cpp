@@ -23,8 +23,10 @@ void MatchWalk::GiveWay(bool composing) {
   if (composing) {
     gaveWay_ = list_.Visible();
     Hide();
-  } else if (std::exchange(gaveWay_, false)) {
-    list_.Show();
+  } else if (std::exchange(gaveWay_, false) && textMain_.HasFocus()) {
+    const int top = list_.ListMatches.TopRow();
+    list_.ShowFound(list_.ListMatches.CurrentRow());
+    list_.ListMatches.ScrollTo(top);
   }
 }
 
