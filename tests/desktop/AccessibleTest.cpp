@@ -69,7 +69,39 @@ void CheckTabs(HWND form) {
   CHECK(visited == awaited);
 }
 
+/// What is announced of the line and of the list under it: 's' for each run of changes of the selection, and for the
+/// focus the part that it goes to, 0 for the line itself.
+std::string announced;
+void CALLBACK Hear(HWINEVENTHOOK, DWORD event, HWND window, LONG, LONG part, DWORD, DWORD) {
+  const bool selection = event == EVENT_OBJECT_TEXTSELECTIONCHANGED;
+  if (!selection && event != EVENT_OBJECT_FOCUS) return;
+  const std::string said = selection ? "s" : std::to_string(part);
+  if (GetDlgCtrlID(window) != 0 && !announced.ends_with(said)) announced += said;
+}
+
 }  // namespace
+
+TEST_CASE("typing announces the completion, walking the row, and the reader is led back to the line") {
+  const Folder folder;
+  folder.WriteSettings({.WebUpper = 2});
+  folder.WriteData("ListWeb", ListBytes({{"Notes", "http://a"}, {"News", "http://b"}, {"Net", "http://c"}}));
+  const Program program(folder);
+  program.AwaitBar();
+  HWINEVENTHOOK const hook = SetWinEventHook(EVENT_OBJECT_FOCUS, EVENT_OBJECT_TEXTSELECTIONCHANGED, nullptr, Hear,
+                                             window::ProcessOf(program.Bar()), 0, WINEVENT_OUTOFCONTEXT);
+  program.Press(VK_F12);
+  program.Type(L"w-n");
+  CHECK_BECOMES(announced, "s");
+  input::Press(VK_DOWN);
+  CHECK_BECOMES(announced, "s2");
+  program.Type(L"e");
+  CHECK_BECOMES(announced, "s2s0");
+  input::Press(VK_DOWN);
+  CHECK_BECOMES(announced, "s2s0s2");
+  input::Press(VK_F12);
+  CHECK_BECOMES(announced, "s2s0s20");
+  UnhookWinEvent(hook);
+}
 
 TEST_CASE("every control has a role and a name for a screen reader, its state, and its place in the keyboard's way") {
   const Folder folder;

@@ -133,6 +133,8 @@ void FormWindow::ShowVisible() {
     if (const FormWindow* successor = desktop_.SuccessorOf(*this)) SetActiveWindow(successor->Hwnd());
   }
   ShowWindow(Hwnd(), SW_HIDE);
+  // A screen reader may have been led to a row of it.
+  if (form_.Host() != nullptr) NotifyWinEvent(EVENT_OBJECT_FOCUS, GetFocus(), OBJID_CLIENT, CHILDID_SELF);
   SetOwnerWindow(nullptr);  // Wine does not make a window topmost that owns a hidden one
   desktop_.WakeUp();
 }

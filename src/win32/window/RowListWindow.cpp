@@ -27,15 +27,12 @@ void RowListWindow::Refresh() {
   Redraw();
 }
 
-std::wstring RowListWindow::ShownText(std::size_t place) const {
-  return place < shown_.size() ? shown_[place].Row.Text : std::wstring();
-}
-
 void RowListWindow::Show(form::Property property) {
   if (property == form::Property::List) {
     // A resting mouse does not point at rows that appear under it.
     hot_ = -1;
     GetCursorPos(&stillAt_);
+    if (said_) SayFocus();
   }
   Update();
   if (property == form::Property::ListIndex) SayCurrent();
@@ -111,14 +108,17 @@ void RowListWindow::PaintOn(HDC dc) {
 }
 
 /// Makes readers follow the current row, while the focus stays with the line.
-void RowListWindow::SayCurrent() const {
+void RowListWindow::SayCurrent() {
   const int row = list_.CurrentRow();
-  if (row == -1) {
-    NotifyWinEvent(EVENT_OBJECT_FOCUS, GetFocus(), OBJID_CLIENT, CHILDID_SELF);
-    return;
-  }
+  if (row == -1) return SayFocus();
+  said_ = true;
   NotifyWinEvent(EVENT_OBJECT_FOCUS, Hwnd(), OBJID_CLIENT, row + 1);
   NotifyWinEvent(EVENT_OBJECT_SELECTION, Hwnd(), OBJID_CLIENT, row + 1);
+}
+
+void RowListWindow::SayFocus() {
+  said_ = false;
+  NotifyWinEvent(EVENT_OBJECT_FOCUS, GetFocus(), OBJID_CLIENT, CHILDID_SELF);
 }
 
 void RowListWindow::Describe(AccessibleState& state) const { state.Role = ROLE_SYSTEM_LIST; }

@@ -17,8 +17,6 @@ class RowListWindow final : public PaintedWindow {
 
   void Refresh() override;
   void Describe(AccessibleState& state) const override;
-  /// The text of a visible row, counted from the top; "" for none.
-  [[nodiscard]] std::wstring ShownText(std::size_t place) const;
   [[nodiscard]] long PartCount() const override { return list_.RowCount(); }
   [[nodiscard]] long SelectedPart() const override { return list_.CurrentRow() + 1; }
   [[nodiscard]] AccessibleState DescribePart(long part) const override;
@@ -46,7 +44,9 @@ class RowListWindow final : public PaintedWindow {
   [[nodiscard]] RECT AreaOf(int place) const;
   /// The row under a point of the window; -1 for none.
   [[nodiscard]] int RowAt(LPARAM point) const;
-  void SayCurrent() const;
+  void SayCurrent();
+  /// Makes readers go back to what has the focus.
+  void SayFocus();
   void OnMove(LPARAM point);
   void SetHot(int row);
   void OnRelease(LPARAM point);
@@ -60,6 +60,7 @@ class RowListWindow final : public PaintedWindow {
   int width_ = 0;
   bool pressed_ = false;
   int pressedRow_ = -1;
+  bool said_ = false;  // readers are at a row
 };
 
 }  // namespace vantor::win32
