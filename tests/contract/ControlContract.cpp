@@ -7,6 +7,7 @@
 #include "contract/Person.h"
 #include "form/Button.h"
 #include "form/ListControl.h"
+#include "form/RowList.h"
 #include "form/Static.h"
 #include "form/TextBox.h"
 
@@ -16,11 +17,11 @@ using vantor::contract::Person;
 
 namespace {
 
-class TestForm : public Form {
+class TestForm : public Form, private RowSource {
  public:
   explicit TestForm(UserInterface& ui) : Form(ui, L"TestForm") {
     MoveTo(1500, 1500);
-    SetInside({6000, 5100});
+    SetInside({6000, 5700});
     int top = 150;
     for (Control* control : Controls()) {
       if (control->Container() != nullptr) continue;
@@ -28,6 +29,7 @@ class TestForm : public Form {
       top += control->Height() + 150;
     }
     InFrame.SetBounds({150, 300, 3000, 450});
+    Rows.SetRowHeight(150);
     Show();
   }
 
@@ -39,6 +41,11 @@ class TestForm : public Form {
   OptionButton Second{*this, L"Second"};
   Frame Box{*this, L"Box"};
   CommandButton InFrame{Box, L"InFrame"};
+  RowList Rows{*this, L"Rows", *this};
+
+ private:
+  [[nodiscard]] int RowCount() const override { return 10; }
+  [[nodiscard]] Row RowAt(int index) const override { return {std::to_wstring(index), 0, 0, L""}; }
 };
 
 struct Stage {
@@ -107,6 +114,50 @@ TEST_CASE("KeyPress comes before the change, and may swallow the character or pu
   CHECK(box.Text() == L"B");
   stage.Someone->DoubleClick(box);
   CHECK(doubleClicks == 1);
+}
+
+TEST_CASE("while an input method composes, the arrow keys are its own, and its end is told once") {
+  Stage stage;
+  TextBox& box = stage.Form.Text;
+  std::string told;
+  box.KeyDown = [&](Key& /*key*/) { told += 'k'; };
+  box.Compose = [&](bool begins) { told += begins ? '(' : ')'; };
+  box.Change = [&] { told += box.Composing() ? 'c' : 'C'; };
+  stage.Someone->Press(Key::Down);
+  stage.Someone->Compose(box, true);
+  stage.Someone->Press(Key::Down);
+  stage.Someone->Type(L"x");
+  stage.Someone->Compose(box, false);
+  stage.Someone->Compose(box, true);
+  stage.Someone->Compose(box, false);
+  CHECK(told == "k(cC()");
+}
+
+TEST_CASE("a list of rows shows a page of them, scrolls by the wheel as far as they go, and leaves the focus alone") {
+  Stage stage;
+  RowList& list = stage.Form.Rows;
+  std::string told;
+  list.Click = [&](int row) { told += std::to_string(row); };
+  stage.Form.Text.Wheel = [&](int rows) { list.ScrollTo(list.TopRow() + rows); };
+  const auto clicked = [&] {
+    stage.Someone->Click(list);  // the middle of three rows
+    return told.back();
+  };
+  CHECK(clicked() == '1');
+  stage.Someone->Turn(list, 3);
+  CHECK(clicked() == '4');
+  stage.Someone->Turn(list, 9);
+  CHECK(clicked() == '8');
+  stage.Someone->Turn(stage.Form.Text, -3);
+  CHECK(clicked() == '5');
+  list.SetCurrentRow(1);
+  CHECK(clicked() == '2');
+  list.SetCurrentRow(9);
+  CHECK(clicked() == '8');
+  list.ShowRows(-1);
+  CHECK(clicked() == '1');
+  CHECK(told.size() == 7);
+  CHECK(stage.Someone->IsShownFocused(stage.Form.Text));
 }
 
 TEST_CASE("controls that are disabled, hidden or inside such a frame ignore the user") {

@@ -25,6 +25,10 @@ class Person {
   /// Points at the control's middle and clicks, also where it is disabled, or hidden.
   virtual void Click(form::Control& control) = 0;
   virtual void DoubleClick(form::Control& control) = 0;
+  /// Turns the wheel over the control by a multiple of 3 rows; down is positive.
+  virtual void Turn(form::Control& control, int rows) = 0;
+  /// An input method begins to compose in the box, or ends.
+  virtual void Compose(form::TextBox& box, bool begins) = 0;
   /// Lets time pass until the condition holds; false when it does not within 5 seconds.
   virtual bool WaitUntil(const std::function<bool()>& condition) = 0;
   /// What this person does when the next modal form is open.

@@ -7,7 +7,7 @@
 
 #include "contract/Person.h"
 #include "driver/Input.h"
-#include "form/Control.h"
+#include "form/TextBox.h"
 #include "win32/window/ControlWindow.h"
 #include "win32/window/WindowsDesktop.h"
 
@@ -67,6 +67,14 @@ class WindowsPerson : public Person {
   void DoubleClick(form::Control& control) override {
     desktop::input::Click(desktop::window::Middle(HandleOf(control)), true);
     AwaitHandled();
+  }
+  void Turn(form::Control& control, int rows) override {
+    desktop::input::Mouse(desktop::window::Middle(HandleOf(control)));
+    desktop::input::Wheel(rows);
+    AwaitHandled();
+  }
+  void Compose(form::TextBox& box, bool begins) override {
+    SendMessageW(HandleOf(box), begins ? WM_IME_STARTCOMPOSITION : WM_IME_ENDCOMPOSITION, 0, 0);
   }
 
   bool WaitUntil(const std::function<bool()>& condition) override {
