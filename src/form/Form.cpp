@@ -224,9 +224,7 @@ void Form::InputClose() {
 }
 
 void Form::InputDrop(const DroppedItems& items) {
-  if (!AcceptsDrops() || !AcceptsInput()) return;
-  HideHanging();
-  dropHandler_->Take(items);
+  if (AcceptsDrops() && AcceptsInput()) dropHandler_->Take(items);
 }
 
 void Form::InputFocus(Control* control) {

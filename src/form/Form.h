@@ -77,8 +77,8 @@ class Form {
   /// The form that this one is attached to, like a drop-down list; null for none. An attached form never has the focus,
   /// is never activated and has no taskbar button; it stays directly above its host, and is topmost whenever the host
   /// is. It can be shown only while the host is active, and is hidden as soon as the user does anything else: moves the
-  /// focus, presses a function key, clicks beside the controls, moves, minimises, leaves or closes the host, or drops
-  /// something on it. It is also hidden when the screens change.
+  /// focus, presses a function key, clicks beside the controls, moves, minimises, leaves or closes the host. It is also
+  /// hidden when the screens change.
   [[nodiscard]] Form* Host() const { return host_; }
   void SetHost(Form& host) { host_ = &host; }  // before the form is shown
 

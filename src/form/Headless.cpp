@@ -132,6 +132,7 @@ void Headless::PressControl(Key key) {
 
 void Headless::Click(Control& control) {
   if (!control.AcceptsInput()) return;
+  if (!control.IsFocusable()) control.OwnerForm().InputMouseDown();
   control.SetFocus();
   auto* const button = dynamic_cast<CommandButton*>(&control);
   if (button != nullptr) {

@@ -47,5 +47,12 @@ TEST_CASE("a name or an address is opened for what it is, and for nothing that a
   CHECK(line.Program.frmMatches.ListMatches.RowAt(0).Detail == L"http://news.example/\xFFFDgpj\xFFFD\x202F");
 }
 
+TEST_CASE("the last 100 lines that were started come back") {
+  test::StartedProgram line;
+  for (int number = 0; number <= 100; ++number) line.Type(L"w=" + std::to_wstring(number) + L"\r");
+  for (int presses = 0; presses <= 100; ++presses) line.Desktop.Press(form::Key::Up);
+  CHECK(line.Main.TextMain.Text() == L"w=1");
+}
+
 }  // namespace
 }  // namespace vantor::command
