@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -33,12 +34,13 @@ class clsActiveProcess {
   int GetActiveProcess();
 
  private:
-  [[nodiscard]] const service::ProcessEntry& Record(int index) const;
+  [[nodiscard]] const service::ProcessEntry& Record(int index) const {
+    return records_.at(static_cast<std::size_t>(index) - 1);
+  }
 
   service::Processes& processes_;
   const service::Language& language_;
   std::vector<service::ProcessEntry> records_;
-  int count_ = 0;
 };
 
 }  // namespace vantor::add

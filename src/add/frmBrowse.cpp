@@ -4,6 +4,7 @@
 
 #include "add/ItemGroup.h"
 #include "add/PlaceRules.h"
+#include "list/AddToList.h"
 #include "text/Path.h"
 
 namespace vantor::add {

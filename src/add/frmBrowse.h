@@ -13,7 +13,6 @@
 #include "form/Static.h"
 #include "form/TextBox.h"
 #include "form/Timer.h"
-#include "list/AddToList.h"
 #include "list/LaunchList.h"
 #include "panel/Panel.h"
 #include "panel/PanelContext.h"

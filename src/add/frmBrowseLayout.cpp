@@ -6,7 +6,6 @@
 #include "form/Grid.h"
 
 namespace vantor::add {
-namespace {
 
 using form::Twips;
 using namespace form::grid;
@@ -23,8 +22,6 @@ constexpr Twips AddedInfoLeft = 1320;
 constexpr Twips SelectLeft = 2880;
 constexpr Twips SelectTop = 4200;
 constexpr Twips CancelLeft = 3960;
-
-}  // namespace
 
 void frmBrowse::Dress() {
   SetBorderStyle(form::BorderStyle::Line);

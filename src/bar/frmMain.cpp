@@ -8,8 +8,6 @@
 
 namespace vantor::bar {
 
-namespace {
-
 using form::Key;
 using form::Twips;
 namespace menu = panel::menu;
@@ -31,8 +29,6 @@ constexpr std::int16_t IdleTicksBeforeName = 60;
 
 // The number of CommandMenu buttons before the command line; the others follow it.
 constexpr std::size_t MenusBeforeText = 4;
-
-}  // namespace
 
 frmMain::frmMain(form::UserInterface& ui, const BarParts& parts)
     : Form(ui, L"frmMain"),

@@ -1,17 +1,11 @@
 #include "command/Recall.h"
 
-#include <algorithm>
-
 #include "command/Candidates.h"
 #include "command/LineState.h"
 
 namespace vantor::command {
 
-namespace {
-
 constexpr std::size_t MostLines = 100;
-
-}  // namespace
 
 Recall::Recall(form::TextBox& textMain, CommandState& state, const list::LaunchList& list,
                const service::Language& language, const state::Environment& environment)

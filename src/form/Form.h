@@ -8,7 +8,6 @@
 #include "form/Control.h"
 #include "form/Event.h"
 #include "form/Keys.h"
-#include "form/Picture.h"
 
 namespace vantor::form {
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <stdexcept>
-#include <string>
 #include <utility>
 
 #include "form/Button.h"

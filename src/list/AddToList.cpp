@@ -5,12 +5,9 @@
 #include "list/NameMatch.h"
 
 namespace vantor::list {
-namespace {
 
 // The files count records in 16 bits, so no more could be saved.
 constexpr int MostItems = INT16_MAX;
-
-}  // namespace
 
 AddResult AddUnlessListed(const AddBox& box, const LaunchList& list, LaunchGroup group, std::wstring_view banner,
                           message::Messages& messages, const service::Language& language) {

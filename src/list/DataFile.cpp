@@ -3,14 +3,11 @@
 #include "text/Utf8.h"
 
 namespace vantor::list {
-namespace {
 
 constexpr int Patience = 2000;  // milliseconds
 constexpr int Pause = 50;
 
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
-
-}  // namespace
 
 service::FileRead ReadPatiently(service::DataFiles& files, std::wstring_view path) {
   service::FileRead read = files.Read(path);

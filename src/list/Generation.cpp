@@ -6,12 +6,9 @@
 #include "list/DataFile.h"
 
 namespace vantor::list {
-namespace {
 
 // Only the complete text counts: a truncated mark means that not even the first file of the save was written.
 constexpr std::string_view SaveUnderWay = "\"Saving\"\r\n";
-
-}  // namespace
 
 void Generation::Restore() {
   const service::FileRead mark = ReadPatiently(files_, MarkPath());

@@ -13,8 +13,6 @@
 
 namespace vantor::list {
 
-namespace {
-
 // Used in the files instead of the medium's drive letter, so that the medium may be mounted as any drive.
 constexpr wchar_t OpenDriveLetter = L'#';
 
@@ -23,8 +21,6 @@ constexpr std::int16_t MostRecords = INT16_MAX - 1;
 
 // Four quotes, a comma and a line end.
 constexpr std::size_t PunctuationOfRecord = 7;
-
-}  // namespace
 
 /// The files and counts of a group, for loading and saving it.
 struct ListFiles::Group {

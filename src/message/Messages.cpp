@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "form/Scoped.h"
+#include "message/frmMessage.h"
 #include "product/Product.h"
 
 namespace vantor::message {

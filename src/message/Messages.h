@@ -7,7 +7,6 @@
 #include "message/Catalogue.h"
 #include "message/MessageKey.h"
 #include "message/MessageState.h"
-#include "message/frmMessage.h"
 
 namespace vantor::message {
 

@@ -3,14 +3,11 @@
 #include <algorithm>
 #include <numeric>
 
-#include "form/Form.h"
 #include "form/Grid.h"
 #include "list/MachineIdentity.h"
 #include "panel/frmChoose.h"
 
 namespace vantor::options {
-
-namespace {
 
 using form::Twips;
 
@@ -25,8 +22,6 @@ constexpr std::wstring_view MachineRunValue =
 constexpr std::wstring_view UserRunValue =
     L"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run\\OrbelsLauncher";
 constexpr int NormalWindow = 1;
-
-}  // namespace
 
 OptionsPage::OptionsPage(panel::frmChoose& form, const panel::PanelContext& context, OptionFlags& options)
     : Page(form, panel::menu::Options, {L"FrameOptions", L"Preferences", L"Options", {}}),

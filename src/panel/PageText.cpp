@@ -2,13 +2,9 @@
 
 namespace vantor::panel {
 
-namespace {
-
 using form::Twips;
 
 constexpr Twips BetweenColumns = 180;
-
-}  // namespace
 
 form::Label& PageText::Add(form::Control& container, std::wstring_view text, bool bold) {
   form::Label& label = labels_.emplace_back(container, L"LabelText");

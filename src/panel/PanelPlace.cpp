@@ -1,7 +1,6 @@
 #include "panel/PanelPlace.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace vantor::panel {
 

@@ -4,11 +4,7 @@
 
 namespace vantor::panel {
 
-namespace {
-
 using namespace form::grid;
-
-}  // namespace
 
 frmChoose::frmChoose(form::UserInterface& ui, PanelHost& host, message::Messages& messages)
     : Form(ui, L"frmChoose"), host_(host), messages_(messages) {

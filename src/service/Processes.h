@@ -22,11 +22,6 @@ struct ProcessEntry {
   std::array<char, 260> szExeFile{};
 };
 
-/// The size of the record on a 32-bit system, by which the system recognises its version.
-inline constexpr std::uint32_t ProcessEntrySize = 296;
-
-enum class SnapshotId : std::uintptr_t { None = 0 };
-
 /// One process as reported by the management service.
 struct ManagedProcess {
   std::uint32_t ProcessId = 0;
@@ -38,11 +33,8 @@ class Processes {
  public:
   virtual ~Processes() = default;
 
-  [[nodiscard]] virtual SnapshotId CreateSnapshot(std::uint32_t flags, std::uint32_t processId) = 0;
-  /// These two fill `entry`, whose dwSize is set by the caller, and return false at the end or on failure.
-  [[nodiscard]] virtual bool First(SnapshotId snapshot, ProcessEntry& entry) = 0;
-  [[nodiscard]] virtual bool Next(SnapshotId snapshot, ProcessEntry& entry) = 0;
-  virtual void CloseSnapshot(SnapshotId snapshot) = 0;
+  /// The processes of a new snapshot; empty if the system returns none.
+  [[nodiscard]] virtual std::vector<ProcessEntry> CreateSnapshot() = 0;
 
   /// The instances of "Win32_Process"; nothing if the management service can't be reached, or does not answer
   /// within 5 seconds.

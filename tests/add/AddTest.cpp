@@ -41,7 +41,7 @@ struct AddBox : test::StartedProgram {
   frmBrowse& Box = Program.frmBrowse;
 };
 
-TEST_CASE("a snapshot's records are kept in order, across the growth of the table") {
+TEST_CASE("a snapshot's records are numbered in their order") {
   fake::Computer computer;
   for (std::uint32_t index = 2; index <= 45; ++index) computer.AddProcess(index * 4, "p.exe");
   clsActiveProcess active(computer, computer);

@@ -71,11 +71,10 @@ class Computer : public service::DataFiles,
   service::WindowId Captured{};
   service::WindowId Marked{};
   bool Target = false;
-  int Held = 0;  // objects and snapshots
+  int Held = 0;  // objects
 
   void AddProcess(std::uint32_t id, std::string_view name) {
     service::ProcessEntry& entry = Entries.emplace_back();
-    entry.dwSize = service::ProcessEntrySize;
     entry.th32ProcessID = id;
     std::copy(name.begin(), name.end(), entry.szExeFile.begin());
   }
@@ -203,21 +202,9 @@ class Computer : public service::DataFiles,
 
   // --- processes and windows
 
-  service::SnapshotId CreateSnapshot(std::uint32_t /*flags*/, std::uint32_t /*processId*/) override {
-    if (Fails(__func__)) return service::SnapshotId::None;
-    ++Held;
-    next_ = 0;
-    return service::SnapshotId{77};
+  std::vector<service::ProcessEntry> CreateSnapshot() override {
+    return Fails(__func__) ? std::vector<service::ProcessEntry>() : Entries;
   }
-  bool First(service::SnapshotId id, service::ProcessEntry& entry) override {
-    return !Fails(__func__) && Next(id, entry);
-  }
-  bool Next(service::SnapshotId /*snapshot*/, service::ProcessEntry& entry) override {
-    if (Fails(__func__) || next_ == Entries.size() || entry.dwSize != service::ProcessEntrySize) return false;
-    entry = Entries[next_++];
-    return true;
-  }
-  void CloseSnapshot(service::SnapshotId /*snapshot*/) override { --Held; }
   std::optional<std::vector<service::ManagedProcess>> ManagedProcesses() override {
     return Fails(__func__) ? std::nullopt : std::optional(Managed);
   }
@@ -270,8 +257,6 @@ class Computer : public service::DataFiles,
     }
     return names;
   }
-
-  std::size_t next_ = 0;
 };
 
 }  // namespace vantor::fake

@@ -3,10 +3,8 @@
 #include <algorithm>
 #include <string>
 
-#include "form/Form.h"
 #include "form/Grid.h"
 #include "form/Keys.h"
-#include "form/UserInterface.h"
 #include "list/NameMatch.h"
 
 namespace vantor::list {

@@ -7,13 +7,9 @@
 
 namespace vantor::list {
 
-namespace {
-
 using form::Twips;
 
 constexpr Twips GroupWidth = 5580;  // two side by side fit a screen 800 pixels wide
-
-}  // namespace
 
 ListPage::ListPage(panel::frmChoose& form, const panel::PanelContext& context, ListFiles& files)
     : Page(form, panel::menu::List, {L"FrameList", {}, L"List", L"Cancel"}),

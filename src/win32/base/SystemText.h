@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <string>
+#include <string_view>
 
 namespace vantor::win32 {
 
@@ -18,6 +19,12 @@ template <class Call>
     text.resize(fits ? length : std::max<std::size_t>(length, text.size() * 2));
     if (fits) return text;
   }
+}
+
+/// Whether two names are the same apart from case, as the file system compares them.
+[[nodiscard]] inline bool SameName(std::wstring_view left, std::wstring_view right) {
+  return CompareStringOrdinal(left.data(), static_cast<int>(left.size()), right.data(), static_cast<int>(right.size()),
+                              TRUE) == CSTR_EQUAL;
 }
 
 /// The value of an environment variable; "" if there is none.

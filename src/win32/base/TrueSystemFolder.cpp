@@ -13,9 +13,7 @@ namespace vantor::win32 {
 namespace {
 
 bool BeginsWith(std::wstring_view path, std::wstring_view folder) {
-  return path.size() >= folder.size() &&
-         CompareStringOrdinal(path.data(), static_cast<int>(folder.size()), folder.data(),
-                              static_cast<int>(folder.size()), TRUE) == CSTR_EQUAL;
+  return SameName(path.substr(0, folder.size()), folder);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "text/Path.h"
 #include "win32/base/Handle.h"
 #include "win32/base/LongPath.h"
+#include "win32/base/SystemText.h"
 #include "win32/base/TrueSystemFolder.h"
 #include "win32/service/AccessList.h"
 
@@ -50,10 +51,7 @@ enum class EntryKind { Folders, Files };
 bool Matches(std::wstring_view name, std::wstring_view pattern) {
   if (pattern == L"*.*") return true;
   const std::wstring_view ending = pattern.substr(1);
-  if (name.size() < ending.size()) return false;
-  const int length = static_cast<int>(ending.size());
-  return CompareStringOrdinal(name.data() + name.size() - ending.size(), length, ending.data(), length, TRUE) ==
-         CSTR_EQUAL;
+  return name.size() >= ending.size() && SameName(name.substr(name.size() - ending.size()), ending);
 }
 
 bool Wanted(const WIN32_FIND_DATAW& entry, EntryKind kind, std::wstring_view pattern) {

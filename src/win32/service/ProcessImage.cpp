@@ -9,11 +9,6 @@ namespace vantor::win32 {
 
 namespace {
 
-bool SameName(std::wstring_view left, std::wstring_view right) {
-  return CompareStringOrdinal(left.data(), static_cast<int>(left.size()), right.data(), static_cast<int>(right.size()),
-                              TRUE) == CSTR_EQUAL;
-}
-
 bool InThisSession(DWORD processId) {
   DWORD theirs = 0;
   DWORD ours = 0;

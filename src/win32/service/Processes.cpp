@@ -9,6 +9,7 @@
 #include <bit>
 #include <utility>
 
+#include "win32/base/Handle.h"
 #include "win32/base/ManagementService.h"
 #include "win32/base/TrueSystemFolder.h"
 #include "win32/service/ProcessImage.h"
@@ -16,20 +17,6 @@
 namespace vantor::win32 {
 
 namespace {
-
-HANDLE HandleOf(service::SnapshotId snapshot) {
-  return reinterpret_cast<HANDLE>(static_cast<std::uintptr_t>(snapshot));
-}
-
-/// Passes the record to an enumeration call in the system's own type, and converts it back.
-template <class Call>
-bool Fill(Call call, service::SnapshotId snapshot, service::ProcessEntry& entry) {
-  static_assert(sizeof(PROCESSENTRY32) == service::ProcessEntrySize);
-  auto record = std::bit_cast<PROCESSENTRY32>(entry);
-  const bool filled = call(HandleOf(snapshot), &record) != FALSE;
-  if (filled) entry = std::bit_cast<service::ProcessEntry>(record);
-  return filled;
-}
 
 std::vector<service::ManagedProcess> AskService() {
   ComPointer<IDispatch> services;
@@ -58,19 +45,18 @@ std::vector<service::ManagedProcess> AskService() {
 
 }  // namespace
 
-service::SnapshotId Processes::CreateSnapshot(std::uint32_t flags, std::uint32_t processId) {
-  return service::SnapshotId{reinterpret_cast<std::uintptr_t>(CreateToolhelp32Snapshot(flags, processId))};
+std::vector<service::ProcessEntry> Processes::CreateSnapshot() {
+  std::vector<service::ProcessEntry> entries;
+  // The flags ask for no kind of entry, not even for the process list: it is up to the system what such a snapshot
+  // contains. The paths do not depend on it.
+  const FileHandle snapshot(CreateToolhelp32Snapshot(0, 0));
+  PROCESSENTRY32 entry = {};
+  entry.dwSize = sizeof entry;
+  for (BOOL filled = Process32First(snapshot.Get(), &entry); filled; filled = Process32Next(snapshot.Get(), &entry)) {
+    entries.push_back(std::bit_cast<service::ProcessEntry>(entry));
+  }
+  return entries;
 }
-
-bool Processes::First(service::SnapshotId snapshot, service::ProcessEntry& entry) {
-  return Fill(Process32First, snapshot, entry);
-}
-
-bool Processes::Next(service::SnapshotId snapshot, service::ProcessEntry& entry) {
-  return Fill(Process32Next, snapshot, entry);
-}
-
-void Processes::CloseSnapshot(service::SnapshotId snapshot) { CloseHandle(HandleOf(snapshot)); }
 
 std::optional<std::vector<service::ManagedProcess>> Processes::ManagedProcesses() {
   return AskManagementService(timedWork_, AskService).Found;

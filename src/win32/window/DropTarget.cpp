@@ -11,6 +11,7 @@
 #include "win32/base/ComObject.h"
 #include "win32/base/LongPath.h"
 #include "win32/base/ShellFunction.h"
+#include "win32/base/SystemText.h"
 #include "win32/base/TrueSystemFolder.h"
 
 namespace vantor::win32 {
@@ -62,9 +63,9 @@ std::vector<std::wstring> PathsOf(IDataObject& data) {
   return paths;
 }
 
-bool HasExtension(const std::wstring& path, const wchar_t* extension) {
+bool HasExtension(std::wstring_view path, std::wstring_view extension) {
   const std::size_t dot = path.rfind(L'.');
-  return dot != std::wstring::npos && _wcsicmp(path.c_str() + dot, extension) == 0;
+  return dot != path.npos && SameName(path.substr(dot), extension);
 }
 
 std::wstring AddressOf(IDataObject& data) {
@@ -132,9 +133,7 @@ std::wstring WebAddressIn(const std::wstring& path) {
   std::wstring address(LongestAddress, L'\0');
   address.resize(GetPrivateProfileStringW(L"InternetShortcut", L"URL", L"", address.data(), LongestAddress,
                                           CallPath(path).c_str()));
-  const auto begins = [&](std::wstring_view scheme) {
-    return _wcsnicmp(address.c_str(), scheme.data(), scheme.size()) == 0;
-  };
+  const auto begins = [&](std::wstring_view scheme) { return SameName(address.substr(0, scheme.size()), scheme); };
   return begins(L"http://") || begins(L"https://") ? address : std::wstring();
 }
 

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
-#include <string>
 
 #include "win32/draw/Pictures.h"
 #include "win32/draw/Prose.h"

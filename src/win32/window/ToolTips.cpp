@@ -9,12 +9,8 @@
 
 namespace vantor::win32 {
 
-namespace {
-
 /// The greatest width of a tool tip, in pixels at 96 dots per inch; longer texts wrap.
 constexpr int MaximumWidth = 480;
-
-}  // namespace
 
 void ToolTips::Relay(const MSG& message) {
   ControlWindow* const control = ControlWindow::From(message.hwnd);
