@@ -2,7 +2,6 @@
 
 #include <stdexcept>
 #include <string>
-#include <vector>
 
 #include "contract/Person.h"
 #include "form/Button.h"
@@ -10,13 +9,15 @@
 #include "form/RowList.h"
 #include "form/Static.h"
 #include "form/TextBox.h"
+#include "form/Timer.h"
 
 using namespace vantor::form;
-using vantor::contract::MakePerson;
+using vantor::contract::Look;
 using vantor::contract::Person;
 
 namespace {
 
+/// A form that writes down what it and its controls are told.
 class TestForm : public Form, private RowSource {
  public:
   explicit TestForm(UserInterface& ui) : Form(ui, L"TestForm") {
@@ -30,9 +31,16 @@ class TestForm : public Form, private RowSource {
     }
     InFrame.SetBounds({150, 300, 3000, 450});
     Rows.SetRowHeight(150);
-    Show();
+    Text.Change = [this] { Told += L'[' + Text.Text() + L']'; };
+    Combo.Click = [this] { Told += L'(' + Combo.Text() + L')'; };
+    Button.Click = [this] { Told += L"button "; };
+    InFrame.Click = [this] { Told += L"in frame "; };
+    Check.Click = [this] { Told += L"check "; };
+    First.Click = [this] { Told += L"first "; };
+    Second.Click = [this] { Told += L"second "; };
   }
 
+  std::wstring Told;
   TextBox Text{*this, L"Text"};
   CommandButton Button{*this, L"Button"};
   CheckBox Check{*this, L"Check"};
@@ -42,6 +50,14 @@ class TestForm : public Form, private RowSource {
   Frame Box{*this, L"Box"};
   CommandButton InFrame{Box, L"InFrame"};
   RowList Rows{*this, L"Rows", *this};
+  Timer Clock{*this, 100};
+
+ protected:
+  void Form_Load() override { Told += L"load "; }
+  void Form_Unload() override { Told += L"unload "; }
+  void Form_KeyUp(Key key) override {
+    if (key >= Key::F1 && key <= Key::F12) Told += L'F' + std::to_wstring(static_cast<int>(key) - 0x6F) + L' ';
+  }
 
  private:
   [[nodiscard]] int RowCount() const override { return 10; }
@@ -49,75 +65,93 @@ class TestForm : public Form, private RowSource {
 };
 
 struct Stage {
-  std::unique_ptr<Person> Someone = MakePerson();
+  std::unique_ptr<Person> Someone = vantor::contract::MakePerson();
   TestForm Form{Someone->Ui()};
 
-  Stage() {
-    REQUIRE(Someone->WaitUntil([&] { return Someone->IsShownFocused(Form.Text); }));
-  }
   ~Stage() { Form.Unload(); }
+  void Show() {
+    Form.Show();
+    AwaitFocus(Form.Text);
+    Form.Told.clear();
+  }
+  void AwaitFocus(const Control& control) const {
+    REQUIRE(Someone->WaitUntil([&] {
+      const auto look = Someone->LookAt(control);
+      return control.HasFocus() && (!look || look->Focused);
+    }));
+  }
+  /// What is told while this is done. Afterwards each control must look as it says that it is.
+  std::wstring After(const std::function<void()>& act) {
+    Form.Told.clear();
+    act();
+    for (const Control* control : Form.Controls()) {
+      const auto look = Someone->LookAt(*control);
+      if (!look) continue;
+      const Control* const in = control->Container();
+      CHECK(look->Shown == (Form.Visible() && control->Visible() && (in == nullptr || in->Visible())));
+      if (!look->Shown) continue;
+      CHECK(look->Enabled == control->Enabled());
+      CHECK((!look->Focused || control->HasFocus()));
+      if (control == &Form.Combo) CHECK(look->Text == Form.Combo.Text());
+      if (control != &Form.Text) continue;
+      CHECK(look->Text == Form.Text.Text());
+      CHECK((look->SelStart == Form.Text.SelStart() && look->SelLength == Form.Text.SelLength()));
+    }
+    return Form.Told;
+  }
+  std::wstring AfterTyping(std::wstring_view text) {
+    return After([&] { Someone->Type(text); });
+  }
 };
 
 }  // namespace
 
-TEST_CASE("a text box tells of every change of its text, once") {
+TEST_CASE("a text box tells of every change of its text, once, and what hears of it has the last word") {
   Stage stage;
+  stage.Show();
   TextBox& box = stage.Form.Text;
-  std::vector<std::wstring> changes;
-  box.Change = [&] { changes.push_back(box.Text()); };
-  // Set by the program, with the caret at the start.
-  box.SetText(L"Vantor");
-  box.SetText(L"Vantor");
-  CHECK(stage.Someone->ShownText(box) == L"Vantor");
-  stage.Someone->Type(L"x");
-  // Typed, over the selection.
+  // Set by the program, with the caret at the start; then typed, over the selection too.
+  CHECK(stage.After([&] { box.SetText(L"Vantor"); }) == L"[Vantor]");
+  CHECK(stage.After([&] { box.SetText(L"Vantor"); }).empty());
+  CHECK(stage.AfterTyping(L"x") == L"[xVantor]");
   box.SelectAll();
-  stage.Someone->Type(L"p=\b-");
-  CHECK(changes == std::vector<std::wstring>{L"Vantor", L"xVantor", L"p", L"p=", L"p", L"p-"});
-  CHECK(stage.Someone->ShownText(box) == L"p-");
+  CHECK(stage.AfterTyping(L"p=\b-") == L"[p][p=][p][p-]");
   CHECK(box.SelStart() == 2);
 
-  // A handler that completes the text has the last word.
   box.Change = [&] {
     if (box.Text() != L"d.my") return;
     box.SetText(L"d.MyDocuments");
     box.Select(4, 9);
   };
-  box.SetText(L"");
-  stage.Someone->Type(L"d.my");
-  CHECK(stage.Someone->ShownText(box) == L"d.MyDocuments");
-  CHECK(stage.Someone->ShownSelection(box) == L"Documents");
-  stage.Someone->Type(L"\b");
+  stage.After([&] { box.SetText(L""); });
+  stage.AfterTyping(L"d.my");
+  CHECK((box.Text() == L"d.MyDocuments" && box.SelLength() == 9));
+  stage.AfterTyping(L"\b");
   CHECK(box.Text() == L"d.My");
   // A selection is brought into the text.
-  box.Select(2, 9);
+  stage.After([&] { box.Select(2, 9); });
   CHECK(box.SelLength() == 2);
-  CHECK(stage.Someone->ShownSelection(box) == L"My");
-  box.Select(-3, 2);
-  CHECK(stage.Someone->ShownSelection(box) == L"d.");
-}
+  stage.After([&] { box.Select(-3, 2); });
+  CHECK(box.SelStart() == 0);
 
-TEST_CASE("KeyPress comes before the change, and may swallow the character or put another in its place") {
-  Stage stage;
-  TextBox& box = stage.Form.Text;
+  // A key press comes before the change.
   std::wstring seen;
   box.KeyPress = [&](wchar_t& character) {
     seen += character;
     if (character == L'a') character = 0;
     if (character == L'b') character = L'B';
   };
-  int doubleClicks = 0;
-  box.DblClick = [&] { ++doubleClicks; };
-  stage.Someone->Type(L"abc\r\b\x1b");
-  CHECK(seen == L"abc\r\b\x1b");
-  CHECK(stage.Someone->ShownText(box) == L"B");
+  box.DblClick = [&] { seen += L'2'; };
+  box.SetText(L"");
+  stage.AfterTyping(L"abc\r\b\x1b");
   CHECK(box.Text() == L"B");
   stage.Someone->DoubleClick(box);
-  CHECK(doubleClicks == 1);
+  CHECK(seen == L"abc\r\b\x1b\x32");
 }
 
 TEST_CASE("while an input method composes, the arrow keys are its own, and its end is told once") {
   Stage stage;
+  stage.Show();
   TextBox& box = stage.Form.Text;
   std::string told;
   box.KeyDown = [&](Key& /*key*/) { told += 'k'; };
@@ -135,6 +169,7 @@ TEST_CASE("while an input method composes, the arrow keys are its own, and its e
 
 TEST_CASE("a list of rows shows a page of them, scrolls by the wheel as far as they go, and leaves the focus alone") {
   Stage stage;
+  stage.Show();
   RowList& list = stage.Form.Rows;
   std::string told;
   list.Click = [&](int row) { told += std::to_string(row); };
@@ -157,82 +192,60 @@ TEST_CASE("a list of rows shows a page of them, scrolls by the wheel as far as t
   list.ShowRows(-1);
   CHECK(clicked() == '1');
   CHECK(told.size() == 7);
-  CHECK(stage.Someone->IsShownFocused(stage.Form.Text));
+  CHECK(stage.Form.Text.HasFocus());
 }
 
 TEST_CASE("controls that are disabled, hidden or inside such a frame ignore the user") {
   Stage stage;
+  stage.Show();
   TestForm& form = stage.Form;
-  int clicks = 0;
-  for (CommandButton* button : {&form.Button, &form.InFrame}) button->Click = [&] { ++clicks; };
-  const auto clicksNow = [&] {
+  const auto clickBoth = [&] {
     stage.Someone->Click(form.Button);
     stage.Someone->Click(form.InFrame);
-    return clicks;
   };
-  CHECK(clicksNow() == 2);
-
-  form.Button.SetEnabled(false);
-  form.Box.SetEnabled(false);
-  form.Button.DoClick();
-  CHECK(clicksNow() == 2);
-  CHECK_FALSE(stage.Someone->IsShownEnabled(form.Button));
-
-  form.Button.SetEnabled(true);
-  form.Button.SetVisible(false);
-  form.Box.SetEnabled(true);
-  form.Box.SetVisible(false);
-  CHECK(clicksNow() == 2);
-  CHECK_FALSE(stage.Someone->IsShown(form.Button));
-
+  CHECK(stage.After(clickBoth) == L"button in frame ");
+  for (Control* control : {static_cast<Control*>(&form.Button), static_cast<Control*>(&form.Box)})
+    control->SetEnabled(false);
+  CHECK(stage.After([&] { form.Button.DoClick(); }).empty());
+  CHECK(stage.After(clickBoth).empty());
+  for (Control* control : {static_cast<Control*>(&form.Button), static_cast<Control*>(&form.Box)}) {
+    control->SetEnabled(true);
+    control->SetVisible(false);
+  }
+  CHECK(stage.After(clickBoth).empty());
   form.Text.SetEnabled(false);
-  stage.Someone->Type(L"x");
-  CHECK(form.Text.Text().empty());
+  CHECK(stage.AfterTyping(L"x").empty());
 }
 
 TEST_CASE("a check box tells of each change of its value, an option button of being chosen") {
   Stage stage;
+  stage.Show();
   TestForm& form = stage.Form;
-  std::string told;
-  form.Check.Click = [&] { told += 'c'; };
-  form.First.Click = [&] { told += '1'; };
-  form.Second.Click = [&] { told += '2'; };
-  form.Check.SetValue(true);
-  form.Check.SetValue(true);
-  stage.Someone->Click(form.Check);
+  CHECK(stage.After([&] { form.Check.SetValue(true); }) == L"check ");
+  CHECK(stage.After([&] { form.Check.SetValue(true); }).empty());
+  CHECK(stage.After([&] { stage.Someone->Click(form.Check); }) == L"check ");
   CHECK_FALSE(form.Check.Value());
-  form.First.SetValue(true);
-  stage.Someone->Click(form.Second);
-  stage.Someone->Click(form.Second);
-  CHECK(told == "cc12");
-  CHECK_FALSE(form.First.Value());
-  CHECK(form.Second.Value());
+  CHECK(stage.After([&] { form.First.SetValue(true); }) == L"first ");
+  CHECK(stage.After([&] { stage.Someone->Click(form.Second); }) == L"second ");
+  CHECK(stage.After([&] { stage.Someone->Click(form.Second); }).empty());
+  CHECK((!form.First.Value() && form.Second.Value()));
 }
 
 TEST_CASE("a list keeps its selection on its entry, and tells of a new one once") {
   Stage stage;
+  stage.Show();
   ComboBox& combo = stage.Form.Combo;
-  int clicks = 0;
-  combo.Click = [&] { ++clicks; };
   for (const wchar_t* item : {L"one", L"two", L"three", L"four"}) combo.AddItem(item);
   CHECK(combo.ListIndex() == -1);
-  combo.SetListIndex(2);
-  combo.SetListIndex(2);
-  CHECK(clicks == 1);
-  CHECK(stage.Someone->ShownText(combo) == L"three");
-
-  combo.RemoveItem(0);
+  CHECK(stage.After([&] { combo.SetListIndex(2); }) == L"(three)");
+  CHECK(stage.After([&] { combo.SetListIndex(2); }).empty());
+  CHECK(stage.After([&] { combo.RemoveItem(0); }).empty());
   CHECK(combo.ListIndex() == 1);
-  combo.SetList(1, L"THREE");
-  CHECK(stage.Someone->ShownText(combo) == L"THREE");
-
+  CHECK(stage.After([&] { combo.SetList(1, L"THREE"); }).empty());
   combo.SetFocus();
-  stage.Someone->Press(Key::Down);
-  CHECK(combo.Text() == L"four");
-  combo.RemoveItem(2);
+  CHECK(stage.After([&] { stage.Someone->Press(Key::Down); }) == L"(four)");
+  CHECK(stage.After([&] { combo.RemoveItem(2); }).empty());
   CHECK(combo.ListIndex() == -1);
-  CHECK(stage.Someone->ShownText(combo).empty());
-  CHECK(clicks == 2);
   CHECK_THROWS_AS(combo.RemoveItem(2), std::out_of_range);
   CHECK_THROWS_AS(combo.SetListIndex(2), std::out_of_range);
 
@@ -243,4 +256,72 @@ TEST_CASE("a list keeps its selection on its entry, and tells of a new one once"
   other.Click = [&] { combo.SetListIndex(other.ListIndex()); };
   other.SetListIndex(1);
   CHECK(combo.ListIndex() == 1);
+}
+
+TEST_CASE("a form is loaded once until its unload, hidden and shown, and sees the function keys of every control") {
+  Stage stage;
+  TestForm& form = stage.Form;
+  CHECK(stage.After([&] { form.Text.SetText(L"kept"); }) == L"[kept]");
+  CHECK(stage.After([&] { form.Show(); }) == L"load ");
+  CHECK(stage.After([&] { form.Hide(); }).empty());
+  form.Show();
+  stage.AwaitFocus(form.Text);
+  form.Combo.AddItem(L"one");
+  const auto press = [&](Control& control, Key key) {
+    control.SetFocus();
+    return stage.After([&] { stage.Someone->Press(key); });
+  };
+  CHECK(press(form.Text, Key::F1) == L"F1 ");
+  CHECK(press(form.Button, Key::F10) == L"F10 ");
+  CHECK(press(form.Combo, Key::F4) == L"F4 ");  // drops lists elsewhere
+  CHECK(stage.After([&] { form.Unload(); }) == L"unload ");
+  CHECK(stage.After([&] { form.Unload(); }).empty());
+  form.Show();
+  stage.AwaitFocus(form.Combo);
+  CHECK(form.Told == L"load ");
+}
+
+TEST_CASE("a modal form keeps the user from the others until it goes, also when it unloads itself") {
+  Stage stage;
+  TestForm& behind = stage.Form;
+  TestForm modal(stage.Someone->Ui());
+  modal.MoveTo(1500, 7500);
+  modal.Button.Click = [&] { modal.Unload(); };
+  stage.Show();
+  stage.Someone->WhenModal([&](Form& open) {
+    CHECK(&open == &modal);
+    stage.AwaitFocus(modal.Text);
+    stage.Someone->Click(behind.Button);
+    stage.Someone->Type(L"x");
+    stage.Someone->Click(modal.Button);
+  });
+  CHECK(stage.After([&] { modal.ShowModal(); }).empty());
+  CHECK(modal.Text.Text() == L"x");
+  stage.AwaitFocus(behind.Text);
+  CHECK(stage.After([&] { stage.Someone->Click(behind.Button); }) == L"button ");
+}
+
+TEST_CASE("a timer ticks every interval while it is enabled, and not while its own tick is being handled") {
+  Stage stage;
+  TestForm second(stage.Someone->Ui());
+  Timer& clock = stage.Form.Clock;
+  Timer& other = second.Clock;
+  int ticks = 0;
+  int others = 0;
+  other.Tick = [&] { ++others; };
+  clock.Tick = [&] {
+    if (++ticks < 3) return;
+    // Three times as long as the other's interval: this one's would come, too.
+    stage.Someone->WhenModal([&](Form& open) {
+      CHECK(stage.Someone->WaitUntil([&] { return others >= 3; }));
+      open.Unload();
+    });
+    other.SetEnabled(true);
+    second.ShowModal();
+    other.SetEnabled(false);
+    CHECK(ticks == 3);
+    clock.SetEnabled(false);
+  };
+  clock.SetEnabled(true);
+  CHECK(stage.Someone->WaitUntil([&] { return ticks == 3 && !clock.Enabled(); }));
 }

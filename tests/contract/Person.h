@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -11,11 +12,21 @@
 
 namespace vantor::contract {
 
+/// How the window of a control looks. The selection is that of a text box.
+struct Look {
+  bool Shown = false, Enabled = false, Focused = false;
+  std::wstring Text;
+  int SelStart = 0, SelLength = 0;
+};
+
 /// A person who uses a back end with the keyboard and the mouse. What is done has been handled
 /// when the call returns.
 class Person {
  public:
+  Person() = default;
   virtual ~Person() = default;
+  Person(const Person&) = delete;
+  Person& operator=(const Person&) = delete;
 
   virtual form::UserInterface& Ui() = 0;
 
@@ -34,19 +45,8 @@ class Person {
   /// What this person does when the next modal form is open.
   virtual void WhenModal(std::function<void(form::Form&)> script) = 0;
 
-  /// The text that the control's window shows, and the selected part of it for a text box.
-  virtual std::wstring ShownText(const form::Control& control) = 0;
-  virtual std::wstring ShownSelection(const form::Control& control) = 0;
-  /// Whether the window can be seen, and whether it takes input.
-  virtual bool IsShown(const form::Control& control) = 0;
-  virtual bool IsShownEnabled(const form::Control& control) = 0;
-  virtual bool IsShown(const form::Form& form) = 0;
-  virtual bool IsShownFocused(const form::Control& control) = 0;
-
- protected:
-  Person() = default;
-  Person(const Person&) = default;
-  Person& operator=(const Person&) = default;
+  /// Nothing without windows.
+  virtual std::optional<Look> LookAt(const form::Control& /*control*/) { return std::nullopt; }
 };
 
 /// A person in front of the back end that this test program is about.

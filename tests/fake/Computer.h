@@ -64,7 +64,6 @@ class Computer : public service::DataFiles,
   std::vector<service::ProcessEntry> Entries;
   std::vector<service::ManagedProcess> Managed{
       {0, std::nullopt}, {7, L"C:\\Work\\Tool.EXE"}, {8, std::nullopt}, {1, L"C:\\system.exe"}};
-  std::wstring ImagePath;  // of process 7, as Windows tells it
   service::WindowId UnderCursor{1};
   service::ScreenPoint Cursor;
   bool ButtonDown = true;
@@ -109,11 +108,11 @@ class Computer : public service::DataFiles,
 
   bool Available() override { return !Fails(__func__); }
   std::optional<int> DriveType(Text root) override {
-    if (Fails(__func__) || Disk.DriveOf(root) == nullptr) return std::nullopt;
+    if (Fails(__func__, root) || Disk.DriveOf(root) == nullptr) return std::nullopt;
     return Disk.DriveOf(root)->Type;
   }
-  bool FileExists(Text path) override { return !Fails(__func__) && Disk.HasFile(path); }
-  bool FolderExists(Text path) override { return !Fails(__func__) && Disk.HasFolder(path); }
+  bool FileExists(Text path) override { return !Fails(__func__, path) && Disk.HasFile(path); }
+  bool FolderExists(Text path) override { return !Fails(__func__, path) && Disk.HasFolder(path); }
   std::wstring ExtensionName(Text path) override {
     const auto dot = path.rfind(L'.');
     return Fails(__func__) || dot == path.npos ? L"" : std::wstring(path.substr(dot + 1));
@@ -125,7 +124,7 @@ class Computer : public service::DataFiles,
       drives.push_back({letter, drive.Type, drive.Ready ? drive.Label : L""});
     return drives;
   }
-  bool DriveReady(Text path) override { return !Fails(__func__) && Disk.HasFolder(path.substr(0, 2)); }
+  bool DriveReady(Text path) override { return !Fails(__func__, path) && Disk.HasFolder(path.substr(0, 2)); }
   Texts Folders(Text path) override { return Fails(__func__) ? Texts() : Names(path, true, L""); }
   Texts Files(Text path, Text pattern) override {
     return Fails(__func__) ? Texts() : Names(path, false, pattern == L"*.*" ? L"" : Lower(pattern.substr(1)));
@@ -209,7 +208,7 @@ class Computer : public service::DataFiles,
     return Fails(__func__) ? std::nullopt : std::optional(Managed);
   }
   std::wstring ImageName(std::uint32_t processId) override {
-    return Fails(__func__) || processId != 7 ? L"" : ImagePath;
+    return Fails(__func__) || processId != 7 ? L"" : L"C:\\Work\\Tool.EXE";
   }
   void SetCapture(service::WindowId window) override { Captured = Fails(__func__) ? Captured : window; }
   service::WindowId GetCapture() override { return Fails(__func__) ? service::WindowId::None : Captured; }
@@ -227,7 +226,9 @@ class Computer : public service::DataFiles,
   void Mark(service::WindowId window) override { Marked = window; }
 
  private:
-  bool Fails(const char* call) const {
+  /// No question may be about a place that may be on another computer.
+  bool Fails(const char* call, Text path = {}) const {
+    if (path.find_first_not_of(L"\\/") > 1 && path.size() > 1) throw std::logic_error("another computer is asked");
     const Outcome outcome = Decide ? Decide(call) : Outcome::Works;
     if (outcome == Outcome::Throws) throw std::runtime_error(call);
     return outcome == Outcome::Fails;

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <map>
 #include <span>
+#include <sstream>
 #include <utility>
 
 #include "flows/Words.h"
@@ -384,6 +385,12 @@ bool PlayAll(const std::vector<std::filesystem::path>& files, const std::functio
   }
   tell(std::to_string(files.size() - skipped) + " flows, " + std::to_string(failed) + " failed");
   return failed == 0 && files.size() > skipped;
+}
+
+std::string Play(const Text& flow) {
+  Player player("");
+  std::istringstream lines(Narrow(flow));
+  return player.Play(lines) == Result::Passed ? "" : player.Told();
 }
 
 void Try(World& world, const Text& steps) {

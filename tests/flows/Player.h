@@ -14,6 +14,9 @@ namespace vantor::flows {
 /// Returns whether all passed that could be played here, and one could.
 bool PlayAll(const std::vector<std::filesystem::path>& files, const std::function<void(const std::string& line)>& tell);
 
+/// Plays a flow, one of several that differ little, say. Returns what was not as it says, "" if nothing.
+std::string Play(const Text& flow);
+
 /// Plays steps, each on a line of its own, as far as they can be done.
 void Try(World& world, const Text& steps);
 

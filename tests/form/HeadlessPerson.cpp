@@ -1,7 +1,5 @@
 #include "contract/Person.h"
-#include "form/Button.h"
 #include "form/Headless.h"
-#include "form/ListControl.h"
 #include "form/RowList.h"
 #include "form/TextBox.h"
 
@@ -28,20 +26,6 @@ class HeadlessPerson : public Person {
     return condition();
   }
   void WhenModal(std::function<void(form::Form&)> script) override { desktop_.WhenModal(std::move(script)); }
-
-  std::wstring ShownText(const form::Control& control) override {
-    if (const auto* box = dynamic_cast<const form::TextBox*>(&control)) return box->Text();
-    if (const auto* list = dynamic_cast<const form::ListControl*>(&control)) return list->Text();
-    return control.AccessibleName();
-  }
-  std::wstring ShownSelection(const form::Control& control) override {
-    const auto& box = dynamic_cast<const form::TextBox&>(control);
-    return box.Text().substr(static_cast<std::size_t>(box.SelStart()), static_cast<std::size_t>(box.SelLength()));
-  }
-  bool IsShown(const form::Control& control) override { return control.Visible() && control.OwnerForm().Visible(); }
-  bool IsShownEnabled(const form::Control& control) override { return control.Enabled(); }
-  bool IsShown(const form::Form& form) override { return form.Visible() && !desktop_.Ended(); }
-  bool IsShownFocused(const form::Control& control) override { return control.HasFocus(); }
 
  private:
   form::Headless desktop_;

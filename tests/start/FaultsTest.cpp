@@ -191,7 +191,7 @@ TEST_CASE("each call of a service that goes wrong gives its message, loses no it
   // All other failures are silent.
   const std::map<std::wstring, std::set<std::string>> expected{
       {L"Could not di", {"RequestMakeCall"}},
-      {L"Could not fi", {"ManagedProcesses", "ProcessOfWindow", "WindowFromPoint"}},
+      {L"Could not fi", {"ProcessOfWindow", "WindowFromPoint"}},
       {L"Could not sa", {"Write"}},
       {L"From this ma", {"DriveType"}},
       {L"Selected ite", {"FileExists", "Files"}},

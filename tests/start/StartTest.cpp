@@ -113,7 +113,6 @@ TEST_CASE("the program refuses where it can't run, before anything is loaded or 
   for (const auto* home : {L"\\\\server\\share\\Vantor", L"\\\\?\\Volume{1}\\Vantor"}) {
     TestProgram program;
     program.Computer.Home = home;
-    program.Computer.Let("DriveType", fake::Outcome::Throws);
     program.Expect();
     CHECK_FALSE(program.Start());
     CHECK(program.Told.at(0).starts_with(L"The Program encountered a problem"));

@@ -45,8 +45,6 @@ class WindowsPerson : public Person {
     UnhookWindowsHookEx(hook_);
     current_ = nullptr;
   }
-  WindowsPerson(const WindowsPerson&) = delete;
-  WindowsPerson& operator=(const WindowsPerson&) = delete;
 
   form::UserInterface& Ui() override { return desktop_; }
 
@@ -90,21 +88,19 @@ class WindowsPerson : public Person {
 
   void WhenModal(std::function<void(form::Form&)> script) override { scripts_.push_back(std::move(script)); }
 
-  std::wstring ShownText(const form::Control& control) override {
-    return desktop::Wide(desktop::window::Text(HandleOf(control)));
-  }
-  std::wstring ShownSelection(const form::Control& control) override {
+  std::optional<Look> LookAt(const form::Control& control) override {
+    HWND const window = HandleOf(control);
+    HWND const form = HandleOf(control.OwnerForm());
+    if (!IsWindowVisible(window)) return Look();
     DWORD start = 0;
     DWORD end = 0;
-    SendMessageW(HandleOf(control), EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
-    return ShownText(control).substr(start, end - start);
-  }
-  bool IsShown(const form::Control& control) override { return IsWindowVisible(HandleOf(control)) != FALSE; }
-  bool IsShownEnabled(const form::Control& control) override { return IsWindowEnabled(HandleOf(control)) != FALSE; }
-  bool IsShown(const form::Form& form) override { return IsWindowVisible(HandleOf(form)) != FALSE; }
-  bool IsShownFocused(const form::Control& control) override {
-    HWND const form = HandleOf(control.OwnerForm());
-    return form != nullptr && IsWindowVisible(form) && desktop::window::Focus(form) == HandleOf(control);
+    SendMessageW(window, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+    return Look{true,
+                IsWindowEnabled(window) != FALSE,
+                desktop::window::Focus(form) == window,
+                desktop::Wide(desktop::window::Text(window)),
+                static_cast<int>(start),
+                static_cast<int>(end - start)};
   }
 
  private:
@@ -119,7 +115,7 @@ class WindowsPerson : public Person {
   static void CALLBACK WatchModal(HWND /*window*/, UINT /*message*/, UINT_PTR /*id*/, DWORD /*time*/) {
     WindowsPerson& person = *current_;
     form::Form* const modal = person.desktop_.ModalForm();
-    if (modal == nullptr || person.inScript_ == modal || !person.IsShown(*modal)) return;
+    if (modal == nullptr || person.inScript_ == modal || !IsWindowVisible(HandleOf(*modal))) return;
     try {
       if (person.scripts_.empty()) throw std::logic_error("a modal form that the test does not expect");
       const auto script = std::move(person.scripts_.front());
