@@ -1,6 +1,7 @@
 #include <doctest/doctest.h>
 
 #include "fake/TestProgram.h"
+#include "flows/Player.h"
 #include "panel/PanelPlace.h"
 #include "start/Places.h"
 
@@ -10,60 +11,20 @@ namespace {
 using form::Key;
 using test::StartedProgram;
 
-TEST_CASE("a drag ends within the screen, whatever reports its end") {
-  StartedProgram program;
-  frmMain& bar = program.Main;
-  bar.InputMouseMove(form::MouseButton::None);
-  // A window manager may tell of the drag's end after the drag.
-  bar.InputMoved(-900, 300);
-  CHECK((bar.Bounds().Left == 0 && bar.Bounds().Top == 300));
-}
-
-TEST_CASE("the bar stands as it was left, and comes along when the screen or the room on it shrinks") {
+TEST_CASE(
+    "the bar stands as it was left, if that is on the screen, and comes along when that or the room on it shrinks") {
   const struct {
-    const char* Saved;
-    int Left, Top;
-  } rows[] = {{"30000\r\n0", 15360 - 480 - 6960, 0},
-              {"-30000\r\n0", 0, 0},
-              {"0\r\n20000", 0, 10380},
-              {"-60\r\n0", -60, 0},
-              {"14000\r\n9", 14000, 9}};
+    std::wstring Saved, Place, Smaller;
+  } rows[] = {{L"Left=30000 Top=0", L"528 0", L"304 28"},
+              {L"Left=-30000 Top=0", L"0 0", L"0 28"},
+              {L"Left=0 Top=20000", L"0 692", L"0 524"},
+              {L"Left=-60 Top=0", L"-4 0", L"0 28"},
+              {L"Left=9000 Top=900", L"600 60", L"304 60"}};
   for (const auto& row : rows) {
-    CAPTURE(row.Saved);
-    StartedProgram program(row.Saved);
-    frmMain& bar = program.Main;
-    CHECK((bar.Bounds().Left == row.Left && bar.Bounds().Top == row.Top));
-    program.Desktop.Desktop = {{0, 0, 12000, 9000}, {0, 600, 12000, 8400}};
-    program.Desktop.Press(Key::F6);
-    bar.InputScreensChanged();
-    program.Choose.InputScreensChanged();
-    CHECK((bar.Bounds().Right() <= 12000 - 480 && bar.Bounds().Bottom() <= 9000 - 600));
-    CHECK(program.Choose.Bounds().Bottom() <= 9000);
-    // A taskbar along the top, and a screen that is narrower than the bar.
-    program.Desktop.Desktop = {{0, 0, 6000, 8400}, {0, 600, 6000, 8400}};
-    bar.MoveTo(bar.Bounds().Left, 0);
-    bar.InputScreensChanged();
-    CHECK(bar.Bounds().Top == 600);
-    const int room = bar.Web.FrameWeb.Right() + 480;
-    CHECK((bar.Scale() * room <= 6000 && bar.Scale() * room > 5900));
-    CHECK(bar.Bounds().Width == static_cast<int>(bar.Inside().Width * bar.Scale()));
-    program.Desktop.Desktop = {{0, 0, 12000, 9000}, {0, 0, 12000, 9000}};
-    bar.InputScreensChanged();
-    CHECK((bar.Scale() == 1 && bar.Bounds().Width == bar.Inside().Width));
+    CHECK(flows::Play(L"given settings " + row.Saved + L"\ngiven screen 1024 768\nstart\nsee place " + row.Place +
+                      L"\ngiven screen 1024 768\nsee place " + row.Place + L"\ngiven screen 800 600\nsee place " +
+                      row.Smaller) == "");
   }
-}
-
-TEST_CASE("a change of settings that are none of the bar's leaves it where it is") {
-  StartedProgram program("9000\r\n0");
-  program.Desktop.Press(Key::F1);
-  const form::Rect place = program.Main.Bounds();
-  CHECK(place.Right() == program.Desktop.Desktop.Bounds.Width);
-  program.Main.InputScreensChanged();
-  CHECK(program.Main.Bounds() == place);
-  // Nor does a form move that is not shown.
-  program.Choose.MoveTo(30000, 0);
-  program.Choose.InputScreensChanged();
-  CHECK(program.Choose.Bounds().Left == 30000);
 }
 
 TEST_CASE("the open panel follows the bar, and closes when the bar is minimised in any way") {
@@ -80,8 +41,9 @@ TEST_CASE("the open panel follows the bar, and closes when the bar is minimised 
     };
     desktop.DragBy(bar, 3000, 1500);
     CHECK((stands() && form->Bounds().Top >= 1500));
-    bar.InputMoved(600, 900);
-    CHECK((stands() && form->Bounds().Left == 600));
+    // A window manager may tell of a drag's end after the drag.
+    bar.InputMoved(-900, 900);
+    CHECK((stands() && form->Bounds().Left == 0 && bar.Bounds().Top == 900));
     bar.TextMain.SetText(L"left");
     bar.InputWindowState(form::WindowState::Minimized);
     CHECK_FALSE(form->Visible());
@@ -126,11 +88,8 @@ TEST_CASE("no panel is larger than the work area; where there is room it has its
     int Width, Height;  // of the work area, in pixels
     double DotsPerInch;
     bool Whole;
-  } screens[] = {{800, 570, 96, true},
-                 {738, 600, 96, false},
-                 {1366, 728, 144, false},
-                 {1920, 1040, 192, true},
-                 {800, 570, 216, false}};
+  } screens[] = {{800, 570, 96, true},    {738, 600, 96, false},  {1366, 728, 144, false},
+                 {1920, 1040, 192, true}, {800, 570, 216, false}, {400, 560, 96, false}};
   for (const auto& screen : screens) {
     CAPTURE(screen.DotsPerInch);
     test::StartedProgram program;
@@ -147,7 +106,13 @@ TEST_CASE("no panel is larger than the work area; where there is room it has its
       whole = whole && panel.Scale() == 1;
     }
     CHECK(whole == screen.Whole);
-    CHECK(program.Main.Scale() * (program.Main.Web.FrameWeb.Right() + 480) <= area.Width);
+    const double fits = area.Width / (program.Main.Web.FrameWeb.Right() + 480.0);
+    CHECK(program.Main.Scale() == doctest::Approx(std::min(fits, 1.0)).epsilon(0.01));
+    // A form that is not shown stays where it is.
+    program.Desktop.Press(Key::F8);
+    program.Choose.MoveTo(30000, 0);
+    program.Choose.InputScreensChanged();
+    CHECK(program.Choose.Bounds().Left == 30000);
   }
 }
 

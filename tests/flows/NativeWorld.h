@@ -152,7 +152,7 @@ class NativeWorld : public World {
                                                  : fake::Outcome::Works);
   }
   void SetScreen(int width, int height) override {
-    screen_ = {{0, 0, width * 15, height * 15}, {0, 0, width * 15, height * 15 - 420}};
+    screen_ = {{0, 0, width * 15, height * 15}, {0, 420, width * 15, height * 15 - 420}};  // under a taskbar
     if (!Desktop) return;
     Desktop->Desktop = screen_;
     for (form::Form* form : Desktop->Forms()) form->InputScreensChanged();

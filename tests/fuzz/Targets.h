@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdio>
 #include <cstdlib>
@@ -17,20 +18,18 @@ struct Target {
   void (*Run)(Bytes bytes);
 };
 
-void FuzzSettings(Bytes bytes);
-void FuzzList(Bytes bytes);
-void FuzzMedia(Bytes bytes);
-void FuzzLine(Bytes bytes);
+/// Data files are loaded and saved.
+void FuzzFiles(Bytes bytes);
+/// The program is used.
 void FuzzWalk(Bytes bytes);
 
-inline constexpr Target Targets[] = {
-    {"settings", FuzzSettings}, {"list", FuzzList}, {"media", FuzzMedia}, {"line", FuzzLine}, {"walk", FuzzWalk}};
+inline constexpr Target Targets[] = {{"files", FuzzFiles}, {"walk", FuzzWalk}};
 
 inline const Target& TargetOf(std::string_view name) {
   for (const Target& target : Targets) {
     if (target.Name == name) return target;
   }
-  std::fprintf(stderr, "targets: settings, list, media, line, walk\n");
+  std::fprintf(stderr, "targets: files, walk\n");
   std::exit(2);
 }
 
@@ -58,10 +57,11 @@ class Choices {
     const std::size_t number = count > 256 ? Byte() * 256 + Byte() : Byte();
     return count > 0 ? number % count : 0;
   }
-  std::string Rest() {
-    std::string rest(bytes_.begin(), bytes_.end());
-    bytes_ = {};
-    return rest;
+  /// The next bytes, at most so many.
+  std::string Take(std::size_t most = std::string::npos) {
+    const Bytes taken = bytes_.first(std::min(most, bytes_.size()));
+    bytes_ = bytes_.subspan(taken.size());
+    return {taken.begin(), taken.end()};
   }
 
  private:

@@ -56,6 +56,9 @@ class Wanderer : public fake::Walker {
     for (const auto& given : Givens) {
       if ((flags & given.Bit) != 0) Do(Text(given.Step));
     }
+    // One file may hold anything.
+    const Text file = L"\\Vantor\\" + OneOf(L"MediaSet | Machine | User | Saving | Unsaved | Set | ListWeb | ListProg");
+    if ((flags & 64) != 0) Write(Computer.Home + file + L".Orbel", choices.Take(choices.Byte()));
     if ((flags & 16) == 0) return;
     const unsigned rate = choices.Byte() / 4;  // so many calls of 256 go wrong
     const bool mayThrow = (flags & 32) != 0;
@@ -125,7 +128,7 @@ class Wanderer : public fake::Walker {
     Text line;
     for (std::size_t words = 1 + choices_.Below(2); words > 0; --words) {
       const std::size_t what = choices_.Below(20);
-      line += what == 0 ? Text(2000, L'x') : what < 4 ? Text(1, static_cast<wchar_t>(choices_.Byte())) : OneOf(Lines);
+      line += what == 0 ? Text(2000, L'x') : what < 8 ? Text(1, static_cast<wchar_t>(choices_.Byte())) : OneOf(Lines);
     }
     return line;
   }
