@@ -60,13 +60,33 @@ class Program {
     return FormOf(control);
   }
 
+  /// Waits until the input so far is handled: Windows lets a program paint when there is nothing else left for it.
+  void AwaitHandled() const {
+    HWND painting = nullptr;
+    Await("the input to be handled", [&] {
+      HWND const form = Active() != nullptr ? Active() : Bar();
+      if (form == nullptr || IsIconic(form)) return true;
+      const bool again = form == painting;
+      if (!again) RedrawWindow(form, nullptr, nullptr, RDW_INVALIDATE);
+      painting = form;
+      return again && !GetUpdateRect(form, nullptr, FALSE);
+    });
+  }
+
   void Press(WORD key) const {
     AwaitInput();
     input::Press(key);
+    AwaitHandled();
+  }
+  void PressControl(WORD key) const {
+    AwaitInput();
+    input::PressControl(key);
+    AwaitHandled();
   }
   void Type(const std::wstring& text) const {
     AwaitInput();
     input::Type(text);
+    AwaitHandled();
   }
   /// Types a line in place of the one that is there, and presses Enter.
   void Enter(const std::wstring& line) const {
@@ -80,10 +100,13 @@ class Program {
   void Click(std::wstring_view control, const std::wstring& entry = {}, bool twice = false) const {
     Await("the control to be ready", [&] { return Control(control) && window::IsEnabled(Control(control)); });
     AwaitInput();
-    if (entry.empty()) return input::Click(Control(control), twice);
-    const List list = ListOf(control);
-    if (list.IsCombo()) return Choose(Control(control), entry);
-    input::Click(list.AwaitEntry(entry), twice);
+    if (entry.empty())
+      input::Click(Control(control), twice);
+    else if (ListOf(control).IsCombo())
+      Choose(Control(control), entry);
+    else
+      input::Click(ListOf(control).AwaitEntry(entry), twice);
+    AwaitHandled();
   }
 
   [[nodiscard]] bool Running() const { return WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT; }

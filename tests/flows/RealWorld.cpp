@@ -153,14 +153,12 @@ class RealWorld : public World {
     Await("the program to have the input", [this] { return program_->Active() || !program_->Running(); });
   }
   void Press(form::Key key) override { program_->Press(static_cast<WORD>(key)); }
-  void PressControl(form::Key key) override {
-    program_->AwaitInput();
-    input::PressControl(static_cast<WORD>(key));
-  }
+  void PressControl(form::Key key) override { program_->PressControl(static_cast<WORD>(key)); }
   void Type(const Text& text) override { program_->Type(text); }
   void Paste(const Text& text) override {
     program_->AwaitInput();
     input::Paste(text);
+    program_->AwaitHandled();
   }
   void Compose(bool /*begins*/, const Text& /*text*/) override { throw Failure("there is no input method here"); }
   void Click(const Text& control, const Text& entry, bool twice) override { program_->Click(control, entry, twice); }
@@ -168,6 +166,7 @@ class RealWorld : public World {
     program_->AwaitInput();
     input::Mouse(window::Middle(program_->Control(control)));
     input::Wheel(rows);
+    program_->AwaitHandled();
   }
   void Leave() override {
     if (front_ == nullptr) front_ = MakeWindow(0, {700, 500});
@@ -190,6 +189,7 @@ class RealWorld : public World {
   }
   void Release() override {
     input::LetGo(mouse_);
+    program_->AwaitHandled();
     if (other_ != nullptr) ShowWindow(other_, SW_HIDE);
   }
   void Drag(int right, int down) override {
