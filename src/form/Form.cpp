@@ -140,8 +140,8 @@ void Form::SetTopMost(bool topMost) {
 }
 
 void Form::MoveInto(const Rect& area) {
-  MoveTo(std::max(std::min(bounds_.Left, area.Right() - bounds_.Width), area.Left),
-         std::max(std::min(bounds_.Top, area.Bottom() - bounds_.Height), area.Top));
+  MoveTo(Within(bounds_.Left, bounds_.Width, area.Left, area.Right()),
+         Within(bounds_.Top, bounds_.Height, area.Top, area.Bottom()));
 }
 
 void Form::Drag() {

@@ -27,6 +27,17 @@ struct Rect {
   return std::max(std::min(to, otherTo) - std::max(from, otherFrom), 0);
 }
 
+/// The size of the area that two rectangles share, in square twips.
+[[nodiscard]] inline double SharedArea(const Rect& one, const Rect& other) {
+  return double(Overlap(one.Left, one.Right(), other.Left, other.Right())) *
+         Overlap(one.Top, one.Bottom(), other.Top, other.Bottom());
+}
+
+/// The start nearest to `wanted` at which a length fits into a range; the start of the range if it is too long.
+[[nodiscard]] inline Twips Within(Twips wanted, Twips length, Twips from, Twips to) {
+  return std::max(std::min(wanted, to - length), from);
+}
+
 /// The space kept free at the sides of something, in twips.
 struct Margins {
   Twips Left = 0;

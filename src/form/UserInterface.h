@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "form/Form.h"
@@ -36,7 +37,11 @@ class UserInterface {
   virtual void StopTimer(Timer& timer) = 0;
 
   /// Ends the program: removes the windows of all forms and makes Run and every RunModal return. Runs no handlers.
-  void End();
+  void End() {
+    if (std::exchange(ended_, true)) return;
+    for (Form* form : forms_) form->TakeWindowAway();
+    WakeUp();
+  }
   [[nodiscard]] bool Ended() const { return ended_; }
 
   /// The form that is modal now; null for none.

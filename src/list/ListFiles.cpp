@@ -75,18 +75,14 @@ void ListFiles::LoadLaunchList(const LaunchList& list) {
   const service::ManyFileCalls many(services_.FileSystem);
   listsWhole_ = true;
   machineRead_ = environment_.MachineRemembered;
-  for (const LaunchGroup group : {LaunchGroup::Web, LaunchGroup::File, LaunchGroup::Fold, LaunchGroup::Prog}) {
-    LoadGroupList(GroupOf(group), list.Of(group));
+  for (const LaunchGroup code : {LaunchGroup::Web, LaunchGroup::File, LaunchGroup::Fold, LaunchGroup::Prog}) {
+    const Group group = GroupOf(code);
+    const bool removable = group.MachineFile != nullptr;
+    LoadListFile(group, list.Of(code), group.File, group.Upper, removable);
+    if (removable && machineRead_) LoadListFile(group, list.Of(code), *group.MachineFile, *group.MachineUpper, false);
   }
   generation_.SetWhole(settingsWhole_ && listsWhole_);
   if (broken_) std::rethrow_exception(std::exchange(broken_, nullptr));
-}
-
-void ListFiles::LoadGroupList(const Group& group, const GroupBoxes& boxes) {
-  LoadListFile(group, boxes, group.File, group.Upper, group.MachineFile != nullptr);
-  if (group.MachineFile != nullptr && environment_.MachineRemembered) {
-    LoadListFile(group, boxes, *group.MachineFile, *group.MachineUpper, false);
-  }
 }
 
 void ListFiles::LoadListFile(const Group& group, const GroupBoxes& boxes, std::wstring_view path, int upper,
@@ -167,7 +163,7 @@ void ListFiles::SaveLaunchList(const LaunchList& list, form::Twips barLeft, form
     group.Upper = remembered ? CountMediaItems(group, split) : text::ToInt16(list.Of(code).Path.ListCount() - 1);
   }
   generation_.BeginSave(overUnread);
-  SaveSettings();
+  generation_.Write(environment_.Files.Set, EncodeText(WriteSettings(settings_), services_.Language));
   for (const LaunchGroup code : {LaunchGroup::Web, LaunchGroup::File, LaunchGroup::Fold, LaunchGroup::Prog}) {
     SaveGroupList(GroupOf(code), list.Of(code), splits.at(static_cast<std::size_t>(code)));
   }
@@ -190,10 +186,6 @@ ListFiles::Split ListFiles::SplitGroup(const Group& group, const GroupBoxes& box
 std::int16_t ListFiles::CountMediaItems(const Group& group, const Split& split) {
   *group.MachineUpper = text::ToInt16(static_cast<int>(split.Machine.size()) - 1);
   return text::ToInt16(static_cast<int>(split.Main.size()) - 1);
-}
-
-void ListFiles::SaveSettings() {
-  generation_.Write(environment_.Files.Set, EncodeText(WriteSettings(settings_), services_.Language));
 }
 
 void ListFiles::SaveGroupList(const Group& group, const GroupBoxes& boxes, const Split& split) {

@@ -50,7 +50,6 @@ class ListFiles {
   };
 
   [[nodiscard]] Group GroupOf(LaunchGroup group) const;
-  void LoadGroupList(const Group& group, const GroupBoxes& boxes);
   /// A failure ends the loading of this file only.
   void LoadListFile(const Group& group, const GroupBoxes& boxes, std::wstring_view path, int upper, bool onMedia);
   /// Returns false if the file holds fewer records than it should, or can't be read.
@@ -65,7 +64,6 @@ class ListFiles {
   [[nodiscard]] Split SplitGroup(const Group& group, const GroupBoxes& boxes) const;
   /// Returns the upper index of the group's items on the medium, and sets that of the items on the computer.
   std::int16_t CountMediaItems(const Group& group, const Split& split);
-  void SaveSettings();
   void SaveGroupList(const Group& group, const GroupBoxes& boxes, const Split& split);
 
   service::Services services_;

@@ -20,16 +20,6 @@ constexpr std::wstring_view Items =
 constexpr std::wstring_view CompanionLetter = L"\r\nr";
 constexpr std::wstring_view CompanionItem = L"\r\nOrbel's Program";
 
-template <class Entries, class WordOf>
-std::wstring Lines(const Entries& entries, WordOf wordOf) {
-  std::wstring lines;
-  for (const auto& entry : entries) {
-    if (!lines.empty()) lines += L"\r\n";
-    lines += wordOf(entry);
-  }
-  return lines;
-}
-
 std::wstring_view Itself(std::wstring_view word) { return word; }
 
 }  // namespace

@@ -46,17 +46,6 @@ constexpr Row Pressed[] = {{L"»   F1", L"unfolds the box that adds web sites"},
                            {L"×   F10", L"saves and exits"},
                            {L"F12", L"empties the line"}};
 
-/// One column of the rows, one line each.
-std::wstring Lines(std::span<const Row> rows, std::wstring_view Row::*side, bool companions) {
-  std::wstring lines;
-  for (const Row& row : rows) {
-    if (row.ForCompanions && !companions) continue;
-    if (!lines.empty()) lines += L"\r\n";
-    lines += row.*side;
-  }
-  return lines;
-}
-
 }  // namespace
 
 HelpPage::HelpPage(frmChoose& form, const PanelContext& context)
@@ -90,10 +79,13 @@ HelpPage::HelpPage(frmChoose& form, const PanelContext& context)
 
 void HelpPage::Prepare() {
   const bool companions = !environment_.Companions.empty();
-  typing_.Left.SetCaption(Lines(Typed, &Row::Keys, companions));
-  typing_.Right.SetCaption(Lines(Typed, &Row::Meaning, companions));
-  buttons_.Left.SetCaption(Lines(Pressed, &Row::Keys, companions));
-  buttons_.Right.SetCaption(Lines(Pressed, &Row::Meaning, companions));
+  const auto column = [=](std::span<const Row> rows, std::wstring_view Row::*side) {
+    return Lines(rows, [=](const Row& row) { return row.ForCompanions && !companions ? L"" : row.*side; });
+  };
+  typing_.Left.SetCaption(column(Typed, &Row::Keys));
+  typing_.Right.SetCaption(column(Typed, &Row::Meaning));
+  buttons_.Left.SetCaption(column(Pressed, &Row::Keys));
+  buttons_.Right.SetCaption(column(Pressed, &Row::Meaning));
   TextHelpFolder.SetText(environment_.DataFolder);
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <deque>
+#include <string>
 #include <string_view>
 
 #include "form/Static.h"
@@ -17,6 +18,18 @@ class PageText {
  private:
   std::deque<form::Label> labels_;
 };
+
+/// The texts of entries as lines, without the empty ones.
+template <class Entries, class TextOf>
+std::wstring Lines(const Entries& entries, TextOf textOf) {
+  std::wstring lines;
+  for (const auto& entry : entries) {
+    const std::wstring_view text = textOf(entry);
+    if (!text.empty() && !lines.empty()) lines += L"\r\n";
+    lines += text;
+  }
+  return lines;
+}
 
 inline constexpr form::Twips UnderHead = 45;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -12,6 +13,11 @@ namespace vantor::text {
 }
 
 /// A text for display, in which each such mark is replaced by a visible character.
-[[nodiscard]] std::wstring WithSignsForMarks(std::wstring_view text);
+[[nodiscard]] inline std::wstring WithSignsForMarks(std::wstring_view text) {
+  constexpr wchar_t Sign = 0xFFFD;  // the replacement character
+  std::wstring shown(text);
+  std::replace_if(shown.begin(), shown.end(), IsDirectionMark, Sign);
+  return shown;
+}
 
 }  // namespace vantor::text

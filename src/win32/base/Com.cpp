@@ -1,6 +1,5 @@
 #include "win32/base/Com.h"
 
-#include <limits>
 #include <new>
 #include <vector>
 
@@ -23,11 +22,6 @@ bool MeansLacking(HRESULT result) {
     default:
       return false;
   }
-}
-
-UINT BstrLength(std::wstring_view text) {
-  if (text.size() > std::numeric_limits<UINT>::max() / sizeof(wchar_t) / 2) throw std::bad_alloc();
-  return static_cast<UINT>(text.size());
 }
 
 }  // namespace
@@ -69,7 +63,7 @@ void Apartment::Enter() {
 }
 
 ComText MakeComText(std::wstring_view text) {
-  ComText made(SysAllocStringLen(text.data(), BstrLength(text)));
+  ComText made(SysAllocStringLen(text.data(), static_cast<UINT>(text.size())));
   if (!made) throw std::bad_alloc();
   return made;
 }

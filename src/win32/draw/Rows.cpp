@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <climits>
 #include <cmath>
+#include <string>
 #include <vector>
 
+#include "text/DirectionMarks.h"
 #include "win32/draw/Text.h"
 
 namespace vantor::win32 {
@@ -54,7 +56,7 @@ Measured Measure(HDC dc, const std::wstring& text, int room) {
 void DrawMarked(Canvas& canvas, const form::Row& row, const RECT& area, HFONT font, COLORREF textColor, COLORREF mark,
                 double scale) {
   const HDC dc = canvas.Dc();
-  const HGDIOBJ oldFont = SelectObject(dc, font);
+  const Selected selected(dc, font);
   SetBkMode(dc, TRANSPARENT);
   SetTextColor(dc, textColor);
   TEXTMETRICW metrics{};
@@ -62,7 +64,6 @@ void DrawMarked(Canvas& canvas, const form::Row& row, const RECT& area, HFONT fo
   const Measured text = Measure(dc, row.Text, area.right - area.left);
   const int top = (canvas.Height() - metrics.tmHeight) / 2;
   DrawPlaced(dc, area.left, top, text.Text);
-  SelectObject(dc, oldFont);
   const auto endOf = [&](std::size_t count) {
     return count == 0 || text.Ends.empty() ? 0 : text.Ends[std::min(count, text.Ends.size()) - 1];
   };
@@ -73,7 +74,58 @@ void DrawMarked(Canvas& canvas, const form::Row& row, const RECT& area, HFONT fo
   canvas.Shade({double(area.left + from), line, double(to - from), thickness}, mark, mark);
 }
 
+/// Shortens a web address that is too wide by leaving out a part after the host. Other texts are unchanged.
+std::wstring ShortAddress(const std::wstring& text, HFONT font, int room) {
+  const std::size_t scheme = text.find(L"://");
+  const std::size_t host = scheme != std::wstring::npos ? text.find(L'/', scheme + 3) : std::wstring::npos;
+  if (host == std::wstring::npos || TextSize(text, font).cx <= room) return text;
+  const std::wstring head = text.substr(0, host + 1) + L"\u2026";
+  const int left = room - TextSize(head, font).cx;
+  std::size_t fits = 0;  // characters of the end
+  for (std::size_t most = text.size() - host - 1; fits < most;) {
+    const std::size_t middle = (fits + most + 1) / 2;
+    if (TextSize(std::wstring_view(text).substr(text.size() - middle), font).cx <= left) {
+      fits = middle;
+    } else {
+      most = middle - 1;
+    }
+  }
+  return fits > 0 ? head + text.substr(text.size() - fits) : text;
+}
+
+/// The format of a text on one line, which is shortened with an ellipsis, a path in the middle.
+UINT OneLine(std::wstring_view text) {
+  const bool isPath = text.find(L'\\') != text.npos;
+  return DT_SINGLELINE | DT_VCENTER | static_cast<UINT>(isPath ? DT_PATH_ELLIPSIS : DT_END_ELLIPSIS);
+}
+
 }  // namespace
+
+int RowHeight(HFONT font, double scale) { return TextHeight(font) + static_cast<int>(std::lround(3 * scale)); }
+
+int RowMargin(double scale) { return static_cast<int>(std::lround(4 * scale)); }
+
+void DrawRow(const DRAWITEMSTRUCT& item, const ListRow& row, COLORREF background, HFONT font, const Theme& theme,
+             double scale) {
+  const Palette& colors = theme.Colors();
+  const bool selected = (item.itemState & ODS_SELECTED) != 0;
+  COLORREF color = theme.TextColor(row.TextColor, row.Enabled, background);
+  if (selected && row.Enabled) {
+    background = colors.Open.Fill;
+    color = colors.Open.Text;
+  }
+  FillRect(item.hDC, &item.rcItem, theme.Brush(background));
+  RECT area = item.rcItem;
+  InflateRect(&area, -RowMargin(scale), 0);
+  area.left += row.Indent;
+  DrawPlainText(item.hDC, ShortAddress(text::WithSignsForMarks(row.Text), font, area.right - area.left), area, font,
+                color, OneLine(row.Text));
+  if ((item.itemState & ODS_FOCUS) != 0 && (item.itemState & ODS_NOFOCUSRECT) == 0) {
+    SetTextColor(item.hDC, RGB(0, 0, 0));
+    SetBkColor(item.hDC, RGB(255, 255, 255));
+    DrawFocusRect(item.hDC, &item.rcItem);
+  }
+}
 
 void DrawMarkedRow(Canvas& canvas, const form::Row& row, RowState state, COLORREF background, COLORREF textColor,
                    const Theme& theme, int dpi) {
@@ -105,12 +157,9 @@ void DrawMarkedRow(Canvas& canvas, const form::Row& row, RowState state, COLORRE
   // If both are too long, the text gets more than half of the width.
   const LONG room = std::max((right - left) * 3 / 5, right - left - detailWidth);
   const LONG textEnd = left + std::min(textWidth, room);
-  constexpr UINT OneLine = DT_SINGLELINE | DT_VCENTER;
   DrawMarked(canvas, row, {left, 0, textEnd, canvas.Height()}, font, textColor, mark, scale);
-  const bool isPath = row.Detail.find(L'\\') != row.Detail.npos;
   canvas.Text(row.Detail, {textEnd + gap, 0, right, canvas.Height()}, small,
-              colors.HighContrast ? textColor : Mix(textColor, background, Faintness),
-              OneLine | static_cast<UINT>(isPath ? DT_PATH_ELLIPSIS : DT_END_ELLIPSIS));
+              colors.HighContrast ? textColor : Mix(textColor, background, Faintness), OneLine(row.Detail));
 }
 
 }  // namespace vantor::win32

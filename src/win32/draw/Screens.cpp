@@ -19,10 +19,7 @@ Function FindInUser32(const char* name) {
 }
 
 int PlainSystemDpi() {
-  static const int dpi = [] {
-    const int found = GetDeviceCaps(WindowDc(nullptr).Get(), LOGPIXELSX);
-    return found > 0 ? found : 96;
-  }();
+  static const int dpi = GetDeviceCaps(WindowDc(nullptr).Get(), LOGPIXELSX);
   return dpi;
 }
 
@@ -116,8 +113,7 @@ Screens::Monitor Screens::Best(const form::Rect& place) const {
   Monitor best = Describe(handles.empty() ? PrimaryMonitor() : handles.front());
   const auto score = [&](const Monitor& monitor) {
     const form::Rect& area = monitor.Twips;
-    const double shared = double(form::Overlap(place.Left, place.Right(), area.Left, area.Right())) *
-                          form::Overlap(place.Top, place.Bottom(), area.Top, area.Bottom());
+    const double shared = form::SharedArea(place, area);
     if (shared > 0) return shared;
     return -double(Gap(place.Left, place.Right(), area.Left, area.Right())) -
            Gap(place.Top, place.Bottom(), area.Top, area.Bottom());

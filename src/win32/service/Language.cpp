@@ -3,7 +3,6 @@
 #include <windows.h>
 
 #include <algorithm>
-#include <limits>
 
 namespace vantor::win32 {
 
@@ -21,7 +20,7 @@ std::wstring Map(std::wstring_view text, DWORD mapping, wchar_t first, wchar_t l
     plain = plain && character < 128;
   }
   // This is the end for most names; a thousand of them take less time than one call to the system.
-  if (plain || text.size() > std::numeric_limits<int>::max()) return mapped;
+  if (plain) return mapped;
   const int length = static_cast<int>(text.size());
   LCMapStringW(LOCALE_USER_DEFAULT, mapping, text.data(), length, mapped.data(), length);
   return mapped;

@@ -162,31 +162,36 @@ class Accessible final : public ComObject<IAccessible, IID_IDispatch, IID_IAcces
     return window->DescribePart(child.lVal);
   }
 
-  template <class Member, class Otherwise>
-  HRESULT Tell(const VARIANT& child, Member member, BSTR* text, const Otherwise& otherwise) const {
+  /// Answers by what is known of the window or the part, or otherwise by the system's object.
+  template <class Answer, class Otherwise>
+  HRESULT Give(const VARIANT& child, const Answer& answer, const Otherwise& otherwise) const {
     try {
       const std::optional<AccessibleState> state = Read(child);
-      if (!state) return otherwise();
-      const std::wstring told = *state.*member;
-      *text = told.empty() ? nullptr : MakeComText(told).Release();
-      return told.empty() ? S_FALSE : S_OK;
+      return state ? answer(*state) : otherwise();
     } catch (const std::bad_alloc&) {
       return E_OUTOFMEMORY;
     }
   }
 
+  template <class Member, class Otherwise>
+  HRESULT Tell(const VARIANT& child, Member member, BSTR* text, const Otherwise& otherwise) const {
+    const auto answer = [&](const AccessibleState& state) {
+      const std::wstring told = state.*member;
+      *text = told.empty() ? nullptr : MakeComText(told).Release();
+      return told.empty() ? S_FALSE : S_OK;
+    };
+    return Give(child, answer, otherwise);
+  }
+
   template <class Otherwise>
   HRESULT Count(const VARIANT& child, long AccessibleState::*member, VARIANT* number,
                 const Otherwise& otherwise) const {
-    try {
-      const std::optional<AccessibleState> state = Read(child);
-      if (!state) return otherwise();
+    const auto answer = [&](const AccessibleState& state) {
       number->vt = VT_I4;
-      number->lVal = *state.*member;
+      number->lVal = state.*member;
       return S_OK;
-    } catch (const std::bad_alloc&) {
-      return E_OUTOFMEMORY;
-    }
+    };
+    return Give(child, answer, otherwise);
   }
 
   HWND window_;

@@ -9,7 +9,7 @@
 
 #include "form/Scoped.h"
 #include "win32/draw/Areas.h"
-#include "win32/draw/ListRow.h"
+#include "win32/draw/Rows.h"
 
 namespace vantor::win32 {
 

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "form/Scoped.h"
-#include "win32/draw/ListRow.h"
+#include "win32/draw/Rows.h"
 
 namespace vantor::win32 {
 
