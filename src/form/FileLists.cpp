@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "form/Form.h"
 #include "text/Ascii.h"
 #include "text/Path.h"
 
@@ -75,12 +76,12 @@ bool FolderList::SetPath(std::wstring_view path) {
   if (folder == path_) return true;
   if (!files_.DriveReady(folder) || !files_.FolderExists(folder)) return false;
   path_ = std::move(folder);
-  Fill();
+  Fill(OwnerForm().Visible());
   Change();
   return true;
 }
 
-void FolderList::Refresh() { Fill(); }
+void FolderList::Refresh() { Fill(true); }
 
 std::wstring FolderList::PathOf(int index) const {
   if (index > currentIndex_) return Join(path_, List(index));
@@ -95,7 +96,7 @@ void FolderList::EntryChosen() {
   if (!SetPath(PathOf(ListIndex()))) Unreachable();
 }
 
-void FolderList::Fill() {
+void FolderList::Fill(bool read) {
   const std::size_t drive = text::DriveName(path_).size();
   const std::size_t rootEnd = drive == 2 ? 3 : drive;
   std::vector<std::wstring> entries{path_.substr(0, rootEnd)};
@@ -105,7 +106,9 @@ void FolderList::Fill() {
     start = end + 1;
   }
   currentIndex_ = static_cast<int>(entries.size()) - 1;
-  for (std::wstring& name : files_.Folders(path_)) entries.push_back(std::move(name));
+  if (read) {
+    for (std::wstring& name : files_.Folders(path_)) entries.push_back(std::move(name));
+  }
   ReplaceEntries(std::move(entries));
   listIndex_ = currentIndex_;
   NotifyWindow(Property::ListIndex);

@@ -48,7 +48,7 @@ class FolderList : public OpenList {
   /// The current folder; a trailing backslash only at a drive's root.
   [[nodiscard]] const std::wstring& Path() const { return path_; }
   /// Goes to a folder and raises Change, unless it is the current one. Returns false and changes nothing if the drive
-  /// is not ready or there is no such folder.
+  /// is not ready or there is no such folder. While the form is hidden, the subfolders are not read: Refresh does that.
   bool SetPath(std::wstring_view path);
   void Refresh();
   /// The full path of entry `index`.
@@ -64,8 +64,8 @@ class FolderList : public OpenList {
   void EntryChosen() override;
 
  private:
-  /// Fills the list for the current folder and selects that folder's entry.
-  void Fill();
+  /// Fills the list for the current folder, with its subfolders if they are to be read, and selects the folder's entry.
+  void Fill(bool read);
 
   service::FileSystem& files_;
   std::wstring path_;

@@ -42,12 +42,13 @@ class FileSystem {
   /// the folder. True if this can't be determined.
   [[nodiscard]] virtual bool OthersMayWrite(std::wstring_view path) = 0;
 
-  /// Between these two calls, one object answers all questions instead of a new one each. They may be nested.
+  /// Between these two calls, one object answers all questions instead of a new one each, and a drive is asked for its
+  /// type once. They may be nested.
   virtual void BeginMany() {}
   virtual void EndMany() {}
 };
 
-/// Keeps one file-system object for the duration of a load or a save.
+/// Keeps one file-system object for the duration of a start, a load or a save.
 class ManyFileCalls {
  public:
   explicit ManyFileCalls(FileSystem& files) : files_(files) { files_.BeginMany(); }

@@ -15,11 +15,12 @@
 namespace vantor::start {
 
 void ActiveStart::Run() {
+  files_.emplace(program_.Services.FileSystem);
   using Step = void (ActiveStart::*)();
-  for (const Step step :
-       {&ActiveStart::CheckScreen, &ActiveStart::FindPreviousInstance, &ActiveStart::FindPlaces,
-        &ActiveStart::ChooseRunMode, &ActiveStart::PrepareData, &ActiveStart::AskForName, &ActiveStart::LoadState,
-        &ActiveStart::LookForCompanions, &ActiveStart::ShowForms, &ActiveStart::TellWhereSaved}) {
+  for (const Step step : {&ActiveStart::CheckScreen, &ActiveStart::FindPreviousInstance, &ActiveStart::FindPlaces,
+                          &ActiveStart::ChooseRunMode, &ActiveStart::PrepareData, &ActiveStart::AskForName,
+                          &ActiveStart::LoadState, &ActiveStart::LookForCompanions, &ActiveStart::LoadForms,
+                          &ActiveStart::ShowBar, &ActiveStart::TellWhereSaved}) {
     (this->*step)();
     if (program_.Ui.Ended()) return;
   }
@@ -119,13 +120,14 @@ void ActiveStart::LookForCompanions() {
                          [&] { environment.Companions = FindCompanions(program_.Services, environment); });
 }
 
-void ActiveStart::ShowForms() {
-  {
-    const service::ManyFileCalls many(program_.Services.FileSystem);
-    program_.frmMain.Load();
-    program_.frmBrowse.Load();
-    program_.frmChoose.Load();
-  }
+void ActiveStart::LoadForms() {
+  program_.frmMain.Load();
+  program_.frmBrowse.Load();
+  program_.frmChoose.Load();
+  files_.reset();
+}
+
+void ActiveStart::ShowBar() {
   program_.frmMain.Show();
   if (program_.Environment.FirstStart) program_.Messages.ShowListMessage(message::MessageFisrtStart);
 }

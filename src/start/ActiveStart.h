@@ -1,6 +1,9 @@
 #pragma once
 
+#include <optional>
+
 #include "message/MessageKey.h"
+#include "service/FileSystem.h"
 
 namespace vantor::start {
 
@@ -26,12 +29,14 @@ class ActiveStart {
   void LoadName();
   void LoadState();
   void LookForCompanions();
-  void ShowForms();
+  void LoadForms();
+  void ShowBar();
   void TellWhereSaved();
 
   void Stop(message::MessageKey key);
 
   Program& program_;
+  std::optional<service::ManyFileCalls> files_;  // until the forms are loaded
   bool canSave_ = true;
   bool nameUnread_ = false;  // there may be a name, which must not be replaced
 };

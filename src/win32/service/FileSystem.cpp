@@ -107,15 +107,18 @@ bool FileSystem::Available() {
   }
 }
 
-std::optional<int> FileSystem::DriveType(std::wstring_view root) {
+std::optional<int> FileSystem::DriveType(std::wstring_view path) {
+  const std::wstring root = RootOf(path);
   try {
     const auto drive = GetDrive(root);
+    if (root == asked_.Root && asked_.Type) return asked_.Type;
     int type = 0;
     Check(drive->get_DriveType(&type));
+    if (many_ > 0) asked_.Type = type;
     return type;
   } catch (const ComError& error) {
     if (!error.Lacking()) return std::nullopt;
-    return PlainDriveType(RootOf(root));
+    return PlainDriveType(root);
   }
 }
 
@@ -184,6 +187,7 @@ void FileSystem::EndMany() {
   if (--many_ > 0) return;
   held_.Reset();
   missing_ = false;
+  asked_ = {};
 }
 
 FileSystem::Object FileSystem::Make() {
@@ -205,11 +209,14 @@ FileSystem::Object FileSystem::Make() {
 }
 
 ComPointer<scripting::IDrive> FileSystem::GetDrive(std::wstring_view path) {
+  std::wstring root = RootOf(path);
+  if (asked_.Drive && root == asked_.Root) return asked_.Drive.Share();
   const Object object = Make();
   ComText name;
   ComPointer<scripting::IDrive> drive;
   Check(object->GetDriveName(MakeComText(path).Get(), name.Put()));
   Check(object->GetDrive(name.Get(), drive.Put()));
+  if (many_ > 0) asked_ = {std::move(root), drive.Share(), std::nullopt};
   return drive;
 }
 

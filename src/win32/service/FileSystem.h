@@ -17,7 +17,7 @@ class FileSystem final : public service::FileSystem {
   explicit FileSystem(Apartment& apartment) : apartment_(apartment) {}
 
   [[nodiscard]] bool Available() override;
-  [[nodiscard]] std::optional<int> DriveType(std::wstring_view root) override;
+  [[nodiscard]] std::optional<int> DriveType(std::wstring_view path) override;
   [[nodiscard]] bool FileExists(std::wstring_view path) override;
   [[nodiscard]] bool FolderExists(std::wstring_view path) override;
   [[nodiscard]] std::wstring ExtensionName(std::wstring_view path) override;
@@ -45,6 +45,11 @@ class FileSystem final : public service::FileSystem {
   int many_ = 0;
   Object held_;           // between BeginMany and EndMany, from the first call on
   bool missing_ = false;  // in that time: there is no such object, and it is not asked for again
+  struct {
+    std::wstring Root;
+    ComPointer<scripting::IDrive> Drive;
+    std::optional<int> Type;
+  } asked_;  // in that time: the drive that was last asked for
 };
 
 }  // namespace vantor::win32
