@@ -27,7 +27,6 @@ AddWebBox::AddWebBox(form::Form& bar, panel::PanelHost& host, const list::Launch
                      const service::Language& language, message::Messages& messages)
     : FrameWeb(bar, L"FrameWeb"),
       FrameAddedInfo(bar, L"FrameAddedInfo"),
-      PictureNo(bar, L"PictureNo"),
       host_(host),
       list_(list),
       language_(language),

@@ -22,8 +22,8 @@ class AddWebBox {
   form::Label LabelWebName{FrameWeb, L"LabelWebName"};
   form::TextBox TextWebName{FrameWeb, L"TextWebName"};
   form::CommandButton CommandAddWeb{FrameWeb, L"CommandAddWeb"};
+  form::PictureBox PictureNo{FrameWeb, L"PictureNo"};  // takes the focus from the button that was pressed
   form::Frame FrameAddedInfo;
-  form::PictureBox PictureNo;  // takes the focus from the button that was pressed
 
   /// The height needed to show the texts, in twips.
   [[nodiscard]] form::Twips LeastHeight() const;

@@ -6,10 +6,11 @@
 
 namespace vantor::win32 {
 
-void FormDrops::BeginLater() const { PostMessageW(owner_.Hwnd(), BeginMessage, 0, 0); }
+void FormDrops::BeginLater() const { SetTimer(owner_.Hwnd(), BeginTimer, 0, nullptr); }
 
-bool FormDrops::OnMessage(UINT message) {
-  if (message == BeginMessage) {
+bool FormDrops::OnMessage(UINT message, WPARAM wParam) {
+  if (message == WM_TIMER && wParam == BeginTimer) {
+    KillTimer(owner_.Hwnd(), BeginTimer);
     Begin();
   } else if (message == DroppedMessage) {
     Take();

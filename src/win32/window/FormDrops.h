@@ -11,19 +11,20 @@ namespace vantor::win32 {
 
 class FormWindow;
 
-/// Handles drops on a form's window. Both steps are deferred by messages that the window posts to itself.
+/// Handles drops on a form's window. Both steps are deferred by messages that the window sends itself.
 class FormDrops {
  public:
-  static constexpr UINT BeginMessage = WM_APP + 1;
-  static constexpr UINT DroppedMessage = WM_APP + 2;
+  static constexpr UINT_PTR BeginTimer = 1;
+  static constexpr UINT DroppedMessage = WM_APP + 1;
 
   explicit FormDrops(FormWindow& owner) : owner_(owner) {}
 
-  /// Makes the window accept drops once the form has been shown, because registering takes some time.
+  /// Makes the window accept drops once the form has been shown and has nothing else to do, because registering takes
+  /// some time.
   void BeginLater() const;
   void End() { registration_.reset(); }
   /// Handles the two messages. Returns false for any other.
-  bool OnMessage(UINT message);
+  bool OnMessage(UINT message, WPARAM wParam);
 
  private:
   void Begin();

@@ -18,7 +18,7 @@ Desktop::Desktop() {
   description.hInstance = GetModuleHandleW(nullptr);
   description.lpszClassName = ApplicationClass;
   RegisterClassW(&description);
-  application_.Reset(CreateWindowExW(0, ApplicationClass, L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr,
+  application_.Reset(CreateWindowExW(0, ApplicationClass, L"", WS_POPUP | WS_SYSMENU, 0, 0, 0, 0, nullptr, nullptr,
                                      description.hInstance, nullptr));
   SetWindowLongPtrW(application_.Get(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   SetPropW(application_.Get(), ApplicationMark, application_.Get());
