@@ -12,9 +12,16 @@ FormControls::FormControls(FormWindow& owner) : owner_(owner) {
 
 FormControls::~FormControls() = default;
 
+void FormControls::MakeFirst(form::Control& control) {
+  if (control.Container() != nullptr) MakeFirst(*control.Container());
+  if (control.Window() == &pending_ && control.Visible()) {
+    windows_.push_back(win32::ControlWindow::Make(owner_, control));
+  }
+}
+
 void FormControls::Make(const form::Control* container) {
   const std::vector<form::Control*>& controls = owner_.Form().Controls();
-  const bool others = std::any_of(controls.begin(), controls.end(), [&](const form::Control* control) {
+  auto behind = std::count_if(controls.begin(), controls.end(), [&](const form::Control* control) {
     return control->Container() == container && win32::ControlWindow::Of(control) != nullptr;
   });
   // From front to back, because the system puts a new window behind its siblings.
@@ -24,9 +31,11 @@ void FormControls::Make(const form::Control* container) {
     if (control->Container() != container) continue;
     if (control->Window() == &pending_ && control->Visible()) {
       windows_.push_back(win32::ControlWindow::Make(owner_, *control));
-      if (others) {
+      if (behind > 0) {
         SetWindowPos(windows_.back()->Hwnd(), before, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
       }
+    } else if (win32::ControlWindow::Of(control) != nullptr) {
+      --behind;
     }
     if (const auto* window = win32::ControlWindow::Of(control)) before = window->Hwnd();
   }
