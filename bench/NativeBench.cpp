@@ -1,4 +1,4 @@
-// What the launch list costs at several sizes, up to the greatest, compared with the least that the same work can cost.
+// What the launch list costs at several sizes, up to the maximum, compared with the minimum cost of the same work.
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -41,7 +41,7 @@ class RealDataFiles : public service::DataFiles {
     (void)std::fclose(file);
     return {std::move(bytes)};
   }
-  /// Beside the old file, to the disk, and then over the old one.
+  /// Writes next to the old file, flushes to the disk, and then replaces the old file.
   bool Write(std::wstring_view path, std::string_view bytes) override {
     const std::wstring beside = std::wstring(path) + L'~';
     return WriteInPlace(beside, bytes) && std::rename(Narrow(beside).c_str(), Narrow(path).c_str()) == 0;
@@ -96,8 +96,8 @@ class AsciiLanguage : public service::Language {
   std::optional<std::string> ToCodePage(std::wstring_view text) const override { return Narrow(text); }
 };
 
-/// Milliseconds that the quickest of some runs takes, which is the one least disturbed by other programs; `prepare`
-/// is not counted.
+/// The milliseconds of the fastest of several runs, which is the one least disturbed by other programs; `prepare` is
+/// not counted.
 double Quickest(int runs, const std::function<void()>& prepare, const std::function<void()>& work) {
   using Clock = std::chrono::steady_clock;
   double quickest = 1e9;
@@ -114,12 +114,12 @@ void Print(const char* what, double ours, const char* floorName, double floor) {
   std::printf("%-48s %9.3f ms   %-36s %9.3f ms   ratio %5.2f\n", what, ours, floorName, floor, ours / floor);
 }
 
-/// What the optimiser must not take away.
+/// Keeps the optimiser from removing a result.
 volatile std::size_t result = 0;
 
-/// A program's state, and folders and files for it.
+/// The state of a program, and folders and files for it.
 struct Bench {
-  /// `count`: items of each group.
+  /// `count`: the number of items in each group.
   Bench(const std::wstring& folder, int count) : Count(count) {
     Environment.Files = {folder + L"/Set.Orbel",      L"",
                          folder + L"/ListFile.Orbel", folder + L"/ListFold.Orbel",
@@ -160,7 +160,7 @@ struct Bench {
   bar::frmMain& Main = Program.frmMain;
 };
 
-/// Milliseconds of a keystroke: until the line is painted, and until the list of what fits is there, too.
+/// The milliseconds of a keystroke until the line is painted, and until the list of matches is shown as well.
 struct Keystroke {
   double Painted;
   double Listed;
@@ -193,7 +193,7 @@ Keystroke TimeKeystroke(Bench& bench, const std::wstring& line) {
   return {painted, listed};
 }
 
-/// Every place of every name at which the text may stand, once.
+/// Compares the text with every place in every name once.
 double TimePass(const std::vector<std::wstring>& names, const std::wstring& text, bool everywhere) {
   return Quickest(
       501, [] {},
@@ -214,11 +214,11 @@ double TimePass(const std::vector<std::wstring>& names, const std::wstring& text
 void Keystrokes(Bench& bench) {
   bench.Main.Show();
   const auto& names = bench.Page.ComboListWebName.Entries();
-  // The match is the last name, and the others differ from it only in their last characters.
+  // The last name matches, and the others differ from it only in their last characters.
   const std::wstring last = bench.Language.Lower(names.back());
   const Keystroke one = TimeKeystroke(bench, L"w-" + last);
   if (bench.State.MatchedItemIndex != bench.Count - 1) std::exit(1);
-  // No name begins with it, and a good third contain it.
+  // No name begins with it, and more than a third contain it.
   const Keystroke many = TimeKeystroke(bench, L"w-6");
   if (!bench.Matches.Visible()) std::exit(1);
   const double beginnings = TimePass(names, last, false);
@@ -229,7 +229,7 @@ void Keystrokes(Bench& bench) {
   Print("keystroke that a third contain, with the list", many.Listed, "bare pass over all places", manyPlaces);
 }
 
-/// The list panel over full groups: each of these is to seem immediate, and none may take 100 ms.
+/// The list panel with full groups: each of these should seem immediate, so none should take 100 ms.
 void ListPanel(Bench& bench) {
   list::GroupFrame& group = bench.Page.Prog;
   const auto print = [](const char* what, double time) { std::printf("%-48s %9.3f ms\n", what, time); };
@@ -254,7 +254,7 @@ void LoadAndSave(Bench& bench) {
   const auto save = [&] { bench.ListFiles.SaveLaunchList(bench.Page.List, 0, 0); };
   const double unchanged = Quickest(
       41, [] {}, save);
-  // Every file gets other bytes, and so the kept generation does.
+  // Every file gets different bytes, and so does the kept generation.
   wchar_t mark = L'a';
   const auto change = [&] {
     mark = mark == L'a' ? L'b' : L'a';

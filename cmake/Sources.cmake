@@ -1,4 +1,4 @@
-# The one list of sources. Every tool chain, the formatter and the linter read it from here.
+# The only list of sources, used by every tool chain.
 
 set(VANTOR_CORE_FOLDERS text state form service message list command panel bar add options start)
 set(VANTOR_UNIT_TEST_FOLDERS ${VANTOR_CORE_FOLDERS} contract)
@@ -36,7 +36,7 @@ vantor_glob(VANTOR_FLOWS tests/flows/*.txt)
 set(VANTOR_FLOW_PLAYER "${PROJECT_SOURCE_DIR}/tests/flows/Main.cpp" "${PROJECT_SOURCE_DIR}/tests/flows/Player.cpp")
 set(VANTOR_NATIVE_WORLD "${PROJECT_SOURCE_DIR}/tests/flows/NativeWorld.cpp")
 
-# By which tests in C++ and the fuzzers play steps, too.
+# Tests in C++ and the fuzzers also use these to play steps.
 set(VANTOR_FAKE_SOURCES "${PROJECT_SOURCE_DIR}/tests/flows/Player.cpp" "${VANTOR_NATIVE_WORLD}")
 vantor_glob(VANTOR_WIN32_TEST_SOURCES tests/win32/*.cpp)
 vantor_glob(VANTOR_CONTRACT_SOURCES tests/contract/*.cpp)

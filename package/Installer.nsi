@@ -1,17 +1,17 @@
-; The installer, for one user and without an administrator's rights: the program keeps its data in its own folder, so
-; that folder must be the user's. Built by CMake (target "installer"), which hands over the values in capitals.
+; The installer, for one user and without administrator rights: the program keeps its data in its own folder, so that
+; folder must belong to the user. Built by CMake (target "installer"), which passes the values in capitals.
 ;
-;   Vantor-2.0.0-setup.exe /S [/D=FOLDER]    installs or upgrades without a question; a running copy is closed, saves,
-;                                            and is started again
-;   Uninstall.exe /S [/DELETEDATA]           removes; the user's list and settings stay unless that is asked for
+;   Vantor-2.0.0-setup.exe /S [/D=FOLDER]    installs or upgrades without asking; a running copy is closed, which saves
+;                                            its data, and started again
+;   Uninstall.exe /S [/DELETEDATA]           uninstalls; the user's list and settings are deleted only with /DELETEDATA
 ;
-;   /DESKTOPSHORTCUT                         puts the shortcut on the desktop in a quiet installation too
+;   /DESKTOPSHORTCUT                         also creates the desktop shortcut in a silent installation
 ;
-; Exit code 0: done; 1: the user stopped it; 2: it could not be done, and an older copy is as it was.
+; Exit codes: 0: done; 1: cancelled by the user; 2: failed, and an older copy is unchanged.
 
 Unicode true
 SetCompressor /SOLID lzma
-SetDateSave off ; the same sources make the same installer
+SetDateSave off ; the same sources produce the same installer
 AllowSkipFiles off
 
 !include LogicLib.nsh
@@ -75,8 +75,8 @@ VIAddVersionKey "ProductVersion" "${VERSION}"
 
 Var WasRunning
 
-; Closes the copy that runs from $INSTDIR as the end of the Windows session does, so that it saves what it holds, and
-; waits for its end. $WasRunning tells whether there was one.
+; Closes the copy that is running from $INSTDIR in the same way as the end of a Windows session, so that it saves its
+; data, and waits for it to end. $WasRunning tells whether there was one.
 !macro CloseRunningCopy un
 Function ${un}CloseRunningCopy
   StrCpy $0 0
@@ -93,7 +93,7 @@ Function ${un}CloseRunningCopy
       SendMessage $0 ${WM_QUERYENDSESSION} 0 1 $4 /TIMEOUT=5000
       ${If} $4 <> 0
         SendMessage $0 ${WM_ENDSESSION} 1 1 /TIMEOUT=10000
-        ; It has saved before it answers; what is left takes no time.
+        ; It saves before it answers; the rest takes no time.
         System::Call 'kernel32::WaitForSingleObject(p r2, i 3000) i .r4'
         ${IfThen} $4 = 0 ${|} StrCpy $0 0 ${|} ; its window is gone, so the search starts again
       ${EndIf}
@@ -105,7 +105,7 @@ FunctionEnd
 !insertmacro CloseRunningCopy ""
 !insertmacro CloseRunningCopy "un."
 
-; Sets the error flag when $INSTDIR can't be written to.
+; Sets the error flag if $INSTDIR can't be written to.
 Function TryFolder
   ClearErrors
   CreateDirectory "$INSTDIR"
@@ -116,7 +116,7 @@ Function TryFolder
     SetErrors
   ${Else}
     Delete "$INSTDIR\Vantor.exe.new"
-    RMDir "$INSTDIR" ; fails where something is in it
+    RMDir "$INSTDIR" ; fails if it is not empty
     ClearErrors
   ${EndIf}
 FunctionEnd
@@ -135,14 +135,14 @@ Section "Vantor" SectionProgram
   ${IfThen} ${Errors} ${|} Abort "No right to write to $INSTDIR." ${|}
   ReadRegStr $R0 HKCU "${UNINSTALL_KEY}" "InstallLocation"
 
-  ; The new program lies beside the old one, whole, before that is touched.
+  ; The new program is completely written next to the old one before that is touched.
   SetOutPath "$INSTDIR"
   File "/oname=Vantor.exe.new" "${PROGRAM}"
   replace:
   Call CloseRunningCopy
   StrCpy $1 20
   ${Do}
-    ; MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH. What looks into a new file can hold it for a moment.
+    ; MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH. A scanner may hold a new file for a moment.
     System::Call 'kernel32::MoveFileExW(w "$INSTDIR\Vantor.exe.new", w "$INSTDIR\Vantor.exe", i 9) i .r0'
     ${IfThen} $0 <> 0 ${|} ${Break} ${|}
     Sleep 100
@@ -157,7 +157,7 @@ Section "Vantor" SectionProgram
   File "${NOTICES}"
   WriteUninstaller "$INSTDIR\Uninstall.exe"
 
-  ; A start-menu entry that the user removed stays away.
+  ; A start-menu entry that the user has removed is not created again.
   ${If} $R0 == ""
   ${OrIf} ${FileExists} "$SMPROGRAMS\Vantor.lnk"
     CreateShortcut "$SMPROGRAMS\Vantor.lnk" "$INSTDIR\Vantor.exe" "" "" "" "" "" "${DESCRIPTION}"
@@ -177,14 +177,14 @@ Section "Vantor" SectionProgram
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoModify" 1
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoRepair" 1
 
-  ; With a person before it, the last page asks.
+  ; In an interactive installation, the last page asks.
   ${If} ${Silent}
   ${AndIf} $WasRunning = 1
     Exec '"$INSTDIR\Vantor.exe"'
   ${EndIf}
 SectionEnd
 
-; The same file, with the same properties, as "Create Desktop Shortcut" of the preferences makes.
+; The same file with the same properties as "Create Desktop Shortcut" in the preferences creates.
 Section "Shortcut on the desktop (Ctrl+Shift+L)" SectionShortcut
   SetOutPath "$INSTDIR" ; where the program starts
   CreateShortcut "$DESKTOP\Vantor.lnk" "$INSTDIR\Vantor.exe" "" "$INSTDIR\Vantor.exe" 0 SW_SHOWNORMAL CONTROL|SHIFT|L "Vantor"
@@ -192,7 +192,7 @@ SectionEnd
 
 Function .onInit
   StrCpy $WasRunning 0
-  ; Without a person before it only who asks gets the shortcut; and one that the user removed stays away.
+  ; A silent installation creates the shortcut only on request; one that the user has removed is not created again.
   ReadRegStr $0 HKCU "${UNINSTALL_KEY}" "InstallLocation"
   ${If} ${Silent}
     !insertmacro UnselectSection ${SectionShortcut}
@@ -208,7 +208,7 @@ Function .onInit
   ${EndIf}
 FunctionEnd
 
-; Removes the shortcut that the setup or the preferences page makes, when it leads here.
+; Removes the shortcut that the setup or the preferences page creates, if it leads here.
 Function un.RemoveDesktopShortcut
   !insertmacro ComHlpr_CreateInProcInstance ${CLSID_ShellLink} ${IID_IShellLink} r0 ""
   ${IfThen} $0 P= 0 ${|} Return ${|}
@@ -248,7 +248,7 @@ Section "un.Vantor"
     Abort "Vantor.exe is in use."
   ${EndIf}
 
-  ; "Start With Windows" of this copy, for all users or for this one.
+  ; "Start With Windows" of this copy, for all users or only for this one.
   !insertmacro RemoveRunValue HKLM
   !insertmacro RemoveRunValue HKCU
   Call un.RemoveDesktopShortcut
@@ -256,7 +256,7 @@ Section "un.Vantor"
   Delete "$INSTDIR\Guide.html"
   Delete "$INSTDIR\Notices.txt"
   Delete "$INSTDIR\Uninstall.exe"
-  ; Unless a copy in another folder has been installed since.
+  ; Unless a copy in another folder has been installed since then.
   ReadRegStr $0 HKCU "${UNINSTALL_KEY}" "InstallLocation"
   ${If} $0 == $INSTDIR
     Delete "$SMPROGRAMS\Vantor.lnk"
@@ -288,7 +288,7 @@ SectionEnd
 
 Section "-un.Folder"
   SetOutPath "$TEMP"
-  RMDir "$INSTDIR" ; fails where something is in it
+  RMDir "$INSTDIR" ; fails if it is not empty
 SectionEnd
 
 Function un.onInit

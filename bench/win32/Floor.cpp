@@ -1,4 +1,4 @@
-// The least that a bar with a text box can be, for comparison with Vantor.exe.
+// The smallest possible bar with a text box, for comparison with Vantor.exe.
 
 #include <windows.h>
 

@@ -1,9 +1,10 @@
-// Time from the key to the list panel's answer, for the programs named on the command line.
+// The time from the key to the response of the list panel, for the programs named on the command line.
 //
 //   PanelTime.exe ROUNDS PROGRAM…
 //
-// Prints the first opening, which makes the windows, and the median of the others in milliseconds, a line a program.
-// An opening ends when the panel is visible, painted, and answers. Exit code 1 when a program does not get there.
+// Prints the time of the first opening, which creates the windows, and the median of the others in milliseconds, one
+// line for each program. An opening ends when the panel is visible, painted and responding. The exit code is 1 if that
+// does not happen.
 
 #include <windows.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// Shared by the programs that time the bar from outside.
+// Shared by the programs that measure the bar from outside.
 
 #include <windows.h>
 
@@ -38,19 +38,19 @@ inline BOOL CALLBACK FindBar(HWND window, LPARAM parameter) {
   return search.Edit == nullptr;
 }
 
-/// The visible text box of a process that has one; null before.
+/// The visible text box of a process; null while it has none.
 inline HWND EditOf(DWORD process) {
   Search search{process, nullptr};
   EnumWindows(FindBar, reinterpret_cast<LPARAM>(&search));
   return search.Edit;
 }
 
-/// Whether the process's text box shows its background on the screen: light blue, or that of the system's windows.
+/// Whether the process's text box shows its background on the screen: light blue, or the system's window colour.
 inline bool HasPainted(DWORD process, HDC screen) {
   HWND const edit = EditOf(process);
   RECT place;
   if (edit == nullptr || !GetWindowRect(edit, &place)) return false;
-  // Right of the text that the box begins with.
+  // To the right of the text that the box starts with.
   const COLORREF seen = GetPixel(screen, place.right - (place.right - place.left) / 4, (place.top + place.bottom) / 2);
   return seen == LineBlue || seen == GetSysColor(COLOR_WINDOW);
 }

@@ -2,9 +2,9 @@
 //
 //   Soak.exe PERCENT [KIND]
 //
-// Does so many hundredths of the long run, or of one kind of use (commands, matches, panels, messages, drags), with the
-// Vantor.exe beside it. Prints what was held before and after each kind of use, a line each. Exit code 1 when it did
-// not level off, or the program did not do what it should.
+// Performs this percentage of the long run, or of one kind of use (commands, matches, panels, messages, drags), with
+// the Vantor.exe next to it. Prints what was held before and after each kind of use, one line each. The exit code is 1
+// if it did not level off, or the program did not do what it should.
 
 #include <algorithm>
 #include <cstdio>
@@ -27,7 +27,7 @@ struct Usage {
   long PrivateKilobytes = 0;  // under Wine only: pages of its own that it has written to
 };
 
-/// Handles of a process, from the system's own list.
+/// The number of a process's handles, from the system's own list.
 DWORD HandlesOf(DWORD process) {
   struct Entry {
     ULONG Owner;
@@ -48,8 +48,8 @@ DWORD HandlesOf(DWORD process) {
       std::count_if(first, first + list[0], [process](const Entry& entry) { return entry.Owner == process; }));
 }
 
-/// GDI objects under Wine, which keeps a table of them that the process's environment block points to. Regions are left
-/// out: Wine keeps one each time a window with round corners is shown, of a bare program too.
+/// The GDI objects under Wine, from its own table, to which the process's environment block points. Regions are not
+/// counted: Wine keeps one each time any program shows a window with round corners.
 DWORD GdiObjectsUnderWine(HANDLE process) {
   struct Basic {
     void* Status;
@@ -98,7 +98,7 @@ long PrivateKilobytes() {
   return 0;
 }
 
-/// Input that goes to the program's own windows by its message queue: as fast as it is handled.
+/// Input that is posted to the program's windows, as fast as they handle it.
 struct Soak {
   Folder Place;
   Program Running;
@@ -121,7 +121,7 @@ struct Soak {
     for (const char c : line) PostMessageW(Running.Control(L"TextMain"), WM_CHAR, static_cast<WPARAM>(c), 1);
   }
   void Enter(const std::string& line) const { Type(line + '\r'); }
-  /// The window of the program that the keyboard is for; null while it is for none.
+  /// The program's window that has the keyboard; null if none has it.
   [[nodiscard]] HWND Focused() const {
     GUITHREADINFO info{};
     info.cbSize = sizeof info;
@@ -157,13 +157,13 @@ struct Soak {
       Enter("p=" + Place.Path("recorder.exe"));
       Await("the program to start", [&] { return Running.Line().empty(); });
     } else {
-      // Enter on a word that completes and starts nothing, and on a name that is not listed.
+      // Enter on a word that is completed but starts nothing, and on a name that is not listed.
       const std::string line = number % 2 == 0 ? "c.fonts" : "w-nosuch";
       Enter(line);
       Await("the line", [&] { return Running.Line() == line; });
     }
   }
-  /// The names that match, and a step through them; the next line hides them.
+  /// Shows the matching names and moves through them; the next line hides them.
   void Match(int /*number*/) const {
     Type("w-o");
     Await("the list", [&] { return Running.Control(L"ListMatches") != nullptr; });
@@ -175,7 +175,7 @@ struct Soak {
     const WPARAM key = keys[static_cast<std::size_t>(number) % std::size(keys)];
     for (const bool open : {true, false}) {
       Key(Focused(), key);
-      // The next key waits until the window manager is done, which would otherwise take the focus away meanwhile.
+      // The next key waits for the window manager, which would otherwise take the focus away in the meantime.
       Await("the panel", [&] {
         const HWND front = GetAncestor(Focused(), GA_ROOT);
         return front != nullptr && (front != Bar) == open && IsWindowVisible(front);
@@ -187,7 +187,7 @@ struct Soak {
     Await("the message", [&] { return Running.Message() != nullptr; });
     DismissMessages();
   }
-  /// The bar itself is the program that is looked for.
+  /// The finder is dragged to the bar itself.
   void Find(int /*number*/) const {
     const POINT bar = window::Middle(Bar);
     SetCursorPos(bar.x, bar.y);
@@ -201,7 +201,7 @@ struct Soak {
   [[nodiscard]] HWND FinderButton() const { return Running.Control(L"CommandFindPath"); }
 };
 
-/// Does each kind of use, or the one that is named. Whether what is held levelled off.
+/// Performs each kind of use, or only the named one. Returns whether what is held has levelled off.
 bool Measure(int hundredths, std::wstring_view only) {
   bool level = true;
   const Soak soak;
@@ -223,7 +223,7 @@ bool Measure(int hundredths, std::wstring_view only) {
       Await("the add box", [&] { return soak.FinderButton() != nullptr; });
     }
     const int count = kind.Count * hundredths / 100;
-    // What is created once at the first use comes before.
+    // What is created once at the first use is created before.
     const int warmUp = std::max(count / 10, 12);
     for (int i = 0; i < warmUp; ++i) (soak.*kind.Do)(i);
     const Usage before = soak.Now();
@@ -234,9 +234,9 @@ bool Measure(int hundredths, std::wstring_view only) {
         kind.Name, before.Gdi, after.Gdi, before.User, after.User, before.Handles, after.Handles, before.Windows,
         after.Windows, before.PrivateKilobytes, after.PrivateKilobytes);
     std::fflush(stdout);
-    // Wine's management service keeps a handle and ever more memory each time it is asked, of a bare program too.
+    // Wine's management service keeps a handle and more and more memory each time any program asks it.
     const int asked = finder && UnderWine() ? count : 0;
-    // Some come and go with what Windows does meanwhile.
+    // Some come and go with what Windows does in the meantime.
     level = level && after.Gdi <= before.Gdi + 10 && after.User <= before.User + 10 &&
             after.Handles <= before.Handles + 10 + static_cast<DWORD>(asked) && after.Windows <= before.Windows + 4 &&
             (asked > 0 || after.PrivateKilobytes <= before.PrivateKilobytes + 2048);

@@ -1,12 +1,11 @@
-// The time from the start of a process to its first paint and to the first key that its text box takes, for the
-// programs named on the command line, and what a second start of one of them takes.
+// The time from the start of a process to its first paint and to the first key that its text box accepts, for the
+// programs named on the command line, and the time that a second start of one of them takes.
 //
-//   StartTime.exe ROUNDS NAME=COMMAND…           median and quickest in milliseconds, and both as multiples of the
-//   first
-//                                                program's, paint and key, a line a program
-//   StartTime.exe ROUNDS --second NAME=COMMAND   the same for a second start, which brings the first copy forward
+//   StartTime.exe ROUNDS NAME=COMMAND…           median and fastest in milliseconds, also as multiples of those of the
+//                                                first program, for paint and key; one line for each program
+//   StartTime.exe ROUNDS --second NAME=COMMAND   the same for a second start, which brings the first copy to the front
 //
-// Exit code 1 when a program showed no text box, or did not come forward.
+// The exit code is 1 if a program showed no text box, or did not come to the front.
 
 #include <cstdio>
 #include <cstdlib>
@@ -29,7 +28,7 @@ int SecondStarts(const Contestant& program, int rounds) {
   HWND const bar = GetAncestor(EditOf(first.Id()), GA_ROOT);
   std::vector<double> times;
   for (int round = 0; round <= rounds; ++round) {
-    // Meanwhile another window is in front.
+    // Another window is in front meanwhile.
     HWND const other = CreateWindowExW(0, L"STATIC", L"Other", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 300, 300, 200, 100,
                                        nullptr, nullptr, nullptr, nullptr);
     SetForegroundWindow(other);

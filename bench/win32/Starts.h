@@ -1,8 +1,8 @@
 #pragma once
 
-// Times programs from the start of their process: to the first paint of their text box, to the first key that it takes,
-// and to the end of a second copy that only brings the first one forward. Programs are started in turns, so that
-// other load on the machine affects all of them alike.
+// Measures programs from the start of their process to the first paint of their text box, to the first key that it
+// accepts, and to the end of a second copy that only brings the first one to the front. Programs are started in turns,
+// so that other load on the machine affects all of them equally.
 
 #include <algorithm>
 #include <string>
@@ -10,7 +10,7 @@
 
 #include "RunningBar.h"
 
-/// A process of our own; ended with this object.
+/// A process that ends with this object.
 class StartedProcess {
  public:
   explicit StartedProcess(std::wstring command) {
@@ -38,7 +38,7 @@ class StartedProcess {
   bool started_ = false;
 };
 
-/// Milliseconds from the start of a command to its text box's first paint; below 0 when there was none.
+/// Milliseconds from the start of a command to the first paint of its text box; below 0 if it has none.
 inline double TimeToPaint(const std::wstring& command) {
   HDC const screen = GetDC(nullptr);
   const double begin = NowMs();
@@ -52,7 +52,7 @@ inline double TimeToPaint(const std::wstring& command) {
   return time;
 }
 
-/// Milliseconds from the start of a command until its text box has taken a key; below 0 when it took none.
+/// Milliseconds from the start of a command until its text box has accepted a key; below 0 if it accepts none.
 inline double TimeToKey(const std::wstring& command) {
   const double begin = NowMs();
   const StartedProcess process(command);
@@ -61,7 +61,7 @@ inline double TimeToKey(const std::wstring& command) {
     edit = EditOf(process.Id());
     Sleep(0);
   }
-  // The text is taken as it is at that moment, so that only the key can end with this letter.
+  // The text is compared with its current state, so that only the key can add this letter to its end.
   constexpr wchar_t Letter = L'~';
   if (edit == nullptr || !PostMessageW(edit, WM_CHAR, Letter, 1)) return -1;
   while (NowMs() - begin < PatienceMs) {
@@ -73,8 +73,8 @@ inline double TimeToKey(const std::wstring& command) {
   return -1;
 }
 
-/// Milliseconds from the start of a second copy until the first one's bar is in front; below 0 if it does not get
-/// there, or the second copy does not end.
+/// Milliseconds from the start of a second copy until the bar of the first one is in front; below 0 if that does not
+/// happen, or the second copy does not end.
 inline double TimeSecondStart(const std::wstring& command, HWND bar) {
   const double begin = NowMs();
   const StartedProcess second(command);
@@ -86,20 +86,20 @@ inline double TimeSecondStart(const std::wstring& command, HWND bar) {
   return WaitForSingleObject(second.Handle(), static_cast<DWORD>(PatienceMs)) == WAIT_OBJECT_0 ? time : -1;
 }
 
-/// Median and quickest of some measurements, in milliseconds.
+/// The median and the fastest of several measurements, in milliseconds.
 struct Figures {
   double Median = -1;
   double Quickest = -1;
 };
 
-/// Of no measurements: below 0.
+/// Below 0 if there are no measurements.
 inline Figures FiguresOf(std::vector<double> times) {
   if (times.empty()) return {};
   std::sort(times.begin(), times.end());
   return {times[times.size() / 2], times.front()};
 }
 
-/// A program to be measured. One that showed no text box is left out of all further rounds.
+/// A program to be measured. If it shows no text box, it is left out of all further rounds.
 struct Contestant {
   std::wstring Name;
   std::wstring Command;
@@ -108,7 +108,7 @@ struct Contestant {
   std::vector<double> Keys{};
 };
 
-/// Starts each of the programs `rounds` times for its paint and as often for its key, after one round of warming up.
+/// After one round to warm up, starts each program `rounds` times for its paint and as often for its key.
 inline void MeasureStarts(std::vector<Contestant>& contestants, int rounds) {
   for (int round = 0; round <= rounds; ++round) {
     for (Contestant& contestant : contestants) {

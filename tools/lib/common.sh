@@ -1,4 +1,4 @@
-# Sourced by the scripts of this folder. Bash only.
+# Sourced by the scripts in tools/. Bash only.
 # shellcheck shell=bash
 
 set -euo pipefail
@@ -7,7 +7,7 @@ repo="$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd -P)"
 cache="${VANTOR_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/vantor}"
 log="$repo/build/setup.log"
 
-# Some of what is needed lies where only root looks.
+# Some of the required programs are in folders that are only in root's path.
 PATH="$PATH:/usr/sbin:/sbin"
 
 say() { printf '%s\n' "$*" >&2; }
@@ -17,7 +17,7 @@ die() {
   exit 1
 }
 
-# step TEXT COMMAND… runs a command that takes a while: one line with its time, its output only when it fails.
+# step TEXT COMMAND… runs a long command and prints one line with its time; its output is shown only if it fails.
 step() {
   local text="$1" began status=0
   shift
@@ -42,7 +42,7 @@ step() {
   return "$status"
 }
 
-# as_root COMMAND… asks for sudo only where it is needed.
+# as_root COMMAND… uses sudo only if needed.
 as_root() {
   if ((EUID == 0)); then
     "$@"

@@ -1,11 +1,11 @@
-# Sourced: an X display for the test desktop. Needs common.sh.
+# An X display for the test desktop. To be sourced after common.sh.
 # shellcheck shell=bash
 
 display_reachable() {
   [[ -n "${DISPLAY:-}" ]] && xprop -root _NET_SUPPORTED >/dev/null 2>&1
 }
 
-# wait_until SECONDS TEXT COMMAND…: asks until the command succeeds.
+# wait_until SECONDS TEXT COMMAND…: repeats the command until it succeeds.
 wait_until() {
   local limit=$((SECONDS + $1)) text="$2"
   shift 2
@@ -19,7 +19,7 @@ window_manager_runs() {
   [[ "$(xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null)" == *"window id"* ]]
 }
 
-# start_display WIDTHxHEIGHTxDEPTH: an X server and a window manager that end with this shell, however it ends.
+# start_display WIDTHxHEIGHTxDEPTH: starts an X server and a window manager that end with this shell, however it ends.
 start_display() {
   local number
   exec {display_pipe}< <(exec setpriv --pdeathsig TERM Xvfb -displayfd 1 -screen 0 "$1" -nolisten tcp -noreset 2>/dev/null)

@@ -1,7 +1,7 @@
-# Sourced: the version of the formatter and the linter. Needs common.sh.
+# The version of the formatter and the linter. To be sourced after common.sh.
 # shellcheck shell=bash
 
-# Debian 12's. Other versions lay out sources differently and know other checks.
+# The version in Debian 12. Other versions format sources differently and have other checks.
 llvm_major=14
 
 require_llvm() {
