@@ -49,8 +49,8 @@ VIAddVersionKey "ProductVersion" "${VERSION}"
 !define MUI_WELCOMEFINISHPAGE_BITMAP "${PICTURE}"
 !define MUI_COMPONENTSPAGE_NODESC
 !define MUI_PAGE_HEADER_TEXT "Install Vantor"
-!define MUI_PAGE_HEADER_SUBTEXT "Choose whether one key is to bring it up."
-!define MUI_COMPONENTSPAGE_TEXT_TOP "With the shortcut on the desktop, Ctrl+Shift+L brings Vantor up from anywhere."
+!define MUI_PAGE_HEADER_SUBTEXT "Choose whether a keyboard shortcut brings it up."
+!define MUI_COMPONENTSPAGE_TEXT_TOP "With the shortcut on the desktop, Ctrl+Shift+L opens Vantor from anywhere."
 !define MUI_COMPONENTSPAGE_TEXT_INSTTYPE " "
 !define MUI_COMPONENTSPAGE_TEXT_COMPLIST "To install:"
 !insertmacro MUI_PAGE_COMPONENTS
@@ -66,7 +66,7 @@ VIAddVersionKey "ProductVersion" "${VERSION}"
 
 !define MUI_COMPONENTSPAGE_TEXT_TOP "Vantor will be removed. Your list and settings stay where they are unless you tick them too."
 !define MUI_PAGE_HEADER_TEXT "Remove Vantor"
-!define MUI_PAGE_HEADER_SUBTEXT "Choose what goes."
+!define MUI_PAGE_HEADER_SUBTEXT "Choose what to remove."
 !define MUI_COMPONENTSPAGE_TEXT_INSTTYPE " "
 !define MUI_COMPONENTSPAGE_TEXT_COMPLIST "To remove:"
 !insertmacro MUI_UNPAGE_COMPONENTS
