@@ -53,7 +53,15 @@ TEST_CASE("the open panel follows the bar, and closes when the bar is minimised 
     desktop.Advance(2000);
     CHECK((bar.TopMost() && bar.TextMain.HasFocus() && bar.TextMain.Text() == L"left"));
     desktop.Click(bar.CommandWeb);
+    CHECK(bar.CommandWeb.State() ==
+          (form == &program.Choose ? form::ButtonState::Folded : form::ButtonState::Unfolded));
   }
+  // The list of what fits stands under the line.
+  program.Add(list::LaunchGroup::Prog, L"one", L"x");
+  program.Add(list::LaunchGroup::Prog, L"once", L"x");
+  program.Type(L"p-o");
+  const form::Rect list = program.Program.frmMatches.Bounds();
+  CHECK((list.Left == bar.TextMain.Left() && list.Top == bar.Bounds().Bottom()));
 }
 
 TEST_CASE("leaving before the list was read keeps the list") {

@@ -1,21 +1,30 @@
 #include <doctest/doctest.h>
 
+#include <set>
 #include <string>
 
+#include "fake/Computer.h"
 #include "form/Button.h"
+#include "form/FileLists.h"
 #include "form/Headless.h"
 #include "form/ListControl.h"
+#include "form/RowList.h"
 #include "form/Static.h"
 #include "form/TextBox.h"
 
 namespace vantor::form {
 namespace {
 
-/// The window behind a control, which remembers the last notification.
+/// The window behind a control, which remembers the notifications.
 struct Listener : ControlWindow {
-  void Changed(Property property) override { Last = static_cast<int>(property); }
-  void TakeFocus() override { Last = -2; }
-  int Last = -1;
+  void Changed(Property property) override { Told.insert(property); }
+  void TakeFocus() override {}
+  std::set<Property> Told;
+};
+
+struct TenRows final : RowSource {
+  [[nodiscard]] int RowCount() const override { return 10; }
+  [[nodiscard]] Row RowAt(int /*index*/) const override { return {}; }
 };
 
 TEST_CASE("a window is told of each change of its control, and of nothing that is no change") {
@@ -29,6 +38,12 @@ TEST_CASE("a window is told of each change of its control, and of nothing that i
   Frame frame(form, L"Frame");
   Image image(form, L"Image");
   PictureBox picture(form, L"Picture");
+  const TenRows ten;
+  RowList rowList(form, L"Rows", ten);
+  fake::Computer computer;
+  DriveList drives(form, L"Drives", computer);
+  FolderList folders(form, L"Folders", computer);
+  FileList files(form, L"Files", computer);
   form.Show();
   const struct {
     Control& Of;
@@ -61,6 +76,15 @@ TEST_CASE("a window is told of each change of its control, and of nothing that i
       {frame, Property::Caption, [&] { frame.SetCaption(L"x"); }},
       {image, Property::Picture, [&] { image.SetPicture({form::Background::Normal}); }},
       {picture, Property::Picture, [&] { picture.SetPicture({form::Background::Normal}); }},
+      {rowList, Property::List, [&] { rowList.ShowRows(0); }, true},
+      {rowList, Property::ListIndex, [&] { rowList.SetCurrentRow(1); }, true},
+      {rowList, Property::Scroll, [&] { rowList.ScrollTo(3); }},
+      {drives, Property::List, [&] { drives.Refresh(); }, true},
+      {drives, Property::List, [&] { drives.SetDrive(L"Q:"); }},
+      {drives, Property::ListIndex, [&] { drives.SetDrive(L"E:"); }},
+      {drives, Property::ListIndex, [&] { drives.Refresh(); }, true},
+      {folders, Property::ListIndex, [&] { (void)folders.SetPath(L"C:\\Work\\"); }},
+      {files, Property::List, [&] { files.SetPath(L"C:\\Work"); }},
   };
   button.SetToolTip(L"Name---F1");
   CHECK(button.AccessibleName() == L"Name");
@@ -69,12 +93,17 @@ TEST_CASE("a window is told of each change of its control, and of nothing that i
     Listener window;
     row.Of.AttachWindow(&window);
     row.Change();
-    CHECK(window.Last == static_cast<int>(row.Told));
-    window.Last = -1;
+    CHECK(window.Told.contains(row.Told));
+    window.Told.clear();
     if (!row.Always) row.Change();
-    CHECK(window.Last == -1);
+    CHECK(window.Told.empty());
     row.Of.AttachWindow(nullptr);
   }
+  // A chosen drive that is gone stays chosen; a folder's entry is that of the folder.
+  computer.Disk.Drives.erase(L'E');
+  drives.Refresh();
+  CHECK(drives.Drive() == L"e:");
+  CHECK((folders.Text() == L"Work" && folders.PathOf(0) == L"C:\\"));
 }
 
 }  // namespace

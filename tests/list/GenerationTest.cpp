@@ -249,6 +249,14 @@ TEST_CASE("the generation kept is a whole one, and only what changed is written"
   damaged.List.Save();
   CHECK(damaged.Disk.Bytes(Folder + L"Backup\\ListProg.Orbel") == kept);
   CHECK(damaged.Disk.Bytes(Folder + L"Rescue\\1\\ListProg.Orbel").size() == 9);
+  // Nor is it put back when the save of what was loaded fails.
+  Run failing(run.Disk);
+  failing.Disk.Bytes(Folder + L"ListProg.Orbel").resize(9);
+  const State loaded = failing.Load();
+  failing.List.Settings.OptionMask = 1;
+  failing.Disk.AddFile(Folder + L"Set.Orbel", failing.Disk.Bytes(Folder + L"Set.Orbel")).Writable = false;
+  failing.List.Save();
+  CHECK(Loaded(failing.Disk) == loaded);
 }
 
 }  // namespace
