@@ -2,22 +2,14 @@
 
 #include <functional>
 #include <memory>
-#include <optional>
-#include <string>
 #include <string_view>
 
+#include "form/Control.h"
 #include "form/Form.h"
 #include "form/Keys.h"
 #include "form/UserInterface.h"
 
 namespace vantor::contract {
-
-/// How the window of a control looks. The selection is that of a text box.
-struct Look {
-  bool Shown = false, Enabled = false, Focused = false;
-  std::wstring Text;
-  int SelStart = 0, SelLength = 0;
-};
 
 /// A person who uses a back end with the keyboard and the mouse. What is done has been handled
 /// when the call returns.
@@ -45,8 +37,8 @@ class Person {
   /// What this person does when the next modal form is open.
   virtual void WhenModal(std::function<void(form::Form&)> script) = 0;
 
-  /// Nothing without windows.
-  virtual std::optional<Look> LookAt(const form::Control& /*control*/) { return std::nullopt; }
+  /// Whether what is typed now goes to the control.
+  virtual bool HasKeyboard(const form::Control& control) { return control.HasFocus(); }
 };
 
 /// A person in front of the back end that this test program is about.

@@ -106,5 +106,23 @@ TEST_CASE("a window is told of each change of its control, and of nothing that i
   CHECK((folders.Text() == L"Work" && folders.PathOf(0) == L"C:\\"));
 }
 
+TEST_CASE("a list keeps its selection on its entry, and follows another that follows it") {
+  Headless desktop;
+  Form form(desktop, L"Form");
+  ComboBox one(form, L"One");
+  ComboBox two(form, L"Two");
+  for (ComboBox* box : {&one, &two}) {
+    for (const wchar_t* item : {L"a", L"b", L"c"}) box->AddItem(item);
+  }
+  one.Click = [&] { two.SetListIndex(one.ListIndex()); };
+  two.Click = [&] { one.SetListIndex(two.ListIndex()); };
+  two.SetListIndex(2);
+  one.RemoveItem(0);
+  two.RemoveItem(2);
+  CHECK((one.ListIndex() == 1 && one.Text() == L"c" && two.ListIndex() == -1));
+  CHECK_THROWS_AS(one.RemoveItem(2), std::out_of_range);
+  CHECK_THROWS_AS(one.SetListIndex(2), std::out_of_range);
+}
+
 }  // namespace
 }  // namespace vantor::form

@@ -88,19 +88,9 @@ class WindowsPerson : public Person {
 
   void WhenModal(std::function<void(form::Form&)> script) override { scripts_.push_back(std::move(script)); }
 
-  std::optional<Look> LookAt(const form::Control& control) override {
+  bool HasKeyboard(const form::Control& control) override {
     HWND const window = HandleOf(control);
-    HWND const form = HandleOf(control.OwnerForm());
-    if (!IsWindowVisible(window)) return Look();
-    DWORD start = 0;
-    DWORD end = 0;
-    SendMessageW(window, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
-    return Look{true,
-                IsWindowEnabled(window) != FALSE,
-                desktop::window::Focus(form) == window,
-                desktop::Wide(desktop::window::Text(window)),
-                static_cast<int>(start),
-                static_cast<int>(end - start)};
+    return IsWindowVisible(window) && desktop::window::Focus(HandleOf(control.OwnerForm())) == window;
   }
 
  private:
