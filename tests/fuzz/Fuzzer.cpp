@@ -1,14 +1,11 @@
-// The entry points of libFuzzer. VANTOR_FUZZ names the target.
+// The entry point of libFuzzer, and of what runs the same without it.
 
 #include <cstdint>
 
-#include "fuzz/Targets.h"
+#include "fuzz/Wanderer.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static const vantor::fuzz::Target& target = []() -> const vantor::fuzz::Target& {
-    const char* const name = std::getenv("VANTOR_FUZZ");
-    return vantor::fuzz::TargetOf(name != nullptr ? name : "");
-  }();
-  target.Run({data, size});
+  vantor::fuzz::Choices choices({data, size});
+  vantor::fuzz::Wanderer(choices).Run();
   return 0;
 }

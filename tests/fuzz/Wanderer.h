@@ -3,9 +3,10 @@
 #include <algorithm>
 #include <iterator>
 #include <string>
+#include <utility>
 
 #include "fake/Walker.h"
-#include "fuzz/Targets.h"
+#include "fuzz/Choices.h"
 
 namespace vantor::fuzz {
 
@@ -69,16 +70,19 @@ class Wanderer : public fake::Walker {
     };
   }
 
-  /// Starts, does what the bytes say, and ends.
+  /// Starts, does what the bytes say, and ends. What could be saved is there at the next start.
   void Run() {
     Do(L"start");
     while (choices_.Left() && !Desktop->Ended()) Act();
-    End();
-  }
-  void End() {
-    Computer.Decide = {};
+    const bool failing = std::exchange(Computer.Decide, {}) != nullptr;
     Do(L"close");
     Require(Desktop->Ended(), "the program ends");
+    const fake::FakeDisk::DriveState& drive = *Computer.Disk.DriveOf(Computer.Home);
+    if (failing || !drive.Ready || drive.WriteProtected) return;
+    const flows::Texts before = Sites(L"'");
+    Start();
+    Require(Sites(L"\"") == before, "all sites come back");
+    Do(L"close");
   }
 
  private:
@@ -120,6 +124,14 @@ class Wanderer : public fake::Walker {
     --depth_;
   }
 
+  /// The names of the listed sites. A quote is replaced when it is saved.
+  [[nodiscard]] flows::Texts Sites(std::wstring_view quote) const {
+    flows::Texts names = Program->ListPage.ComboListWebName.Entries();
+    for (Text& name : names) {
+      for (auto at = name.find(L'"'); at != name.npos; at = name.find(L'"', at + 1)) name.replace(at, 1, quote);
+    }
+    return names;
+  }
   Text OneOf(std::wstring_view texts) {
     const flows::Texts all = flows::Split(texts, L" | ");
     return all[choices_.Below(all.size())];

@@ -2,43 +2,12 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdio>
-#include <cstdlib>
 #include <span>
 #include <string>
-#include <string_view>
 
 namespace vantor::fuzz {
 
 using Bytes = std::span<const unsigned char>;
-
-/// The functions that the fuzzers run: each takes any bytes, and aborts if the program does what it must never do.
-struct Target {
-  std::string_view Name;
-  void (*Run)(Bytes bytes);
-};
-
-/// Data files are loaded and saved.
-void FuzzFiles(Bytes bytes);
-/// The program is used.
-void FuzzWalk(Bytes bytes);
-
-inline constexpr Target Targets[] = {{"files", FuzzFiles}, {"walk", FuzzWalk}};
-
-inline const Target& TargetOf(std::string_view name) {
-  for (const Target& target : Targets) {
-    if (target.Name == name) return target;
-  }
-  std::fprintf(stderr, "targets: files, walk\n");
-  std::exit(2);
-}
-
-/// A finding.
-inline void Require(bool condition, const char* what) {
-  if (condition) return;
-  std::fprintf(stderr, "not so: %s\n", what);
-  std::abort();
-}
 
 /// The bytes as decisions, one after another; zeros when there are no more.
 class Choices {
