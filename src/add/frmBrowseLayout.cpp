@@ -15,7 +15,6 @@ constexpr Twips HeadTop = 75;  // of the box's own caption
 constexpr Twips BoxTop = 345;  // from the box's top to what is under its caption
 constexpr Twips LeastListsHeight = 2100;
 constexpr Twips MostListsHeight = 3600;
-constexpr Twips BarRoom = 600;  // of the screen, for the bar next to the box
 
 // Given places, which the others follow.
 constexpr Twips AddedInfoLeft = 1320;

@@ -14,6 +14,7 @@ inline constexpr Twips LineHeight = 315;   // of a box with one line in it
 inline constexpr Twips CheckHeight = 255;  // of a check box or an option button
 inline constexpr Twips ButtonHeight = 390;
 inline constexpr Twips ColumnGap = 360;
+inline constexpr Twips BarRoom = 600;  // of the screen's height, for the bar next to a panel or a message
 inline constexpr Twips SectionGap = 180;
 
 }  // namespace vantor::form::grid

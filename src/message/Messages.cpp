@@ -102,7 +102,7 @@ void Messages::OpenMessageDialog(const Message& message) {
   {
     const form::Scoped open(openDialogs_, openDialogs_ + 1);
     if (openDialogs_ == 1) host_.PauseOnTop();
-    dialog.Arrange(host_.HomeScreen());
+    dialog.Arrange(host_.BarPlace());
     dialog.ShowModal();
   }
   switch (dialog.Answer()) {

@@ -19,8 +19,8 @@ class MessageHost {
   virtual void PauseOnTop() = 0;
   /// The last open message has closed: with no panel open, the bar keeps itself on top if the user wants that.
   virtual void ResumeOnTop() = 0;
-  /// The screen on which messages are centred.
-  [[nodiscard]] virtual form::Screen HomeScreen() const = 0;
+  /// The bar's place on the desktop; empty before there is a bar.
+  [[nodiscard]] virtual form::Rect BarPlace() const = 0;
   /// Whether any of the maker's other programs is present.
   [[nodiscard]] virtual bool CompanionsPresent() const = 0;
   virtual void SaveUserName() = 0;

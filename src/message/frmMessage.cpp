@@ -19,7 +19,7 @@ constexpr form::Twips NarrowText = 4200;
 // Holds the table of the first-start help without breaking its lines, and fits a screen 640 pixels wide.
 constexpr form::Twips WideText = 7200;
 
-constexpr form::Twips TitleBarHeight = 450;  // as it usually is, for the middle of the screen only
+constexpr form::Twips TitleBarHeight = 450;  // as it usually is, for the place on the screen only
 
 struct ButtonSet {
   std::wstring_view Word;
@@ -89,7 +89,12 @@ void frmMessage::ApplyInputSet(std::wstring_view inputs) {
   TextInput0.SetAccessibleName(LabelHead.Caption());
 }
 
-void frmMessage::Arrange(const form::Screen& screen) {
+form::Size frmMessage::RoomNeeded() const {
+  const form::Size room = Form::RoomNeeded();
+  return {room.Width, room.Height + grid::BarRoom};
+}
+
+void frmMessage::Arrange(const form::Rect& bar) {
   const std::wstring& text = LabelMessage.Caption();
   const form::Twips width = std::clamp(Ui().MeasureText(text, false, WideText).Width, NarrowText, WideText);
   const form::Twips left = BandWidth + Margin;
@@ -112,11 +117,19 @@ void frmMessage::Arrange(const form::Screen& screen) {
   const form::Twips formWidth = left + width + Margin;
   const form::Twips formHeight = top + grid::ButtonHeight + Margin;
   PictureMessage.SetBounds({0, 0, BandWidth, formHeight});
-  const form::Rect& area = screen.WorkArea;
+  const form::Rect area = Ui().ScreenAt(bar).WorkArea;
   MoveTo(area.Left, area.Top);  // so that it is fitted to that screen
   SetInside({formWidth, formHeight});
-  MoveTo(area.Left + std::max((area.Width - Bounds().Width) / 2, 0),
-         area.Top + std::max((area.Height - TitleBarHeight - Bounds().Height) / 2, 0));
+  const form::Size shown{Bounds().Width, TitleBarHeight + Bounds().Height};
+  const auto at = [&](form::Twips shownTop) {
+    return form::Rect{area.Left + std::max((area.Width - shown.Width) / 2, 0),
+                      form::Within(shownTop, shown.Height, area.Top, area.Bottom()), shown.Width, shown.Height};
+  };
+  const form::Rect places[] = {at(area.Top + (area.Height - shown.Height) / 2), at(bar.Bottom()),
+                               at(bar.Top - shown.Height)};
+  const auto* const best =
+      std::ranges::min_element(places, {}, [&](const form::Rect& each) { return form::SharedArea(each, bar); });
+  MoveTo(best->Left, best->Top);
 }
 
 void frmMessage::Form_KeyUp(form::Key key) {

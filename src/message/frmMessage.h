@@ -38,12 +38,14 @@ class frmMessage : public form::Form {
   void ApplyInputSet(std::wstring_view inputs);
   /// The input takes letters only, Enter in it answers.
   void AskForName() { asksForName_ = true; }
-  /// Places the controls around their texts, and the form in the middle of a screen.
-  void Arrange(const form::Screen& screen);
+  /// Places the controls around their texts, and the form in the middle of the bar's screen, or below or above the bar
+  /// where that covers less of it.
+  void Arrange(const form::Rect& bar);
 
   [[nodiscard]] message::Answer Answer() const { return answer_; }
 
  protected:
+  [[nodiscard]] form::Size RoomNeeded() const override;
   void Form_KeyUp(form::Key key) override;
   void Form_Close() override { Dismiss(); }
 

@@ -18,11 +18,6 @@ void Program::Main() {
     Ui.End();
 }
 
-form::Screen Program::HomeScreen() const {
-  // The messages of the start sequence come before there is a bar.
-  return frmMain.Loaded() ? Ui.ScreenAt(frmMain.Bounds()) : Ui.PrimaryScreen();
-}
-
 void Program::SaveUserName() { start::SaveUserName(Services, Environment, MessageState.UserName); }
 
 void Program::Take(const form::DroppedItems& items) {

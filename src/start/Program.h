@@ -68,7 +68,7 @@ class Program final : private message::MessageHost, private form::DropHandler {
  private:
   void PauseOnTop() override { frmMain.PauseOnTop(); }
   void ResumeOnTop() override { frmMain.ResumeOnTop(); }
-  [[nodiscard]] form::Screen HomeScreen() const override;
+  [[nodiscard]] form::Rect BarPlace() const override { return frmMain.Bounds(); }
   [[nodiscard]] bool CompanionsPresent() const override { return !Environment.Companions.empty(); }
   void SaveUserName() override;
   void EnableRemember() override { OptionsPage.EnableRemember(); }

@@ -27,6 +27,22 @@ TEST_CASE("a key that the routine does not hold shows nothing, and the first-sta
   CHECK(program.Told.back().find(L"\r\n\r\n\r\n\r\nYou will") != std::wstring::npos);
 }
 
+TEST_CASE("a message is in the middle of the screen, or where it leaves the bar to be seen") {
+  test::StartedProgram program;
+  for (const form::Twips barTop : {0, 4500, 7500}) {
+    program.Main.MoveTo(3000, barTop);
+    program.Expect([&](frmMessage& dialog) {
+      const form::Rect& bar = program.Main.Bounds();
+      CHECK(form::SharedArea(dialog.Bounds(), bar) == 0);
+      const form::Rect& area = program.Desktop.Desktop.WorkArea;
+      const form::Twips above = dialog.Bounds().Top;
+      const form::Twips below = area.Height - 450 - dialog.Bounds().Bottom();
+      CHECK((barTop == 0 ? abs(above - below) <= 1 : barTop == 4500 ? above == bar.Bottom() : above < bar.Top));
+    });
+    program.Program.Messages.ShowTextMessage(L"one\r\ntwo\r\nthree\r\nfour");
+  }
+}
+
 TEST_CASE("messages that open over others take nothing from them, and errors do not pile up") {
   test::StartedProgram desk;
   Messages& shown = desk.Program.Messages;
