@@ -47,6 +47,22 @@ TEST_CASE("a name or an address is opened for what it is, and for nothing that a
   CHECK(line.Program.frmMatches.ListMatches.RowAt(0).Detail == L"http://news.example/\xFFFDgpj\xFFFD\x202F");
 }
 
+TEST_CASE("why a telephone call fails is told") {
+  test::StartedProgram line;
+  line.Computer.Let("RequestMakeCall", fake::Outcome::Fails);
+  const std::pair<int, std::wstring_view> rows[] = {
+      {-4, L"The phone number is not valid."},
+      {-3, L"The queue of pending Windows Telephony dialing requests is full."},
+      {-2, L"No Windows Telephony dialing application is running and none could be started."},
+  };
+  for (const auto& [error, text] : rows) {
+    line.Computer.CallError = error;
+    line.Expect();
+    line.Type(L"t=1\r");
+    CHECK(line.Told.back() == text);
+  }
+}
+
 TEST_CASE("the last 100 lines that were started come back") {
   test::StartedProgram line;
   for (int number = 0; number <= 100; ++number) line.Type(L"w=" + std::to_wstring(number) + L"\r");

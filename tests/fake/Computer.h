@@ -56,7 +56,6 @@ class Computer : public service::DataFiles,
   Values Specials{{L"MyDocuments", L"C:\\Documents"}, {L"SendTo", L"C:\\Send"}, {L"Desktop", L"C:\\Work"}};
   Values Registry;
   Texts Shared;                // the files and folders that others may write to
-  bool Administrator = true;   // who may write the machine's values
   int CallError = -9;          // of a telephone call that fails
   bool StartsAnything = true;  // otherwise only what is there, and names that don't begin with "nosuch"
   Texts Asked;                 // what was done: "run …", "shell …", "open …", "mail …", "call …", "title …"
@@ -190,10 +189,10 @@ class Computer : public service::DataFiles,
   std::wstring SpecialFolder(Text name) override { return Fails(__func__) ? L"" : Specials[std::wstring(name)]; }
   std::wstring RegistryRead(Text name) override { return Fails(__func__) ? L"" : Registry[std::wstring(name)]; }
   void RegistryWrite(Text name, Text value) override {
-    if (!Fails(__func__) && MayWrite(name)) Registry[std::wstring(name)] = value;
+    if (!Fails(__func__) && !Fails(RootOf(name))) Registry[std::wstring(name)] = value;
   }
   void RegistryDelete(Text name) override {
-    if (!Fails(__func__) && MayWrite(name)) Registry.erase(std::wstring(name));
+    if (!Fails(__func__) && !Fails(RootOf(name))) Registry.erase(std::wstring(name));
   }
   bool SaveShortcut(const service::Shortcut& shortcut) override {
     return !Fails(__func__) && Disk.Write(shortcut.File, "", false);
@@ -246,7 +245,9 @@ class Computer : public service::DataFiles,
     Asked.push_back(std::wstring(how).append(what));
     return true;
   }
-  bool MayWrite(Text value) const { return Administrator || !value.starts_with(L"HKEY_LOCAL_MACHINE"); }
+  static const char* RootOf(Text value) {
+    return value.starts_with(L"HKEY_LOCAL_MACHINE") ? "HKEY_LOCAL_MACHINE" : "HKEY_CURRENT_USER";
+  }
   static bool IsUpper(int c) {
     return (c >= L'A' && c <= L'Z') || (c >= 0xC0 && c <= 0xDE && c != 0xD7) || (c >= 0x410 && c <= 0x42F);
   }

@@ -146,7 +146,6 @@ class NativeWorld : public World {
   void Wait(int milliseconds) override { Desktop->Advance(milliseconds); }
   void Break(const Text& call, const Text& outcome) override {
     broken_.assign(call.begin(), call.end());
-    Computer.Administrator = outcome == L"works" || call != L"HKEY_LOCAL_MACHINE";
     Computer.Let(broken_, outcome == L"fails"    ? fake::Outcome::Fails
                           : outcome == L"throws" ? fake::Outcome::Throws
                                                  : fake::Outcome::Works);

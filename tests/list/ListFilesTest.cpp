@@ -12,38 +12,6 @@ using test::Texts;
 
 std::wstring DataFile(std::wstring_view name) { return L"C:\\Vantor\\Vantor\\" + std::wstring(name) + L".Orbel"; }
 
-TEST_CASE("a save writes exact bytes, and the next run has the same list") {
-  fake::Computer computer;
-  StoredList first(computer);
-  first.Settings.OptionMask = 6;
-  first.Settings.RememberedBrowseFolder = L"C:\\Docs, old";
-  first.Add(LaunchGroup::File, L"A, b", L"C:\\Work\\notes.txt");
-  first.Add(LaunchGroup::Fold, L" Fold ", L"C:\\Work");
-  first.Add(LaunchGroup::Prog, L"caf\u00E9", L"C:\\Work\\Tool.EXE");
-  first.Add(LaunchGroup::Prog, L"gone", L"C:\\gone.exe");
-  first.Add(LaunchGroup::Web, L"the \"best\"", L"http://x");
-  first.Add(LaunchGroup::Web, L"next", L"http://y/?q=\"a\"");
-  first.Save();
-  CHECK(computer.Disk.Bytes(DataFile(L"ListProg")) ==
-        "\"caf\xE9\",\"C:\\Work\\Tool.EXE\"\r\n\"gone\",\"C:\\gone.exe\"\r\n");
-  const std::string& settings = computer.Disk.Bytes(DataFile(L"Set"));
-  CHECK(settings == "6\r\n0\r\n0\r\n1\r\n1\r\n150\r\n300\r\n\"C:\\Docs, old\"\r\n-1\r\n-1\r\n-1\r\n");
-
-  StoredList second(computer);
-  second.Load();
-  // Double quotes are written so that the item and those after it are read again.
-  CHECK(ItemsOf(second.List) == Texts{L"A, b>C:\\Work\\notes.txt", L" Fold >C:\\Work", L"caf\u00E9>C:\\Work\\Tool.EXE",
-                                      L"the 'best'>http://x", L"next>http://y/?q=%22a%22"});
-  // A group that became empty is no longer loaded, and its file stays; a place beyond 16 bits is saved as the nearest.
-  second.RemoveFirst(LaunchGroup::File);
-  second.Files.SaveLaunchList(second.List, 40000, -40000);
-  CHECK(settings == "6\r\n-1\r\n0\r\n0\r\n1\r\n32767\r\n-32768\r\n\"C:\\Docs, old\"\r\n-1\r\n-1\r\n-1\r\n");
-  CHECK(computer.Disk.Bytes(DataFile(L"ListFile")) == "\"A, b\",\"C:\\Work\\notes.txt\"\r\n");
-  StoredList third(computer);
-  third.Load();
-  CHECK(ItemsOf(third.List).size() == 4);
-}
-
 TEST_CASE("a damaged settings file gives what could be read of it") {
   const struct {
     std::string_view Bytes;
@@ -153,12 +121,13 @@ TEST_CASE("four groups of 32,767 items come back whole, the last of them is comp
   CHECK(program.Told == Texts{L"This list is full."});
 }
 
-TEST_CASE("the computer's own items are kept beside a full list on the medium") {
+TEST_CASE("the computer's own items are kept beside a full list on the medium, and the nearest place that fits") {
   fake::Computer computer;
   StoredList run(computer, true);
   for (int i = 0; i < 32767; ++i) run.Add(LaunchGroup::Prog, L"Item", L"E:\\Tool.EXE");
   run.Add(LaunchGroup::Prog, L"Own", L"C:\\Work\\Tool.EXE");
-  run.Save();
+  run.Files.SaveLaunchList(run.List, 40000, -40000);
+  CHECK((run.Settings.Left == 32767 && run.Settings.Top == -32768));
   CHECK(run.Settings.ProgUpper == 32766);
   CHECK(run.Settings.MachineProgUpper == 0);
   CHECK(computer.Disk.Bytes(run.Environment.Files.MachineProg) == "\"Own\",\"C:\\Work\\Tool.EXE\"\r\n");
