@@ -33,13 +33,13 @@ TEST_CASE("a drag that is broken off changes nothing, and the next one works") {
         CHECK(std::exchange(computer.Captured, WindowId::None) == WindowId{7});
       },
       [&] { box.CommandAddCancel.DoClick(); },
-      [&] {  // a place beyond the screen's numbers is asked about
+      [&] {  // a point outside the range of coordinates
         program.Expect();
         computer.Cursor.X = 40000;
         desktop.Advance(100);
         CHECK(program.Told.at(0).find(L"Bug-Vantor-FindExecutable") != std::wstring::npos);
       },
-      {},  // not broken off
+      {},  // not cancelled
   };
   for (const auto& breakOff : breaks) {
     CAPTURE(&breakOff - breaks);

@@ -1,4 +1,4 @@
-// What a screen reader is told, asked for in the same way; and moving through every panel with the keyboard.
+// What screen readers are told, read through the same interface; and moving through every panel with the keyboard.
 
 #include <doctest/doctest.h>
 #include <algorithm>
@@ -24,7 +24,7 @@ const Names States = {{STATE_SYSTEM_UNAVAILABLE, " unavailable"}, {STATE_SYSTEM_
                       {STATE_SYSTEM_READONLY, " readonly"},       {STATE_SYSTEM_EXPANDED, " expanded"},
                       {STATE_SYSTEM_COLLAPSED, " collapsed"},     {STATE_SYSTEM_INVISIBLE, " invisible"}};
 
-/// All that is heard of a control in one line: role "name" <key> {value} states.
+/// Everything that a screen reader says about a control, in one line: role "name" <key> {value} states.
 std::string Heard(HWND control) {
   const Accessible heard(control);
   const LONG role = heard.Role();
@@ -44,13 +44,13 @@ std::string Heard(HWND control) {
   return line;
 }
 
-/// The form beside the bar, once it has the input.
+/// The form next to the bar, once it accepts input.
 HWND AwaitForm(const Program& program) {
   Await("a form", [&] { return program.Active() != nullptr && program.Active() != program.Bar(); });
   return program.Active();
 }
 
-/// Walks once round a form by Tab: all that can be used must be on the way.
+/// Moves once around a form by Tab, which must reach everything that can be used.
 void CheckTabs(HWND form) {
   std::set<HWND> awaited;
   for (HWND control : window::Controls(form)) {
@@ -69,8 +69,8 @@ void CheckTabs(HWND form) {
   CHECK(visited == awaited);
 }
 
-/// What is announced of the line and of the list under it: 's' for each run of changes of the selection, and for the
-/// focus the part that it goes to, 0 for the line itself.
+/// What is announced about the line and the list below it: 's' for each series of changes of the selection, and for the
+/// focus the part that gets it, 0 for the line itself.
 std::string announced;
 void CALLBACK Hear(HWINEVENTHOOK, DWORD event, HWND window, LONG, LONG part, DWORD, DWORD) {
   const bool selection = event == EVENT_OBJECT_TEXTSELECTIONCHANGED;
@@ -160,7 +160,7 @@ TEST_CASE("every control has a role and a name for a screen reader, its state, a
     input::Press(VK_ESCAPE);
     program.AwaitBar();
   }
-  // A reader opens a panel by acting on its button, and hears that it is open.
+  // A reader opens a panel by the default action of its button, and is told that it is open.
   HWND const button = program.Control(L"CommandMenu(4)");
   CHECK(Accessible(button).Act());
   AwaitForm(program);

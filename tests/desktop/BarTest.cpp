@@ -21,7 +21,7 @@ TEST_CASE("the bar and its list climb back above other windows, and come along w
   SetWindowPos(other, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
   CHECK(window::IsAbove(other, bar));
   CHECK_BECOMES(window::IsAbove(bar, other), true);
-  // Another copy takes the window before the application's for the bar.
+  // Another copy takes the window in front of the application window for the bar.
   CHECK_BECOMES(GetWindow(FindWindowA("ThunderRT6Main", "Vantor Orbel"), GW_HWNDPREV) == bar, true);
   HWND const list = program.FormOf(L"ListMatches");
   CHECK(window::IsTopMost(list));
@@ -48,7 +48,7 @@ TEST_CASE("the open panel follows the bar, and goes when the bar is minimised as
   HWND const bar = program.AwaitBar();
   program.Press(VK_F8);
   HWND const panel = program.AwaitForm(L"FrameCode");
-  // As another program may move it.
+  // Another program may move it like this.
   SetWindowPos(bar, nullptr, 20, 30, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   CHECK_BECOMES(window::Bounds(panel).top, window::Bounds(bar).bottom);
   CHECK(window::Bounds(panel).left == 20);

@@ -16,7 +16,7 @@ const std::string Sites = ListBytes({{"One", "http://one"}});
 
 std::string Entry(const wchar_t* name) { return RegistryText(HKEY_CURRENT_USER, UninstallKey, name); }
 
-/// The installer as it was built, and a place for it whose name is in no code page as a whole.
+/// The installer, and a folder for it whose name fits no code page.
 struct Installation {
   Installation() { Work.CopyProgram("package\\Vantor-" PRODUCT_PACKAGE_VERSION "-setup.exe", "setup.exe"); }
 
@@ -26,23 +26,23 @@ struct Installation {
   std::string StartMenu = SystemFolder(CSIDL_PROGRAMS) + "\\Vantor.lnk";
   std::string Shortcut = SystemFolder(CSIDL_DESKTOPDIRECTORY) + "\\Vantor.lnk";
 
-  /// Into a folder within the test's; into the one of the last installation for "". Returns the exit code.
+  /// Installs into a subfolder of the test's folder, or of the last installation for "". Returns the exit code.
   [[nodiscard]] DWORD Install(const std::string& place = {}) const {
     return Run('"' + Work.Path("setup.exe") + "\" /S" + (place.empty() ? "" : " /D=" + Work.Path(place)));
   }
-  /// The uninstaller continues in a copy of itself, for which one can't wait.
+  /// The uninstaller continues in a copy of itself, whose end can't be waited for.
   void Uninstall(const std::string& options) const {
     const std::string uninstaller = Work.Path(Place + "Uninstall.exe");
     Run('"' + uninstaller + "\" /S" + options);
     Await("the uninstaller's end", [&] { return Entry(L"DisplayName") == "(none)" && !Exists(uninstaller); });
   }
-  /// As a person left it who has used it: a name, and one web site of the five that are counted.
+  /// Data as left by a user: a name, and one web site although five are counted.
   void WriteData() const {
     Work.Write(Place + "Vantor\\Set.Orbel", Settings{.WebUpper = 4}.Bytes());
     Work.Write(Place + "Vantor\\User.Orbel", "\"Anna\"\r\n");
     Work.Write(Place + "Vantor\\ListWeb.Orbel", Sites);
   }
-  /// Whether a copy has saved when it ended: then the count is right. Its folder is none that the code page could hold.
+  /// Whether a copy has saved at its end: then the count is right. The name of its folder does not fit the code page.
   void CheckSaved() const {
     const std::string folder = Work.Path(Place.substr(0, Place.size() - 1));
     CHECK(Work.Read(Place + "Vantor\\Set.Orbel") == "\xEF\xBB\xBF" + Settings{.WebUpper = 0, .Folder = folder}.Bytes());
@@ -69,14 +69,14 @@ TEST_CASE("install, upgrade over a running copy, uninstall and come back, in a f
   checkInstalled(true);
   CHECK(Entry(L"QuietUninstallString") == '"' + it.Work.Path(it.Place + "Uninstall.exe") + "\" /S");
 
-  // An older version is there, and its start-menu entry was not wanted.
+  // An older version is installed, and the user has removed its start-menu entry.
   for (const char* name : {"Vantor.exe", "Guide.html"}) it.Work.Write(it.Place + name, "old");
   SetRegistryText(HKEY_CURRENT_USER, UninstallKey, L"DisplayVersion", L"1.0");
   DeleteFileW(Wide(it.StartMenu).c_str());
   REQUIRE(it.Install() == 0);
   checkInstalled(false);
 
-  // The copy that runs saves and ends, and runs again afterwards.
+  // The running copy saves, ends, and is started again.
   it.WriteData();
   {
     const Program running(it.Program);
@@ -91,7 +91,7 @@ TEST_CASE("install, upgrade over a running copy, uninstall and come back, in a f
     CHECK_BECOMES(RunningProcess(), DWORD{0});
   }
 
-  // It goes without what was entered, and what a copy that still runs has to save.
+  // Uninstalling keeps what was entered, and what a running copy saves.
   it.WriteData();
   {
     const Program running(it.Program);
@@ -111,7 +111,8 @@ TEST_CASE("install, upgrade over a running copy, uninstall and come back, in a f
   it.CheckSaved();
   it.Uninstall(" /DELETEDATA");
   CHECK_BECOMES(Exists(it.Work.Path(it.Place)), false);
-  for (const std::string& gone : {it.StartMenu, it.Shortcut}) CHECK_FALSE(Exists(gone));  // nobody asked for the second
+  for (const std::string& gone : {it.StartMenu, it.Shortcut})
+    CHECK_FALSE(Exists(gone));  // the second was not requested
 }
 
 TEST_CASE("an installation that can't be done says so and leaves all as it was") {
@@ -120,7 +121,7 @@ TEST_CASE("an installation that can't be done says so and leaves all as it was")
   constexpr DWORD NotDone = 2;
   it.Work.Write("full\\Vantor.exe.new\\in the way");
   CHECK(it.Install("full") == NotDone);
-  // A copy that waits for its first answer does not end when it is asked to.
+  // A copy that is waiting for its first answer does not end on request.
   it.Work.CopyProgram("Vantor.exe", it.Place + "Vantor.exe");
   const Program first(it.Program);
   first.AwaitForm(L"TextInput0");
@@ -149,7 +150,7 @@ TEST_CASE("installed by hand, Enter is enough, and the folder is the user's; wha
   CHECK(Exists(program));
   CHECK(BytesOf(it.StartMenu).find(program) != std::string::npos);
 
-  // The shortcut that the preferences make is the same: it starts the program, by Ctrl+Shift+L.
+  // The preferences create the same shortcut: Ctrl+Shift+L starts the program.
   const std::string setups = BytesOf(it.Shortcut);
   DeleteFileW(Wide(it.Shortcut).c_str());
   {
@@ -164,7 +165,8 @@ TEST_CASE("installed by hand, Enter is enough, and the folder is the user's; wha
     first.AwaitForm(L"LabelMessage");
   }
   for (const std::string& link : {setups, BytesOf(it.Shortcut)}) {
-    CHECK(link.substr(0x38, 10) == std::string("\0\0\0\0\1\0\0\0L\3", 10));  // the first icon, a usual window, the key
+    CHECK(link.substr(0x38, 10) ==
+          std::string("\0\0\0\0\1\0\0\0L\3", 10));  // the first icon, a normal window, the hot key
     for (const std::string& path : {program, Utf16(program)}) CHECK(link.find(path) != std::string::npos);
   }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <windows.h>
-// Needs the one before it.
+// This needs the header before it.
 #include <oleacc.h>
 
 #include <stdexcept>
@@ -9,7 +9,7 @@
 
 namespace vantor::desktop {
 
-/// A window as another program's screen reader meets it. Its parts are numbered from 1; 0 is the window itself.
+/// A window as seen by a screen reader. Its parts are numbered from 1; 0 is the window itself.
 class Accessible {
  public:
   explicit Accessible(HWND window) {
@@ -44,7 +44,7 @@ class Accessible {
     object_->accLocation(&at.left, &at.top, &at.right, &at.bottom, Part(part));
     return {at.left + at.right / 2, at.top + at.bottom / 2};
   }
-  /// Does what the window is for; false when it does not.
+  /// Performs the default action. Returns false if that fails.
   [[nodiscard]] bool Act() const { return object_->accDoDefaultAction(Part(0)) == S_OK; }
 
  private:

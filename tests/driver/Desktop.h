@@ -23,7 +23,7 @@ inline std::string Narrow(const std::wstring& text) {
   return {bytes.begin(), bytes.end()};
 }
 
-/// The bytes of a text in a file of Windows.
+/// The bytes of a text in UTF-16, as in files of Windows.
 inline std::string Utf16(const std::string& text) {
   const std::wstring wide = Wide(text);
   return {reinterpret_cast<const char*>(wide.data()), wide.size() * sizeof(wchar_t)};
@@ -31,10 +31,10 @@ inline std::string Utf16(const std::string& text) {
 
 inline bool UnderWine() { return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr; }
 
-/// Whether the Windows installation belongs to the test, so that its system files may be replaced: tools/wine says so.
+/// Whether the Windows installation belongs to the test, so that its system files may be replaced. Set by tools/wine.
 inline bool OwnDesktop() { return GetEnvironmentVariableW(L"VANTOR_TEST_DESKTOP", nullptr, 0) > 0; }
 
-/// Whether Windows is a 64-bit one, on which the program and its tests are guests.
+/// Whether Windows is a 64-bit one.
 inline bool On64Bit() {
   BOOL guest = FALSE;
   return IsWow64Process(GetCurrentProcess(), &guest) && guest;
@@ -50,14 +50,14 @@ inline std::wstring Beside(const std::wstring& name) { return OwnPath().substr(0
 inline bool Exists(const std::string& path) {
   return GetFileAttributesW(Wide(path).c_str()) != INVALID_FILE_ATTRIBUTES;
 }
-/// The bytes of a file; "(none)" when there is none.
+/// The bytes of a file; "(none)" if it does not exist.
 inline std::string BytesOf(const std::string& path) {
   std::ifstream file(std::filesystem::path(Wide(path)), std::ios::binary);
   if (!file) return "(none)";
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-/// A text in the registry; "(none)" when there is none. The second one writes it.
+/// Reads and writes a text in the registry; "(none)" if it does not exist.
 inline std::string RegistryText(HKEY root, const std::wstring& key, const std::wstring& name) {
   wchar_t text[1024] = L"";
   DWORD bytes = sizeof text;
@@ -70,26 +70,26 @@ inline void SetRegistryText(HKEY root, const std::wstring& key, const std::wstri
     throw std::runtime_error("the registry can't be written");
 }
 
-/// Asks until the condition holds. False when it does not within the time.
+/// Checks a condition until it is true. Returns false if that does not happen in time.
 template <class Condition>
 bool Eventually(Condition condition, DWORD milliseconds = 20000) {
   const ULONGLONG limit = GetTickCount64() + milliseconds;
   while (!condition()) {
     if (GetTickCount64() >= limit) return false;
-    // A window of the test's own has to answer meanwhile.
+    // The test's own windows have to respond meanwhile.
     for (MSG message; PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);) DispatchMessageW(&message);
     Sleep(5);
   }
   return true;
 }
 
-/// Waits for a condition that the rest of a test depends on; ends the test if it does not come true.
+/// Waits for a condition that the rest of the test depends on, and ends the test if it does not become true.
 template <class Condition>
 void Await(const std::string& what, Condition condition) {
   if (!Eventually(condition)) throw std::runtime_error("waited in vain for " + what);
 }
 
-/// Starts a program in a folder, its caller's own by default.
+/// Starts a program in a folder, by default the current one.
 inline PROCESS_INFORMATION Start(const std::string& commandLine, const std::string& folder = {}) {
   std::wstring line = Wide(commandLine);
   STARTUPINFOW startup = {};
@@ -103,7 +103,7 @@ inline PROCESS_INFORMATION Start(const std::string& commandLine, const std::stri
   return process;
 }
 
-/// Runs a program to its end. Returns its exit code.
+/// Runs a program and returns its exit code.
 inline DWORD Run(const std::string& commandLine) {
   HANDLE process = Start(commandLine).hProcess;
   const bool ended = WaitForSingleObject(process, 60000) == WAIT_OBJECT_0;
@@ -116,7 +116,7 @@ inline DWORD Run(const std::string& commandLine) {
 
 }  // namespace vantor::desktop
 
-/// The value becomes the expected one within the limit. A failure shows what it was instead.
+/// Checks that a value becomes the expected one in time. A failure shows the last value.
 #define CHECK_BECOMES(value, expected)                                     \
   do {                                                                     \
     const auto awaited = (expected);                                       \
@@ -124,7 +124,7 @@ inline DWORD Run(const std::string& commandLine) {
     CHECK((value) == awaited);                                             \
   } while (false)
 
-/// Ends a test that can't be shown here, and says so.
+/// Ends a test that can't be run here, and reports that.
 #define SKIP_UNLESS(condition, why)   \
   do {                                \
     if (!(condition)) {               \

@@ -6,7 +6,7 @@
 
 #include "driver/Window.h"
 
-/// Keys and mouse as a person uses them: everything goes to the window that Windows gives it to.
+/// Keyboard and mouse input as from a person: Windows decides which window gets it.
 namespace vantor::desktop::input {
 
 inline void Key(WORD key, WORD scan, DWORD flags) {
@@ -27,8 +27,8 @@ inline void PressControl(WORD key) {
   Key(VK_CONTROL, 0, KEYEVENTF_KEYUP);
 }
 
-/// Types a text by the keys of the keyboard layout; characters that need more than one key come as an input method
-/// sends them: under Wine, Shift may be let go before the key, when the state of the X server's keys comes in between.
+/// Types a text with the keys of the keyboard layout. Characters that need more than one key are sent as by an input
+/// method: under Wine, Shift may be released before the key if the state of the X server's keys arrives in between.
 inline void Type(const std::wstring& text) {
   for (const wchar_t character : text) {
     const SHORT key = VkKeyScanW(character);
@@ -41,7 +41,7 @@ inline void Type(const std::wstring& text) {
   }
 }
 
-/// Puts a text on the clipboard, and pastes it.
+/// Copies a text to the clipboard and pastes it.
 inline void Paste(const std::wstring& text) {
   Await("the clipboard", [] { return OpenClipboard(nullptr) != FALSE; });
   EmptyClipboard();
@@ -58,13 +58,13 @@ inline void Paste(const std::wstring& text) {
 inline void Mouse(POINT at, DWORD flags = 0) {
   INPUT input = {};
   input.type = INPUT_MOUSE;
-  // Whole pixels, aimed at the middle of each.
+  // Whole pixels, at the middle of each.
   input.mi.dx = (at.x * 65536 + 32768) / GetSystemMetrics(SM_CXSCREEN);
   input.mi.dy = (at.y * 65536 + 32768) / GetSystemMetrics(SM_CYSCREEN);
   input.mi.dwFlags = flags | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
   SendInput(1, &input, sizeof input);
 }
-/// Turns the wheel where the mouse is, by a multiple of 3 rows; down is positive.
+/// Turns the wheel at the position of the mouse by a multiple of 3 rows; positive is down.
 inline void Wheel(int rows) {
   const int turn = -rows / 3 * WHEEL_DELTA;
   mouse_event(MOUSEEVENTF_WHEEL, 0, 0, static_cast<DWORD>(turn), 0);
@@ -85,7 +85,7 @@ inline void Click(POINT at, bool twice = false) {
     LetGo(at);
   }
 }
-/// Clicks on a window's middle, once nothing else is there: a form that unfolds may not be as large yet as it will be.
+/// Clicks the middle of a window once nothing covers it: a form that unfolds may not have its final size yet.
 inline void Click(HWND window, bool twice = false) {
   Await("the control to be where the mouse is", [window] {
     HWND const there = WindowFromPoint(window::Middle(window));

@@ -8,21 +8,21 @@
 
 namespace vantor::fake {
 
-/// Drives, folders and files in memory. Paths are compared without regard to the case of A to Z. At first
-/// there is a fixed drive C:.
+/// Drives, folders and files in memory. Paths are compared without regard to the case of A to Z. Initially there is
+/// only a fixed drive C:.
 class FakeDisk {
  public:
   struct DriveState {
     int Type = 2;
     std::wstring Label;
-    bool Ready = true;  // otherwise nothing on it can be seen
+    bool Ready = true;  // otherwise nothing on it is visible
     bool WriteProtected = false;
   };
   struct Entry {
-    std::wstring Path;  // in the letter case it was made with
+    std::wstring Path;  // in its original case
     bool IsFolder = false;
     bool Writable = true;
-    int HeldFor = 0;  // milliseconds of pauses until it can be read
+    int HeldFor = 0;  // for so many milliseconds of pauses it can't be read
     std::string Bytes;
 
     [[nodiscard]] std::wstring Name() const { return Path.substr(Path.rfind(L'\\') + 1); }
@@ -30,14 +30,14 @@ class FakeDisk {
   enum class Fault {
     None,
     Killed,  // the program ends: Killed is thrown
-    Pulled,  // the medium is gone: its drive is not ready
-    Full,    // there is no room for more
+    Pulled,  // the medium is removed: its drive is not ready
+    Full,    // the disk is full
   };
   struct Killed {};
 
   std::map<wchar_t, DriveState> Drives{{L'C', {}}};
 
-  /// Makes a file with all the folders on its way.
+  /// Creates a file and all folders of its path.
   Entry& AddFile(std::wstring_view path, std::string_view bytes = "") {
     AddFolder(Parent(path));
     Entry& entry = entries_[Key(path)];
@@ -49,10 +49,10 @@ class FakeDisk {
     if (!IsRoot(path) && !Find(path)) AddFile(path).IsFolder = true;
   }
   void Remove(std::wstring_view path) { entries_.erase(Key(path)); }
-  /// The bytes of a file; throws std::out_of_range when there is none.
+  /// The bytes of a file. Throws std::out_of_range if it does not exist.
   [[nodiscard]] std::string& Bytes(std::wstring_view path) { return entries_.at(Key(path)).Bytes; }
 
-  /// Lets writing fail after so many bytes, every call counting as one more; a full disk holds so many in all.
+  /// Lets writing fail after so many bytes, where each call counts as one more. A full disk holds this many in all.
   void Break(Fault fault, std::size_t bytes) {
     fault_ = fault;
     left_ = bytes;
@@ -89,7 +89,7 @@ class FakeDisk {
       if (Key(Parent(entry.Path)) == Key(folder) && Find(entry.Path)) result.push_back(&entry);
     return result;
   }
-  /// In place a file that does not fit is cut; otherwise the old one stays.
+  /// A file that does not fit is cut off if it is written in place; otherwise the old one stays.
   bool Write(std::wstring_view path, std::string_view bytes, bool inPlace) {
     const Entry* old = Find(path);
     if (!CanWrite(path) || (old && (old->IsFolder || !old->Writable))) return false;
@@ -125,7 +125,7 @@ class FakeDisk {
     AddFolder(path);
     return true;
   }
-  /// Of all files, in bytes.
+  /// The size of all files in bytes.
   [[nodiscard]] std::size_t Size() const {
     std::size_t size = 0;
     for (const auto& [key, entry] : entries_) size += entry.Bytes.size();
@@ -148,7 +148,7 @@ class FakeDisk {
     const std::wstring trimmed = Trim(path);
     return trimmed.substr(0, trimmed.find_last_of(L'\\'));
   }
-  /// Whether a call that writes may do so: into a folder that exists, on a drive that takes it.
+  /// Whether a call may write: only to an existing folder on a writable drive.
   bool CanWrite(std::wstring_view path) {
     Spend(path, 1);
     const DriveState* drive = DriveOf(path);
@@ -164,7 +164,7 @@ class FakeDisk {
     Drives.at(Key(path)[0]).Ready = false;
   }
 
-  std::map<std::wstring, Entry> entries_;  // by Key of the path
+  std::map<std::wstring, Entry> entries_;  // by the Key of the path
   Fault fault_ = Fault::None;
   std::size_t left_ = 0;
 };

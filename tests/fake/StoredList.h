@@ -5,8 +5,8 @@
 
 namespace vantor::test {
 
-/// One run of the program as far as its files go: the settings and the launch list, in C:\Vantor\Vantor or, on a
-/// remembered computer, in E:\Vantor\Vantor. The disk is the test's, so that a later run finds the files.
+/// The files of one run of the program: the settings and the launch list, in C:\Vantor\Vantor or, on a remembered
+/// computer, in E:\Vantor\Vantor. The disk belongs to the test, so that a later run finds the files.
 struct StoredList : ProgramRun {
   explicit StoredList(fake::Computer& computer, bool onMedium = false) : ProgramRun(computer) {
     Environment.RunMode = Environment.MachineRemembered = onMedium;

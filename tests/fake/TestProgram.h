@@ -15,7 +15,7 @@ namespace vantor::test {
 
 using Texts = std::vector<std::wstring>;
 
-/// A group's items as "name>target" each.
+/// The items of a group, each as "name>target".
 inline Texts ItemsOf(const list::GroupBoxes& boxes) {
   Texts items;
   for (int i = 0; i < boxes.Name.ListCount(); ++i) items.push_back(boxes.Name.List(i) + L">" + boxes.Path.List(i));
@@ -47,7 +47,7 @@ struct OwnComputer {
   fake::Computer Computer;
 };
 
-/// The program on a new computer, where it was used before, from C: in fixed-disk mode.
+/// The program on its own computer, in fixed-disk mode on C:, where it has been used before.
 struct TestProgram : OwnComputer, ProgramRun {
   bar::frmMain& Main = Program.frmMain;
   panel::frmChoose& Choose = Program.frmChoose;
@@ -58,19 +58,19 @@ struct TestProgram : OwnComputer, ProgramRun {
                           "2\r\n-1\r\n-1\r\n-1\r\n-1\r\n" + place + "\r\n\"\"\r\n-1\r\n-1\r\n-1\r\n");
     Computer.Disk.AddFile(L"C:\\Vantor\\Vantor\\User.Orbel", "\"Ada\"\r\n");
   }
-  /// Whether the bar is there then.
+  /// Returns whether the bar is shown then.
   bool Start() {
     Program.Main();
     return Main.Visible() && !Desktop.Ended();
   }
 
-  /// Replaces the text of the box by typing a line.
+  /// Types a line in place of the text in the box.
   void Type(std::wstring_view line) {
     Main.TextMain.SetText(L"");
     Main.TextMain.SetFocus();
     Desktop.Type(line);
   }
-  /// The user reads the next message, does this, and closes it if it is open still.
+  /// The user reads the next message, does this, and closes it if it is still open.
   void Expect(std::function<void(message::frmMessage&)> act = {}) {
     Desktop.WhenModal([this, act = std::move(act)](form::Form& form) {
       auto& dialog = dynamic_cast<message::frmMessage&>(form);
@@ -84,7 +84,7 @@ struct TestProgram : OwnComputer, ProgramRun {
   }
 };
 
-/// The same after its start.
+/// The same, already started.
 struct StartedProgram : TestProgram {
   explicit StartedProgram(const std::string& place = "0\r\n0") : TestProgram(place) { Start(); }
 };

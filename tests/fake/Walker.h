@@ -10,8 +10,9 @@
 
 namespace vantor::fake {
 
-/// The program on a computer in memory, used by somebody who does any steps of flows, also such as can't be done. After
-/// each of them is as it must always be; otherwise the steps until then are told, as a flow, and the test is aborted.
+/// The program on a computer in memory, used by somebody who tries any steps of flows, including impossible ones. After
+/// each step it is checked for what must always hold. If a check fails, the steps so far are printed as a flow, and the
+/// test is aborted.
 class Walker : protected flows::Steps, public flows::NativeWorld {
  public:
   Walker() : NativeWorld(static_cast<flows::Steps&>(*this)) {}

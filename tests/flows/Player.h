@@ -9,15 +9,15 @@
 
 namespace vantor::flows {
 
-/// Plays flows, texts in UTF-8, each in a world of its own. README.md says what a flow may hold. What was not as a flow
-/// says is told with its file's name and the line's number before it; at the end how many were played and failed.
-/// Returns whether all passed that could be played here, and one could.
+/// Plays flows, which are texts in UTF-8, each in a world of its own; README.md describes them. Differences from what a
+/// flow says are printed after the names of the file and the number of the line, and at the end how many flows were
+/// played and failed. Returns whether all that can be played here passed, and there was at least one.
 bool PlayAll(const std::vector<std::filesystem::path>& files, const std::function<void(const std::string& line)>& tell);
 
-/// Plays a flow, one of several that differ little, say. Returns what was not as it says, "" if nothing.
+/// Plays one flow. Returns how the program differed from what it says, "" if it did not.
 std::string Play(const Text& flow);
 
-/// Plays steps, each on a line of its own, as far as they can be done.
+/// Plays steps, one on each line, as far as they are possible.
 void Try(World& world, const Text& steps);
 
 }  // namespace vantor::flows

@@ -1,6 +1,6 @@
 #pragma once
 
-// The words of a flow's line: parts, and the names of keys.
+// The words of a line of a flow: its parts, and the names of keys.
 
 #include <algorithm>
 #include <iterator>
@@ -18,7 +18,7 @@ inline std::string Narrow(std::wstring_view text) {
   return bytes;
 }
 
-/// The parts between separators, blanks around them apart; none of "".
+/// The parts between separators, without the blanks around them; none for "".
 inline Texts Split(std::wstring_view text, std::wstring_view separator) {
   Texts parts;
   for (std::size_t at = 0; at < text.size();) {
@@ -30,7 +30,7 @@ inline Texts Split(std::wstring_view text, std::wstring_view separator) {
 }
 inline Texts Words(const Text& text) { return Split(text, L" "); }
 
-/// The first word, and the rest after it.
+/// The first word, and what follows it.
 inline std::pair<Text, Text> Cut(const Text& text, std::wstring_view separator = L" ") {
   const std::size_t end = text.find(separator);
   if (end == text.npos) return {text, {}};
@@ -46,7 +46,7 @@ inline constexpr std::pair<std::wstring_view, form::Key> Keys[] = {
     {L"PageDown", form::Key::PageDown}, {L"Left", form::Key::Left},
     {L"Right", form::Key::Right},       {L"Delete", form::Key::Delete}};
 
-/// By its name, its letter, or F and its number.
+/// A key by its name, its letter, or F and its number.
 inline form::Key KeyOf(const Text& word) {
   const auto* const key = std::ranges::find(Keys, word, &std::pair<std::wstring_view, form::Key>::first);
   if (key != std::end(Keys)) return key->second;

@@ -8,7 +8,7 @@
 namespace vantor::list {
 namespace {
 
-/// A window that has no room for what it is to show.
+/// A window without room for what it should show.
 struct Full : form::ControlWindow {
   void Changed(form::Property /*property*/) override { throw std::bad_alloc(); }
   void TakeFocus() override {}
@@ -24,17 +24,17 @@ TEST_CASE("names are listed regardless of letter case, paths only when identical
     CHECK(CheckNameListed(program.Computer, name, box).empty());
   CHECK(PathAlreadyListed(LaunchGroup::Prog, L"Editor", box) == message::MessagePathAlreadyListed);
   CHECK(PathAlreadyListed(LaunchGroup::Prog, L"editor", box).empty());
-  // What is the same once it is saved: the name above, and an address.
+  // Equal once saved: the name above, and an address.
   CHECK_FALSE(PathAlreadyListed(LaunchGroup::Web, L"the %22best\"", box).empty());
   CHECK(PathAlreadyListed(LaunchGroup::Web, L"the 'best'", box).empty());
-  // What there is no room for leaves no name without a target.
+  // If there is no room, no name is left without a target.
   const GroupBoxes& boxes = program.List.Of(LaunchGroup::Web);
   Full window;
   boxes.Path.AttachWindow(&window);
   CHECK_THROWS(boxes.AddItem({L"x", L"y"}));
   boxes.Path.AttachWindow(nullptr);
   CHECK(boxes.Name.ListCount() == 0);
-  // Letters that share a place in the memory of letters, 0x111 and 0x411, are kept apart.
+  // 0x111 and 0x411, which share a place among the remembered letters, are distinguished.
   NameMatch match(program.Computer, L"\u0431");
   CHECK(!match.Begins(L"\u0111"));
   CHECK(match.Begins(L"\u0411x"));

@@ -14,7 +14,7 @@ using fake::Outcome;
 using test::ItemsOf;
 using test::Texts;
 
-// Lists of three items in each group; on the medium one of them lies on a computer, which may be the remembered one.
+// Lists of three items in each group; on the medium, one of them is on a computer, which may be the remembered one.
 constexpr std::wstring_view OnDisk =
     LR"(given program D:\Work\Tool.EXE
 given item ListWeb a > http://x | b > http://x | c > http://x
@@ -38,8 +38,8 @@ start
 close)";
 constexpr std::wstring_view Remembered = L"given data Machine 3 | \"1A2B3C4D\" | 80023715840";
 
-/// Everything that can be done with the program. From a medium nothing of a computer is taken before that is
-/// remembered.
+/// Everything that can be done with the program. On a medium, items of a computer are accepted only after the computer
+/// is remembered.
 constexpr std::wstring_view Browse =
     L"press F2 | drop C:\\Work\\Tool.EXE | choose FileWork Tool.EXE | answer Second | choose DriveWork d: | choose "
     L"DriveWork c: | "
@@ -58,7 +58,7 @@ constexpr std::wstring_view Everything[] = {
     L"click CommandListProgRename | answer renamed | click CommandListFoldRename | answer renamed",
     L"click CommandListProgRemove | press F7 F8 F9 | wait 3 | close"};
 
-/// Everything done once, by a user who accepts every message. One call of a service may go wrong.
+/// Does everything once, as a user who accepts every message. One call of a service may fail.
 struct Walk : fake::Walker {
   Walk(bool onMedium, const fake::FakeDisk& disk, int wrong = -1, Outcome how = Outcome::Works) {
     if (onMedium) SetHome(L'E');
@@ -68,7 +68,7 @@ struct Walk : fake::Walker {
         waited_ = true;
         return Outcome::Works;
       }
-      // What can't be read stays so for as long as it is tried again.
+      // What can't be read stays unreadable while it is retried.
       const bool again = std::exchange(waited_, false) && lastWrong_ && call == "Read";
       lastWrong_ = again || Calls++ == wrong;
       if (!lastWrong_) return Outcome::Works;
@@ -106,14 +106,15 @@ struct Walk : fake::Walker {
   bool lastWrong_ = false;
 };
 
-/// The disk after these steps.
+/// The disk after the steps.
 fake::FakeDisk After(std::wstring_view steps, bool onMedium, const fake::FakeDisk& disk) {
   Walk walk(onMedium, disk);
   flows::Try(walk, flows::Text(steps));
   return walk.Computer.Disk;
 }
 
-/// What the next start on the remembered computer has, and what it would have with each of the rescued lists put back.
+/// What the next start on the remembered computer loads, and what it would load with each of the rescued lists
+/// restored.
 std::vector<Texts> Lists(bool onMedium, const fake::FakeDisk& disk) {
   const std::wstring folder = onMedium ? L"E:\\Vantor\\Vantor\\" : L"C:\\Vantor\\Vantor\\";
   std::vector<fake::FakeDisk> disks{onMedium ? After(Remembered, true, disk) : disk};
@@ -133,7 +134,7 @@ std::vector<Texts> Lists(bool onMedium, const fake::FakeDisk& disk) {
 bool Contains(const Texts& items, const std::wstring& item) { return std::ranges::count(items, item) > 0; }
 
 TEST_CASE("each call of a service that goes wrong gives its message, loses no item, and the program goes on") {
-  std::map<std::wstring, std::set<std::string>> seen;  // failed calls by the beginnings of their messages
+  std::map<std::wstring, std::set<std::string>> seen;  // the failed calls, by the beginnings of their messages
   int calls = 0;
   for (const auto& place : {std::pair{false, false}, {true, true}, {true, false}}) {
     const bool onMedium = place.first;
@@ -155,10 +156,10 @@ TEST_CASE("each call of a service that goes wrong gives its message, loses no it
         CAPTURE(wrong);
         CAPTURE(onMedium);
         CHECK(walk.Desktop->Ended());
-        // A loader that breaks takes no more with it than its own file.
+        // A failed load affects only its own file.
         CHECK((walk.Loaded.empty() || walk.Loaded.size() + 3 >= usual.Loaded.size()));
-        // What the interfaces speak of has its message, or none; what nobody expected is asked about, once, as is an
-        // identity file that can't be read.
+        // Expected failures have their message, or none. Unexpected ones lead to one question, and so does an identity
+        // file that can't be read.
         const bool expected = how == Outcome::Fails;
         CHECK(walk.BugQuestions() <= (expected && (!onMedium || walk.WrongCall != "Read") ? 0 : 1));
         for (const std::wstring& text : walk.Told) {
@@ -169,7 +170,8 @@ TEST_CASE("each call of a service that goes wrong gives its message, loses no it
         Walk second(onMedium, walk.Computer.Disk);
         for (const auto* step : {L"start", L"drag 40 40", L"close"}) second.Do(step);
         const std::vector<Texts> lists = Lists(onMedium, second.Computer.Disk);
-        // What the user saw at the end is there, and what could not be seen; or all that there was at the beginning.
+        // Everything that the user saw at the end exists, and what was invisible; or everything that existed at the
+        // beginning.
         Texts unseen;
         for (const std::wstring& item : before) {
           if (!Contains(walk.Loaded, item)) unseen.push_back(item);

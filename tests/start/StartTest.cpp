@@ -12,7 +12,7 @@ using test::Texts;
 
 constexpr char FirstSettings[] = "2\r\n-1\r\n-1\r\n-1\r\n-1\r\n0\r\n0\r\n\"\"\r\n-1\r\n-1\r\n-1\r\n";
 
-/// On a stick that the program has never run from.
+/// On a stick from which the program has never run.
 struct OnMedium : TestProgram {
   OnMedium() { Computer.Home = L"E:\\Work"; }
 };
@@ -40,13 +40,13 @@ TEST_CASE("the maker's programs are found beside this one and in the drive's roo
   const struct {
     std::wstring Program;
     Texts Files;
-    Texts Expected;  // the paths; each one's name is that of its file
+    Texts Expected;  // the paths; the names are those of the files
   } rows[] = {
       {L"C:\\Vantor", {L"C:\\Orbel\\Draw\\Other.exe", L"C:\\Orbel\\Draw.exe", L"C:\\Orbels\\Draw\\Draw.exe"}, {}},
       {L"C:\\Vantor",
        {L"C:\\Vantor\\VantorHelp.exe", L"C:\\ORBEL\\Write\\write.EXE", L"C:\\Orbel\\Draw it\\Draw it.exe"},
        {L"C:\\Orbel\\Draw it\\Draw it.exe", L"C:\\Orbel\\Write\\Write.exe", L"C:\\Vantor\\VantorHelp.exe"}},
-      // The same folder by both ways, and this program in it.
+      // Both ways lead to the same folder, which contains this program.
       {L"C:\\oRBEL\\Vantor",
        {L"C:\\oRBEL\\Vantor\\Vantor.exe", L"C:\\oRBEL\\Draw\\Draw.exe"},
        {L"C:\\Orbel\\Draw\\Draw.exe"}},
@@ -69,7 +69,7 @@ TEST_CASE("the maker's programs are found beside this one and in the drive's roo
     }
     CHECK(paths == row.Expected);
   }
-  // Where somebody else may have put it there, it is taken from a medium only.
+  // If somebody else may have put it there, it is accepted only on a medium.
   for (const auto* shared : {L"C:\\Orbel\\", L"C:\\Orbel\\Draw\\", L"C:\\Orbel\\Draw\\Draw.exe"}) {
     TestProgram program;
     program.Computer.Disk.AddFile(L"C:\\Orbel\\Draw\\Draw.exe");
@@ -109,7 +109,7 @@ TEST_CASE("the program refuses where it can't run, before anything is loaded or 
     CHECK_FALSE((program.Main.Loaded() || program.Choose.Loaded()));
     CHECK(program.Computer.Disk.Written.empty());
   }
-  // A share is known without a question to it; and what has no letter is none of this computer's drives.
+  // A share is recognised without contacting it, and what has no letter is not a drive of this computer.
   for (const auto* home : {L"\\\\server\\share\\Vantor", L"\\\\?\\Volume{1}\\Vantor"}) {
     TestProgram program;
     program.Computer.Home = home;
@@ -117,7 +117,7 @@ TEST_CASE("the program refuses where it can't run, before anything is loaded or 
     CHECK_FALSE(program.Start());
     CHECK(program.Told.at(0).starts_with(L"The Program encountered a problem"));
   }
-  // Inside the Windows folder, or with none known, it goes on.
+  // Inside the Windows folder, or if that is unknown, the start continues.
   for (const auto* windows : {L"c:\\vantor", L"C:\\VANTOR\\", L"C:\\Van", L""}) {
     TestProgram program;
     program.Computer.Windows = windows;
@@ -138,7 +138,7 @@ TEST_CASE("a second copy hands over to the first, or goes on when that has no wi
 }
 
 TEST_CASE("a first run from a medium that can't write is refused, and takes back what it made if it can") {
-  // What the disk counts: a call, and the bytes that it writes.
+  // The disk counts each call and the bytes that it writes.
   constexpr std::size_t Calls = 2;
   const std::string setup = "\"Vantor Media 1\"\r\n\"Setup\"\r\n\"\"\r\n";
   using Fault = fake::FakeDisk::Fault;
@@ -163,7 +163,7 @@ TEST_CASE("a first run from a medium that can't write is refused, and takes back
       if (!triesAgain) CHECK(next.Told.at(0).starts_with(L"To run this Program from a Removable Media there"));
     }
   }
-  // Ended in its first write, beside the file or in it.
+  // Ended during its first write, to the file next to it or in place.
   for (const auto* name : {L"MediaSet.Orbel", L"MediaSet.Orbel~"}) {
     for (std::size_t length = 0; length < setup.size(); length += 6) {
       OnMedium cut;

@@ -69,7 +69,7 @@ TEST_CASE("drives, files and folders are known with the scripting object or with
   const auto drives = disk.Files.Drives();
   CHECK(std::ranges::is_sorted(drives, {}, [](const auto& drive) { return drive.Letter; }));
   CHECK(std::ranges::any_of(drives, [](const auto& drive) { return drive.Letter == L'C' && drive.Type == 2; }));
-  // What the clean-up of the folder can't reach.
+  // The clean-up of the folder can't remove this.
   DeleteFileW((L"\\\\?\\" + deepFile).c_str());
   RemoveDirectoryW((L"\\\\?\\" + deep).c_str());
 }
@@ -148,7 +148,7 @@ TEST_CASE("a data file is replaced whole or left whole, in its place too where t
     SetAttributes(path, FILE_ATTRIBUTE_NORMAL);
     REQUIRE(data.Write(path, old));
   }
-  // No new file can be made beside it.
+  // No new file can be created next to it.
   std::filesystem::create_directory(path + L"~");
   CHECK(data.Write(path, "new"));
   CHECK(data.Read(path).Bytes == "new");
@@ -161,7 +161,7 @@ TEST_CASE("a data file is replaced whole or left whole, in its place too where t
   for (int time = 0; time < 2; ++time) CHECK(data.MakeFolder(folder / L"made"));
   CHECK(data.FolderEntries(folder / L"none") == Names{});
   const std::wstring moved = folder / L"made\\Set.Orbel";
-  CHECK_FALSE(data.Move(path, moved));  // it is hidden, which a new one would not be
+  CHECK_FALSE(data.Move(path, moved));  // it is hidden; a new one would not be
   SetAttributes(path, FILE_ATTRIBUTE_ARCHIVE);
   for (int time = 0; time < 2; ++time) {
     REQUIRE(data.Write(path, old));

@@ -26,7 +26,7 @@ using namespace vantor::desktop;
 
 namespace {
 
-/// What Explorer drags for a file.
+/// The data that Explorer drags for a file.
 ComPointer<IDataObject> DraggedFile(const std::wstring& path) {
   ITEMIDLIST* item = nullptr;
   REQUIRE(SUCCEEDED(SHParseDisplayName(path.c_str(), nullptr, &item, 0, nullptr)));
@@ -94,7 +94,7 @@ TEST_CASE("a shortcut is saved for any letters and keys, and stands for its targ
   DeleteFileW(shortcut.TargetPath.c_str());
   CHECK(ShortcutTarget(shortcut.File) == shortcut.File);
   if (On64Bit() && UnderWine()) {
-    // What Windows' shell makes of "the folder of the programs" for a 32-bit program.
+    // The path that Windows' shell reports to a 32-bit program for "the folder of programs".
     const std::wstring there = L"C:\\Program Files\\only64.exe";
     std::ofstream(std::filesystem::path(there)).close();
     shortcut.TargetPath = L"C:\\Program Files (x86)\\only64.exe";
@@ -113,7 +113,7 @@ TEST_CASE("letter case follows the user's language, and the code page takes what
   CHECK(language.Upper(L"vantor {i} \x00E4\x0436") == L"VANTOR {I} \x00C4\x0416");
   SKIP_UNLESS(GetACP() == 1252, "the Western code page");
   CHECK(language.ToCodePage(L"\"\x00E4\x20AC\"\r\n") == "\"\xE4\x80\"\r\n");
-  // The third has a best fit; the last two have a half character.
+  // The third has a best fit; the last two contain half a character.
   for (const wchar_t* foreign : {L"\x4E2D", L"\x0416", L"\x0100", L"a\xD83D\xDE00", L"a\xD800z"})
     CHECK_FALSE(language.ToCodePage(foreign));
 }
@@ -129,7 +129,7 @@ TEST_CASE("the management service and Windows both tell where a process has its 
   check(GetCurrentProcessId(), OwnPath());
   CHECK(processes.ImageName(3).empty());
   if (On64Bit()) {
-    // By the name under which a 32-bit program, and nobody else, sees the system's folder.
+    // By the name of the system folder that exists only for 32-bit programs.
     const PROCESS_INFORMATION other = Start(R"(C:\windows\Sysnative\notepad.exe)");
     check(other.dwProcessId, L"C:\\windows\\system32\\notepad.exe");
     TerminateProcess(other.hProcess, 0);
@@ -172,12 +172,12 @@ TEST_CASE("work that ends is waited for, work that does not for five seconds at 
   CHECK(work.Run([&] { done = true; }));
   CHECK(done);
 
-  // As with a service that never answers: the work goes on behind, and comes to its end later.
+  // As with a service that does not answer: the work continues in the background and ends later.
   const auto answer = std::make_shared<KernelHandle>(CreateEventW(nullptr, TRUE, FALSE, nullptr));
   const DWORD begin = GetTickCount();
   CHECK_FALSE(work.Run([answer] { WaitForSingleObject(answer->Get(), INFINITE); }));
   CHECK(GetTickCount() - begin >= 4900);
-  // Nothing more is asked meanwhile, so that not one thread after the other is left behind.
+  // Nothing else is started meanwhile, so that abandoned threads do not pile up.
   CHECK_FALSE(work.Run([&] { done = false; }));
   CHECK(done);
   SetEvent(answer->Get());

@@ -36,7 +36,7 @@ constexpr char Leaves[] = "@echo ran>\"%~dp0ran.txt\"\r\n";
 TEST_CASE("a text that names a file starts exactly that file; a command line the program it begins with") {
   Starts starts;
   const std::wstring program = starts.Folder.Make(L"my tool.cmd", Leaves);
-  // Windows would rather start this one.
+  // Windows would prefer to start this one.
   CopyFileW(L"C:\\windows\\system32\\attrib.exe", (starts.Folder / L"my.exe").c_str(), FALSE);
   const std::wstring arguments = L" /c echo ran>\"" + starts.Ran + L"\"";
   const auto ran = [&] {
@@ -101,7 +101,7 @@ TEST_CASE("a command line is parted where Windows would") {
 }
 
 TEST_CASE("what only looks like a copy that runs neither holds a start up nor ends it") {
-  // The name is held by another thread of this process, which has a window such as a copy has, but is none.
+  // The name is held by another thread of this process, which has a window like that of a copy, but is not a copy.
   std::promise<bool> held;
   std::promise<void> end;
   std::thread holder([&] {

@@ -23,7 +23,7 @@ class TestFolder {
   TestFolder& operator=(const TestFolder&) = delete;
 
   [[nodiscard]] std::wstring operator/(std::wstring_view name) const { return Path + L'\\' + std::wstring(name); }
-  /// Makes a file, and returns its path.
+  /// Creates a file and returns its path.
   std::wstring Make(std::wstring_view name, std::string_view bytes = "x") const {
     std::wstring path = *this / name;
     std::ofstream(std::filesystem::path(path), std::ios::binary) << bytes;
@@ -34,8 +34,8 @@ class TestFolder {
       std::filesystem::temp_directory_path() / (L"vantor test " + std::to_wstring(GetCurrentProcessId()));
 };
 
-/// Does it with a scripting or management object (true), and then, where the registry is the test's own, without it, as
-/// after an administrator has taken its class away (false).
+/// Runs a check with a scripting or management object (true) and then, if the registry belongs to the test, without it,
+/// as after an administrator has removed its class (false).
 template <class Action>
 void WithAndWithout(const std::wstring& className, Action action) {
   action(true);

@@ -1,4 +1,4 @@
-// Replaces the programs that Vantor starts: appends its command line, in UTF-8, to the file named by VANTOR_RECORD.
+// Stands in for the programs that Vantor starts: appends its command line in UTF-8 to the file named by VANTOR_RECORD.
 
 #include "driver/Desktop.h"
 
