@@ -8,8 +8,6 @@
 
 namespace vantor::bar {
 
-namespace {
-
 using form::Twips;
 using namespace form::grid;
 
@@ -20,8 +18,6 @@ constexpr Twips NameWidth = 1440;
 constexpr Twips AddWidth = 540;
 
 constexpr std::wstring_view AddedCaption = L"Site Added To List : Click To Hide";
-
-}  // namespace
 
 AddWebBox::AddWebBox(form::Form& bar, panel::PanelHost& host, const list::LaunchList& list,
                      const service::Language& language, message::Messages& messages)

@@ -7,8 +7,6 @@
 
 namespace vantor::command {
 
-namespace {
-
 using form::Twips;
 
 constexpr Twips ListWidth = 6000;
@@ -18,8 +16,6 @@ constexpr Twips Corner = 60;  // above and below the rows, to keep them clear of
 constexpr Twips RowPadding = 45;
 /// A whole number of pixels on most screens.
 constexpr Twips Grid = 60;
-
-}  // namespace
 
 frmMatches::frmMatches(form::UserInterface& ui, const service::Language& language)
     : Form(ui, L"frmMatches"), matches_(language) {

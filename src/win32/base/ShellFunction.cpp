@@ -55,8 +55,7 @@ std::optional<TrueSystemFolder> FolderForShell(std::wstring_view path) {
 
 bool OpenByShell(const std::wstring& file, const std::wstring& arguments) {
   if (!FitsShell(file) || !FitsShell(arguments)) return false;
-  SHELLEXECUTEINFOW what = {};
-  what.cbSize = sizeof what;
+  SHELLEXECUTEINFOW what{sizeof what};
   what.fMask = SEE_MASK_FLAG_NO_UI;
   what.lpFile = file.c_str();
   what.lpParameters = arguments.empty() ? nullptr : arguments.c_str();

@@ -27,8 +27,7 @@ namespace vantor::win32 {
 
 /// The screen that most of a window is on; the nearest one if it is on none.
 [[nodiscard]] inline MONITORINFO MonitorOf(HWND window) {
-  MONITORINFO monitor{};
-  monitor.cbSize = sizeof monitor;
+  MONITORINFO monitor{sizeof monitor};
   GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
   return monitor;
 }

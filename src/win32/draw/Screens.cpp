@@ -36,8 +36,7 @@ int PlainDpiOf(HMONITOR monitor) {
 HMONITOR PrimaryMonitor() { return MonitorFromPoint(POINT{}, MONITOR_DEFAULTTOPRIMARY); }
 
 LOGFONTW PlainMessageFont() {
-  NONCLIENTMETRICSW metrics{};
-  metrics.cbSize = sizeof metrics;
+  NONCLIENTMETRICSW metrics{sizeof metrics};
   // The call with a resolution exists since Windows 10.
   using ParametersForDpi = BOOL(WINAPI*)(UINT, UINT, void*, UINT, UINT);
   static const auto forDpi = FindInUser32<ParametersForDpi>("SystemParametersInfoForDpi");
@@ -95,8 +94,7 @@ form::Twips Screens::Start(LONG from, LONG to, int dpi) const {
 }
 
 Screens::Monitor Screens::Describe(HMONITOR handle) const {
-  MONITORINFO info{};
-  info.cbSize = sizeof info;
+  MONITORINFO info{sizeof info};
   GetMonitorInfoW(handle, &info);
   const RECT& pixels = info.rcMonitor;
   const int dpi = WithTextScale(PlainDpiOf(handle));

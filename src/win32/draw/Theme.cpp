@@ -7,8 +7,7 @@ namespace vantor::win32 {
 namespace {
 
 bool HighContrastIsOn() {
-  HIGHCONTRASTW settings{};
-  settings.cbSize = sizeof settings;
+  HIGHCONTRASTW settings{sizeof settings};
   return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof settings, &settings, 0) != FALSE &&
          (settings.dwFlags & HCF_HIGHCONTRASTON) != 0;
 }

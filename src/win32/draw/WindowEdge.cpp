@@ -22,8 +22,7 @@ double CornerRadius(double scale) { return std::round(6 * scale); }
 bool CompositorRoundsCorners() {
   static const bool rounds = [] {
     using GetVersion = LONG(WINAPI*)(OSVERSIONINFOW*);
-    OSVERSIONINFOW version{};
-    version.dwOSVersionInfoSize = sizeof version;
+    OSVERSIONINFOW version{sizeof version};
     const auto getVersion = FindFunction<GetVersion>(GetModuleHandleW(L"ntdll.dll"), "RtlGetVersion");
     return getVersion != nullptr && getVersion(&version) == 0 && version.dwBuildNumber >= FirstBuildWithRoundCorners;
   }();

@@ -39,8 +39,7 @@ bool CopyRuns() {
   const FileHandle snapshot(CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0));
   const std::wstring own = ImageName(GetCurrentProcessId());
   const std::wstring_view name = std::wstring_view(own).substr(own.rfind(L'\\') + 1);
-  PROCESSENTRY32W process = {};
-  process.dwSize = sizeof process;
+  PROCESSENTRY32W process{sizeof process};
   for (BOOL more = Process32FirstW(snapshot.Get(), &process); more; more = Process32NextW(snapshot.Get(), &process)) {
     // The list contains the name; the path requires another call.
     const DWORD id = process.th32ProcessID;

@@ -50,8 +50,7 @@ std::vector<service::ProcessEntry> Processes::CreateSnapshot() {
   // The flags ask for no kind of entry, not even for the process list: it is up to the system what such a snapshot
   // contains. The paths do not depend on it.
   const FileHandle snapshot(CreateToolhelp32Snapshot(0, 0));
-  PROCESSENTRY32 entry = {};
-  entry.dwSize = sizeof entry;
+  PROCESSENTRY32 entry{sizeof entry};
   for (BOOL filled = Process32First(snapshot.Get(), &entry); filled; filled = Process32Next(snapshot.Get(), &entry)) {
     entries.push_back(std::bit_cast<service::ProcessEntry>(entry));
   }

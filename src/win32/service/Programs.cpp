@@ -24,8 +24,7 @@ constexpr std::size_t LongestCommandLine = 32766;  // CreateProcess's own limit
 
 /// Starts exactly this program. Returns the error code.
 DWORD Start(const std::wstring& program, std::wstring commandLine) {
-  STARTUPINFOW startup = {};
-  startup.cb = sizeof startup;
+  STARTUPINFOW startup{sizeof startup};
   startup.dwFlags = STARTF_USESHOWWINDOW;
   startup.wShowWindow = SW_SHOWNORMAL;
   PROCESS_INFORMATION started = {};

@@ -44,8 +44,7 @@ ComboWindow::ComboWindow(FormWindow& owner, form::DropDownList& list)
 }
 
 COMBOBOXINFO ComboWindow::Parts() const {
-  COMBOBOXINFO parts{};
-  parts.cbSize = sizeof parts;
+  COMBOBOXINFO parts{sizeof parts};
   GetComboBoxInfo(Hwnd(), &parts);
   return parts;
 }

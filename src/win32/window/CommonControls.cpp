@@ -10,8 +10,7 @@ constexpr WORD ManifestId = 2;
 /// Created once and kept, because the windows created under it need it as long as they live.
 HANDLE Context() {
   static const HANDLE context = [] {
-    ACTCTXW description{};
-    description.cbSize = sizeof description;
+    ACTCTXW description{sizeof description};
     description.dwFlags = ACTCTX_FLAG_RESOURCE_NAME_VALID | ACTCTX_FLAG_HMODULE_VALID;
     description.hModule = GetModuleHandleW(nullptr);
     description.lpResourceName = MAKEINTRESOURCEW(ManifestId);

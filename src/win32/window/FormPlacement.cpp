@@ -79,8 +79,7 @@ void FormPlacement::Report() {
 POINT FormPlacement::CornerAt(int dpi) const {
   const RECT place = WindowArea(owner_.Hwnd());
   POINT fixed{place.left, place.top};
-  GUITHREADINFO thread{};
-  thread.cbSize = sizeof thread;
+  GUITHREADINFO thread{sizeof thread};
   if (GetGUIThreadInfo(GetCurrentThreadId(), &thread) && (thread.flags & GUI_INMOVESIZE) != 0) GetCursorPos(&fixed);
   const MONITORINFO screen = MonitorOf(owner_.Hwnd());
   const auto corner = [&](LONG at, LONG from, LONG to, LONG screenFrom, LONG screenTo) {

@@ -11,12 +11,8 @@
 
 namespace vantor::win32 {
 
-namespace {
-
 /// Starts a row for a screen reader, after the reader has its answer.
 constexpr UINT StartRowMessage = WM_APP + 1;
-
-}  // namespace
 
 RowListWindow::RowListWindow(FormWindow& owner, form::RowList& list)
     : PaintedWindow(owner, list, {L"STATIC", SS_NOTIFY | WS_VSCROLL, {}, true}), list_(list) {}
