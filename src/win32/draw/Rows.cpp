@@ -158,7 +158,7 @@ void DrawMarkedRow(Canvas& canvas, const form::Row& row, RowState state, COLORRE
   const LONG room = std::max((right - left) * 3 / 5, right - left - detailWidth);
   const LONG textEnd = left + std::min(textWidth, room);
   DrawMarked(canvas, row, {left, 0, textEnd, canvas.Height()}, font, textColor, mark, scale);
-  canvas.Text(row.Detail, {textEnd + gap, 0, right, canvas.Height()}, small,
+  canvas.Text(ShortAddress(row.Detail, small, right - textEnd - gap), {textEnd + gap, 0, right, canvas.Height()}, small,
               colors.HighContrast ? textColor : Mix(textColor, background, Faintness), OneLine(row.Detail));
 }
 

@@ -23,8 +23,8 @@ struct ListRow {
 [[nodiscard]] int RowHeight(HFONT font, double scale);
 /// The margin at each side of a row's text.
 [[nodiscard]] int RowMargin(double scale);
-/// Draws a row in the state given by the system. A text that is too long is shortened with an ellipsis, a path in the
-/// middle.
+/// Draws a row in the state given by the system. A text that is too long is shortened with an ellipsis, a path or an
+/// address in the middle.
 void DrawRow(const DRAWITEMSTRUCT& item, const ListRow& row, COLORREF background, HFONT font, const Theme& theme,
              double scale);
 
@@ -32,7 +32,7 @@ void DrawRow(const DRAWITEMSTRUCT& item, const ListRow& row, COLORREF background
 enum class RowState { Plain, Hot, Current };
 
 /// Draws a row over the whole canvas: its text with a line under the marked part, and the detail after it, smaller and
-/// fainter. Texts that are too long are shortened with an ellipsis, a path in the middle.
+/// fainter. Texts that are too long are shortened with an ellipsis, a path or an address in the middle.
 void DrawMarkedRow(Canvas& canvas, const form::Row& row, RowState state, COLORREF background, COLORREF textColor,
                    const Theme& theme, int dpi);
 
