@@ -100,14 +100,14 @@ TEST_CASE("a second copy hands over to the first, minimised or covered; of two a
   for (const bool minimised : {true, false}) {
     CAPTURE(minimised);
     if (minimised) first.Press(VK_F9);
-    CHECK_BECOMES(window::IsMinimised(bar), minimised);
+    CHECK_BECOMES(IsIconic(bar) != FALSE, minimised);
     HWND const cover = CreateWindowExW(0, L"STATIC", L"cover", WS_POPUP | WS_VISIBLE, 0, 0, 700, 300, nullptr, nullptr,
                                        GetModuleHandleW(nullptr), nullptr);
     SetForegroundWindow(cover);
     CHECK_BECOMES(GetForegroundWindow(), cover);
     CHECK(Program(folder).AwaitEnd() == 0);
     CHECK(first.AwaitBar() == bar);
-    CHECK_BECOMES(window::IsMinimised(bar), false);
+    CHECK_BECOMES(IsIconic(bar), FALSE);
     CHECK_BECOMES(window::IsAbove(bar, cover), true);
     CHECK(first.Line() == "kept");
     DestroyWindow(cover);

@@ -8,28 +8,20 @@
 
 namespace vantor::desktop {
 
-/// The settings file's eleven values; the bar's place is in twips.
+/// The settings file's values that tests change; the other lists are empty. The bar's place is in twips.
 struct Settings {
   int OptionMask = 2;
-  int FileUpper = -1;
-  int FoldUpper = -1;
   int ProgUpper = -1;
   int WebUpper = -1;
   int Left = 0;
   int Top = 0;
   std::string Folder;
-  int MachineFileUpper = -1;
-  int MachineFoldUpper = -1;
-  int MachineProgUpper = -1;
 
   [[nodiscard]] std::string Bytes() const {
     std::string bytes;
-    const auto add = [&bytes](const std::string& value) { bytes += value + "\r\n"; };
-    for (const int value : {OptionMask, FileUpper, FoldUpper, ProgUpper, WebUpper, Left, Top})
-      add(std::to_string(value));
-    add('"' + Folder + '"');
-    for (const int value : {MachineFileUpper, MachineFoldUpper, MachineProgUpper}) add(std::to_string(value));
-    return bytes;
+    for (const int value : {OptionMask, -1, -1, ProgUpper, WebUpper, Left, Top})
+      bytes += std::to_string(value) + "\r\n";
+    return bytes + '"' + Folder + "\"\r\n-1\r\n-1\r\n-1\r\n";
   }
 };
 
@@ -48,13 +40,13 @@ class Folder {
  public:
   /// In the temporary folder, or in the root of the drive that is named ("E:\\").
   explicit Folder(const std::string& root = {}) {
-    wchar_t temporary[MAX_PATH];
-    const std::wstring given(temporary, GetTempPathW(MAX_PATH, temporary));
-    // In its long form, as the program and the shell report paths.
-    const std::wstring parent(temporary, GetLongPathNameW(given.c_str(), temporary, MAX_PATH));
     static int count = 0;
-    path_ = (root.empty() ? Narrow(parent) : root) + "vantor" + std::to_string(GetCurrentProcessId()) + "-" +
-            std::to_string(++count);
+    const std::wstring given = root.empty() ? std::filesystem::temp_directory_path().wstring() : Wide(root);
+    // In its long form, as the program and the shell report paths.
+    wchar_t parent[MAX_PATH];
+    GetLongPathNameW(given.c_str(), parent, MAX_PATH);
+    const std::string name = "vantor" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++count);
+    path_ = Narrow(std::filesystem::path(parent) / name);
     CopyProgram("Vantor.exe", "Vantor.exe");
   }
   ~Folder() {

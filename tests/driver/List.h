@@ -13,60 +13,59 @@
 
 namespace vantor::desktop {
 
-/// A list as a person meets it: a list box, a combo box, or a list whose rows are only drawn, which are then learnt as
-/// a screen reader does.
+/// A list as a person meets it: a list box, a combo box, or a list whose rows are only drawn, which are then
+/// learnt as a screen reader does.
 class List {
  public:
-  explicit List(HWND window, bool drawn = false) : window_(window), combo_(window::ClassName(window) == "ComboBox") {
+  explicit List(HWND window, bool drawn = false) : window_(window), combo_(window::DropDownOf(window) != nullptr) {
     if (drawn) rows_ = std::make_unique<Accessible>(window);
   }
 
   /// All entries; of drawn ones those in sight.
   [[nodiscard]] std::vector<std::wstring> Entries() const {
     std::vector<std::wstring> entries;
-    const LONG count = rows_ ? rows_->Count() : Ask(CB_GETCOUNT, LB_GETCOUNT, 0, 0);
-    for (LONG i = 0; i < count; ++i) {
-      if (!rows_ || InSight(i)) entries.push_back(Text(i));
+    for (LONG i = 0; i < Count(); ++i) {
+      if (InSight(i)) entries.push_back(Text(i));
     }
     return entries;
   }
   /// The selected entry's text; of a drawn one all that is said of it. "" for none.
   [[nodiscard]] std::wstring Selected() const {
     if (rows_) return rows_->Selected() > 0 ? rows_->Name(rows_->Selected()) : L"";
-    const LONG selected = Ask(CB_GETCURSEL, LB_GETCURSEL, 0, 0);
+    const LONG selected = Ask(CB_GETCURSEL, LB_GETCURSEL);
     return selected >= 0 ? Text(selected) : L"";
   }
   /// Where an entry is on the screen, once it is there.
   [[nodiscard]] POINT AwaitEntry(const std::wstring& entry) const {
     LONG index = -1;
     Await("the entry", [&] {
-      const LONG count = rows_ ? rows_->Count() : Ask(CB_GETCOUNT, LB_GETCOUNT, 0, 0);
-      for (index = count - 1; index >= 0; --index) {
-        if (Text(index) == entry && (!rows_ || InSight(index))) break;
+      for (index = Count() - 1; index >= 0; --index) {
+        if (Text(index) == entry && InSight(index)) return true;
       }
-      return index >= 0;
+      return false;
     });
     if (rows_) return rows_->Middle(index + 1);
     RECT item = {};
-    SendMessageW(window_, LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item));
+    Ask(0, LB_GETITEMRECT, index, &item);
     POINT middle{(item.left + item.right) / 2, (item.top + item.bottom) / 2};
     ClientToScreen(window_, &middle);
     return middle;
   }
-  [[nodiscard]] bool IsCombo() const { return combo_; }
 
  private:
-  LONG Ask(UINT combo, UINT list, LONG index, LPARAM more) const {
-    return static_cast<LONG>(SendMessageW(window_, combo_ ? combo : list, static_cast<WPARAM>(index), more));
+  LONG Ask(UINT combo, UINT list, LONG index = 0, void* answer = nullptr) const {
+    const auto to = reinterpret_cast<LPARAM>(answer);
+    return static_cast<LONG>(SendMessageW(window_, combo_ ? combo : list, static_cast<WPARAM>(index), to));
   }
-  [[nodiscard]] bool InSight(LONG row) const { return (rows_->State(row + 1) & STATE_SYSTEM_OFFSCREEN) == 0; }
+  [[nodiscard]] LONG Count() const { return rows_ ? rows_->Count() : Ask(CB_GETCOUNT, LB_GETCOUNT); }
+  [[nodiscard]] bool InSight(LONG row) const { return !rows_ || (rows_->State(row + 1) & STATE_SYSTEM_OFFSCREEN) == 0; }
   [[nodiscard]] std::wstring Text(LONG index) const {
     if (rows_) {
       const std::wstring said = rows_->Name(index + 1);
       return said.substr(0, said.rfind(L", "));
     }
-    std::wstring text(static_cast<std::size_t>(std::max(Ask(CB_GETLBTEXTLEN, LB_GETTEXTLEN, index, 0), 0L)) + 1, L'\0');
-    Ask(CB_GETLBTEXT, LB_GETTEXT, index, reinterpret_cast<LPARAM>(text.data()));
+    std::wstring text(static_cast<std::size_t>(std::max(Ask(CB_GETLBTEXTLEN, LB_GETTEXTLEN, index), 0L)) + 1, L'\0');
+    Ask(CB_GETLBTEXT, LB_GETTEXT, index, text.data());
     text.pop_back();
     return text;
   }

@@ -98,11 +98,11 @@ class Program {
   }
   /// Clicks on a control as soon as it can be used, or on an entry of a list.
   void Click(std::wstring_view control, const std::wstring& entry = {}, bool twice = false) const {
-    Await("the control to be ready", [&] { return Control(control) && window::IsEnabled(Control(control)); });
+    Await("the control to be ready", [&] { return Control(control) && IsWindowEnabled(Control(control)); });
     AwaitInput();
     if (entry.empty())
       input::Click(Control(control), twice);
-    else if (ListOf(control).IsCombo())
+    else if (window::DropDownOf(Control(control)) != nullptr)
       Choose(Control(control), entry);
     else
       input::Click(ListOf(control).AwaitEntry(entry), twice);
@@ -129,13 +129,8 @@ class Program {
   static void Choose(HWND combo, const std::wstring& entry) {
     const RECT box = window::Bounds(combo);
     input::Click({box.right - 8, (box.top + box.bottom) / 2});
-    HWND list = nullptr;
-    Await("the list to drop down", [&] {
-      COMBOBOXINFO info = {};
-      info.cbSize = sizeof info;
-      list = GetComboBoxInfo(combo, &info) && IsWindowVisible(info.hwndList) ? info.hwndList : nullptr;
-      return list != nullptr;
-    });
+    HWND const list = window::DropDownOf(combo);
+    Await("the list to drop down", [&] { return IsWindowVisible(list); });
     input::Click(List(list).AwaitEntry(entry));
     Await("the list to close", [&] { return !IsWindowVisible(list); });
   }

@@ -84,8 +84,13 @@ inline HWND Focus(HWND window) {
   return focus == window || IsChild(window, focus) ? focus : nullptr;
 }
 
-inline bool IsEnabled(HWND window) { return IsWindowEnabled(window) != FALSE; }
-inline bool IsMinimised(HWND window) { return IsIconic(window) != FALSE; }
+/// The list of a combo box, dropped down or not; null for any other window.
+inline HWND DropDownOf(HWND window) {
+  COMBOBOXINFO info = {};
+  info.cbSize = sizeof info;
+  return GetComboBoxInfo(window, &info) ? info.hwndList : nullptr;
+}
+
 inline bool IsTopMost(HWND window) { return (GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; }
 
 /// Whether the first window is above the second in the z-order.

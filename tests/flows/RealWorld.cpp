@@ -226,7 +226,7 @@ class RealWorld : public World {
       HWND const focus = window::Focus(program_->Active());
       return GetWindowLongW(focus, GWL_ID) == win32::ControlId(name) ? name : Wide(window::ClassName(focus));
     }
-    if (what == L"minimised") return yes(window::IsMinimised(Bar()));
+    if (what == L"minimised") return yes(IsIconic(Bar()) != FALSE);
     if (what == L"on top")
       return yes(window::IsTopMost(name.empty() ? Bar() : GetAncestor(program_->Control(name), GA_ROOT)));
     if (what == L"place") {
@@ -237,7 +237,7 @@ class RealWorld : public World {
     HWND const window = program_->Control(name);
     if (what == L"shown") return yes(window != nullptr);
     if (window == nullptr) return what == L"text" ? L"" : L"not shown";
-    if (what == L"enabled") return yes(window::IsEnabled(window));
+    if (what == L"enabled") return yes(IsWindowEnabled(window) != FALSE);
     if (what == L"ticked") return yes(SendMessageW(window, BM_GETCHECK, 0, 0) == BST_CHECKED);
     if (what == L"entries") return Joined(program_->ListOf(name).Entries());
     const bool list = name == L"ListMatches" || window::ClassName(window) == "ListBox";
