@@ -36,7 +36,7 @@ class Program {
   }
   /// The form with a control.
   [[nodiscard]] HWND FormOf(std::wstring_view control) const { return GetAncestor(Control(control), GA_ROOT); }
-  /// The bar, minimised or not, and the open message.
+  /// The bar, minimised or not, and the open message. The bar's buttons come last when it opens.
   [[nodiscard]] HWND Bar() const { return FormOf(L"CommandExit"); }
   [[nodiscard]] HWND Message() const { return FormOf(L"LabelMessage"); }
   [[nodiscard]] std::string Line() const { return window::Text(Control(L"TextMain")); }

@@ -63,12 +63,6 @@ class NativeWorld : public World {
   void MakeProgram(const Text& path) override { Computer.Disk.AddFile(path, "program"); }
   void MakeFolder(const Text& path) override { Computer.Disk.AddFolder(path); }
   void Remove(const Text& path) override { Computer.Disk.Remove(path); }
-  void Protect(const Text& path, bool readOnly) override {
-    if (path.size() <= 3)
-      Computer.Disk.Drives.at(path.at(0)).WriteProtected = readOnly;
-    else
-      Computer.Disk.AddFile(path, Computer.Disk.Bytes(path)).Writable = !readOnly;
-  }
   [[nodiscard]] std::optional<std::string> Read(const Text& path) override {
     return Computer.Disk.HasFile(path) ? std::optional(Computer.Disk.Bytes(path)) : std::nullopt;
   }
@@ -145,6 +139,7 @@ class NativeWorld : public World {
   void Close() override { Program->frmMain.InputClose(); }
   void Wait(int milliseconds) override { Desktop->Advance(milliseconds); }
   void Break(const Text& call, const Text& outcome) override {
+    for (auto& [letter, drive] : Computer.Disk.Drives) drive.WriteProtected = call == Text{letter, L':'};
     broken_.assign(call.begin(), call.end());
     Computer.Let(broken_, outcome == L"fails"    ? fake::Outcome::Fails
                           : outcome == L"throws" ? fake::Outcome::Throws

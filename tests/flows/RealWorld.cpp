@@ -140,9 +140,6 @@ class RealWorld : public World {
     std::error_code error;
     Await("the file to go", [&] { return std::filesystem::remove(path, error), !error; });
   }
-  void Protect(const Text& path, bool readOnly) override {
-    SetFileAttributesW(path.c_str(), readOnly ? FILE_ATTRIBUTE_READONLY : FILE_ATTRIBUTE_NORMAL);
-  }
   [[nodiscard]] std::optional<std::string> Read(const Text& path) override {
     return Exists(Narrow(path)) ? std::optional(BytesOf(Narrow(path))) : std::nullopt;
   }
@@ -151,6 +148,7 @@ class RealWorld : public World {
     program_.reset();
     program_ = std::make_unique<Program>(*folders_.back());
     Await("the program to have the input", [this] { return program_->Active() || !program_->Running(); });
+    program_->AwaitHandled();
   }
   void Press(form::Key key) override { program_->Press(static_cast<WORD>(key)); }
   void PressControl(form::Key key) override { program_->PressControl(static_cast<WORD>(key)); }
@@ -160,7 +158,6 @@ class RealWorld : public World {
     input::Paste(text);
     program_->AwaitHandled();
   }
-  void Compose(bool /*begins*/, const Text& /*text*/) override { throw Failure("there is no input method here"); }
   void Click(const Text& control, const Text& entry, bool twice) override { program_->Click(control, entry, twice); }
   void Turn(const Text& control, int rows) override {
     program_->AwaitInput();
@@ -193,6 +190,7 @@ class RealWorld : public World {
     if (other_ != nullptr) ShowWindow(other_, SW_HIDE);
   }
   void Drag(int right, int down) override {
+    program_->AwaitBar();
     const RECT exit = window::Bounds(program_->Control(L"CommandExit"));
     HoldAt({exit.left - 2, (exit.top + exit.bottom) / 2});
     mouse_.x += 4;  // the first move begins the drag, which goes by where the mouse is then
@@ -203,18 +201,12 @@ class RealWorld : public World {
     input::LetGo(mouse_);
     input::Mouse({mouse_.x, mouse_.y + 60});  // the hand goes on
   }
-  void Drop(const Texts& /*paths*/) override { throw Failure("nothing can be dropped here"); }
   void Restore() override {
     OpenIcon(Bar());
     SetForegroundWindow(Bar());
     program_->AwaitInput();
   }
   void Close() override { PostMessageW(Bar(), WM_CLOSE, 0, 0); }
-  void Wait(int /*milliseconds*/) override {}
-  void Break(const Text& /*call*/, const Text& /*outcome*/) override {
-    throw Failure("Windows does not fail on request");
-  }
-  void SetScreen(int /*width*/, int /*height*/) override { throw Failure("the screen is as large as it is"); }
 
   [[nodiscard]] Text See(std::wstring_view what, const Text& name) override {
     const auto yes = [](bool condition) { return Text(condition ? L"yes" : L"no"); };

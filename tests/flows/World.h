@@ -60,7 +60,6 @@ class World {
   virtual void MakeProgram(const Text& path) = 0;
   virtual void MakeFolder(const Text& path) = 0;
   virtual void Remove(const Text& path) = 0;
-  virtual void Protect(const Text& path, bool readOnly) = 0;
   [[nodiscard]] virtual std::optional<std::string> Read(const Text& path) = 0;
 
   // The user.
@@ -70,7 +69,7 @@ class World {
   virtual void Type(const Text& text) = 0;
   virtual void Paste(const Text& text) = 0;
   /// An input method begins and types, or types and ends.
-  virtual void Compose(bool begins, const Text& text) = 0;
+  virtual void Compose(bool /*begins*/, const Text& /*text*/) { throw Failure("only in memory"); }
   /// On an entry of a list, or in the control's middle for "".
   virtual void Click(const Text& control, const Text& entry, bool twice) = 0;
   /// Turns the wheel over a control by a multiple of 3 rows; down is positive.
@@ -85,15 +84,16 @@ class World {
   /// Drags the bar by pixels.
   virtual void Drag(int right, int down) = 0;
   /// On the bar: files, or the address of a site.
-  virtual void Drop(const Texts& paths) = 0;
+  virtual void Drop(const Texts& /*paths*/) { throw Failure("only in memory"); }
   /// Brings the minimised bar back, and closes its window from outside.
   virtual void Restore() = 0;
   virtual void Close() = 0;
   /// Lets time pass. In the real world it passes by itself.
-  virtual void Wait(int milliseconds) = 0;
-  /// From now on calls of a service (all for "") fail as foreseen ("fails"), or as nobody expected ("throws").
-  virtual void Break(const Text& call, const Text& outcome) = 0;
-  virtual void SetScreen(int width, int height) = 0;
+  virtual void Wait(int /*milliseconds*/) {}
+  /// From now on calls of a service (all for ""), or writing to a drive ("C:"), fail as foreseen ("fails"), or as
+  /// nobody expected ("throws").
+  virtual void Break(const Text& /*call*/, const Text& /*outcome*/) { throw Failure("only in memory"); }
+  virtual void SetScreen(int /*width*/, int /*height*/) { throw Failure("only in memory"); }
 
   /// One thing that can be seen. Of a control: "text", "shown", "enabled", "ticked" (each "yes" or "no"), "entries"
   /// (joined by " | "). "focus" (a control's name), "line" (the bar's box with its selection in brackets), "title" (of
