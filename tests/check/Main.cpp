@@ -24,35 +24,29 @@ namespace vantor::check {
 namespace {
 
 using namespace desktop;
-using Paths = std::vector<std::filesystem::path>;
 
 constexpr int Rounds = 10;
 
 /// Shown on the console as it comes, and kept.
 class Report {
  public:
-  Report() : path_(Beside(L"VantorCheck-report.txt")), file_(_wfopen(path_.c_str(), L"w")) {
-    if (file_ == nullptr) {  // on a medium that can't be written to
-      path_ = std::filesystem::temp_directory_path() / path_.filename();
-      file_ = _wfopen(path_.c_str(), L"w");
+  Report() : file_(Path) {
+    if (!file_) {  // on a medium that can't be written to
+      Path = std::filesystem::temp_directory_path() / Path.filename();
+      file_.open(Path);
     }
-    if (file_ == nullptr) throw std::runtime_error("the report can't be written");
+    if (!file_) throw std::runtime_error("the report can't be written");
   }
-  ~Report() { std::fclose(file_); }
-  Report(const Report&) = delete;
-  Report& operator=(const Report&) = delete;
-
   void Add(const std::string& text) {
-    for (std::FILE* to : {file_, stdout}) {
-      std::fputs(text.c_str(), to);
-      std::fflush(to);  // what is there stays, whatever comes
-    }
+    file_ << text << std::flush;  // what is there stays, whatever comes
+    std::fputs(text.c_str(), stdout);
+    std::fflush(stdout);
   }
-  [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
+
+  std::filesystem::path Path = Beside(L"VantorCheck-report.txt");
 
  private:
-  std::filesystem::path path_;
-  std::FILE* file_;
+  std::ofstream file_;
 };
 
 std::string Describe() {
@@ -72,25 +66,6 @@ std::string Describe() {
        << ", screen " << GetSystemMetrics(SM_CXSCREEN) << " x " << GetSystemMetrics(SM_CYSCREEN) << " at " << dpi
        << " dots per inch, " << machine.dwNumberOfProcessors << " processors\n";
   return text.str();
-}
-
-Paths AllFlows() {
-  Paths files;
-  for (const auto& entry : std::filesystem::directory_iterator(Beside(L"flows"))) files.push_back(entry.path());
-  std::ranges::sort(files);
-  return files;
-}
-
-/// Runs the desktop tests, and returns what they tell.
-std::string RunTests(bool& passed) {
-  std::ostringstream told;
-  doctest::Context context;
-  context.setOption("no-intro", true);
-  context.setOption("no-colors", true);
-  context.setOption("duration", true);
-  context.setCout(&told);
-  passed = context.run() == 0;
-  return told.str();
 }
 
 std::string MeasureStarts() {
@@ -121,10 +96,19 @@ bool DoEverything(Report& report) {
   const auto begin = GetTickCount64();
   report.Add("Please send this report to " + Narrow(std::wstring(product::BugReportAddress)) + "\n\n" + Describe());
   report.Add("\n== What a user does\n");
-  const bool flows = flows::PlayAll(AllFlows(), [&](const std::string& line) { report.Add(line + '\n'); });
+  std::vector<std::filesystem::path> files;
+  for (const auto& entry : std::filesystem::directory_iterator(Beside(L"flows"))) files.push_back(entry.path());
+  std::ranges::sort(files);
+  const bool flows = flows::PlayAll(files, [&](const std::string& line) { report.Add(line + '\n'); });
+
   report.Add("\n== What only windows show: seconds, and what was not as it should be\n");
-  bool tests = false;
-  report.Add(RunTests(tests));
+  std::ostringstream told;
+  doctest::Context context;
+  for (const char* option : {"no-intro", "no-colors", "duration"}) context.setOption(option, true);
+  context.setCout(&told);
+  const bool tests = context.run() == 0;
+  report.Add(told.str());
+
   report.Add("\n== From the start of a process, in ms, to its first paint (median of " + std::to_string(Rounds) +
              ", quickest) and to its first key (the same)\n" + MeasureStarts());
   report.Add(std::string("\n== ") + (flows && tests ? "All passed" : "Something failed") + ", in " +
@@ -151,7 +135,7 @@ int Main(bool asks) {
   Report report;
   const bool passed = DoEverything(report);
   ShowWindow(GetConsoleWindow(), SW_RESTORE);
-  say(L"Done. The report is\n" + report.Path().wstring(), MB_ICONINFORMATION);
+  say(L"Done. The report is\n" + report.Path.wstring(), MB_ICONINFORMATION);
   return passed ? 0 : 1;
 }
 

@@ -12,6 +12,13 @@
 
 namespace vantor::desktop {
 
+/// The path of a folder of the shell, by its CSIDL.
+inline std::string SystemFolder(int id) {
+  wchar_t path[MAX_PATH] = L"";
+  SHGetFolderPathW(nullptr, id, nullptr, SHGFP_TYPE_CURRENT, path);
+  return Narrow(path);
+}
+
 /// Sees what the program starts, by the recorder program standing in its place.
 class Recorder {
  public:
@@ -36,9 +43,11 @@ class Recorder {
   /// Only on a desktop of the test's own: puts it in the place of Explorer and rundll32, and behind web and mail
   /// addresses.
   void ReplaceSystem() const {
-    for (const std::wstring& program : SystemPrograms()) {
-      std::filesystem::remove(program);
-      std::filesystem::copy_file(Wide(folder_.Path("recorder.exe")), program);
+    const std::string windows = SystemFolder(CSIDL_WINDOWS);
+    const std::string system = windows + (On64Bit() ? "\\Sysnative" : "\\system32");
+    for (const std::string& program : {windows + "\\explorer.exe", system + "\\rundll32.exe"}) {
+      std::filesystem::remove(Wide(program));
+      std::filesystem::copy_file(Wide(folder_.Path("recorder.exe")), Wide(program));
     }
     for (const std::wstring scheme : {L"http", L"https", L"mailto"}) {
       RegDeleteTreeW(HKEY_CLASSES_ROOT, (scheme + L"\\shell").c_str());  // how Wine opens them by itself
@@ -64,21 +73,10 @@ class Recorder {
 
   /// Where document kinds are told: for the user alone, but Wine looks at the machine's only.
   static HKEY ClassesRoot() { return UnderWine() ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER; }
-  static std::vector<std::wstring> SystemPrograms() {
-    wchar_t path[MAX_PATH];
-    const std::wstring windows(path, GetWindowsDirectoryW(path, MAX_PATH));
-    return {windows + L"\\explorer.exe", windows + (On64Bit() ? L"\\Sysnative" : L"\\system32") + L"\\rundll32.exe"};
-  }
   [[nodiscard]] std::string Quoted() const { return '"' + folder_.Path("recorder.exe") + '"'; }
 
   const Folder& folder_;
 };
-
-inline std::string SystemFolder(int id) {
-  wchar_t path[MAX_PATH] = L"";
-  SHGetFolderPathW(nullptr, id, nullptr, SHGFP_TYPE_CURRENT, path);
-  return Narrow(path);
-}
 
 /// Where Windows looks for what starts with it, and the program's own entry.
 constexpr wchar_t RunKey[] = L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";

@@ -10,45 +10,27 @@ namespace {
 
 using namespace desktop;
 
-/// Wine only: keeps the window manager of the X display away, which would take a drag for one of its own mouse.
-class WindowsLeftToWine {
- public:
-  WindowsLeftToWine() { SetRegistryText(HKEY_CURRENT_USER, Key, L"Managed", L"N"); }
-  ~WindowsLeftToWine() { RegDeleteKeyValueW(HKEY_CURRENT_USER, Key, L"Managed"); }
-  WindowsLeftToWine(const WindowsLeftToWine&) = delete;
-  WindowsLeftToWine& operator=(const WindowsLeftToWine&) = delete;
-
- private:
-  static constexpr wchar_t Key[] = L"Software\\Wine\\X11 Driver";
-};
-
 /// The recorder, and a desktop that is ready for flows.
-struct Stage {
+class Stage {
+ public:
   Stage() {
     if (OwnDesktop()) Starts.ReplaceSystem();
     if (!UnderWine()) return;
-    LeftToWine.emplace();
+    // Keeps the window manager of the X display away, which would take a drag for one of its own mouse.
+    SetRegistryText(HKEY_CURRENT_USER, WineKey, L"Managed", L"N");
     Run("cmd /c wmic logicaldisk get size >nul");  // the first answer of Wine's management service takes up to 16 s
   }
-
-  desktop::Folder Place;
-  Recorder Starts{Place};
-  std::optional<WindowsLeftToWine> LeftToWine;
-};
-
-/// While one lives, Windows' own folders are those that 64-bit programs see.
-class TrueFolders {
- public:
-  TrueFolders() : switched_(Wow64DisableWow64FsRedirection(&before_) != FALSE) {}
-  ~TrueFolders() {
-    if (switched_) Wow64RevertWow64FsRedirection(before_);
-  }
-  TrueFolders(const TrueFolders&) = delete;
-  TrueFolders& operator=(const TrueFolders&) = delete;
+  ~Stage() { RegDeleteKeyValueW(HKEY_CURRENT_USER, WineKey, L"Managed"); }
+  Stage(const Stage&) = delete;
+  Stage& operator=(const Stage&) = delete;
 
  private:
-  void* before_ = nullptr;
-  bool switched_;
+  static constexpr wchar_t WineKey[] = L"Software\\Wine\\X11 Driver";
+
+  Folder place_;
+
+ public:
+  Recorder Starts{place_};
 };
 
 class RealWorld : public World {
@@ -65,7 +47,7 @@ class RealWorld : public World {
       for (HKEY root : {HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER}) RegDeleteKeyValueW(root, RunKey, RunValue);
     }
     std::error_code ignored;
-    if (hasShortcut_) std::filesystem::remove(Shortcut(), ignored);
+    if (hasShortcut_) std::filesystem::remove(Wide(Shortcut()), ignored);
   }
   RealWorld(const RealWorld&) = delete;
   RealWorld& operator=(const RealWorld&) = delete;
@@ -78,7 +60,7 @@ class RealWorld : public World {
       startsWithWindows_ = false;
       throw Skip("Vantor starts with this Windows already");
     }
-    if (line.find(L"Vantor.lnk") != line.npos && Exists(Narrow(Shortcut()))) {
+    if (line.find(L"Vantor.lnk") != line.npos && Exists(Shortcut())) {
       hasShortcut_ = false;
       throw Skip("there is a shortcut already");
     }
@@ -107,12 +89,10 @@ class RealWorld : public World {
     if (word == L"f") return Wide(folders_.back()->Path());
     if (word == L"rest") return Wide(folders_.back()->Path()).substr(1);
     if (word == L"other") return OwnPath();
-    wchar_t path[MAX_PATH];
-    if (word == L"w") return Text(path, GetWindowsDirectoryW(path, MAX_PATH)) + L'\\';
-    const std::pair<std::wstring_view, int> folders[] = {
-        {L"Desktop", CSIDL_DESKTOPDIRECTORY}, {L"MyDocuments", CSIDL_PERSONAL}, {L"SendTo", CSIDL_SENDTO}};
-    const auto* const found = std::ranges::find(folders, word, &std::pair<std::wstring_view, int>::first);
-    return found != std::end(folders) ? Wide(SystemFolder(found->second)) : Text();
+    if (word == L"w") return Wide(SystemFolder(CSIDL_WINDOWS)) + L'\\';
+    if (word == L"Desktop") return Wide(SystemFolder(CSIDL_DESKTOPDIRECTORY));
+    if (word == L"MyDocuments") return Wide(SystemFolder(CSIDL_PERSONAL));
+    return word == L"SendTo" ? Wide(SystemFolder(CSIDL_SENDTO)) : Text();
   }
 
   [[nodiscard]] std::optional<std::string> InCodePage(const Text& text) override {
@@ -128,10 +108,12 @@ class RealWorld : public World {
 
   void Write(const Text& path, const std::string& bytes) override {
     if (!OwnDesktop() && path.starts_with(Place(L"w"))) throw Skip("writes into the Windows folder");
-    const TrueFolders trueFolders;
-    const Text folder = path.substr(0, path.rfind(L'\\'));
-    if (folder.size() > 2) MakeFolder(folder);
-    std::ofstream(std::filesystem::path(path), std::ios::binary) << bytes;
+    std::filesystem::path place = path;
+    // What 64-bit programs see as that folder.
+    const Text system = Place(L"w") + L"system32\\";
+    if (On64Bit() && path.starts_with(system)) place = Place(L"w") + L"Sysnative\\" + path.substr(system.size());
+    std::filesystem::create_directories(place.parent_path());
+    std::ofstream(place, std::ios::binary) << bytes;
   }
   void MakeProgram(const Text& path) override { Write(path, BytesOf(Narrow(Beside(Wide(Recorder::ProgramName()))))); }
   void MakeFolder(const Text& path) override { std::filesystem::create_directories(path); }
@@ -166,7 +148,6 @@ class RealWorld : public World {
     program_->AwaitHandled();
   }
   void Leave() override {
-    if (front_ == nullptr) front_ = MakeWindow(0, {700, 500});
     ShowWindow(front_, SW_SHOW);
     input::Click(front_);
     Await("the other program to be in front", [this] { return GetForegroundWindow() == front_; });
@@ -174,10 +155,10 @@ class RealWorld : public World {
   void Hold(const Text& control) override {
     program_->AwaitInput();
     Await("the mark to go", [] { return FindWindowW(L"VantorMark", nullptr) == nullptr; });
-    HoldAt(window::Middle(program_->Control(control)));
+    mouse_ = window::Middle(program_->Control(control));
+    input::Hold(mouse_);
   }
   void MoveOver(const Text& window) override {
-    if (other_ == nullptr) other_ = MakeWindow(WS_EX_TOPMOST | WS_EX_NOACTIVATE, {700, 300});
     ShowWindow(other_, window == L"other" ? SW_SHOWNOACTIVATE : SW_HIDE);
     mouse_ = window::Middle(window == L"other" ? other_ : program_->Control(window));
     input::Mouse({mouse_.x - 4, mouse_.y - 4});
@@ -187,12 +168,13 @@ class RealWorld : public World {
   void Release() override {
     input::LetGo(mouse_);
     program_->AwaitHandled();
-    if (other_ != nullptr) ShowWindow(other_, SW_HIDE);
+    ShowWindow(other_, SW_HIDE);
   }
   void Drag(int right, int down) override {
     program_->AwaitBar();
     const RECT exit = window::Bounds(program_->Control(L"CommandExit"));
-    HoldAt({exit.left - 2, (exit.top + exit.bottom) / 2});
+    mouse_ = {exit.left - 2, (exit.top + exit.bottom) / 2};
+    input::Hold(mouse_);
     mouse_.x += 4;  // the first move begins the drag, which goes by where the mouse is then
     input::Mouse(mouse_);
     Await("the bar to be dragged", [this] { return window::IsDragged(Bar()); });
@@ -265,11 +247,7 @@ class RealWorld : public World {
     }
     return {};
   }
-  static Text Shortcut() { return Wide(SystemFolder(CSIDL_DESKTOPDIRECTORY)) + L"\\Vantor.lnk"; }
-  void HoldAt(POINT at) {
-    mouse_ = at;
-    input::Hold(at);
-  }
+  static std::string Shortcut() { return SystemFolder(CSIDL_DESKTOPDIRECTORY) + "\\Vantor.lnk"; }
   /// A window of another program, which is this one.
   static HWND MakeWindow(DWORD style, POINT at) {
     return CreateWindowExW(style, L"STATIC", L"", WS_POPUP | SS_NOTIFY, at.x, at.y, 100, 100, nullptr, nullptr,
@@ -287,8 +265,8 @@ class RealWorld : public World {
   std::size_t before_;  // what was recorded before this flow
   std::vector<std::unique_ptr<desktop::Folder>> folders_;
   std::unique_ptr<Program> program_;
-  HWND other_ = nullptr;
-  HWND front_ = nullptr;
+  HWND other_ = MakeWindow(WS_EX_TOPMOST | WS_EX_NOACTIVATE, {700, 300});
+  HWND front_ = MakeWindow(0, {700, 500});
   bool startsWithWindows_ = false;  // by a value that this flow makes
   bool hasShortcut_ = false;
   POINT mouse_{};

@@ -122,24 +122,23 @@ TEST_CASE("texts and edges stand out from what they are on") {
   const win32::Palette& of = theme.Colors();
   constexpr COLORREF Panel = RGB(240, 240, 240);
   constexpr COLORREF Silver = RGB(192, 192, 192);
-  const struct {
-    double Least;
-    COLORREF Color;
-    std::vector<COLORREF> Grounds;
-  } rows[] = {{4.5, of.Disabled.Text, {of.Disabled.Fill, Panel}},
-              {4.5, theme.TextColor(form::Color::WindowText, false, Silver), {Silver}},
-              {4.5, of.Letter, {of.Normal.Fill, of.Hot.Fill, of.Pressed.Fill, of.Open.Fill}},
-              {3, of.Line, {Panel, RGB(255, 255, 255)}},
-              {3, of.Outline, {Panel, RGB(255, 255, 255), RGB(32, 32, 32)}},
-              {3, of.Open.Edge, {of.Open.Fill, Panel}},
-              {3, of.Normal.Edge, {of.Normal.Fill, Panel}}};
-  for (const auto& row : rows) {
-    for (const COLORREF ground : row.Grounds) {
-      CAPTURE(row.Color);
+  constexpr COLORREF White = RGB(255, 255, 255);
+  constexpr double Text = 4.5;
+  constexpr double Edge = 3;
+  const std::tuple<double, COLORREF, std::vector<COLORREF>> rows[] = {
+      {Text, of.Disabled.Text, {of.Disabled.Fill, Panel}},
+      {Text, theme.TextColor(form::Color::WindowText, false, Silver), {Silver}},
+      {Text, of.Letter, {of.Normal.Fill, of.Hot.Fill, of.Pressed.Fill, of.Open.Fill}},
+      {Edge, of.Line, {Panel, White}},
+      {Edge, of.Outline, {Panel, White, RGB(32, 32, 32)}},
+      {Edge, of.Open.Edge, {of.Open.Fill, Panel}},
+      {Edge, of.Normal.Edge, {of.Normal.Fill, Panel}}};
+  for (const auto& [least, color, grounds] : rows) {
+    for (const COLORREF ground : grounds) {
+      CAPTURE(color);
       CAPTURE(ground);
-      const double one = luminance(row.Color) + 0.05;
-      const double other = luminance(ground) + 0.05;
-      CHECK(std::max(one, other) / std::min(one, other) >= row.Least);
+      const auto [dark, light] = std::minmax({luminance(color) + 0.05, luminance(ground) + 0.05});
+      CHECK(light / dark >= least);
     }
   }
 }
