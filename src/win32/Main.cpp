@@ -24,7 +24,6 @@ void Harden() {
   // Windows 7 has this call only after an update. SetDllDirectory does not need it, but programs started from here
   // would inherit its effect.
   using SetDirectories = BOOL(WINAPI*)(DWORD);
-  constexpr DWORD SystemFolderOnly = 0x800;  // LOAD_LIBRARY_SEARCH_SYSTEM32
   const auto setDirectories =
       FindFunction<SetDirectories>(GetModuleHandleW(L"kernel32.dll"), "SetDefaultDllDirectories");
   if (setDirectories != nullptr) setDirectories(SystemFolderOnly);

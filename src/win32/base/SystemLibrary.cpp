@@ -9,7 +9,6 @@ std::wstring SystemFolder() { return SystemText(GetSystemDirectoryW); }
 std::wstring WindowsFolder() { return SystemText(GetWindowsDirectoryW); }
 
 HMODULE LoadSystemLibrary(const wchar_t* name) {
-  constexpr DWORD SystemFolderOnly = 0x800;  // LOAD_LIBRARY_SEARCH_SYSTEM32
   const HMODULE library = LoadLibraryExW(name, nullptr, SystemFolderOnly);
   if (library != nullptr || GetLastError() != ERROR_INVALID_PARAMETER) return library;
 

@@ -11,6 +11,9 @@ namespace vantor::win32 {
 [[nodiscard]] std::wstring SystemFolder();
 [[nodiscard]] std::wstring WindowsFolder();
 
+/// The flag by which libraries are loaded from the system's folder only (LOAD_LIBRARY_SEARCH_SYSTEM32).
+inline constexpr DWORD SystemFolderOnly = 0x800;
+
 /// Loads one of Windows' own libraries, and those it depends on, from Windows' folder only, whatever is next to the
 /// program or in the current folder. `name` is the file name without a folder. Returns null if there is no such
 /// library.

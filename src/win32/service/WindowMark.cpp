@@ -44,10 +44,8 @@ WindowHandle MakeBar() {
 }
 
 int ScaledThickness() {
-  const HDC screen = GetDC(nullptr);
-  const int dots = GetDeviceCaps(screen, LOGPIXELSX);
-  ReleaseDC(nullptr, screen);
-  return std::max(MulDiv(Thickness, dots, 96), 2);
+  const MemoryDcHandle screen(CreateCompatibleDC(nullptr));
+  return std::max(MulDiv(Thickness, GetDeviceCaps(screen.Get(), LOGPIXELSX), 96), 2);
 }
 
 }  // namespace
