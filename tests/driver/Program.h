@@ -73,20 +73,18 @@ class Program {
     });
   }
 
-  void Press(WORD key) const {
+  /// Keys or clicks, once somebody may use the program, until they are handled.
+  template <class Input>
+  void Use(Input input) const {
     AwaitInput();
-    input::Press(key);
+    input();
     AwaitHandled();
   }
-  void PressControl(WORD key) const {
-    AwaitInput();
-    input::PressControl(key);
-    AwaitHandled();
+  void Press(WORD key) const {
+    Use([&] { input::Press(key); });
   }
   void Type(const std::wstring& text) const {
-    AwaitInput();
-    input::Type(text);
-    AwaitHandled();
+    Use([&] { input::Type(text); });
   }
   /// Types a line in place of the one that is there, and presses Enter.
   void Enter(const std::wstring& line) const {
@@ -99,14 +97,14 @@ class Program {
   /// Clicks on a control as soon as it can be used, or on an entry of a list.
   void Click(std::wstring_view control, const std::wstring& entry = {}, bool twice = false) const {
     Await("the control to be ready", [&] { return Control(control) && IsWindowEnabled(Control(control)); });
-    AwaitInput();
-    if (entry.empty())
-      input::Click(Control(control), twice);
-    else if (window::DropDownOf(Control(control)) != nullptr)
-      Choose(Control(control), entry);
-    else
-      input::Click(ListOf(control).AwaitEntry(entry), twice);
-    AwaitHandled();
+    Use([&] {
+      if (entry.empty())
+        input::Click(Control(control), twice);
+      else if (window::DropDownOf(Control(control)) != nullptr)
+        Choose(Control(control), entry);
+      else
+        input::Click(ListOf(control).AwaitEntry(entry), twice);
+    });
   }
 
   [[nodiscard]] bool Running() const { return WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT; }

@@ -133,19 +133,19 @@ class RealWorld : public World {
     program_->AwaitHandled();
   }
   void Press(form::Key key) override { program_->Press(static_cast<WORD>(key)); }
-  void PressControl(form::Key key) override { program_->PressControl(static_cast<WORD>(key)); }
+  void PressControl(form::Key key) override {
+    program_->Use([&] { input::PressControl(static_cast<WORD>(key)); });
+  }
   void Type(const Text& text) override { program_->Type(text); }
   void Paste(const Text& text) override {
-    program_->AwaitInput();
-    input::Paste(text);
-    program_->AwaitHandled();
+    program_->Use([&] { input::Paste(text); });
   }
   void Click(const Text& control, const Text& entry, bool twice) override { program_->Click(control, entry, twice); }
   void Turn(const Text& control, int rows) override {
-    program_->AwaitInput();
-    input::Mouse(window::Middle(program_->Control(control)));
-    input::Wheel(rows);
-    program_->AwaitHandled();
+    program_->Use([&] {
+      input::Mouse(window::Middle(program_->Control(control)));
+      input::Wheel(rows);
+    });
   }
   void Leave() override {
     ShowWindow(front_, SW_SHOW);
