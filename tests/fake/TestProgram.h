@@ -15,6 +15,14 @@ namespace vantor::test {
 
 using Texts = std::vector<std::wstring>;
 
+/// Of very many cases that differ little this is the step from one that is tried to the next: all are,
+/// but with sanitizers, which take ten times as long, only a part.
+#ifdef __SANITIZE_ADDRESS__
+inline constexpr int Stride = 7;
+#else
+inline constexpr int Stride = 1;
+#endif
+
 /// The items of a group, each as "name>target".
 inline Texts ItemsOf(const list::GroupBoxes& boxes) {
   Texts items;

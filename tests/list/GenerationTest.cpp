@@ -98,7 +98,7 @@ void BreakEverywhere(bool onMedium, Fault fault) {
   std::size_t cases = 0;
   const std::size_t least = fault == Fault::Full ? used.Size() : 0;
   const std::size_t most = fault == Fault::Full ? least + 2 * needed : needed;
-  const std::size_t step = fault == Fault::Killed ? 1 : 7;
+  const std::size_t step = test::Stride * (fault == Fault::Killed ? 1 : 7);
   for (std::size_t back = 0; back <= most - least; back += step, ++cases) {
     const std::size_t bytes = most - back;
     CAPTURE(bytes);
@@ -109,7 +109,7 @@ void BreakEverywhere(bool onMedium, Fault fault) {
     old += state == before ? 1 : 0;
     REQUIRE((state == before || state == after));
     // What was moved aside, and can't be moved back, is read where it is, through a save that is broken off again.
-    for (std::size_t again = 0; again < needed && !broken.HasFile(folder + L"ListWeb.Orbel"); ++again) {
+    for (std::size_t again = 0; again < needed && !broken.HasFile(folder + L"ListWeb.Orbel"); again += test::Stride) {
       Run unmoved(broken);
       unmoved.Computer.Let("Move", fake::Outcome::Fails);
       REQUIRE(unmoved.Load() == state);

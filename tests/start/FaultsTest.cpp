@@ -148,7 +148,7 @@ TEST_CASE("each call of a service that goes wrong gives its message, loses no it
     REQUIRE(usual.BugQuestions() == 0);
     REQUIRE(usual.Items().size() == usual.Loaded.size() + 2);
     calls += usual.Calls;
-    for (int wrong = 0; wrong < usual.Calls; ++wrong) {
+    for (int wrong = 0; wrong < usual.Calls; wrong += test::Stride) {
       for (const Outcome how : {Outcome::Fails, Outcome::Throws}) {
         Walk walk(onMedium, filled, wrong, how);
         walk.Run();
@@ -190,6 +190,7 @@ TEST_CASE("each call of a service that goes wrong gives its message, loses no it
     }
   }
   MESSAGE("calls that went wrong, in two ways each: " << calls);
+  if (test::Stride > 1) return;
   // All other failures are silent.
   const std::map<std::wstring, std::set<std::string>> expected{
       {L"Could not di", {"RequestMakeCall"}},
