@@ -33,6 +33,21 @@ class Stage {
   Recorder Starts{place_};
 };
 
+/// While one lives, Windows' own folders are those that 64-bit programs see.
+class TrueFolders {
+ public:
+  TrueFolders() : switched_(Wow64DisableWow64FsRedirection(&before_) != FALSE) {}
+  ~TrueFolders() {
+    if (switched_) Wow64RevertWow64FsRedirection(before_);
+  }
+  TrueFolders(const TrueFolders&) = delete;
+  TrueFolders& operator=(const TrueFolders&) = delete;
+
+ private:
+  void* before_ = nullptr;
+  bool switched_;
+};
+
 class RealWorld : public World {
  public:
   explicit RealWorld(const Recorder& recorder) : recorder_(recorder), before_(recorder_.Lines().size()) {
@@ -108,10 +123,8 @@ class RealWorld : public World {
 
   void Write(const Text& path, const std::string& bytes) override {
     if (!OwnDesktop() && path.starts_with(Place(L"w"))) throw Skip("writes into the Windows folder");
-    std::filesystem::path place = path;
-    // What 64-bit programs see as that folder.
-    const Text system = Place(L"w") + L"system32\\";
-    if (On64Bit() && path.starts_with(system)) place = Place(L"w") + L"Sysnative\\" + path.substr(system.size());
+    const TrueFolders trueFolders;
+    const std::filesystem::path place = path;
     std::filesystem::create_directories(place.parent_path());
     std::ofstream(place, std::ios::binary) << bytes;
   }
