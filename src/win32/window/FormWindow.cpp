@@ -56,13 +56,8 @@ FormWindow::FormWindow(win32::Desktop& desktop, form::Form& form, bool onTaskbar
                                 place.left, place.top, place.right - place.left, place.bottom - place.top, owner_,
                                 nullptr, GetModuleHandleW(nullptr), nullptr));
   SetWindowLongPtrW(Hwnd(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-  // The bar is there as soon as one can type: the other windows and the outline are made when its text box is painted,
-  // before any input is handled.
-  if (form::Control* const first = onTaskbar ? form_.ActiveControl() : nullptr) {
-    controls_.MakeFirst(*first);
-  } else {
-    Complete();
-  }
+  Shape();
+  controls_.Make(nullptr);
   if (form_.TopMost()) SetTopMost(true);
   if (form_.AcceptsDrops()) drops_.BeginLater();
 }
@@ -79,12 +74,6 @@ FormWindow* FormWindow::From(HWND handle) {
     return nullptr;
   }
   return reinterpret_cast<FormWindow*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
-}
-
-void FormWindow::Complete() {
-  complete_ = true;
-  controls_.Make(nullptr);
-  Shape();
 }
 
 void FormWindow::SetOwnerWindow(HWND owner) {
@@ -135,10 +124,6 @@ void FormWindow::ShowVisible() {
     } else {
       SetForegroundWindow(Hwnd());
       desktop_.StandBehind(*this);
-      UpdateWindow(Hwnd());
-    }
-    if (!complete_) {
-      Complete();
       UpdateWindow(Hwnd());
     }
     return;
