@@ -12,6 +12,13 @@ FormControls::FormControls(FormWindow& owner) : owner_(owner) {
 
 FormControls::~FormControls() = default;
 
+void FormControls::MakeFirst(form::Control& control) {
+  if (control.Container() != nullptr) MakeFirst(*control.Container());
+  if (control.Window() == &pending_ && control.Visible()) {
+    windows_.push_back(win32::ControlWindow::Make(owner_, control));
+  }
+}
+
 void FormControls::Make(const form::Control* container) {
   const std::vector<form::Control*>& controls = owner_.Form().Controls();
   auto behind = std::count_if(controls.begin(), controls.end(), [&](const form::Control* control) {

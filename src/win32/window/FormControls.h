@@ -20,6 +20,8 @@ class FormControls {
   FormControls(const FormControls&) = delete;
   FormControls& operator=(const FormControls&) = delete;
 
+  /// Creates the window of one visible control, and those of its containers.
+  void MakeFirst(form::Control& control);
   /// Creates the missing windows of the visible controls in a container (null: on the form).
   void Make(const form::Control* container);
   /// The control's window with this handle; null for any other handle.

@@ -56,8 +56,13 @@ FormWindow::FormWindow(win32::Desktop& desktop, form::Form& form, bool onTaskbar
                                 place.left, place.top, place.right - place.left, place.bottom - place.top, owner_,
                                 nullptr, GetModuleHandleW(nullptr), nullptr));
   SetWindowLongPtrW(Hwnd(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-  Shape();
-  controls_.Make(nullptr);
+  // The bar is there as soon as one can type: the other windows and the outline are made when its text box is painted,
+  // before any input is handled.
+  if (form::Control* const first = onTaskbar ? form_.ActiveControl() : nullptr) {
+    controls_.MakeFirst(*first);
+  } else {
+    Complete();
+  }
   if (form_.TopMost()) SetTopMost(true);
   if (form_.AcceptsDrops()) drops_.BeginLater();
 }
@@ -74,6 +79,12 @@ FormWindow* FormWindow::From(HWND handle) {
     return nullptr;
   }
   return reinterpret_cast<FormWindow*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
+}
+
+void FormWindow::Complete() {
+  complete_ = true;
+  controls_.Make(nullptr);
+  Shape();
 }
 
 void FormWindow::SetOwnerWindow(HWND owner) {
@@ -124,6 +135,10 @@ void FormWindow::ShowVisible() {
     } else {
       SetForegroundWindow(Hwnd());
       desktop_.StandBehind(*this);
+      UpdateWindow(Hwnd());
+    }
+    if (!complete_) {
+      Complete();
       UpdateWindow(Hwnd());
     }
     return;

@@ -72,6 +72,8 @@ class FormWindow final : public form::FormWindow {
   void OnDpiChanged(int dpi);
   /// Lays everything out again if the scale of the form has changed.
   void TakeScale();
+  /// Creates what is still missing: the windows of the other controls, and the outline.
+  void Complete();
   void PaintBackground(HDC dc) const;
   void Shape() const;
   void GiveFocus() const;
@@ -82,6 +84,7 @@ class FormWindow final : public form::FormWindow {
   form::Form& form_;
   HWND owner_;
   bool retired_ = false;
+  bool complete_ = false;
   int handling_ = 0;
   FormPlacement placement_;
   FormKeys keys_;
