@@ -65,8 +65,9 @@ inline std::string RegistryText(HKEY root, const std::wstring& key, const std::w
   return read == ERROR_SUCCESS ? Narrow(text) : "(none)";
 }
 inline void SetRegistryText(HKEY root, const std::wstring& key, const std::wstring& name, const std::wstring& text) {
-  const auto bytes = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
-  if (RegSetKeyValueW(root, key.c_str(), name.c_str(), REG_SZ, text.c_str(), bytes) != ERROR_SUCCESS)
+  const std::size_t bytes = (text.size() + 1) * sizeof(wchar_t);
+  if (RegSetKeyValueW(root, key.c_str(), name.c_str(), REG_SZ, text.c_str(), static_cast<DWORD>(bytes)) !=
+      ERROR_SUCCESS)
     throw std::runtime_error("the registry can't be written");
 }
 

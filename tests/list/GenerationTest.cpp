@@ -98,7 +98,7 @@ void BreakEverywhere(bool onMedium, Fault fault) {
   std::size_t cases = 0;
   const std::size_t least = fault == Fault::Full ? used.Size() : 0;
   const std::size_t most = fault == Fault::Full ? least + 2 * needed : needed;
-  const std::size_t step = test::Stride * (fault == Fault::Killed ? 1 : 7);
+  const std::size_t step = fault == Fault::Killed ? test::Stride : 7 * std::size_t{test::Stride};
   for (std::size_t back = 0; back <= most - least; back += step, ++cases) {
     const std::size_t bytes = most - back;
     CAPTURE(bytes);

@@ -133,12 +133,13 @@ TEST_CASE("texts and edges stand out from what they are on") {
       {Edge, of.Outline, {Panel, White, RGB(32, 32, 32)}},
       {Edge, of.Open.Edge, {of.Open.Fill, Panel}},
       {Edge, of.Normal.Edge, {of.Normal.Fill, Panel}}};
-  for (const auto& [least, color, grounds] : rows) {
-    for (const COLORREF ground : grounds) {
-      CAPTURE(color);
+  for (const auto& row : rows) {
+    const double front = luminance(std::get<1>(row)) + 0.05;
+    for (const COLORREF ground : std::get<2>(row)) {
+      CAPTURE(&row - rows);
       CAPTURE(ground);
-      const auto [dark, light] = std::minmax({luminance(color) + 0.05, luminance(ground) + 0.05});
-      CHECK(light / dark >= least);
+      const double behind = luminance(ground) + 0.05;
+      CHECK(std::max(front, behind) / std::min(front, behind) >= std::get<0>(row));
     }
   }
 }

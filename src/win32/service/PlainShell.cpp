@@ -89,9 +89,11 @@ std::wstring PlainRegistryRead(std::wstring_view name) {
 
 void PlainRegistryWrite(std::wstring_view name, std::wstring_view value) {
   const std::wstring text(value);
-  const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
-  if (const auto parsed = Parse(name))
-    RegSetKeyValueW(parsed->Root, parsed->Key.c_str(), parsed->Value.c_str(), REG_SZ, text.c_str(), size);
+  const std::size_t size = (text.size() + 1) * sizeof(wchar_t);
+  if (const auto parsed = Parse(name)) {
+    RegSetKeyValueW(parsed->Root, parsed->Key.c_str(), parsed->Value.c_str(), REG_SZ, text.c_str(),
+                    static_cast<DWORD>(size));
+  }
 }
 
 void PlainRegistryDelete(std::wstring_view name) {
