@@ -47,10 +47,10 @@ void Generation::EndSave() {
   bool failed = false;
   for (const Change& change : changes_) failed |= !files_.WriteInPlace(change.Path, change.Bytes);
   if (failed) {
-    if (kept == Kept::Replaced) return;
-    PutOldBack();
+    if (kept != Kept::Replaced) PutOldBack();
     if (kept == Kept::Older) Unmark();
-    return;
+    rescue_.Begin();
+    return SaveElsewhere();
   }
   if (!changes_.empty() || readKept_) Unmark();
   whole_ = true;
@@ -58,9 +58,10 @@ void Generation::EndSave() {
 }
 
 void Generation::SaveElsewhere() {
-  bool written = true;
-  for (const Change& change : changes_) written &= rescue_.Write(change.Path, change.Bytes);
-  if (written) rescue_.Note();
+  const bool written = std::all_of(changes_.begin(), changes_.end(),
+                                   [this](const Change& change) { return rescue_.Write(change.Path, change.Bytes); });
+  if (written) return rescue_.Note();
+  for (const Change& change : changes_) rescue_.Remove(change.Path);
 }
 
 Generation::Kept Generation::Protect() {

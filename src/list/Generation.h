@@ -40,7 +40,7 @@ class Generation {
   /// Adds one file to a save, by its path in the environment. EndSave writes it.
   void Write(std::wstring_view path, std::string bytes);
   /// Empties and then writes each changed file. A failed write leaves the part that was written; the next start then
-  /// finds the mark.
+  /// finds the mark. What was to be written goes to a separate folder then, if there is room.
   void EndSave();
 
   /// The folder that the last save went to because it could not be written in place; "" if it was.

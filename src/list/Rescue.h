@@ -10,8 +10,9 @@
 
 namespace vantor::list {
 
-/// Copies of data files that a save would otherwise lose because one of them could not be read. Each rescue has its own
-/// folder, "Rescue\1" and so on in the data folder, which is never written to again.
+/// Data files that would otherwise be lost: copies of those that a save replaces although one of them could not be
+/// read, and what a save could not write in its place. Each rescue has its own folder, "Rescue\1" and so on in the data
+/// folder, which is never written to again.
 class Rescue {
  public:
   Rescue(service::DataFiles& files, const state::Environment& environment) : files_(files), environment_(environment) {}
@@ -19,8 +20,12 @@ class Rescue {
   /// Copies the existing files to a new folder. Waits for files that other programs hold, as at the start. Returns
   /// false and copies nothing if one can't be read or there is no room.
   [[nodiscard]] bool Copy(const std::vector<std::wstring>& paths);
-  /// Writes the new contents of a data file to the same folder, or a new one.
+  /// What is written from now on goes to a new folder.
+  void Begin() { number_ = 0; }
+  /// Writes the new contents of a data file to the folder of the last copy, or a new one.
   [[nodiscard]] bool Write(std::wstring_view path, std::string_view bytes);
+  /// Removes a data file from that folder, so that an incomplete list is not taken for a whole one.
+  void Remove(std::wstring_view path) { static_cast<void>(files_.Remove(PlaceOf(path))); }
 
   /// Leaves a note for the next start that the list was written here instead of in place.
   void Note();

@@ -140,7 +140,7 @@ void ActiveStart::TellWhereSaved() {
   if (elsewhere.empty()) return;
   program_.Messages.ShowTextMessage(
       L"The list and settings of the last run were not saved in their place, because something there could not be "
-      L"read. They are in " +
+      L"read or written. They are in " +
       elsewhere);
   if (!program_.Ui.Ended()) program_.ListFiles.ForgetSavedElsewhere();
 }

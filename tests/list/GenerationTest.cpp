@@ -151,17 +151,26 @@ TEST_CASE("a save broken off at any byte or call leaves the old list or the new 
   }
 }
 
-TEST_CASE("a file that may not be written leaves the old list whole") {
+TEST_CASE("a file that may not be written leaves the old list whole, and the new one elsewhere") {
   const fake::FakeDisk used = Used();
+  const State before = Loaded(used);
+  const State after = Loaded(SaveWith(used, Fault::None, 0));
+  const std::wstring rescue = Folder + L"Rescue\\1";
   for (const auto* name : {L"Set", L"ListWeb", L"ListProg", L"MachineProg", L"Backup\\Set", L"Backup\\ListWeb"}) {
     fake::FakeDisk disk = used;
     disk.AddFile(Mark);  // a mark without its text says nothing
     const std::wstring path = Folder + name + L".Orbel";
     disk.AddFile(path, used.Find(path)->Bytes).Writable = false;
     const bool inTheWay = path.find(L"Backup") == std::wstring::npos;
-    CHECK((Loaded(SaveWith(disk, Fault::None, 0)) == Loaded(used)) == inTheWay);
-    disk.AddFile(Folder + L"Backup\\ListProg.Orbel").Writable = false;  // so that the old list is not kept either
-    CHECK((Loaded(SaveWith(disk, Fault::None, 0)) == Loaded(used)) == inTheWay);
+    for (const bool keepable : {true, false}) {
+      CAPTURE(keepable);
+      if (!keepable) disk.AddFile(Folder + L"Backup\\ListProg.Orbel").Writable = false;
+      Run next(SaveWith(disk, Fault::None, 0));
+      CHECK((next.Load() == before) == inTheWay);
+      CHECK(next.List.Files.SavedElsewhere() == (inTheWay ? rescue : L""));
+      for (const auto* file : next.Disk.In(rescue)) next.Disk.AddFile(Folder + file->Name(), file->Bytes);
+      CHECK(Loaded(next.Disk) == after);
+    }
   }
 }
 
