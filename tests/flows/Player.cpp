@@ -16,11 +16,6 @@
 namespace vantor::flows {
 namespace {
 
-/// The settings file's values in its order, as they are when nothing else is said.
-constexpr std::wstring_view UsualSettings =
-    L"OptionMask=2 FileUpper=-1 FoldUpper=-1 ProgUpper=-1 WebUpper=-1 Left=0 Top=0 Folder= MachineFileUpper=-1 "
-    L"MachineFoldUpper=-1 MachineProgUpper=-1";
-
 /// What can be seen of controls, or of the bar, and is so or not.
 constexpr struct {
   std::wstring_view Word, What, Expected;
@@ -155,25 +150,9 @@ class Player : public Steps {
       const Text name = list.starts_with(L"List") ? list.substr(4) : list;
       settings.insert(0, name + L"Upper=" + std::to_wstring(Split(records, L" | ").size() - 1) + L' ');
     }
-    world_->Write(DataPath(L"Set"), SettingsBytes(settings, L""));
+    world_->Write(DataPath(L"Set"), Encode(SettingsText(settings, L"")));
     world_->Write(DataPath(L"User"), "\"Anna\"\r\n");
   }
-  /// The settings file, with what is said in the place of the usual values: "OptionMask=6 Left=600".
-  [[nodiscard]] std::string SettingsBytes(const Text& changes, std::wstring_view folder) const {
-    std::vector<std::pair<Text, Text>> values;
-    for (const Text& usual : Words(Text(UsualSettings))) values.push_back(Cut(usual, L"="));
-    std::ranges::find(values, L"Folder", &std::pair<Text, Text>::first)->second = folder;
-    for (const Text& change : Words(changes)) {
-      const auto [name, value] = Cut(change, L"=");
-      const auto found = std::ranges::find(values, name, &std::pair<Text, Text>::first);
-      if (found == values.end()) throw Failure("no such setting: " + Narrow(name));
-      found->second = value;
-    }
-    Text bytes;
-    for (const auto& [name, value] : values) bytes += (name == L"Folder" ? L'"' + value + L'"' : value) + L"\r\n";
-    return Encode(bytes);
-  }
-
   /// Does something with each of several paths.
   template <class Action>
   void Each(const Text& paths, Action action) {
@@ -272,7 +251,9 @@ class Player : public Steps {
     const Texts started = world_->Started();
     if (started.size() > seenStarts_) throw Failure("started was \"" + Narrow(started[seenStarts_]) + '"');
   }
-  void SeeSettings(const Text& changes) { SeeBytes(DataPath(L"Set"), SettingsBytes(changes, world_->Place(L"f"))); }
+  void SeeSettings(const Text& changes) {
+    SeeBytes(DataPath(L"Set"), Encode(SettingsText(changes, world_->Place(L"f"))));
+  }
   void SeeFile(const Text& path, bool there) {
     if (!world_->Becomes([&] { return world_->Read(path).has_value() == there; })) throw Failure("it is not so");
   }

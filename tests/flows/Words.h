@@ -1,11 +1,12 @@
 #pragma once
 
-// The words of a line of a flow: its parts, and the names of keys.
+// The words of a line of a flow: its parts, and the names of keys and settings.
 
 #include <algorithm>
 #include <iterator>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "flows/World.h"
 #include "text/Utf8.h"
@@ -52,6 +53,27 @@ inline form::Key KeyOf(const Text& word) {
   if (key != std::end(Keys)) return key->second;
   if (word.size() == 1) return static_cast<form::Key>(word[0]);
   return static_cast<form::Key>(static_cast<int>(form::Key::F1) - 1 + std::stoi(word.substr(1)));
+}
+
+/// The settings file's values in its order, as they are when nothing else is said.
+inline constexpr std::wstring_view UsualSettings =
+    L"OptionMask=2 FileUpper=-1 FoldUpper=-1 ProgUpper=-1 WebUpper=-1 Left=0 Top=0 Folder= MachineFileUpper=-1 "
+    L"MachineFoldUpper=-1 MachineProgUpper=-1";
+
+/// The text of the settings file, with what is said in the place of the usual values: "OptionMask=6 Left=600".
+inline Text SettingsText(const Text& changes, std::wstring_view folder) {
+  std::vector<std::pair<Text, Text>> values;
+  for (const Text& usual : Words(Text(UsualSettings))) values.push_back(Cut(usual, L"="));
+  std::ranges::find(values, L"Folder", &std::pair<Text, Text>::first)->second = folder;
+  for (const Text& change : Words(changes)) {
+    const auto [name, value] = Cut(change, L"=");
+    const auto found = std::ranges::find(values, name, &std::pair<Text, Text>::first);
+    if (found == values.end()) throw Failure("no such setting: " + Narrow(name));
+    found->second = value;
+  }
+  Text text;
+  for (const auto& [name, value] : values) text += (name == L"Folder" ? L'"' + value + L'"' : value) + L"\r\n";
+  return text;
 }
 
 }  // namespace vantor::flows
