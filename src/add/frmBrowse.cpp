@@ -193,10 +193,11 @@ void frmBrowse::DirWork_Unreachable() {
 }
 
 void frmBrowse::NoteDrive() {
-  const std::wstring_view drive = text::DriveName(DirWork.Path());
+  const std::wstring& folder = DirWork.Path();
+  const std::wstring_view drive = text::DriveName(folder);
   const bool lettered = drive.size() == 2;
   state_.SelectedDriveLetter = context_.Services.Language.Upper(drive.substr(0, lettered ? 1 : 0));
-  state_.BrowseDriveType = DriveTypeOf(context_.Services, DirWork.Path());
+  state_.BrowseDriveType = DriveTypeOf(context_.Services, folder);
 }
 
 void frmBrowse::NoteFolder() {

@@ -104,6 +104,7 @@ void ActiveStart::LoadName() {
 void ActiveStart::AskForName() {
   if (nameUnread_ || !program_.MessageState.UserName.empty()) return;
   program_.Environment.FirstStart = true;  // also if the first start ended at this question
+  files_.reset();                          // the user may take hours to answer
   program_.Messages.ShowUserMessage(message::MessageGetUserName);
 }
 

@@ -36,7 +36,7 @@ class ActiveStart {
   void Stop(message::MessageKey key);
 
   Program& program_;
-  std::optional<service::ManyFileCalls> files_;  // until the forms are loaded
+  std::optional<service::ManyFileCalls> files_;  // until the forms are loaded, or the user is asked for a name
   bool canSave_ = true;
   bool nameUnread_ = false;  // there may be a name, which must not be replaced
 };
