@@ -3,11 +3,11 @@
 #include <algorithm>
 
 #include "text/Path.h"
+#include "win32/base/AccessList.h"
 #include "win32/base/Handle.h"
 #include "win32/base/LongPath.h"
 #include "win32/base/SystemText.h"
 #include "win32/base/TrueSystemFolder.h"
-#include "win32/service/AccessList.h"
 
 namespace vantor::win32 {
 

@@ -7,7 +7,7 @@
 
 #include "service/FileSystem.h"
 #include "win32/base/Com.h"
-#include "win32/service/Scripting.h"
+#include "win32/base/Scripting.h"
 
 namespace vantor::win32 {
 

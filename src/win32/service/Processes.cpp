@@ -11,8 +11,8 @@
 
 #include "win32/base/Handle.h"
 #include "win32/base/ManagementService.h"
+#include "win32/base/ProcessImage.h"
 #include "win32/base/TrueSystemFolder.h"
-#include "win32/service/ProcessImage.h"
 
 namespace vantor::win32 {
 

@@ -2,11 +2,15 @@
 
 #include <windows.h>
 
+#include <commctrl.h>
+#include <shlobj.h>
+
+#include "text/Numbers.h"
+#include "win32/base/PlainShell.h"
 #include "win32/base/ProgramCommand.h"
 #include "win32/base/ShellFunction.h"
 #include "win32/base/SystemText.h"
 #include "win32/service/Language.h"
-#include "win32/service/PlainShell.h"
 
 namespace vantor::win32 {
 
@@ -28,6 +32,33 @@ bool FitsCodePage(const service::Shortcut& shortcut) {
   const std::wstring all =
       shortcut.File + shortcut.TargetPath + shortcut.IconLocation + shortcut.Description + shortcut.WorkingDirectory;
   return Language().ToCodePage(all).has_value();
+}
+
+/// The code of a hot key such as "CTRL+SHIFT+L", with the keys held in the high byte; 0 for any other combination.
+WORD HotkeyCode(std::wstring_view hotkey) {
+  constexpr std::wstring_view Held = L"CTRL+SHIFT+";
+  const bool whole = hotkey.starts_with(Held) && hotkey.size() == Held.size() + 1;
+  return static_cast<WORD>(whole ? (HOTKEYF_CONTROL | HOTKEYF_SHIFT) << 8 | hotkey.back() : 0);
+}
+
+/// Writes a shortcut by the object that the scripting shell uses itself, which takes every character. Throws ComError.
+void WriteShortcutFile(const service::Shortcut& shortcut) {
+  ComPointer<IShellLinkW> link;
+  Check(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW, link.PutVoid()));
+  Check(link->SetPath(shortcut.TargetPath.c_str()));
+  Check(link->SetShowCmd(shortcut.WindowStyle));
+  Check(link->SetHotkey(HotkeyCode(shortcut.Hotkey)));
+  Check(link->SetDescription(shortcut.Description.c_str()));
+  Check(link->SetWorkingDirectory(shortcut.WorkingDirectory.c_str()));
+  const std::size_t comma = shortcut.IconLocation.rfind(L',');
+  const bool indexed = comma != std::wstring::npos;
+  const int index =
+      indexed ? text::ParseInt16(std::wstring_view(shortcut.IconLocation).substr(comma + 1)).value_or(0) : 0;
+  Check(link->SetIconLocation(shortcut.IconLocation.substr(0, comma).c_str(), index));
+
+  ComPointer<IPersistFile> file;
+  Check(link->QueryInterface(IID_IPersistFile, file.PutVoid()));
+  Check(file->Save(shortcut.File.c_str(), TRUE));
 }
 
 }  // namespace

@@ -9,9 +9,9 @@
 #include "text/Numbers.h"
 #include "text/Path.h"
 #include "win32/base/ApplicationMark.h"
+#include "win32/base/ProcessImage.h"
 #include "win32/base/SystemLibrary.h"
 #include "win32/base/SystemText.h"
-#include "win32/service/ProcessImage.h"
 
 namespace vantor::win32 {
 

@@ -1,4 +1,4 @@
-#include "win32/service/ProcessImage.h"
+#include "win32/base/ProcessImage.h"
 
 #include <tlhelp32.h>
 

@@ -3,8 +3,6 @@
 #include <string>
 #include <string_view>
 
-#include "service/ScriptShell.h"
-
 namespace vantor::win32 {
 
 // What "WScript.Shell" does, by plain Windows calls.
@@ -17,9 +15,5 @@ namespace vantor::win32 {
 [[nodiscard]] std::wstring PlainRegistryRead(std::wstring_view name);
 void PlainRegistryWrite(std::wstring_view name, std::wstring_view value);
 void PlainRegistryDelete(std::wstring_view name);
-
-/// Writes a shortcut, with the letter or digit of a hot key such as "CTRL+SHIFT+L"; no other keys held are supported.
-/// Throws ComError.
-void WriteShortcutFile(const service::Shortcut& shortcut);
 
 }  // namespace vantor::win32

@@ -1,4 +1,4 @@
-#include "win32/service/AccessList.h"
+#include "win32/base/AccessList.h"
 
 #include <windows.h>
 

@@ -1,14 +1,11 @@
-#include "win32/service/PlainShell.h"
+#include "win32/base/PlainShell.h"
 
 #include <windows.h>
 
-#include <commctrl.h>
 #include <shlobj.h>
 
 #include <optional>
 
-#include "text/Numbers.h"
-#include "win32/base/Com.h"
 #include "win32/base/ShellFunction.h"
 
 namespace vantor::win32 {
@@ -55,13 +52,6 @@ std::optional<ValueName> Parse(std::wstring_view name) {
                    std::wstring(name.substr(first + 1, last - first - 1)), std::wstring(name.substr(last + 1))};
 }
 
-/// The code of a hot key, with the keys held in the high byte; 0 for none.
-WORD HotkeyCode(std::wstring_view hotkey) {
-  constexpr std::wstring_view Held = L"CTRL+SHIFT+";
-  const bool whole = hotkey.starts_with(Held) && hotkey.size() == Held.size() + 1;
-  return static_cast<WORD>(whole ? (HOTKEYF_CONTROL | HOTKEYF_SHIFT) << 8 | hotkey.back() : 0);
-}
-
 }  // namespace
 
 std::wstring PlainSpecialFolder(std::wstring_view name) {
@@ -98,25 +88,6 @@ void PlainRegistryWrite(std::wstring_view name, std::wstring_view value) {
 
 void PlainRegistryDelete(std::wstring_view name) {
   if (const auto parsed = Parse(name)) RegDeleteKeyValueW(parsed->Root, parsed->Key.c_str(), parsed->Value.c_str());
-}
-
-void WriteShortcutFile(const service::Shortcut& shortcut) {
-  ComPointer<IShellLinkW> link;
-  Check(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW, link.PutVoid()));
-  Check(link->SetPath(shortcut.TargetPath.c_str()));
-  Check(link->SetShowCmd(shortcut.WindowStyle));
-  Check(link->SetHotkey(HotkeyCode(shortcut.Hotkey)));
-  Check(link->SetDescription(shortcut.Description.c_str()));
-  Check(link->SetWorkingDirectory(shortcut.WorkingDirectory.c_str()));
-  const std::size_t comma = shortcut.IconLocation.rfind(L',');
-  const bool indexed = comma != std::wstring::npos;
-  const int index =
-      indexed ? text::ParseInt16(std::wstring_view(shortcut.IconLocation).substr(comma + 1)).value_or(0) : 0;
-  Check(link->SetIconLocation(shortcut.IconLocation.substr(0, comma).c_str(), index));
-
-  ComPointer<IPersistFile> file;
-  Check(link->QueryInterface(IID_IPersistFile, file.PutVoid()));
-  Check(file->Save(shortcut.File.c_str(), TRUE));
 }
 
 }  // namespace vantor::win32
