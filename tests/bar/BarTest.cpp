@@ -1,78 +1,64 @@
 #include <doctest/doctest.h>
 
-#include "fake/TestProgram.h"
-#include "flows/Player.h"
+#include "fake/Play.h"
+#include "fake/StoredList.h"
 #include "panel/PanelPlace.h"
-#include "start/Places.h"
 
 namespace vantor::bar {
 namespace {
 
-using form::Key;
-using test::StartedProgram;
+using test::Play;
+using test::World;
 
 TEST_CASE(
     "the bar stands as it was left, if that is on the screen, and comes along when that or the room on it shrinks") {
-  const struct {
-    std::wstring Saved, Place, Smaller;
-  } rows[] = {{L"Left=30000 Top=0", L"528 0", L"304 28"},
-              {L"Left=-30000 Top=0", L"0 0", L"0 28"},
-              {L"Left=0 Top=20000", L"0 692", L"0 524"},
-              {L"Left=-60 Top=0", L"-4 0", L"0 28"},
-              {L"Left=9000 Top=900", L"600 60", L"304 60"}};
-  for (const auto& row : rows) {
-    CHECK(flows::Play(L"given settings " + row.Saved + L"\ngiven screen 1024 768\nstart\nsee place " + row.Place +
-                      L"\ngiven screen 1024 768\nsee place " + row.Place + L"\ngiven screen 800 600\nsee place " +
-                      row.Smaller) == "");
+  const std::tuple<std::wstring, std::wstring, std::wstring> rows[] = {{L"Left=30000 Top=0", L"528 0", L"304 28"},
+                                                                       {L"Left=-30000 Top=0", L"0 0", L"0 28"},
+                                                                       {L"Left=0 Top=20000", L"0 692", L"0 524"},
+                                                                       {L"Left=-60 Top=0", L"-4 0", L"0 28"},
+                                                                       {L"Left=9000 Top=900", L"600 60", L"304 60"}};
+  for (const auto& [saved, place, smaller] : rows) {
+    Play(L"given settings " + saved + L"\ngiven screen 1024 768\nstart > see place " + place +
+         L"\ngiven screen 1024 768\nsee place " + place + L"\ngiven screen 800 600\nsee place " + smaller);
   }
 }
 
 TEST_CASE("the open panel follows the bar, and closes when the bar is minimised in any way") {
-  StartedProgram program;
-  frmMain& bar = program.Main;
-  form::Headless& desktop = program.Desktop;
-  for (const auto& [key, form] : {std::pair<Key, form::Form*>(Key::F2, &program.Program.frmBrowse),
-                                  std::pair<Key, form::Form*>(Key::F7, &program.Choose)}) {
-    desktop.Press(key);
-    const auto stands = [&, panel = form] {
-      const form::Rect place = panel->Bounds();
-      program.Program.Panels.PlaceByBar(*panel);
-      return panel->Bounds() == place;
-    };
-    desktop.DragBy(bar, 3000, 1500);
-    CHECK((stands() && form->Bounds().Top >= 1500));
-    // A window manager may tell of a drag's end after the drag.
-    bar.InputMoved(-900, 900);
-    CHECK((stands() && form->Bounds().Left == 0 && bar.Bounds().Top == 900));
-    bar.TextMain.SetText(L"left");
-    bar.InputWindowState(form::WindowState::Minimized);
-    CHECK_FALSE(form->Visible());
-    desktop.Advance(5000);
-    CHECK((!bar.TopMost() && bar.TimerWatchOnTop.Enabled() && program.Program.CommandState.OpenPanelIndex == -1));
-    bar.InputWindowState(form::WindowState::Normal);
-    desktop.Advance(2000);
-    CHECK((bar.TopMost() && bar.TextMain.HasFocus() && bar.TextMain.Text() == L"left"));
-    desktop.Click(bar.CommandWeb);
-    CHECK(bar.CommandWeb.State() ==
-          (form == &program.Choose ? form::ButtonState::Folded : form::ButtonState::Unfolded));
+  for (const auto* key : {L"F2", L"F7"}) {
+    int looks = 0;
+    Play(L"start\nline left\npress " + std::wstring(key) +
+             L"\nlook\ndrag 200 100\nlook\nlook\nlook\nwait 5 > see not on top\nsee minimised\nsee hidden "
+             L"CommandAddCancel CommandListCancel\nrestore > see on top\nsee focus TextMain\nsee line left",
+         [&](World& world) {
+           start::Program& program = *world.Program;
+           if (++looks == 4) return program.frmMain.InputWindowState(form::WindowState::Minimized);
+           // A window manager may tell of a drag's end after the drag.
+           if (looks == 3) program.frmMain.InputMoved(-900, 900);
+           for (form::Form* const panel :
+                {static_cast<form::Form*>(&program.frmBrowse), static_cast<form::Form*>(&program.frmChoose)}) {
+             if (!panel->Visible()) continue;
+             const form::Rect place = panel->Bounds();
+             program.Panels.PlaceByBar(*panel);
+             CHECK(panel->Bounds() == place);
+             CHECK((looks != 3 || place.Left == 0));
+           }
+         });
   }
   // The list of what fits stands under the line.
-  program.Add(list::LaunchGroup::Prog, L"one", L"x");
-  program.Add(list::LaunchGroup::Prog, L"once", L"x");
-  program.Type(L"p-o");
-  const form::Rect list = program.Program.frmMatches.Bounds();
-  CHECK((list.Left == bar.TextMain.Left() && list.Top == bar.Bounds().Bottom()));
+  Play(L"given item ListWeb one > x | once > x\nstart\nline w-o\nlook", [](World& world) {
+    const form::Rect& list = world.Program->frmMatches.Bounds();
+    const frmMain& bar = world.Program->frmMain;
+    CHECK((list.Left == bar.TextMain.Left() && list.Top == bar.Bounds().Bottom()));
+  });
 }
 
 TEST_CASE("leaving before the list was read keeps the list") {
-  test::TestProgram program;
-  program.Program.Environment.ProgramFolder = L"C:\\Vantor\\";
-  start::SetDataFiles(program.Program.Environment);
-  program.Program.Settings.WebUpper = 0;
-  program.Computer.Disk.AddFile(L"C:\\Vantor\\Vantor\\ListWeb.Orbel", "\"x\",\"http://x\"\r\n");
-  program.Main.Show();
-  program.Desktop.Click(program.Main.CommandExit);
-  CHECK(program.Computer.Disk.Bytes(L"C:\\Vantor\\Vantor\\Set.Orbel").starts_with("2\r\n-1\r\n-1\r\n-1\r\n0\r\n"));
+  test::StoredList list;
+  list.Settings.WebUpper = 0;
+  list.Disk.AddFile(list.Environment.Files.ListWeb, "\"x\",\"http://x\"\r\n");
+  list.Program.frmMain.Show();
+  list.Desktop.Click(list.Program.frmMain.CommandExit);
+  CHECK(list.Disk.At(list.Environment.Files.Set).Bytes.starts_with("2\r\n-1\r\n-1\r\n-1\r\n0\r\n"));
 }
 
 TEST_CASE("a panel stands by the bar, and on the screen") {
@@ -92,35 +78,25 @@ TEST_CASE("a panel stands by the bar, and on the screen") {
 }
 
 TEST_CASE("no panel is larger than the work area; where there is room it has its own size") {
-  const struct {
-    int Width, Height;  // of the work area, in pixels
-    double DotsPerInch;
-    bool Whole;
-  } screens[] = {{800, 570, 96, true},    {738, 600, 96, false},  {1366, 728, 144, false},
-                 {1920, 1040, 192, true}, {800, 570, 216, false}, {400, 560, 96, false}};
-  for (const auto& screen : screens) {
-    CAPTURE(screen.DotsPerInch);
-    test::StartedProgram program;
-    program.Add(list::LaunchGroup::Web, L"a", L"b");
-    const double twips = 1440 / screen.DotsPerInch;
-    const form::Rect area{0, 0, int(screen.Width * twips), int(screen.Height * twips)};
-    program.Desktop.Desktop = {area, area, twips, twips};
-    program.Main.InputScreensChanged();
-    bool whole = true;
-    for (const Key key : {Key::F2, Key::F3, Key::F4, Key::F6, Key::F7, Key::F8}) {
-      program.Desktop.Press(key);
-      const form::Form& panel = *program.Desktop.ActiveForm();
-      CHECK((panel.Bounds().Right() <= area.Width && panel.Bounds().Bottom() <= area.Height));
-      whole = whole && panel.Scale() == 1;
-    }
-    CHECK(whole == screen.Whole);
-    const double fits = area.Width / (program.Main.Web.FrameWeb.Right() + 480.0);
-    CHECK(program.Main.Scale() == doctest::Approx(std::min(fits, 1.0)).epsilon(0.01));
-    // A form that is not shown stays where it is.
-    program.Desktop.Press(Key::F8);
-    program.Choose.MoveTo(30000, 0);
-    program.Choose.InputScreensChanged();
-    CHECK(program.Choose.Bounds().Left == 30000);
+  const std::pair<std::wstring, bool> screens[] = {{L"800 600", true},
+                                                   {L"738 628", false},
+                                                   {L"1366 756 144", false},
+                                                   {L"1920 1080 192", true},
+                                                   {L"800 600 216", false}};
+  for (const auto& [screen, whole] : screens) {
+    bool isWhole = true;
+    Play(L"given item ListWeb a > b\nstart\ngiven screen " + screen +
+             L"\npress F2\nlook\npress F3\nlook\npress F4\nlook\npress F6\nlook\npress F7\nlook\npress F8\nlook",
+         [&](World& world) {
+           const form::Form& panel = *world.Desktop->ActiveForm();
+           const form::Rect& area = world.Desktop->Desktop.WorkArea;
+           CHECK((panel.Bounds().Right() <= area.Right() && panel.Bounds().Bottom() <= area.Bottom()));
+           isWhole = isWhole && panel.Scale() == 1;
+           const frmMain& bar = world.Program->frmMain;
+           const double fits = area.Width / (bar.Web.FrameWeb.Right() + 480.0);
+           CHECK(bar.Scale() == doctest::Approx(std::min(fits, 1.0)).epsilon(0.01));
+         });
+    CHECK(isWhole == whole);
   }
 }
 
@@ -155,22 +131,14 @@ TEST_CASE("everything has its texts whole and apart in narrow and wide, low and 
   // The letters at 9 points, on average, in twips: Tahoma, Arial (by Liberation Sans) and Verdana (by DejaVu Sans).
   for (const form::Size font : {form::Size{99, 210}, {105, 225}, {111, 240}}) {
     CAPTURE(font.Width);
-    test::TestProgram program;
-    program.Desktop.CharacterWidth = font.Width;
-    program.Desktop.LineHeight = font.Height;
-    program.Computer.Disk.AddFile(L"C:\\Orbel\\Draw\\Draw.exe");
-    program.Computer.Disk.AddFile(L"C:\\Vantor\\VantorHelp.exe");  // of which there are lines too
-    program.Start();
-    program.Add(list::LaunchGroup::Web, L"a", L"b");
-    for (const Key key : {Key::F2, Key::F3, Key::F4, Key::F5, Key::F6, Key::F7, Key::F8, Key::F8, Key::F1}) {
-      program.Desktop.Press(key);
-      program.Page.Web.Rename.DoClick();
-      CheckFits(*program.Desktop.ActiveForm());
-    }
-    const form::Frame& banner = program.Main.Web.FrameAddedInfo;
-    CHECK((banner.Width() >= banner.LeastSize().Width && banner.Height() >= banner.LeastSize().Height));
-    program.Expect([](const message::frmMessage& dialog) { CheckFits(dialog); });
-    program.Type(L"p=nosuchprogram\r");
+    Play(
+        L"look\ngiven program C:\\Orbel\\Draw\\Draw.exe | VantorHelp.exe\ngiven item ListWeb a > b\nstart\npress F2\n"
+        L"look\npress F3\nlook\npress F4\nclick CommandListWebRename\nlook\npress F5\nlook\npress F6\nlook\n"
+        L"press F7\nlook\npress F8\nlook\npress F1\nlook\nenter p=nosuchprogram\nlook\npress Enter",
+        [&](World& world) {
+          world.Font = font;
+          if (world.Desktop) CheckFits(*world.Desktop->ActiveForm());
+        });
   }
 }
 

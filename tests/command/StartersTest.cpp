@@ -1,25 +1,15 @@
 #include <doctest/doctest.h>
 
-#include "fake/TestProgram.h"
+#include "fake/Play.h"
 
 namespace vantor::command {
 namespace {
 
-using list::LaunchGroup;
-using test::Texts;
+using test::Play;
+using test::World;
 
 TEST_CASE("a name or an address is opened for what it is, and for nothing that a part or a variable of it names") {
-  test::StartedProgram line;
-  line.Computer.Disk.AddFile(L"C:\\Work\\%TEMP%.txt");
-  line.Add(LaunchGroup::Prog, L"Net tool", L"C:\\net tool.exe");
-  line.Add(LaunchGroup::Prog, L"Quoted", L"\\\\host\\a.exe\" /b");
-  line.Add(LaunchGroup::File, L"Percent", L"C:\\Work\\%TEMP%.txt");
-  line.Add(LaunchGroup::File, L"Work", L"C:\\Work\\");
-  line.Add(LaunchGroup::File, L"Gone", L"C:\\Work\\my letter.doc");
-  line.Add(LaunchGroup::Web, L"News", L"http://news.example/?\"%TEMP\"");
-  line.Add(LaunchGroup::Web, L"Value", L"http://news.example/%TEMP%");
-  line.Add(LaunchGroup::Web, L"Turned", L"http://news.example/\x202Egpj\x2069\x202F");
-  const std::pair<std::wstring_view, std::wstring_view> rows[] = {
+  const std::pair<std::wstring, std::wstring> rows[] = {
       {L"w;x.example", L"shell \"http://www.x.example\""},
       {L"w=%TEMP%", L"shell \"%TEMP%\""},
       {L"w-N", L"shell \"http://news.example/?%22%TEMP%22\""},
@@ -27,47 +17,49 @@ TEST_CASE("a name or an address is opened for what it is, and for nothing that a
       {L"w-t", L""},
       {L"f=edit C:\\Work\\%TEMP%.txt", L"shell edit C:\\Work\\%TEMP%.txt"},
       {L"f-p", L"open C:\\Work\\%TEMP%.txt"},
-      {L"f-g", L"shell \"C:\\Work\\my letter.doc\""},
-      {L"f-w", L"shell \"C:\\Work\""},
+      {L"f-l", L"shell \"C:\\Work\\my letter.doc\""},
+      {L"f=C:\\Work\\", L"shell \"C:\\Work\""},
       {L"p-n", L"run \"C:\\net tool.exe\""},
       {L"p-q", L""},
   };
-  for (const auto& row : rows) {
-    const auto& [typed, started] = row;
-    CAPTURE(&row - rows);
-    line.Computer.Asked.clear();
-    line.Type(typed);
-    if (started.empty()) line.Expect();
-    line.Desktop.Type(L"\r");
-    CHECK(line.Computer.Asked == (started.empty() ? Texts{} : Texts{std::wstring(started)}));
-    CHECK(line.Main.TextMain.Text().empty() != started.empty());
+  std::wstring flow =
+      L"given program C:\\Work\\%TEMP%.txt | C:\\Work\\my letter.doc | C:\\net tool.exe\n"
+      L"given data ListFile Percent,C:\\Work\\%TEMP%.txt | Letter,C:\\Work\\my letter.doc\n"
+      L"given data ListProg Net tool,C:\\net tool.exe | Quoted,//host/a.exe\" /b\n"
+      L"given data ListWeb News,http://news.example/?\"%TEMP\" | Value,http://news.example/%TEMP% | "
+      L"Turned,http://news.example/{turn}gpj\x2069\x202F\n"
+      L"given settings FileUpper=1 ProgUpper=1 WebUpper=2\nlook\nstart\n";
+  flows::Texts expected{L"title Vantor Orbel"};
+  for (const auto& [line, started] : rows) {
+    flow += L"enter " + line + (started.empty() ? L"\ntold There was some error." : L"\nsee line") + L'\n';
+    if (!started.empty()) expected.push_back(started);
   }
-  CHECK(line.Told.size() == 2);
-  line.Type(L"w-t");
-  CHECK(line.Program.frmMatches.ListMatches.RowAt(0).Detail == L"http://news.example/\xFFFDgpj\xFFFD\x202F");
+  Play(flow + L"line w-t\nlook", [&](World& world) {
+    world.Computer.StartsAnything = true;
+    if (!world.Program) return;
+    CHECK(std::exchange(world.Computer.Asked, {}) == expected);
+    CHECK(world.Program->frmMatches.ListMatches.RowAt(0).Detail == L"http://news.example/\xFFFDgpj\xFFFD\x202F");
+  });
 }
 
 TEST_CASE("why a telephone call fails is told") {
-  test::StartedProgram line;
-  line.Computer.Let("RequestMakeCall", fake::Outcome::Fails);
-  const std::pair<int, std::wstring_view> rows[] = {
+  const std::pair<int, std::wstring> rows[] = {
       {-4, L"The phone number is not valid."},
       {-3, L"The queue of pending Windows Telephony dialing requests is full."},
       {-2, L"No Windows Telephony dialing application is running and none could be started."},
   };
   for (const auto& [error, text] : rows) {
-    line.Computer.CallError = error;
-    line.Expect();
-    line.Type(L"t=1\r");
-    CHECK(line.Told.back() == text);
+    Play(L"given failing RequestMakeCall\nlook\nstart\nenter t=1\ntold " + text,
+         [error = error](World& world) { world.Computer.CallError = error; });
   }
 }
 
 TEST_CASE("the last 100 lines that were started come back") {
-  test::StartedProgram line;
-  for (int number = 0; number <= 100; ++number) line.Type(L"w=" + std::to_wstring(number) + L"\r");
-  for (int presses = 0; presses <= 100; ++presses) line.Desktop.Press(form::Key::Up);
-  CHECK(line.Main.TextMain.Text() == L"w=1");
+  std::wstring flow = L"start";
+  for (int number = 0; number <= 100; ++number)
+    flow += L"\nstarts w=" + std::to_wstring(number) + L" > open " + std::to_wstring(number);
+  for (int presses = 0; presses <= 100; ++presses) flow += L"\npress Up";
+  Play(flow + L"\nsee line w=1");
 }
 
 }  // namespace

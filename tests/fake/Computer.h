@@ -82,7 +82,7 @@ class Computer : public service::DataFiles,
   service::FileRead Read(Text path) override {
     const bool held = Disk.HasFile(path) && Disk.Find(path)->HeldFor > Paused;
     if (Fails(__func__) || held) return {};
-    return Disk.HasFile(path) ? service::FileRead{Disk.Bytes(path)} : service::FileRead{std::nullopt, true};
+    return Disk.HasFile(path) ? service::FileRead{Disk.At(path).Bytes} : service::FileRead{std::nullopt, true};
   }
   void Pause(int milliseconds) override {
     static_cast<void>(Fails(__func__));

@@ -29,11 +29,9 @@ class FakeDisk {
   };
   enum class Fault {
     None,
-    Killed,  // the program ends: Killed is thrown
-    Pulled,  // the medium is removed: its drive is not ready
-    Full,    // the disk is full
+    Gone,  // nothing more reaches the disk: the medium is removed, or the program ends
+    Full,
   };
-  struct Killed {};
 
   std::map<wchar_t, DriveState> Drives{{L'C', {}}};
 
@@ -49,14 +47,22 @@ class FakeDisk {
     if (!IsRoot(path) && !Find(path)) AddFile(path).IsFolder = true;
   }
   void Remove(std::wstring_view path) { entries_.erase(Key(path)); }
-  /// The bytes of a file. Throws std::out_of_range if it does not exist.
-  [[nodiscard]] std::string& Bytes(std::wstring_view path) { return entries_.at(Key(path)).Bytes; }
+  /// A file or folder; throws std::out_of_range if it does not exist.
+  [[nodiscard]] Entry& At(std::wstring_view path) { return entries_.at(Key(path)); }
+  /// Adds copies of a folder's files to another, which is named with its backslash.
+  void CopyFiles(const std::wstring& from, const std::wstring& to) {
+    for (const Entry* file : In(from)) AddFile(to + file->Name(), file->Bytes);
+  }
 
   /// Lets writing fail after so many bytes, where each call counts as one more. A full disk holds this many in all.
   void Break(Fault fault, std::size_t bytes) {
     fault_ = fault;
     left_ = bytes;
     Used = 0;
+  }
+  void Mend() {
+    fault_ = Fault::None;
+    Drives[L'C'].Ready = Drives[L'E'].Ready = true;
   }
   std::size_t Used = 0;               // by the calls since then
   std::vector<std::wstring> Written;  // the paths, in order
@@ -108,7 +114,7 @@ class FakeDisk {
   }
   bool Move(std::wstring_view from, std::wstring_view to) {
     if (!MayWrite(from) || !CanWrite(to) || (Find(to) && !MayWrite(to))) return false;
-    AddFile(to, Bytes(from));
+    AddFile(to, At(from).Bytes);
     Written.emplace_back(to);
     Remove(from);
     return true;
@@ -156,12 +162,9 @@ class FakeDisk {
   }
   void Spend(std::wstring_view path, std::size_t bytes) {
     Used += bytes;
-    if (fault_ == Fault::None || fault_ == Fault::Full) return;
-    const bool enough = bytes <= left_;
+    if (fault_ != Fault::Gone) return;
+    if (bytes > left_) Drives.at(Key(path)[0]).Ready = false;
     left_ -= std::min(left_, bytes);
-    if (enough) return;
-    if (fault_ == Fault::Killed) throw Killed();
-    Drives.at(Key(path)[0]).Ready = false;
   }
 
   std::map<std::wstring, Entry> entries_;  // by the Key of the path

@@ -64,13 +64,15 @@ class NativeWorld : public World {
   void MakeFolder(const Text& path) override { Computer.Disk.AddFolder(path); }
   void Remove(const Text& path) override { Computer.Disk.Remove(path); }
   [[nodiscard]] std::optional<std::string> Read(const Text& path) override {
-    return Computer.Disk.HasFile(path) ? std::optional(Computer.Disk.Bytes(path)) : std::nullopt;
+    return Computer.Disk.HasFile(path) ? std::optional(Computer.Disk.At(path).Bytes) : std::nullopt;
   }
 
   void Start() override {
     Program.reset();
     Desktop = std::make_unique<Desk>(steps_);
     Desktop->Desktop = screen_;
+    Desktop->CharacterWidth = Font.Width;
+    Desktop->LineHeight = Font.Height;
     Program = std::make_unique<start::Program>(*Desktop, Computer.Services());
     Program->Main();
   }
@@ -145,8 +147,11 @@ class NativeWorld : public World {
                           : outcome == L"throws" ? fake::Outcome::Throws
                                                  : fake::Outcome::Works);
   }
-  void SetScreen(int width, int height) override {
-    screen_ = {{0, 0, width * 15, height * 15}, {0, 420, width * 15, height * 15 - 420}};  // under a taskbar
+  void SetScreen(int width, int height, int dotsPerInch) override {
+    const double twips = 1440.0 / dotsPerInch;
+    const auto pixels = [&](int count) { return static_cast<form::Twips>(count * twips); };
+    screen_ = {{0, 0, pixels(width), pixels(height)}, {}, twips, twips};
+    screen_.WorkArea = {0, pixels(28), pixels(width), pixels(height - 28)};  // under a taskbar
     if (!Desktop) return;
     Desktop->Desktop = screen_;
     for (form::Form* form : Desktop->Forms()) form->InputScreensChanged();
@@ -206,6 +211,7 @@ class NativeWorld : public World {
   }
 
   fake::Computer Computer;
+  form::Size Font{90, 195};       // a letter's, on average
   std::unique_ptr<Desk> Desktop;  // of the run that goes on
   std::unique_ptr<start::Program> Program;
 

@@ -51,6 +51,8 @@ class Player : public Steps {
   /// What was not as the flow says, or why it can't be played here.
   [[nodiscard]] const std::string& Told() const { return told_; }
 
+  std::function<void(World&)> Look;  // what a step `look` does, for tests in C++
+
   void GoOnUntil(const std::function<bool()>& condition) override {
     ++depth_;
     while (!failed_ && next_ < steps_.size() && !condition()) {
@@ -160,6 +162,7 @@ class Player : public Steps {
   }
   static int First(const Text& numbers) { return std::stoi(numbers); }
   static int Second(const Text& numbers) { return std::stoi(Cut(numbers).second); }
+  static int Third(const Text& numbers) { return Words(numbers).size() > 2 ? Second(Cut(numbers).second) : 96; }
 
   // --- what the user does
 
@@ -313,7 +316,7 @@ const std::vector<std::pair<std::wstring_view, void (*)(Player&, const Text& res
     {L"given folder", [](Player& p, const Text& rest) { p.Each(rest, std::bind_front(&World::MakeFolder, p.world_)); }},
     {L"given no file", [](Player& p, const Text& rest) { p.Each(rest, std::bind_front(&World::Remove, p.world_)); }},
     {L"given data", [](Player& p, const Text& rest) { p.world_->Write(p.DataOf(rest), p.RecordsOf(rest)); }},
-    {L"given screen", [](Player& p, const Text& rest) { p.world_->SetScreen(First(rest), Second(rest)); }},
+    {L"given screen", [](Player& p, const Text& rest) { p.world_->SetScreen(First(rest), Second(rest), Third(rest)); }},
     {L"given failing", [](Player& p, const Text& rest) { p.world_->Break(rest, L"fails"); }},
     {L"given throwing", [](Player& p, const Text& rest) { p.world_->Break(rest, L"throws"); }},
     {L"given nothing failing", [](Player& p, const Text&) { p.world_->Break(L"", L"works"); }},
@@ -343,6 +346,7 @@ const std::vector<std::pair<std::wstring_view, void (*)(Player&, const Text& res
     {L"close", [](Player& p, const Text&) { p.world_->Close(); }},
     {L"exit", [](Player& p, const Text&) { p.Exit(); }},
     {L"wait", [](Player& p, const Text& rest) { p.world_->Wait(First(rest) * 1000); }},
+    {L"look", [](Player& p, const Text&) { p.Look(*p.world_); }},
 
     {L"told", [](Player& p, const Text& rest) { p.Told(rest); }},
     {L"see message", [](Player& p, const Text& rest) { p.SeeMessage(rest); }},
@@ -373,8 +377,9 @@ bool PlayAll(const std::vector<std::filesystem::path>& files, const std::functio
   return failed == 0 && files.size() > skipped;
 }
 
-std::string Play(const Text& flow) {
+std::string Play(const Text& flow, const std::function<void(World&)>& look) {
   Player player("");
+  player.Look = look;
   std::istringstream lines(Narrow(flow));
   return player.Play(lines) == Result::Passed ? "" : player.Told();
 }

@@ -14,8 +14,9 @@ namespace vantor::flows {
 /// played and failed. Returns whether all that can be played here passed, and there was at least one.
 bool PlayAll(const std::vector<std::filesystem::path>& files, const std::function<void(const std::string& line)>& tell);
 
-/// Plays one flow. Returns how the program differed from what it says, "" if it did not.
-std::string Play(const Text& flow);
+/// Plays one flow. Returns how the program differed from what it says, "" if it did not. `look` is called where the
+/// flow says so.
+std::string Play(const Text& flow, const std::function<void(World&)>& look = {});
 
 /// Plays steps, one on each line, as far as they are possible.
 void Try(World& world, const Text& steps);

@@ -93,7 +93,7 @@ class World {
   /// From now on calls of a service (all for ""), or writing to a drive ("C:"), fail as foreseen ("fails"), or as
   /// nobody expected ("throws").
   virtual void Break(const Text& /*call*/, const Text& /*outcome*/) { throw Failure("only in memory"); }
-  virtual void SetScreen(int /*width*/, int /*height*/) { throw Failure("only in memory"); }
+  virtual void SetScreen(int /*width*/, int /*height*/, int /*dotsPerInch*/) { throw Failure("only in memory"); }
 
   /// One thing that can be seen. Of a control: "text", "shown", "enabled", "ticked" (each "yes" or "no"), "entries"
   /// (joined by " | "). "focus" (a control's name), "line" (the bar's box with its selection in brackets), "title" (of

@@ -1,5 +1,6 @@
 #include <doctest/doctest.h>
 
+#include "fake/Play.h"
 #include "fake/StoredList.h"
 #include "list/DataFile.h"
 
@@ -15,24 +16,22 @@ std::wstring DataFile(std::wstring_view name) { return L"C:\\Vantor\\Vantor\\" +
 TEST_CASE("a damaged settings file gives what could be read of it") {
   const struct {
     std::string_view Bytes;
-    int OptionMask, FileUpper, Left, MachineProgUpper;
+    int Values[4];  // some of them
     bool Whole = false;
   } rows[] = {
-      {"", 2, -1, 0, -1},
-      {"5", 5, -1, 0, -1},
-      {"5\r\n3\r", 5, 3, 0, -1},
-      {"5\n3\n-1\n-1\n-1\n70\n80\n\"x\"\n0\n0\n9", 5, 3, 70, 9, true},
-      {"5\r\n99999\r\n0\r\nabc\r\n0\r\n7\r\n8\r\n\"\"\r\n1\r\n1\r\n1\r\nmore\r\n", 5, -1, 7, 1},
-      {"5\r\n0\r\n0\r\n0\r\n0\r\n7\r\n8\r\n\"not closed\r\n1\r\n1\r\n1\r\n", 5, 0, 7, -1},
+      {"", {2, -1, 0, -1}},
+      {"5", {5, -1, 0, -1}},
+      {"5\r\n3\r", {5, 3, 0, -1}},
+      {"5\n3\n-1\n-1\n-1\n70\n80\n\"x\"\n0\n0\n9", {5, 3, 70, 9}, true},
+      {"5\r\n99999\r\n0\r\nabc\r\n0\r\n7\r\n8\r\n\"\"\r\n1\r\n1\r\n1\r\nmore\r\n", {5, -1, 7, 1}},
+      {"5\r\n0\r\n0\r\n0\r\n0\r\n7\r\n8\r\n\"not closed\r\n1\r\n1\r\n1\r\n", {5, 0, 7, -1}},
   };
   for (const auto& row : rows) {
     CAPTURE(row.Bytes);
-    Settings settings;
-    CHECK(ReadSettings(std::wstring(row.Bytes.begin(), row.Bytes.end()), settings) == row.Whole);
-    CHECK(settings.OptionMask == row.OptionMask);
-    CHECK(settings.FileUpper == row.FileUpper);
-    CHECK(settings.Left == row.Left);
-    CHECK(settings.MachineProgUpper == row.MachineProgUpper);
+    Settings read;
+    CHECK(ReadSettings(std::wstring(row.Bytes.begin(), row.Bytes.end()), read) == row.Whole);
+    const int values[] = {read.OptionMask, read.FileUpper, read.Left, read.MachineProgUpper};
+    CHECK(std::ranges::equal(values, row.Values));
   }
 }
 
@@ -60,10 +59,9 @@ TEST_CASE("files cut at any byte give the items before the cut, whatever the upp
     for (const int upper : {-32768, -1, 0, 1, 2, 32767}) {
       CAPTURE(length);
       CAPTURE(upper);
-      fake::Computer computer;
-      StoredList list(computer);
+      StoredList list;
       list.Settings.WebUpper = static_cast<std::int16_t>(upper);
-      computer.Disk.AddFile(DataFile(L"ListWeb"), whole.substr(0, length));
+      list.Disk.AddFile(DataFile(L"ListWeb"), whole.substr(0, length));
       list.Page.Load();
       Texts items = ItemsOf(list.List);
       // Of a target without quotes any part is one.
@@ -76,61 +74,48 @@ TEST_CASE("files cut at any byte give the items before the cut, whatever the upp
 }
 
 TEST_CASE("loading calls no other computer, and keeps what may be on one as it is") {
-  fake::Computer computer;
+  StoredList list;
   std::string kept;
   for (const auto* target : {R"(\\host\a.exe)", R"(//host/a.exe)", R"(/\host\a.exe)", R"(\\?\UNC\host\a.exe)",
                              R"(\??\UNC\host\a.exe)", R"(\\.\C:\a.exe)", R"(\\?\C:\Work\Tool.EXE)"}) {
     kept += std::string(R"("x",")") + target + "\"\r\n";
   }
-  computer.Disk.AddFile(DataFile(L"ListProg"), kept + R"("gone","\\?\C:\gone.exe")");
-  StoredList list(computer);
+  list.Disk.AddFile(DataFile(L"ListProg"), kept + R"("gone","\\?\C:\gone.exe")");
   list.Settings.ProgUpper = 7;
   list.Page.Load();
-  CHECK(list.Page.ComboListProgName.ListCount() == 7);
+  CHECK(ItemsOf(list.List).size() == 7);
   list.Save();
-  CHECK(computer.Disk.Bytes(DataFile(L"ListProg")) == kept);
+  CHECK(list.Disk.At(DataFile(L"ListProg")).Bytes == kept);
 }
 
 TEST_CASE("four groups of 32,767 items come back whole, the last of them is completed, and there is no room for more") {
-  constexpr int Count = 32767;
-  test::TestProgram program;
-  fake::Computer& computer = program.Computer;
-  {
-    StoredList run(computer);
-    for (int i = 0; i < Count; ++i) {
-      for (const LaunchGroup group : LaunchGroups)
-        run.Add(group, L"Item " + std::to_wstring(i), group == LaunchGroup::Fold ? L"C:\\Work" : L"C:\\Work\\Tool.EXE");
-    }
-    run.Save();
-  }
-  program.Start();
-  CHECK(program.Program.Settings.WebUpper == Count - 1);
-  for (const auto* code : {L"p-", L"f-", L"d-", L"w-"}) {
-    program.Type(code);
-    program.Desktop.Type(L"item 3276");
-    CHECK(program.Main.TextMain.Text() == code + std::wstring(L"Item 3276"));
-    program.Desktop.Type(L"6");
-    CHECK(program.Main.TextMain.Text() == code + std::wstring(L"Item 32766"));
-    CHECK(program.Program.CommandState.MatchedItemIndex == Count - 1);
-  }
-  bar::AddWebBox& box = program.Main.Web;
-  box.TextWebUrl.SetText(L"http://new");
-  box.TextWebName.SetText(L"new");
-  program.Expect();
-  box.CommandAddWeb.DoClick();
-  CHECK(program.Told == Texts{L"This list is full."});
+  test::Play(
+      L"given settings FileUpper=32766 FoldUpper=32766 ProgUpper=32766 WebUpper=32766\nlook\nstart\n"
+      L"starts f-item 32766 > open //host/32766\nstarts d-item 32766 > run {w}explorer.exe //host/32766\n"
+      L"starts p-item 32766 > run //host/32766\nstarts w-item 32766 > open //host/32766\ncompletes w-item 3276 > "
+      L"w-Item "
+      L"3276\npress F1\nclick TextWebUrl\ntype http://new\nclick TextWebName\nanswer new\ntold This list is full.\n"
+      L"exit > see settings FileUpper=32766 FoldUpper=32766 ProgUpper=32766 WebUpper=32766",
+      [](test::World& world) {
+        std::string records;
+        for (int i = 0; i < 32767; ++i)
+          records += "\"Item " + std::to_string(i) + "\",\"//host/" + std::to_string(i) + "\"\r\n";
+        for (const auto* file : {L"ListFile", L"ListFold", L"ListProg", L"ListWeb"})
+          world.Write(DataFile(file), records);
+      });
 }
 
 TEST_CASE("the computer's own items are kept beside a full list on the medium, and the nearest place that fits") {
-  fake::Computer computer;
-  StoredList run(computer, true);
+  fake::FakeDisk disk;
+  disk.Drives[L'E'] = {1};
+  disk.AddFolder(L"E:\\Vantor");
+  StoredList run(disk);
   for (int i = 0; i < 32767; ++i) run.Add(LaunchGroup::Prog, L"Item", L"E:\\Tool.EXE");
   run.Add(LaunchGroup::Prog, L"Own", L"C:\\Work\\Tool.EXE");
   run.Files.SaveLaunchList(run.List, 40000, -40000);
   CHECK((run.Settings.Left == 32767 && run.Settings.Top == -32768));
-  CHECK(run.Settings.ProgUpper == 32766);
-  CHECK(run.Settings.MachineProgUpper == 0);
-  CHECK(computer.Disk.Bytes(run.Environment.Files.MachineProg) == "\"Own\",\"C:\\Work\\Tool.EXE\"\r\n");
+  CHECK((run.Settings.ProgUpper == 32766 && run.Settings.MachineProgUpper == 0));
+  CHECK(run.Disk.At(run.Environment.Files.MachineProg).Bytes == "\"Own\",\"C:\\Work\\Tool.EXE\"\r\n");
 }
 
 }  // namespace

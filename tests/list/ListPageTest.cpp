@@ -2,7 +2,7 @@
 
 #include <new>
 
-#include "fake/TestProgram.h"
+#include "fake/StoredList.h"
 #include "list/NameMatch.h"
 
 namespace vantor::list {
@@ -15,7 +15,7 @@ struct Full : form::ControlWindow {
 };
 
 TEST_CASE("names are listed regardless of letter case, paths only when identical") {
-  test::TestProgram program;
+  test::StoredList program;
   form::ComboBox& box = program.Page.ComboListProgName;
   for (const auto* entry : {L"Editor", L"\u00C9t\u00E9", L"the \"best\""}) box.AddItem(entry);
   for (const auto* name : {L"EDITOR", L"\u00E9T\u00C9", L"THE 'BEST'", L"the 'best\""})

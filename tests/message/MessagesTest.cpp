@@ -2,69 +2,67 @@
 
 #include <doctest/doctest.h>
 
-#include <stdexcept>
-
-#include "fake/TestProgram.h"
+#include "fake/Play.h"
 
 namespace vantor::message {
 namespace {
 
-TEST_CASE("the first-start help tells of a missing button only, and a key of another routine shows nothing") {
-  for (const bool companion : {false, true}) {
-    test::StartedProgram program;
-    if (companion) program.Program.Environment.Companions = {{L"Sketch", L"C:\\Sketch.exe"}};
-    program.Program.Messages.ShowListMessage(MessageSmallScreen);
-    program.Expect();
-    program.Program.Messages.ShowListMessage(MessageFisrtStart);
-    CHECK(program.Told[0].find(companion ? L"\r\n\r\n\r\n\r\nYou" : L"#5 button is not visible.\r\n\r\nYou") !=
-          std::wstring::npos);
-  }
+using test::Play;
+using test::World;
+
+TEST_CASE("the first-start help tells of a missing button only") {
+  Play(L"given first start\ngiven program C:\\Orbel\\Sketch\\Sketch.exe\nstart\nanswer Ada\nlook\npress Enter",
+       [](World& world) {
+         CHECK(world.See(L"text", L"LabelMessage").find(L"\r\n\r\n\r\n\r\nYou") != std::wstring::npos);
+       });
 }
 
 TEST_CASE("a message is in the middle of the screen, or where it leaves the bar to be seen") {
-  test::StartedProgram program;
   for (const form::Twips barTop : {0, 4500, 7500}) {
-    program.Main.MoveTo(3000, barTop);
-    program.Expect([&](frmMessage& dialog) {
-      const form::Rect& bar = program.Main.Bounds();
-      CHECK(form::SharedArea(dialog.Bounds(), bar) == 0);
-      const form::Rect& area = program.Desktop.Desktop.WorkArea;
-      const form::Twips above = dialog.Bounds().Top;
-      const form::Twips below = area.Height - 450 - dialog.Bounds().Bottom();
-      CHECK((barTop == 0 ? abs(above - below) <= 1 : barTop == 4500 ? above == bar.Bottom() : above < bar.Top));
+    Play(L"start\nlook\nlook\npress Enter", [&](World& world) {
+      const form::Rect& bar = world.Program->frmMain.Bounds();
+      const form::Form* const dialog = world.Desktop->ModalForm();
+      if (dialog == nullptr) {
+        world.Program->frmMain.MoveTo(3000, barTop);
+        return world.Program->Messages.ShowTextMessage(L"one\r\ntwo\r\nthree\r\nfour");
+      }
+      const form::Rect& place = dialog->Bounds();
+      CHECK(form::SharedArea(place, bar) == 0);
+      const form::Twips below = world.Desktop->Desktop.WorkArea.Height - 450 - place.Bottom();
+      CHECK((barTop == 0      ? abs(place.Top - below) <= 1
+             : barTop == 4500 ? place.Top == bar.Bottom()
+                              : place.Top < bar.Top));
     });
-    program.Program.Messages.ShowTextMessage(L"one\r\ntwo\r\nthree\r\nfour");
   }
 }
 
 TEST_CASE("messages that open over others take nothing from them, and errors do not pile up") {
-  test::StartedProgram desk;
-  Messages& shown = desk.Program.Messages;
-  desk.Expect([&](frmMessage&) {
-    desk.Desktop.Type(L"Eve");
-    desk.Expect([&](frmMessage&) {
-      shown.Trap(L"Tick", [] { throw 2; });  // passed over: a question is open
-    });
-    shown.Trap(L"Tick", [] { throw 1; });
-    desk.Desktop.Advance(5000);
-    CHECK_FALSE(desk.Main.TopMost());
-    desk.Desktop.Type(L"7\r");
-  });
-  shown.ShowUserMessage(MessageGetUserName);
-  CHECK(desk.Program.MessageState.UserName == L"Eve");
-  CHECK(desk.Told.size() == 2);
-  CHECK((desk.Desktop.ModalScriptsDone() && !desk.Program.MessageState.BugReportPending));
+  int looks = 0;
+  Play(
+      L"start\nlook\ntype Eve\nlook\nsee message Bug-Vantor-Tick\nlook\npress Escape\nwait 5 > see not on top\nanswer "
+      L"7\nlook",
+      [&](World& world) {
+        Messages& shown = world.Program->Messages;
+        switch (looks++) {
+          case 0:
+            return shown.ShowUserMessage(MessageGetUserName);
+          case 3:
+            CHECK(world.Program->MessageState.UserName == L"Eve");
+            CHECK_FALSE(world.Program->MessageState.BugReportPending);
+            return;
+          default:  // the second one is passed over, because a question is open
+            shown.Trap(L"Tick", [] { throw 1; });
+        }
+      });
 }
 
 TEST_CASE("no message opens after the end, which may come while a service is waited for") {
-  test::StartedProgram program;
-  program.Computer.Decide = [&](std::string_view /*call*/) {
-    program.Desktop.End();
-    return fake::Outcome::Fails;
-  };
-  program.Expect();
-  program.Type(L"p=x\r");
-  CHECK(program.Told.empty());
+  Play(L"start\nlook\nenter p=x\nsee end", [](World& world) {
+    world.Computer.Decide = [&](std::string_view /*call*/) {
+      world.Desktop->End();
+      return fake::Outcome::Fails;
+    };
+  });
 }
 
 }  // namespace

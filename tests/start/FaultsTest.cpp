@@ -4,7 +4,7 @@
 #include <map>
 #include <set>
 
-#include "fake/TestProgram.h"
+#include "fake/StoredList.h"
 #include "fake/Walker.h"
 
 namespace vantor::start {
