@@ -1,7 +1,6 @@
 # The only list of sources, used by every tool chain.
 
 set(VANTOR_CORE_FOLDERS text state form service message list command panel bar add options start)
-set(VANTOR_UNIT_TEST_FOLDERS ${VANTOR_CORE_FOLDERS} contract)
 
 function(vantor_glob result)
   set(patterns ${ARGN})
@@ -26,7 +25,7 @@ set(VANTOR_ENTRY_POINT "${PROJECT_SOURCE_DIR}/src/win32/Main.cpp")
 set(VANTOR_STACK_GUARD "${PROJECT_SOURCE_DIR}/src/win32/StackGuard.cpp")
 list(REMOVE_ITEM VANTOR_WIN32_SOURCES "${VANTOR_ENTRY_POINT}" "${VANTOR_STACK_GUARD}")
 
-foreach(folder IN LISTS VANTOR_UNIT_TEST_FOLDERS)
+foreach(folder IN LISTS VANTOR_CORE_FOLDERS)
   vantor_glob(found tests/${folder}/*.cpp)
   list(APPEND VANTOR_UNIT_TEST_SOURCES ${found})
 endforeach()
@@ -39,7 +38,6 @@ set(VANTOR_NATIVE_WORLD "${PROJECT_SOURCE_DIR}/tests/flows/NativeWorld.cpp")
 # Tests in C++ and the fuzzers also use these to play steps.
 set(VANTOR_FAKE_SOURCES "${PROJECT_SOURCE_DIR}/tests/flows/Player.cpp" "${VANTOR_NATIVE_WORLD}")
 vantor_glob(VANTOR_WIN32_TEST_SOURCES tests/win32/*.cpp)
-vantor_glob(VANTOR_CONTRACT_SOURCES tests/contract/*.cpp)
 vantor_glob(VANTOR_RECORDER_SOURCES tests/driver/recorder/*.cpp)
 vantor_glob(VANTOR_DESKTOP_SOURCES tests/desktop/*.cpp)
 set(VANTOR_CHECK_SOURCES ${VANTOR_DESKTOP_SOURCES} "${PROJECT_SOURCE_DIR}/tests/flows/Player.cpp"

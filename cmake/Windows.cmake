@@ -81,17 +81,15 @@ if(CMAKE_HOST_UNIX)
   set(on_desktop "${PROJECT_SOURCE_DIR}/tools/wine" --test)
 endif()
 
-# The same contract tests as natively, here with real windows, and the Windows side's own tests.
-set(contract_test_sources ${VANTOR_CONTRACT_SOURCES} ${VANTOR_WIN32_TEST_SOURCES})
-# With the program's resources, because its manifests decide which version of the common controls is used.
-add_executable(contract_tests ${VANTOR_TEST_MAIN} ${contract_test_sources} ${VANTOR_WIN32_RESOURCES})
-target_link_libraries(contract_tests PRIVATE vantor_win32 vantor_stack_guard vantor_doctest version)
+# The Windows side's own tests. With the program's resources, because its manifests decide which version of the common controls is used.
+add_executable(win32_tests ${VANTOR_TEST_MAIN} ${VANTOR_WIN32_TEST_SOURCES} ${VANTOR_WIN32_RESOURCES})
+target_link_libraries(win32_tests PRIVATE vantor_win32 vantor_stack_guard vantor_doctest version)
 # The shipped file is checked as well.
-add_dependencies(contract_tests Vantor)
-target_link_options(contract_tests PRIVATE ${VANTOR_PLAIN_LINK})
+add_dependencies(win32_tests Vantor)
+target_link_options(win32_tests PRIVATE ${VANTOR_PLAIN_LINK})
 vantor_add_tests(
-  desktop contract_test_sources PREFIX "win32/" TIMEOUT 300
-  RUNNER ${on_desktop} COMMAND $<TARGET_FILE:contract_tests>)
+  desktop VANTOR_WIN32_TEST_SOURCES PREFIX "" TIMEOUT 300
+  RUNNER ${on_desktop} COMMAND $<TARGET_FILE:win32_tests>)
 
 add_executable(recorder WIN32 ${VANTOR_RECORDER_SOURCES})
 target_link_libraries(recorder PRIVATE vantor_flags ${VANTOR_WINDOWS_LIBRARIES})

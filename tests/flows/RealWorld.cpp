@@ -153,6 +153,12 @@ class RealWorld : public World {
   void Paste(const Text& text) override {
     program_->Use([&] { input::Paste(text); });
   }
+  void Compose(bool begins, const Text& text) override {
+    HWND const box = window::Focus(program_->Active());
+    if (begins) SendMessageW(box, WM_IME_STARTCOMPOSITION, 0, 0);
+    Type(text);
+    if (!begins) SendMessageW(box, WM_IME_ENDCOMPOSITION, 0, 0);
+  }
   void Click(const Text& control, const Text& entry, bool twice) override { program_->Click(control, entry, twice); }
   void Turn(const Text& control, int rows) override {
     program_->Use([&] {

@@ -69,7 +69,7 @@ class World {
   virtual void Type(const Text& text) = 0;
   virtual void Paste(const Text& text) = 0;
   /// An input method begins and types, or types and ends.
-  virtual void Compose(bool /*begins*/, const Text& /*text*/) { throw Failure("only in memory"); }
+  virtual void Compose(bool begins, const Text& text) = 0;
   /// On an entry of a list, or in the control's middle for "".
   virtual void Click(const Text& control, const Text& entry, bool twice) = 0;
   /// Turns the wheel over a control by a multiple of 3 rows; down is positive.

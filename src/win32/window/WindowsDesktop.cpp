@@ -57,19 +57,7 @@ void Desktop::Run() {
 
 void Desktop::HandleNext() {
   MSG message;
-  if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
-    End();
-  } else {
-    Handle(message);
-  }
-}
-
-void Desktop::HandlePending() {
-  MSG message;
-  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) Handle(message);
-}
-
-void Desktop::Handle(MSG& message) {
+  if (GetMessageW(&message, nullptr, 0, 0) <= 0) return End();
   FormWindow* const window = message.hwnd != nullptr ? FormWindow::From(GetAncestor(message.hwnd, GA_ROOT)) : nullptr;
   bool done = false;
   if (window != nullptr && !window->Retired()) {

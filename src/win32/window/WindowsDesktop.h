@@ -30,9 +30,6 @@ class Desktop final : public form::UserInterface {
   /// The hidden window (class "ThunderRT6Main") that owns the forms' windows.
   [[nodiscard]] HWND ApplicationWindow() const { return application_.Get(); }
 
-  /// Handles pending messages and returns when there are none left.
-  void HandlePending();
-
   [[nodiscard]] form::Screen ScreenAt(const form::Rect& place) const override;
   [[nodiscard]] form::Screen PrimaryScreen() const override;
   [[nodiscard]] form::Size MeasureText(std::wstring_view text, bool bold, form::Twips width) const override;
@@ -84,7 +81,6 @@ class Desktop final : public form::UserInterface {
   static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
   void ReportError() const;
   void HandleNext();
-  void Handle(MSG& message);
   void Tick(UINT_PTR id);
   /// Destroys the discarded windows that are not handling a message any more.
   void Sweep();
