@@ -13,7 +13,7 @@ if(VANTOR_FUZZ)
   return()
 endif()
 
-add_executable(vantor_tests ${VANTOR_TEST_MAIN} ${VANTOR_UNIT_TEST_SOURCES} ${VANTOR_FAKE_SOURCES})
+add_executable(vantor_tests ${VANTOR_TEST_MAIN} ${VANTOR_UNIT_TEST_SOURCES} ${VANTOR_FLOW_PLAYER})
 target_link_libraries(vantor_tests PRIVATE vantor_core vantor_doctest)
 
 if(VANTOR_SANITIZE)
@@ -24,7 +24,7 @@ endif()
 vantor_add_tests(native VANTOR_UNIT_TEST_SOURCES PREFIX ${prefix} TIMEOUT 120 COMMAND vantor_tests)
 
 # All flows in one run; the program also plays single ones.
-add_executable(flows ${VANTOR_FLOW_PLAYER} ${VANTOR_NATIVE_WORLD})
+add_executable(flows ${VANTOR_FLOW_MAIN} ${VANTOR_FLOW_PLAYER})
 target_link_libraries(flows PRIVATE vantor_core)
 target_include_directories(flows PRIVATE "${PROJECT_SOURCE_DIR}/tests")
 add_test(NAME ${prefix}flows COMMAND flows ${VANTOR_FLOWS})

@@ -30,19 +30,15 @@ foreach(folder IN LISTS VANTOR_CORE_FOLDERS)
   list(APPEND VANTOR_UNIT_TEST_SOURCES ${found})
 endforeach()
 
-# Flows: users' stories, and the code that plays them in each of two worlds.
+# Flows: users' stories, and the code that plays them, which tests in C++ and the fuzzers also use.
 vantor_glob(VANTOR_FLOWS tests/flows/*.txt)
-set(VANTOR_FLOW_PLAYER "${PROJECT_SOURCE_DIR}/tests/flows/Main.cpp" "${PROJECT_SOURCE_DIR}/tests/flows/Player.cpp")
-set(VANTOR_NATIVE_WORLD "${PROJECT_SOURCE_DIR}/tests/flows/NativeWorld.cpp")
-
-# Tests in C++ and the fuzzers also use these to play steps.
-set(VANTOR_FAKE_SOURCES "${PROJECT_SOURCE_DIR}/tests/flows/Player.cpp" "${VANTOR_NATIVE_WORLD}")
+set(VANTOR_FLOW_PLAYER "${PROJECT_SOURCE_DIR}/tests/flows/Player.cpp")
+set(VANTOR_FLOW_MAIN "${PROJECT_SOURCE_DIR}/tests/flows/Main.cpp")
 vantor_glob(VANTOR_WIN32_TEST_SOURCES tests/win32/*.cpp)
 vantor_glob(VANTOR_RECORDER_SOURCES tests/driver/recorder/*.cpp)
 vantor_glob(VANTOR_DESKTOP_SOURCES tests/desktop/*.cpp)
-set(VANTOR_CHECK_SOURCES ${VANTOR_DESKTOP_SOURCES} "${PROJECT_SOURCE_DIR}/tests/flows/Player.cpp"
-                         "${PROJECT_SOURCE_DIR}/tests/flows/RealWorld.cpp" "${PROJECT_SOURCE_DIR}/tests/check/Main.cpp")
-set(VANTOR_FUZZER "${PROJECT_SOURCE_DIR}/tests/fuzz/Fuzzer.cpp" ${VANTOR_FAKE_SOURCES})
+set(VANTOR_CHECK_SOURCES ${VANTOR_DESKTOP_SOURCES} ${VANTOR_FLOW_PLAYER} "${PROJECT_SOURCE_DIR}/tests/check/Main.cpp")
+set(VANTOR_FUZZER "${PROJECT_SOURCE_DIR}/tests/fuzz/Fuzzer.cpp" ${VANTOR_FLOW_PLAYER})
 set(VANTOR_FIXED_FUZZ "${PROJECT_SOURCE_DIR}/tests/fuzz/FixedRun.cpp" ${VANTOR_FUZZER})
 vantor_glob(VANTOR_BENCH_SOURCES bench/*.cpp)
 list(FILTER VANTOR_BENCH_SOURCES EXCLUDE REGEX "/bench/win32/")

@@ -70,7 +70,7 @@ TEST_CASE("the computer is known again by its disk C:, and what can't be read is
 TEST_CASE("the box begins in the folder shown last if that is there, on a fixed drive; a share is not asked") {
   for (const auto* folder : {L"C:\\Gone", L"N:\\Work", L"E:\\Work", L"D:Work", L"\\\\host\\share", L""}) {
     Play(L"given file E:\\Work\\a.exe | N:\\Work\\a.exe | D:\\Work\\a.exe\ngiven settings Folder=" +
-         std::wstring(folder) + L"\nstart\npress F2\nsee entries FileWork Vantor.exe");
+         std::wstring(folder) + L"\nstart\npress F2\nsee entries FileWork tool.exe | Vantor.exe");
   }
 }
 

@@ -29,7 +29,7 @@ class Recorder {
     SetEnvironmentVariableW(L"VANTOR_RECORD", Wide(folder_.Path(RecordName)).c_str());
     SetRegistryText(ClassesRoot(), Classes + L".vantortest", L"", L"VantorTest");
     SetRegistryText(ClassesRoot(), Classes + LR"(VantorTest\shell\open\command)", L"",
-                    Wide(Quoted() + R"( document "%1")"));
+                    Wide(Quoted() + R"( open "%1")"));
   }
   ~Recorder() {
     RegDeleteTreeW(ClassesRoot(), (Classes + L".vantortest").c_str());
@@ -53,7 +53,7 @@ class Recorder {
       RegDeleteTreeW(HKEY_CLASSES_ROOT, (scheme + L"\\shell").c_str());  // how Wine opens them by itself
       SetRegistryText(ClassesRoot(), Classes + scheme, L"URL Protocol", L"");
       SetRegistryText(ClassesRoot(), Classes + scheme + L"\\shell\\open\\command", L"",
-                      Wide(Quoted() + ' ' + Narrow(scheme) + " \"%1\""));
+                      Wide(Quoted() + R"( open "%1")"));
     }
     for (const std::wstring program : {L"rundll32.exe", L"regedit.exe"})
       SetRegistryText(HKEY_CURRENT_USER, L"Software\\Wine\\DllOverrides", program, L"native");

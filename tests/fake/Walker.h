@@ -4,25 +4,25 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "flows/NativeWorld.h"
 #include "flows/Player.h"
-#include "flows/Words.h"
 
 namespace vantor::fake {
 
 /// The program on a computer in memory, used by somebody who tries any steps of flows, including impossible ones. After
 /// each step it is checked for what must always hold. If a check fails, the steps so far are printed as a flow, and the
 /// test is aborted.
-class Walker : protected flows::Steps, public flows::NativeWorld {
+class Walker : public flows::Player {
  public:
-  Walker() : NativeWorld(static_cast<flows::Steps&>(*this)) {}
+  Walker() { Do(L"given first start"); }  // nothing is given but what the steps say
 
   void Do(const flows::Text& step) {
     if (Desktop && Desktop->Ended()) return;
     steps_.push_back(step);
     const bool outermost = Desktop && Desktop->ModalForm() == nullptr;
     try {
-      step == L"start" ? Start() : flows::Try(*this, step);
+      Player::Do(step);
+    } catch (const flows::Failure&) {
+      // was impossible
     } catch (...) {
       Require(false, "no exception leaves the program");
     }

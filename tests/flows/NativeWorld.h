@@ -1,9 +1,11 @@
 #pragma once
 
 #include <algorithm>
+#include <memory>
+#include <optional>
 
 #include "fake/Computer.h"
-#include "flows/World.h"
+#include "flows/Words.h"
 #include "form/Button.h"
 #include "form/Headless.h"
 #include "form/ListControl.h"
@@ -11,7 +13,6 @@
 #include "form/Static.h"
 #include "form/TextBox.h"
 #include "start/Program.h"
-#include "text/Utf8.h"
 
 namespace vantor::flows {
 
@@ -22,7 +23,7 @@ class Desk : public form::Headless {
 
   void RunModal(form::Form& form) override {
     steps_.GoOnUntil([&] { return !form.Visible() || Ended(); });
-    if (form.Visible()) End();  // the flow is over before the message is
+    if (form.Visible()) End();  // the flow has failed meanwhile
   }
 
   using UserInterface::Forms;
@@ -31,160 +32,199 @@ class Desk : public form::Headless {
   Steps& steps_;
 };
 
-/// The computer in memory with the headless desktop, on which a flow takes a few milliseconds.
-class NativeWorld : public World {
+/// The computer in memory with the headless desktop, and a person who uses it: a flow takes a few milliseconds.
+/// Controls go by their names, files by full paths. README.md says what the steps do; RealWorld.h has the same for
+/// Windows, and a program has one of the two.
+class World : public Steps {
  public:
-  explicit NativeWorld(Steps& steps) : steps_(steps) {
-    for (const auto* root : {L"D:", L"E:", L"N:"}) Computer.Disk.Remove(root + Text(L"\\Work\\Tool.EXE"));
+  /// What a line that makes sense in this world alone begins with.
+  static constexpr std::wstring_view Name = L"native";
+
+  World() {
     Computer.Disk.Remove(L"C:\\Work\\notes.txt");
-    MakeProgram(Computer.Home + L"\\Vantor.exe");
     Computer.StartsAnything = false;
+    SetHome(L"C");
   }
 
-  [[nodiscard]] std::wstring_view Name() const override { return L"native"; }
-  void NeedDrive(wchar_t letter, std::wstring_view type) override {
+  /// Hears each step of a flow before the first is played; throws Skip for what had better not be done here.
+  void Foresee(const Text& /*step*/) {}
+  /// A drive of this type is there, with nothing on it; throws Skip if not.
+  void NeedDrive(const Text& letter, const Text& type) {
     const int number = type == L"floppy" ? 1 : type == L"network" ? 3 : type == L"fixed" ? 2 : 4;
-    Computer.Disk.Drives[letter] = {number, L"", type != L"empty"};
+    Computer.Disk.Drives[letter[0]] = {number, L"", type != L"empty"};
+    Computer.Disk.Remove(letter + L":\\Work\\Tool.EXE");
   }
-  void SetHome(wchar_t letter) override {
-    Computer.Home[0] = letter;
+  /// The program's folder lies on this drive.
+  void SetHome(const Text& letter) {
+    Computer.Home[0] = letter[0];
     MakeProgram(Computer.Home + L"\\Vantor.exe");
   }
-  [[nodiscard]] Text Place(const Text& word) override {
+  /// What a word in braces stands for; "" for no such word.
+  [[nodiscard]] Text MeaningOf(const Text& word) {
     if (word == L"f") return Computer.Home;
     if (word == L"w") return Computer.Windows + L'\\';
     if (word == L"rest") return Computer.Home.substr(1);
-    if (word == L"other") return L"C:\\Work\\Tool.EXE";
-    return Computer.Specials[word];
+    return word == L"other" ? L"C:\\Work\\Tool.EXE" : Computer.Specials[word];
   }
 
-  [[nodiscard]] std::optional<std::string> InCodePage(const Text& text) override { return Computer.ToCodePage(text); }
-  void Write(const Text& path, const std::string& bytes) override { Computer.Disk.AddFile(path, bytes); }
-  void MakeProgram(const Text& path) override { Computer.Disk.AddFile(path, "program"); }
-  void MakeFolder(const Text& path) override { Computer.Disk.AddFolder(path); }
-  void Remove(const Text& path) override { Computer.Disk.Remove(path); }
-  [[nodiscard]] std::optional<std::string> Read(const Text& path) override {
-    return Computer.Disk.HasFile(path) ? std::optional(Computer.Disk.At(path).Bytes) : std::nullopt;
+  /// The bytes of a text in the system's code page; none where that lacks a character.
+  [[nodiscard]] std::optional<std::string> InCodePage(const Text& text) const { return Computer.ToCodePage(text); }
+  // Missing folders on the paths are made.
+  void Write(const Text& path, const std::string& bytes) { Computer.Disk.AddFile(path, bytes); }
+  void MakeFile(const Text& path) { Write(path, ""); }
+  void MakeProgram(const Text& path) { Write(path, "program"); }
+  void MakeFolder(const Text& path) { Computer.Disk.AddFolder(path); }
+  void Remove(const Text& path) { Computer.Disk.Remove(path); }
+  [[nodiscard]] std::string Read(const Text& path) {
+    return Computer.Disk.HasFile(path) ? Computer.Disk.At(path).Bytes : NoFile;
   }
 
-  void Start() override {
+  void Start() {
     Program.reset();
-    Desktop = std::make_unique<Desk>(steps_);
+    Desktop = std::make_unique<Desk>(*this);
     Desktop->Desktop = screen_;
     Desktop->CharacterWidth = Font.Width;
     Desktop->LineHeight = Font.Height;
     Program = std::make_unique<start::Program>(*Desktop, Computer.Services());
     Program->Main();
   }
-  void Press(form::Key key) override { Desktop->Press(key); }
-  void PressControl(form::Key key) override { Desktop->PressControl(key); }
-  void Type(const Text& text) override { Desktop->Type(text); }
-  void Paste(const Text& text) override {
+  void Press(form::Key key) { Desktop->Press(key); }
+  void PressControl(form::Key key) { Desktop->PressControl(key); }
+  void Type(const Text& text) { Desktop->Type(text); }
+  void Paste(const Text& text) {
     form::TextBox& box = FocusedBox();
     Text edited = box.Text();
     edited.replace(static_cast<std::size_t>(box.SelStart()), static_cast<std::size_t>(box.SelLength()), text);
     box.InputEdited(edited, box.SelStart() + static_cast<int>(text.size()), 0);
   }
-  void Compose(bool begins, const Text& text) override {
-    form::TextBox& box = FocusedBox();
-    if (begins) box.InputComposing(true);
+  void Compose(const Text& text) {
+    FocusedBox().InputComposing(true);
     Desktop->Type(text);
-    if (!begins) box.InputComposing(false);
   }
-  void Click(const Text& name, const Text& entry, bool twice) override {
+  void EndComposing(const Text& text) {
+    form::TextBox& box = FocusedBox();
+    Desktop->Type(text);
+    box.InputComposing(false);
+  }
+  /// In the control's middle, or on an entry of a list.
+  void Click(const Text& name, const Text& entry = {}) {
     form::Control& control = Reachable(name);
+    if (entry.empty()) return Desktop->Click(control);
     if (auto* rows = dynamic_cast<form::RowList*>(&control)) {
       for (int row = 0; row < rows->RowCount(); ++row) {
         if (rows->RowAt(row).Text == entry) return Desktop->ClickRow(*rows, row);
       }
       throw Failure("there is no such row");
     }
-    if (!entry.empty()) {
-      auto& list = dynamic_cast<form::ListControl&>(control);
-      const auto found = std::ranges::find(list.Entries(), entry);
-      if (found == list.Entries().end()) throw Failure("there is no such entry");
-      control.SetFocus();
-      list.InputSelect(static_cast<int>(found - list.Entries().begin()));
-    } else if (!twice) {
-      Desktop->Click(control);
-    }
-    if (twice) Desktop->DoubleClick(control);
+    auto& list = dynamic_cast<form::ListControl&>(control);
+    const auto found = std::ranges::find(list.Entries(), entry);
+    if (found == list.Entries().end()) throw Failure("there is no such entry");
+    control.SetFocus();
+    list.InputSelect(static_cast<int>(found - list.Entries().begin()));
   }
-  void Turn(const Text& control, int rows) override { Desktop->Wheel(Reachable(control), rows); }
-  void Leave() override { Desktop->Leave(); }
-  void Hold(const Text& control) override {
-    Reachable(control).SetFocus();
-    dynamic_cast<form::CommandButton&>(Reachable(control)).InputMouseDown(form::MouseButton::Left);
-    held_ = control;
+  void DoubleClick(const Text& name, const Text& entry) {
+    if (!entry.empty()) Click(name, entry);
+    Desktop->DoubleClick(Reachable(name));
   }
-  void MoveOver(const Text& window) override {
+  void Turn(const Text& name, int rows) { Desktop->Wheel(Reachable(name), rows); }
+  void Leave() { Desktop->Leave(); }
+  void Hold(const Text& name) {
+    Reachable(name).SetFocus();
+    dynamic_cast<form::CommandButton&>(Reachable(name)).InputMouseDown(form::MouseButton::Left);
+    held_ = name;
+  }
+  void MoveOver(const Text& window) {
     constexpr std::wstring_view known[] = {L"nothing", L"other", L"", L"system"};
     const auto* const found = std::ranges::find(known, window);
     Computer.UnderCursor = service::WindowId{found != std::end(known) ? static_cast<unsigned>(found - known) : 2U};
     Computer.Managed[2].ExecutablePath = Computer.Home + L"\\Vantor.exe";
     Desktop->Advance(100);
   }
-  void Release() override {
+  void Release() {
     if (form::Control* control = Find(held_)) {
       dynamic_cast<form::CommandButton&>(*control).InputMouseUp(form::MouseButton::Left);
     }
   }
-  void Drag(int right, int down) override { Desktop->DragBy(Program->frmMain, right * 15, down * 15); }
-  void Drop(const Texts& paths) override {
-    const bool isAddress = paths.at(0).find(L"://") != Text::npos;
-    Program->frmMain.InputDrop(isAddress ? form::DroppedItems{{}, paths[0]} : form::DroppedItems{paths, {}});
+  void Drag(int right, int down) { Desktop->DragBy(Program->frmMain, right * 15, down * 15); }
+  void Drop(const Text& dropped) {
+    const bool isAddress = dropped.find(L"://") != dropped.npos;
+    Program->frmMain.InputDrop(isAddress ? form::DroppedItems{{}, dropped}
+                                         : form::DroppedItems{Split(dropped, L" | "), {}});
   }
-  void Restore() override {
+  void Restore() {
     Program->frmMain.InputWindowState(form::WindowState::Normal);
     Desktop->Advance(2000);
   }
-  void Close() override { Program->frmMain.InputClose(); }
-  void Wait(int milliseconds) override { Desktop->Advance(milliseconds); }
-  void Break(const Text& call, const Text& outcome) override {
-    for (auto& [letter, drive] : Computer.Disk.Drives) drive.WriteProtected = call == Text{letter, L':'};
-    broken_.assign(call.begin(), call.end());
-    Computer.Let(broken_, outcome == L"fails"    ? fake::Outcome::Fails
-                          : outcome == L"throws" ? fake::Outcome::Throws
-                                                 : fake::Outcome::Works);
-  }
-  void SetScreen(int width, int height, int dotsPerInch) override {
-    const double twips = 1440.0 / dotsPerInch;
-    const auto pixels = [&](int count) { return static_cast<form::Twips>(count * twips); };
-    screen_ = {{0, 0, pixels(width), pixels(height)}, {}, twips, twips};
-    screen_.WorkArea = {0, pixels(28), pixels(width), pixels(height - 28)};  // under a taskbar
+  void Close() { Program->frmMain.InputClose(); }
+  void Wait(int seconds) { Desktop->Advance(seconds * 1000); }
+  void Fail(const Text& call) { Let(call, fake::Outcome::Fails); }
+  void Throw(const Text& call) { Let(call, fake::Outcome::Throws); }
+  /// Its width and height in pixels, and the dots per inch if they are not 96.
+  void SetScreen(const Text& size) {
+    const Texts numbers = Words(size);
+    const double twips = numbers.size() > 2 ? 1440.0 / std::stoi(numbers[2]) : 15;
+    const auto length = [&](int pixels) { return static_cast<form::Twips>(pixels * twips); };
+    const form::Twips right = length(std::stoi(numbers.at(0)));
+    const form::Twips bottom = length(std::stoi(numbers.at(1)));
+    screen_ = {{0, 0, right, bottom}, {0, length(28), right, bottom - length(28)}, twips, twips};  // under a taskbar
     if (!Desktop) return;
     Desktop->Desktop = screen_;
     for (form::Form* form : Desktop->Forms()) form->InputScreensChanged();
   }
 
-  [[nodiscard]] Text See(std::wstring_view what, const Text& name) override {
-    const auto yes = [](bool condition) { return Text(condition ? L"yes" : L"no"); };
-    if (what == L"running") return yes(Program && Program->frmMain.Visible() && !Desktop->Ended());
-    if (what == L"run value") return RunValue(L"HKEY_LOCAL_MACHINE") + RunValue(L"HKEY_CURRENT_USER");
-    const form::Form* const active = Desktop->ActiveForm();
-    const form::Form& bar = Program->frmMain;
-    if (what == L"title") return active != nullptr ? active->Caption() : Text();
-    if (what == L"focus") {
-      const bool has = active != nullptr && active->ActiveControl() != nullptr;
-      return has ? active->ActiveControl()->Name() : Text();
-    }
-    if (what == L"minimised") return yes(bar.WindowState() == form::WindowState::Minimized);
-    if (what == L"on top") return yes(Desktop->IsTopMost(name.empty() ? bar : Reachable(name).OwnerForm()));
-    if (what == L"place")
-      return std::to_wstring(bar.Bounds().Left / 15) + L' ' + std::to_wstring(bar.Bounds().Top / 15);
-    if (what == L"line") return Line(dynamic_cast<const form::TextBox&>(*Find(L"TextMain")));
+  // What is seen: of the bar, or of the control that is named.
+
+  /// Each state with a comma before and behind it.
+  [[nodiscard]] Text StatesOf(const Text& name) {
     const form::Control* const control = Find(name);
-    if (what == L"shown") return yes(control != nullptr);
-    if (control == nullptr) return what == L"text" ? L"" : L"not shown";
-    if (what == L"enabled") return yes(control->Enabled());
-    if (what == L"ticked") return yes(dynamic_cast<const form::ChoiceButton&>(*control).Value());
-    if (what == L"entries") {
-      const auto* const rows = dynamic_cast<const form::RowList*>(control);
-      return Joined(rows != nullptr ? InSight(*rows) : dynamic_cast<const form::ListControl&>(*control).Entries());
-    }
-    return TextOf(*control);
+    const form::Form& form = control != nullptr ? control->OwnerForm() : Program->frmMain;
+    Text states = Program->frmMain.Visible() && !Desktop->Ended() ? L"," : L",end,";
+    states += Desktop->IsTopMost(form) ? L"on top," : L"not on top,";
+    if (form.WindowState() == form::WindowState::Minimized) states += L"minimised,";
+    if (control == nullptr) return states + L"hidden,";
+    states += control->Enabled() ? L"shown,enabled," : L"shown,disabled,";
+    if (Desktop->ActiveForm() == &form && form.ActiveControl() == control) states += L"focus,";
+    if (const auto* choice = dynamic_cast<const form::ChoiceButton*>(control))
+      states += choice->Value() ? L"ticked," : L"cleared,";
+    return states;
   }
-  [[nodiscard]] Texts Started() override {
+  [[nodiscard]] Text Title() { return Desktop->ActiveForm() != nullptr ? Desktop->ActiveForm()->Caption() : L""; }
+  [[nodiscard]] Text Place() {
+    const form::Rect place = Program->frmMain.Bounds();
+    return std::to_wstring(place.Left / 15) + L' ' + std::to_wstring(place.Top / 15);
+  }
+  [[nodiscard]] Text Line() {
+    const auto& box = dynamic_cast<const form::TextBox&>(*Find(L"TextMain"));
+    Text line = box.Text();
+    if (box.SelLength() == 0) return line;
+    line.insert(static_cast<std::size_t>(box.SelStart()) + static_cast<std::size_t>(box.SelLength()), L"]");
+    return line.insert(static_cast<std::size_t>(box.SelStart()), L"[");
+  }
+  [[nodiscard]] Text RunValue() {
+    const Text value = L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run\\OrbelsLauncher";
+    return Computer.Registry[L"HKEY_LOCAL_MACHINE" + value] + Computer.Registry[L"HKEY_CURRENT_USER" + value];
+  }
+  [[nodiscard]] Text EntriesOf(const Text& name) {
+    if (const auto* list = dynamic_cast<const form::ListControl*>(Find(name))) return Joined(list->Entries());
+    const auto& list = dynamic_cast<const form::RowList&>(Reachable(name));
+    Texts rows;
+    for (int row = list.TopRow(); row < std::min(list.TopRow() + list.PageRows(), list.RowCount()); ++row)
+      rows.push_back(list.RowAt(row).Text);
+    return Joined(rows);
+  }
+  [[nodiscard]] Text TextOf(const Text& name) {
+    const form::Control* const control = Find(name);
+    if (const auto* rows = dynamic_cast<const form::RowList*>(control))
+      return rows->CurrentRow() != -1 ? rows->SpokenRow(rows->CurrentRow()) : Text();
+    if (const auto* box = dynamic_cast<const form::TextBox*>(control)) return box->Text();
+    if (const auto* list = dynamic_cast<const form::ListControl*>(control)) return list->Text();
+    if (const auto* label = dynamic_cast<const form::Label*>(control)) return label->Caption();
+    if (const auto* frame = dynamic_cast<const form::Frame*>(control)) return frame->Caption();
+    const auto* const button = dynamic_cast<const form::CommandButton*>(control);
+    return button != nullptr ? button->Caption() : L"";
+  }
+  /// All that was started so far: "run COMMAND", "open TARGET" or "call NUMBER", without quotes.
+  [[nodiscard]] Texts Started() const {
     Texts starts;
     for (Text asked : Computer.Asked) {
       std::erase(asked, L'"');
@@ -194,7 +234,8 @@ class NativeWorld : public World {
     }
     return starts;
   }
-  bool Becomes(const std::function<bool()>& condition) override { return condition(); }
+  /// Whether a condition holds, now or, where things take their time, soon.
+  static bool Becomes(const std::function<bool()>& condition) { return condition(); }
 
   /// The controls that are on the screen, those of the foremost form last.
   [[nodiscard]] std::vector<form::Control*> Shown() const {
@@ -209,39 +250,6 @@ class NativeWorld : public World {
     }
     return all;
   }
-
-  fake::Computer Computer;
-  form::Size Font{90, 195};       // a letter's, on average
-  std::unique_ptr<Desk> Desktop;  // of the run that goes on
-  std::unique_ptr<start::Program> Program;
-
- private:
-  Text RunValue(const Text& root) {
-    return Computer.Registry[root + L"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run\\OrbelsLauncher"];
-  }
-
-  static Text Line(const form::TextBox& box) {
-    Text line = box.Text();
-    if (box.SelLength() == 0) return line;
-    line.insert(static_cast<std::size_t>(box.SelStart()) + static_cast<std::size_t>(box.SelLength()), L"]");
-    return line.insert(static_cast<std::size_t>(box.SelStart()), L"[");
-  }
-  static Texts InSight(const form::RowList& list) {
-    Texts rows;
-    for (int row = list.TopRow(); row < std::min(list.TopRow() + list.PageRows(), list.RowCount()); ++row)
-      rows.push_back(list.RowAt(row).Text);
-    return rows;
-  }
-  static Text TextOf(const form::Control& control) {
-    if (const auto* rows = dynamic_cast<const form::RowList*>(&control))
-      return rows->CurrentRow() != -1 ? rows->SpokenRow(rows->CurrentRow()) : Text();
-    if (const auto* box = dynamic_cast<const form::TextBox*>(&control)) return box->Text();
-    if (const auto* list = dynamic_cast<const form::ListControl*>(&control)) return list->Text();
-    if (const auto* label = dynamic_cast<const form::Label*>(&control)) return label->Caption();
-    if (const auto* frame = dynamic_cast<const form::Frame*>(&control)) return frame->Caption();
-    if (const auto* button = dynamic_cast<const form::CommandButton*>(&control)) return button->Caption();
-    return dynamic_cast<const form::ChoiceButton&>(control).Caption();
-  }
   /// The control of a name that is on the screen; of two, that of the form before the other. Null when there is none.
   [[nodiscard]] form::Control* Find(const Text& name) const {
     form::Control* found = nullptr;
@@ -250,6 +258,13 @@ class NativeWorld : public World {
     }
     return found;
   }
+
+  fake::Computer Computer;
+  form::Size Font{90, 195};       // a letter's, on average
+  std::unique_ptr<Desk> Desktop;  // of the run that goes on
+  std::unique_ptr<start::Program> Program;
+
+ private:
   [[nodiscard]] form::TextBox& FocusedBox() const {
     const form::Form* const form = Desktop->ActiveForm();
     auto* const box = form != nullptr ? dynamic_cast<form::TextBox*>(form->ActiveControl()) : nullptr;
@@ -262,11 +277,16 @@ class NativeWorld : public World {
     if (!control->AcceptsInput()) throw Failure("the control takes no input");
     return *control;
   }
+  /// From now on calls of a service (all for ""), or writing to a drive ("C:"), go wrong.
+  void Let(const Text& call, fake::Outcome outcome) {
+    for (auto& [letter, drive] : Computer.Disk.Drives) drive.WriteProtected = call == Text{letter, L':'};
+    broken_.assign(call.begin(), call.end());
+    Computer.Let(broken_, outcome);
+  }
 
-  Steps& steps_;
   form::Screen screen_ = form::Headless().Desktop;
   Text held_;
-  std::string broken_;  // the call that fails
+  std::string broken_;  // the call that goes wrong
 };
 
 }  // namespace vantor::flows

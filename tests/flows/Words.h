@@ -3,15 +3,51 @@
 // The words of a line of a flow: its parts, and the names of keys and settings.
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
+#include <stdexcept>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
-#include "flows/World.h"
+#include "form/Keys.h"
 #include "text/Utf8.h"
 
 namespace vantor::flows {
+
+using Text = std::wstring;
+using Texts = std::vector<std::wstring>;
+
+/// Why a flow does not go on: a line that can't be understood, or a step that can't be done.
+struct Failure : std::runtime_error {
+  using runtime_error::runtime_error;
+};
+/// Why a flow can't be played here.
+struct Skip : std::runtime_error {
+  using runtime_error::runtime_error;
+};
+
+/// What goes on with a flow, for a world in which a message keeps the step that opened it from ending.
+class Steps {
+ public:
+  Steps() = default;
+  virtual ~Steps() = default;
+  Steps(const Steps&) = delete;
+  Steps& operator=(const Steps&) = delete;
+  /// Plays the next steps until the condition holds.
+  virtual void GoOnUntil(const std::function<bool()>& condition) = 0;
+};
+
+/// Stands for the bytes of a file that does not exist.
+inline constexpr char NoFile[] = "(none)";
+
+/// A list's entries as flows write them.
+inline Text Joined(const Texts& texts) {
+  Text all;
+  for (const Text& text : texts) all += (all.empty() ? L"" : L" | ") + text;
+  return all;
+}
 
 inline std::string Narrow(std::wstring_view text) {
   std::string bytes;

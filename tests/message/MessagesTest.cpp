@@ -12,9 +12,7 @@ using test::World;
 
 TEST_CASE("the first-start help tells of a missing button only") {
   Play(L"given first start\ngiven program C:\\Orbel\\Sketch\\Sketch.exe\nstart\nanswer Ada\nlook\npress Enter",
-       [](World& world) {
-         CHECK(world.See(L"text", L"LabelMessage").find(L"\r\n\r\n\r\n\r\nYou") != std::wstring::npos);
-       });
+       [](World& world) { CHECK(world.TextOf(L"LabelMessage").find(L"\r\n\r\n\r\n\r\nYou") != std::wstring::npos); });
 }
 
 TEST_CASE("a message is in the middle of the screen, or where it leaves the bar to be seen") {

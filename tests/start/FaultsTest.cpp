@@ -61,7 +61,7 @@ constexpr std::wstring_view Everything[] = {
 /// Does everything once, as a user who accepts every message. One call of a service may fail.
 struct Walk : fake::Walker {
   Walk(bool onMedium, const fake::FakeDisk& disk, int wrong = -1, Outcome how = Outcome::Works) {
-    if (onMedium) SetHome(L'E');
+    if (onMedium) SetHome(L"E");
     Computer.Disk = disk;
     Computer.Decide = [this, wrong, how](std::string_view call) {
       if (call == "Pause") {
@@ -85,9 +85,9 @@ struct Walk : fake::Walker {
     }
   }
   void GoOnUntil(const std::function<bool()>& closed) override {
-    Told.push_back(See(L"text", L"LabelMessage"));
-    if (See(L"shown", L"TextInput0") == L"yes") Type(L"Ada");
-    Click(L"CommandOK", L"", false);
+    Told.push_back(TextOf(L"LabelMessage"));
+    if (Find(L"TextInput0") != nullptr) Type(L"Ada");
+    Click(L"CommandOK");
     Require(closed(), "a message closes");
   }
 
@@ -108,9 +108,11 @@ struct Walk : fake::Walker {
 
 /// The disk after the steps.
 fake::FakeDisk After(std::wstring_view steps, bool onMedium, const fake::FakeDisk& disk) {
-  Walk walk(onMedium, disk);
-  flows::Try(walk, flows::Text(steps));
-  return walk.Computer.Disk;
+  flows::Player player;
+  if (onMedium) player.SetHome(L"E");
+  player.Computer.Disk = disk;
+  for (const flows::Text& step : flows::Split(steps, L"\n")) player.Do(step);
+  return player.Computer.Disk;
 }
 
 /// What the next start on the remembered computer loads, and what it would load with each of the rescued lists

@@ -1,0 +1,287 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include "driver/Program.h"
+#include "driver/Recorder.h"
+#include "flows/Words.h"
+
+namespace vantor::flows {
+
+namespace input = desktop::input;
+namespace window = desktop::window;
+using desktop::Await;
+using desktop::Wide;
+
+/// The recorder, and a desktop that is ready for flows.
+class Stage {
+ public:
+  Stage() {
+    if (desktop::OwnDesktop()) Starts.ReplaceSystem();
+    if (!desktop::UnderWine()) return;
+    // Keeps the window manager of the X display away, which would take a drag for one of its own mouse.
+    desktop::SetRegistryText(HKEY_CURRENT_USER, WineKey, L"Managed", L"N");
+    // The first answer of Wine's management service takes up to 16 s.
+    desktop::Run("cmd /c wmic logicaldisk get size >nul");
+  }
+  ~Stage() { RegDeleteKeyValueW(HKEY_CURRENT_USER, WineKey, L"Managed"); }
+  Stage(const Stage&) = delete;
+  Stage& operator=(const Stage&) = delete;
+
+ private:
+  static constexpr wchar_t WineKey[] = L"Software\\Wine\\X11 Driver";
+
+  desktop::Folder place_;
+
+ public:
+  desktop::Recorder Starts{place_};
+};
+
+/// The real program, and a person with real keys and a real mouse. Needs nothing but Windows; what would change an
+/// installation that is not the test's own, or needs drives of certain kinds, is left to Wine. NativeWorld.h says what
+/// the functions are for.
+class World : public Steps {
+ public:
+  static constexpr std::wstring_view Name = L"real";
+
+  World() = default;
+  ~World() override {
+    for (HWND window : {other_, front_}) DestroyWindow(window);
+    // What a failed flow has left behind.
+    if (GetAsyncKeyState(VK_LBUTTON) < 0) input::LetGo(mouse_);
+    program_.reset();
+    for (HKEY root : {HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER}) {
+      if (runBefore_.empty()) RegDeleteKeyValueW(root, desktop::RunKey, desktop::RunValue);
+    }
+    std::error_code ignored;
+    if (!shortcutBefore_) std::filesystem::remove(Shortcut(), ignored);
+  }
+  World(const World&) = delete;
+  World& operator=(const World&) = delete;
+
+  void Foresee(const Text& step) {
+    if (!runBefore_.empty() && step.starts_with(L"see run value"))
+      throw Skip("Vantor starts with this Windows already");
+    if (shortcutBefore_ && step.find(L"Vantor.lnk") != step.npos) throw Skip("there is a shortcut already");
+    if (desktop::OwnDesktop()) return;
+    for (const auto* start : {L"started run ", L"started open ", L" > run ", L" > open "}) {
+      const Text what = Cut(step, start).second;
+      if (!what.empty() && !what.starts_with(L"{f}")) throw Skip("starts what is not the test's");
+    }
+  }
+  void NeedDrive(const Text& letter, const Text& type) {
+    const UINT wanted = type == L"floppy"    ? DRIVE_REMOVABLE
+                        : type == L"network" ? DRIVE_REMOTE
+                        : type == L"fixed"   ? DRIVE_FIXED
+                                             : DRIVE_CDROM;
+    const Text root = letter + L":\\";
+    if (!desktop::OwnDesktop() || GetDriveTypeW(root.c_str()) != wanted) throw Skip("needs a drive of another kind");
+    std::error_code empty;  // is told as an error for a root
+    for (const auto& entry : std::filesystem::directory_iterator(root, empty)) std::filesystem::remove_all(entry);
+  }
+  void SetHome(const Text& letter) { home_ = std::make_unique<desktop::Folder>(Narrow(letter + L":\\")); }
+  [[nodiscard]] Text MeaningOf(const Text& word) const {
+    if (word == L"f") return Wide(home_->Path());
+    if (word == L"rest") return Wide(home_->Path()).substr(1);
+    if (word == L"other") return desktop::OwnPath();
+    if (word == L"w") return Special(CSIDL_WINDOWS) + L'\\';
+    if (word == L"Desktop") return Special(CSIDL_DESKTOPDIRECTORY);
+    if (word == L"MyDocuments") return Special(CSIDL_PERSONAL);
+    return word == L"SendTo" ? Special(CSIDL_SENDTO) : Text();
+  }
+
+  [[nodiscard]] static std::optional<std::string> InCodePage(const Text& text) {
+    std::string bytes(text.size() * 4, '\0');
+    const int size = WideCharToMultiByte(CP_ACP, 0, text.data(), static_cast<int>(text.size()), bytes.data(),
+                                         static_cast<int>(bytes.size()), nullptr, nullptr);
+    bytes.resize(static_cast<std::size_t>(size));
+    Text back = text;
+    MultiByteToWideChar(CP_ACP, 0, bytes.data(), size, back.data(), static_cast<int>(back.size()));
+    return back == text ? std::optional(bytes) : std::nullopt;
+  }
+  void Write(const Text& path, const std::string& bytes) {
+    if (!desktop::OwnDesktop() && path.starts_with(MeaningOf(L"w"))) throw Skip("writes into the Windows folder");
+    void* redirection = nullptr;
+    const bool redirected = Wow64DisableWow64FsRedirection(&redirection) != FALSE;  // as 64-bit programs see folders
+    const std::filesystem::path place = path;
+    std::error_code ignored;  // by what can't be written then
+    std::filesystem::create_directories(place.parent_path(), ignored);
+    std::ofstream(place, std::ios::binary) << bytes;
+    if (redirected) Wow64RevertWow64FsRedirection(redirection);
+  }
+  void MakeFile(const Text& path) { Write(path, ""); }
+  void MakeProgram(const Text& path) {
+    Write(path, desktop::BytesOf(Narrow(desktop::Beside(Wide(desktop::Recorder::ProgramName())))));
+  }
+  void MakeFolder(const Text& path) { std::filesystem::create_directories(path); }
+  void Remove(const Text& path) {
+    // What was started has to end before its file can go.
+    std::error_code error;
+    Await("the file to go", [&] { return std::filesystem::remove(path, error), !error; });
+  }
+  [[nodiscard]] std::string Read(const Text& path) { return desktop::BytesOf(Narrow(path)); }
+
+  void Start() {
+    program_.reset();
+    program_ = std::make_unique<desktop::Program>(*home_);
+    Await("the program to have the input", [this] { return program_->Active() || !program_->Running(); });
+    program_->AwaitHandled();
+  }
+  void Press(form::Key key) { program_->Press(static_cast<WORD>(key)); }
+  void PressControl(form::Key key) {
+    program_->Use([&] { input::PressControl(static_cast<WORD>(key)); });
+  }
+  void Type(const Text& text) { program_->Type(text); }
+  void Paste(const Text& text) {
+    program_->Use([&] { input::Paste(text); });
+  }
+  void Compose(const Text& text) {
+    SendMessageW(window::Focus(program_->Active()), WM_IME_STARTCOMPOSITION, 0, 0);
+    Type(text);
+  }
+  void EndComposing(const Text& text) {
+    HWND const box = window::Focus(program_->Active());
+    Type(text);
+    SendMessageW(box, WM_IME_ENDCOMPOSITION, 0, 0);
+  }
+  void Click(const Text& name, const Text& entry) { program_->Click(name, entry); }
+  void DoubleClick(const Text& name, const Text& entry) { program_->Click(name, entry, true); }
+  void Turn(const Text& name, int rows) {
+    program_->Use([&] {
+      input::Mouse(window::Middle(program_->Control(name)));
+      input::Wheel(rows);
+    });
+  }
+  void Leave() {
+    ShowWindow(front_, SW_SHOW);
+    input::Click(front_);
+    Await("the other program to be in front", [this] { return GetForegroundWindow() == front_; });
+  }
+  void Hold(const Text& name) {
+    program_->AwaitInput();
+    Await("the mark to go", [] { return FindWindowW(L"VantorMark", nullptr) == nullptr; });
+    mouse_ = window::Middle(program_->Control(name));
+    input::Hold(mouse_);
+  }
+  void MoveOver(const Text& window) {
+    ShowWindow(other_, window == L"other" ? SW_SHOWNOACTIVATE : SW_HIDE);
+    mouse_ = window::Middle(window == L"other" ? other_ : program_->Control(window));
+    input::Mouse({mouse_.x - 4, mouse_.y - 4});
+    input::Mouse(mouse_);
+    Await("the mark", [] { return FindWindowW(L"VantorMark", nullptr) != nullptr; });
+  }
+  void Release() {
+    input::LetGo(mouse_);
+    program_->AwaitHandled();
+    ShowWindow(other_, SW_HIDE);
+  }
+  void Drag(int right, int down) {
+    program_->AwaitBar();
+    const RECT exit = window::Bounds(program_->Control(L"CommandExit"));
+    mouse_ = {exit.left - 2, (exit.top + exit.bottom) / 2};
+    input::Hold(mouse_);
+    mouse_.x += 4;  // the first move begins the drag, which goes by where the mouse is then
+    input::Mouse(mouse_);
+    Await("the bar to be dragged", [this] { return window::IsDragged(Bar()); });
+    const RECT before = window::Bounds(Bar());
+    mouse_ = {mouse_.x + right, mouse_.y + down};
+    // Under Wine a mouse that is moved for a program may first be seen where it was.
+    Await("the bar to follow the mouse", [&] {
+      input::Mouse(mouse_);
+      const RECT bar = window::Bounds(Bar());
+      return !EqualRect(&bar, &before);
+    });
+    input::LetGo(mouse_);
+    input::Mouse({mouse_.x, mouse_.y + 60});  // the hand goes on
+  }
+  void Restore() {
+    OpenIcon(Bar());
+    SetForegroundWindow(Bar());
+    program_->AwaitInput();
+  }
+  void Close() { PostMessageW(Bar(), WM_CLOSE, 0, 0); }
+  void Wait(int /*seconds*/) {}  // time passes by itself
+  // Only in memory.
+  void Drop(const Text& /*dropped*/) { OnlyInMemory(); }
+  void Fail(const Text& /*call*/) { OnlyInMemory(); }
+  void Throw(const Text& /*call*/) { OnlyInMemory(); }
+  void SetScreen(const Text& /*size*/) { OnlyInMemory(); }
+
+  [[nodiscard]] Text StatesOf(const Text& name) {
+    HWND const window = name.empty() ? Bar() : program_->Control(name);
+    Text states = program_->Running() ? L"," : L",end,";
+    if (window == nullptr) return states + L"hidden,";
+    states += IsWindowEnabled(window) ? L"shown,enabled," : L"shown,disabled,";
+    states += window::IsTopMost(GetAncestor(window, GA_ROOT)) ? L"on top," : L"not on top,";
+    states += SendMessageW(window, BM_GETCHECK, 0, 0) == BST_CHECKED ? L"ticked," : L"cleared,";
+    if (window::Focus(program_->Active()) == window) states += L"focus,";
+    return IsIconic(window) ? states + L"minimised," : states;
+  }
+  [[nodiscard]] Text Title() { return Wide(window::Text(program_->Active())); }
+  [[nodiscard]] Text Place() {
+    const RECT bar = window::Bounds(Bar());
+    return std::to_wstring(bar.left) + L' ' + std::to_wstring(bar.top);
+  }
+  [[nodiscard]] Text Line() {
+    HWND const box = program_->Control(L"TextMain");
+    Text text = Wide(window::Text(box));
+    const auto selection = static_cast<DWORD>(SendMessageW(box, EM_GETSEL, 0, 0));
+    const std::size_t begin = LOWORD(selection);
+    const std::size_t end = HIWORD(selection);
+    return begin < end && end <= text.size() ? text.insert(end, L"]").insert(begin, L"[") : text;
+  }
+  /// For all, or for this user.
+  [[nodiscard]] Text RunValue() {
+    for (HKEY root : {HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER}) {
+      const std::string value = desktop::RegistryText(root, desktop::RunKey, desktop::RunValue);
+      if (value != NoFile) return Wide(value);
+    }
+    return {};
+  }
+  [[nodiscard]] Text EntriesOf(const Text& name) { return Joined(program_->ListOf(name).Entries()); }
+  [[nodiscard]] Text TextOf(const Text& name) {
+    HWND const window = program_->Control(name);
+    const bool list = name == L"ListMatches" || window::ClassName(window) == "ListBox";
+    return list ? program_->ListOf(name).Selected() : Wide(window::Text(window));
+  }
+  [[nodiscard]] Texts Started() const {
+    Texts started;
+    const auto lines = recorder_.Lines();
+    for (auto line = lines.begin() + static_cast<std::ptrdiff_t>(before_); line != lines.end(); ++line) {
+      Text plain = Wide(*line);
+      std::erase(plain, L'"');
+      const Text opened = Cut(plain, L"\\recorder.exe open ").second;
+      started.push_back(opened.empty() ? L"run " + plain : L"open " + opened);
+    }
+    return started;
+  }
+  static bool Becomes(const std::function<bool()>& condition) { return desktop::Eventually(condition); }
+
+ private:
+  [[nodiscard]] HWND Bar() const { return program_->Bar(); }
+  [[noreturn]] static void OnlyInMemory() { throw Failure("only in memory"); }
+  static Text Special(int folder) { return Wide(desktop::SystemFolder(folder)); }
+  static Text Shortcut() { return Special(CSIDL_DESKTOPDIRECTORY) + L"\\Vantor.lnk"; }
+  /// A window of another program, which is this one.
+  static HWND MakeWindow(DWORD style, POINT at) {
+    return CreateWindowExW(style, L"STATIC", L"", WS_POPUP | SS_NOTIFY, at.x, at.y, 100, 100, nullptr, nullptr,
+                           GetModuleHandleW(nullptr), nullptr);
+  }
+  static const desktop::Recorder& OnStage() {
+    static const Stage stage;
+    return stage.Starts;
+  }
+
+  const desktop::Recorder& recorder_ = OnStage();
+  std::size_t before_ = recorder_.Lines().size();  // what was recorded before this flow
+  std::unique_ptr<desktop::Folder> home_ = std::make_unique<desktop::Folder>();
+  std::unique_ptr<desktop::Program> program_;
+  HWND other_ = MakeWindow(WS_EX_TOPMOST | WS_EX_NOACTIVATE, {700, 300});
+  HWND front_ = MakeWindow(0, {700, 500});
+  Text runBefore_ = RunValue();
+  bool shortcutBefore_ = std::filesystem::exists(Shortcut());
+  POINT mouse_{};
+};
+
+}  // namespace vantor::flows
