@@ -108,19 +108,19 @@ struct Soak {
 
   static void Prepare(const Folder& folder) {
     folder.WriteSettings({.WebUpper = 1});
-    folder.Write("Vantor\\ListWeb.Orbel", ListBytes({{"One", "http://one"}, {"Two", "http://two"}}));
-    folder.CopyProgram("recorder.exe", "recorder.exe");
+    folder.WriteData(L"ListWeb", ListBytes({{L"One", L"http://one"}, {L"Two", L"http://two"}}));
+    folder.CopyProgram(L"recorder.exe", L"recorder.exe");
   }
   void Key(HWND window, WPARAM key) const {
     PostMessageW(window, WM_KEYDOWN, key, 1);
     PostMessageW(window, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
   }
-  void Type(const std::string& line) const {
+  void Type(const std::wstring& line) const {
     Key(Running.Control(L"TextMain"), VK_F12);
     Await("an empty line", [&] { return Running.Line().empty(); });
-    for (const char c : line) PostMessageW(Running.Control(L"TextMain"), WM_CHAR, static_cast<WPARAM>(c), 1);
+    for (const wchar_t c : line) PostMessageW(Running.Control(L"TextMain"), WM_CHAR, c, 1);
   }
-  void Enter(const std::string& line) const { Type(line + '\r'); }
+  void Enter(const std::wstring& line) const { Type(line + L'\r'); }
   /// The program's window that has the keyboard; null if none has it.
   [[nodiscard]] HWND Focused() const {
     GUITHREADINFO info{};
@@ -154,21 +154,21 @@ struct Soak {
 
   void Command(int number) const {
     if (number % 20 == 0) {
-      Enter("p=" + Place.Path("recorder.exe"));
+      Enter(L"p=" + Place / L"recorder.exe");
       Await("the program to start", [&] { return Running.Line().empty(); });
     } else {
       // Enter on a word that is completed but starts nothing, and on a name that is not listed.
-      const std::string line = number % 2 == 0 ? "c.fonts" : "w-nosuch";
+      const std::wstring line = number % 2 == 0 ? L"c.fonts" : L"w-nosuch";
       Enter(line);
       Await("the line", [&] { return Running.Line() == line; });
     }
   }
   /// Shows the matching names and moves through them; the next line hides them.
   void Match(int /*number*/) const {
-    Type("w-o");
+    Type(L"w-o");
     Await("the list", [&] { return Running.Control(L"ListMatches") != nullptr; });
     Key(Running.Control(L"TextMain"), VK_DOWN);
-    Await("the second name", [&] { return Running.Line() == "w-Two"; });
+    Await("the second name", [&] { return Running.Line() == L"w-Two"; });
   }
   void Panel(int number) const {
     constexpr WPARAM keys[] = {VK_F2, VK_F3, VK_F4, VK_F6, VK_F7, VK_F8};
@@ -183,7 +183,7 @@ struct Soak {
     }
   }
   void Message(int /*number*/) const {
-    Enter("p=nosuchprogram");
+    Enter(L"p=nosuchprogram");
     Await("the message", [&] { return Running.Message() != nullptr; });
     DismissMessages();
   }

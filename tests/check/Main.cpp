@@ -10,12 +10,10 @@
 #include <doctest/doctest.h>
 
 #include <cstdio>
-#include <ctime>
 #include <sstream>
 
 #include "../../bench/win32/Starts.h"
 #include "driver/Folder.h"
-#include "driver/Recorder.h"
 #include "flows/Player.h"
 #include "product/Product.h"
 #include "product/Product.rc.h"
@@ -58,25 +56,26 @@ std::string Describe() {
   SYSTEM_INFO machine = {};
   GetSystemInfo(&machine);
   constexpr wchar_t Key[] = L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion";
-  std::ostringstream text;
-  text << "Vantor " PRODUCT_PACKAGE_VERSION ", " << std::filesystem::file_size(Beside(L"Vantor.exe")) << " bytes\n"
-       << RegistryText(HKEY_LOCAL_MACHINE, Key, L"ProductName") << ", build "
-       << RegistryText(HKEY_LOCAL_MACHINE, Key, L"CurrentBuild") << (On64Bit() ? ", 64-bit" : ", 32-bit")
-       << (UnderWine() ? ", by Wine" : "") << "\nlanguage " << Narrow(locale) << ", code page " << GetACP()
-       << ", screen " << GetSystemMetrics(SM_CXSCREEN) << " x " << GetSystemMetrics(SM_CYSCREEN) << " at " << dpi
-       << " dots per inch, " << machine.dwNumberOfProcessors << " processors\n";
-  return text.str();
+  std::wostringstream text;
+  text << L"Vantor " PRODUCT_PACKAGE_VERSION ", " << std::filesystem::file_size(Beside(L"Vantor.exe")) << L" bytes\n"
+       << RegistryText(HKEY_LOCAL_MACHINE, Key, L"ProductName") << L", build "
+       << RegistryText(HKEY_LOCAL_MACHINE, Key, L"CurrentBuild") << (On64Bit() ? L", 64-bit" : L", 32-bit")
+       << (UnderWine() ? L", by Wine" : L"") << L"\nlanguage " << locale << L", code page " << GetACP() << L", screen "
+       << GetSystemMetrics(SM_CXSCREEN) << L" x " << GetSystemMetrics(SM_CYSCREEN) << L" at " << dpi
+       << L" dots per inch, " << machine.dwNumberOfProcessors << L" processors\n";
+  return Narrow(text.str());
 }
 
 std::string MeasureStarts() {
   const Folder empty;
   const Folder full;
+  for (const Folder* folder : {&empty, &full}) folder->CopyProgram(L"Vantor.exe", L"Vantor.exe");
   empty.WriteSettings({});
   full.WriteSettings({.WebUpper = 399});
-  full.WriteData("ListWeb", ListBytes(Items(400, {"Site", "http://www.example.org"})));
+  full.WriteData(L"ListWeb", ListBytes(Items(400, {L"Site", L"http://www.example.org"})));
   std::vector<Contestant> contestants = {{L"a bare window with a text box", Beside(L"Floor.exe")},
-                                         {L"Vantor, no items", Wide(empty.Path("Vantor.exe"))},
-                                         {L"Vantor, 400 items", Wide(full.Path("Vantor.exe"))},
+                                         {L"Vantor, no items", empty / L"Vantor.exe"},
+                                         {L"Vantor, 400 items", full / L"Vantor.exe"},
                                          {L"Notepad", L"notepad.exe"}};
   for (Contestant& one : contestants) one.Command = L'"' + one.Command + L'"';
   ::MeasureStarts(contestants, Rounds);

@@ -1,81 +1,53 @@
-// What screen readers are told, read through the same interface; and moving through every panel with the keyboard.
+// What screen readers are told, read through the same interface.
 
-#include <doctest/doctest.h>
 #include <algorithm>
 #include <set>
 #include <string>
 #include <vector>
 
 #include "driver/Accessible.h"
+#include "driver/Check.h"
 #include "driver/Program.h"
 
 namespace vantor::desktop {
 namespace {
 
-using Names = std::vector<std::pair<LONG, const char*>>;
+using Names = std::vector<std::pair<LONG, const wchar_t*>>;
 const Names Roles = {
-    {ROLE_SYSTEM_ALERT, "alert"},       {ROLE_SYSTEM_CHECKBUTTON, "check"}, {ROLE_SYSTEM_CLIENT, "client"},
-    {ROLE_SYSTEM_COMBOBOX, "combo"},    {ROLE_SYSTEM_DIALOG, "dialog"},     {ROLE_SYSTEM_GRAPHIC, "graphic"},
-    {ROLE_SYSTEM_GROUPING, "group"},    {ROLE_SYSTEM_LIST, "list"},         {ROLE_SYSTEM_PANE, "pane"},
-    {ROLE_SYSTEM_PUSHBUTTON, "button"}, {ROLE_SYSTEM_RADIOBUTTON, "radio"}, {ROLE_SYSTEM_STATICTEXT, "text"},
-    {ROLE_SYSTEM_TEXT, "edit"}};
-const Names States = {{STATE_SYSTEM_UNAVAILABLE, " unavailable"}, {STATE_SYSTEM_FOCUSED, " focused"},
-                      {STATE_SYSTEM_PRESSED, " pressed"},         {STATE_SYSTEM_CHECKED, " checked"},
-                      {STATE_SYSTEM_READONLY, " readonly"},       {STATE_SYSTEM_EXPANDED, " expanded"},
-                      {STATE_SYSTEM_COLLAPSED, " collapsed"},     {STATE_SYSTEM_INVISIBLE, " invisible"}};
+    {ROLE_SYSTEM_ALERT, L"alert"},       {ROLE_SYSTEM_CHECKBUTTON, L"check"}, {ROLE_SYSTEM_CLIENT, L"client"},
+    {ROLE_SYSTEM_COMBOBOX, L"combo"},    {ROLE_SYSTEM_DIALOG, L"dialog"},     {ROLE_SYSTEM_GRAPHIC, L"graphic"},
+    {ROLE_SYSTEM_GROUPING, L"group"},    {ROLE_SYSTEM_LIST, L"list"},         {ROLE_SYSTEM_PANE, L"pane"},
+    {ROLE_SYSTEM_PUSHBUTTON, L"button"}, {ROLE_SYSTEM_RADIOBUTTON, L"radio"}, {ROLE_SYSTEM_STATICTEXT, L"text"},
+    {ROLE_SYSTEM_TEXT, L"edit"}};
+const Names States = {{STATE_SYSTEM_UNAVAILABLE, L" unavailable"}, {STATE_SYSTEM_FOCUSED, L" focused"},
+                      {STATE_SYSTEM_PRESSED, L" pressed"},         {STATE_SYSTEM_CHECKED, L" checked"},
+                      {STATE_SYSTEM_READONLY, L" readonly"},       {STATE_SYSTEM_EXPANDED, L" expanded"},
+                      {STATE_SYSTEM_COLLAPSED, L" collapsed"},     {STATE_SYSTEM_INVISIBLE, L" invisible"}};
 
 /// Everything that a screen reader says about a control, in one line: role "name" <key> {value} states.
-std::string Heard(HWND control) {
+std::wstring Heard(HWND control) {
   const Accessible heard(control);
   const LONG role = heard.Role();
-  const LONG state = heard.State();
   const auto known = std::ranges::find(Roles, role, &Names::value_type::first);
-  std::string line = known != Roles.end() ? known->second : "?";
-  const auto add = [&line](const char* begin, const std::wstring& text, char end) {
-    if (!text.empty()) line += begin + Narrow(text) + end;
-  };
-  add(" \"", heard.Name(), '"');
-  add(" <", heard.Key(), '>');
-  if (role == ROLE_SYSTEM_TEXT || role == ROLE_SYSTEM_COMBOBOX) line += " {" + Narrow(heard.Value()) + '}';
+  std::wstring line = known != Roles.end() ? known->second : L"?";
+  if (!heard.Name().empty()) line += L" \"" + heard.Name() + L'"';
+  if (!heard.Key().empty()) line += L" <" + heard.Key() + L'>';
+  if (role == ROLE_SYSTEM_TEXT || role == ROLE_SYSTEM_COMBOBOX) line += L" {" + heard.Value() + L'}';
+  // A label is read-only by nature.
+  const LONG state = role == ROLE_SYSTEM_STATICTEXT ? heard.State() & ~STATE_SYSTEM_READONLY : heard.State();
   for (const auto& [bit, word] : States) {
-    const bool taken = bit == STATE_SYSTEM_READONLY && role == ROLE_SYSTEM_STATICTEXT;
-    if ((state & bit) != 0 && !taken) line += word;
+    if ((state & bit) != 0) line += word;
   }
   return line;
 }
 
-/// The form next to the bar, once it accepts input.
-HWND AwaitForm(const Program& program) {
-  Await("a form", [&] { return program.Active() != nullptr && program.Active() != program.Bar(); });
-  return program.Active();
-}
-
-/// Moves once around a form by Tab, which must reach everything that can be used.
-void CheckTabs(HWND form) {
-  std::set<HWND> awaited;
-  for (HWND control : window::Controls(form)) {
-    const LONG state = Accessible(control).State();
-    constexpr LONG Unusable = STATE_SYSTEM_UNAVAILABLE | STATE_SYSTEM_INVISIBLE;
-    if ((state & (STATE_SYSTEM_FOCUSABLE | Unusable)) == STATE_SYSTEM_FOCUSABLE) awaited.insert(control);
-  }
-  std::set<HWND> visited;
-  HWND control = window::FocusOf(form);
-  while (visited.insert(control).second && awaited.size() > 1) {
-    CAPTURE(Heard(control));
-    input::Press(VK_TAB);
-    Await("Tab to go on", [&] { return window::FocusOf(form) != control; });
-    control = window::FocusOf(form);
-  }
-  CHECK(visited == awaited);
-}
-
 /// What is announced about the line and the list below it: 's' for each series of changes of the selection, and for the
 /// focus the part that gets it, 0 for the line itself.
-std::string announced;
+std::wstring announced;
 void CALLBACK Hear(HWINEVENTHOOK, DWORD event, HWND window, LONG, LONG part, DWORD, DWORD) {
   const bool selection = event == EVENT_OBJECT_TEXTSELECTIONCHANGED;
   if (!selection && event != EVENT_OBJECT_FOCUS) return;
-  const std::string said = selection ? "s" : std::to_string(part);
+  const std::wstring said = selection ? L"s" : std::to_wstring(part);
   if (GetDlgCtrlID(window) != 0 && !announced.ends_with(said)) announced += said;
 }
 
@@ -84,78 +56,80 @@ void CALLBACK Hear(HWINEVENTHOOK, DWORD event, HWND window, LONG, LONG part, DWO
 TEST_CASE("typing announces the completion, walking the row, and the reader is led back to the line") {
   const Folder folder;
   folder.WriteSettings({.WebUpper = 2});
-  folder.WriteData("ListWeb", ListBytes({{"Notes", "http://a"}, {"News", "http://b"}, {"Net", "http://c"}}));
+  folder.WriteData(L"ListWeb", ListBytes({{L"Notes", L"http://a"}, {L"News", L"http://b"}, {L"Net", L"http://c"}}));
   const Program program(folder);
   program.AwaitBar();
   HWINEVENTHOOK const hook = SetWinEventHook(EVENT_OBJECT_FOCUS, EVENT_OBJECT_TEXTSELECTIONCHANGED, nullptr, Hear,
                                              window::ProcessOf(program.Bar()), 0, WINEVENT_OUTOFCONTEXT);
   program.Press(VK_F12);
   program.Type(L"w-n");
-  CHECK_BECOMES(announced, "s");
+  CHECK_BECOMES(announced, L"s");
   input::Press(VK_DOWN);
-  CHECK_BECOMES(announced, "s2");
+  CHECK_BECOMES(announced, L"s2");
   program.Type(L"e");
-  CHECK_BECOMES(announced, "s2s0");
+  CHECK_BECOMES(announced, L"s2s0");
   input::Press(VK_DOWN);
-  CHECK_BECOMES(announced, "s2s0s2");
+  CHECK_BECOMES(announced, L"s2s0s2");
   input::Press(VK_F12);
-  CHECK_BECOMES(announced, "s2s0s20");
+  CHECK_BECOMES(announced, L"s2s0s20");
   UnhookWinEvent(hook);
 }
 
-TEST_CASE("every control has a role and a name for a screen reader, its state, and its place in the keyboard's way") {
+TEST_CASE("every control has a role and a name for a screen reader, its key and its state") {
   const Folder folder;
-  folder.Write("a.exe");
-  folder.Write("VantorHelp.exe");
-  folder.WriteSettings({.OptionMask = 2, .ProgUpper = 0, .Left = 600, .Top = 600});
-  folder.WriteData("ListProg", ListBytes({{"notepad", folder.Path("a.exe")}}));
+  folder.Write(L"VantorHelp.exe");
+  folder.WriteSettings({.ProgUpper = 0, .Left = 600, .Top = 600});
+  folder.WriteData(L"ListProg", ListBytes({{L"notepad", folder.Write(L"a.exe")}}));
   const Program program(folder);
-  HWND bar = program.AwaitBar();
+  HWND const bar = program.AwaitBar();
+  const auto awaitForm = [&] {
+    Await("a form", [&] { return program.Active() != nullptr && program.Active() != bar; });
+    return program.Active();
+  };
   const struct {
     WORD Key;  // opens the form; 0 for the bar itself
-    std::vector<std::string> Lines;
+    std::vector<std::wstring> Lines;
   } rows[] = {
       {0,
-       {"client \"Vantor\"", "edit \"Command Line\" {Vantor} focused", "graphic \"Vantor\"", "button \"Exit\" <F10>",
-        "button \"Minimize\" <F9>", "button \"Show | Hide Preferences\" <F6>",
-        "button \"Show | Hide Add URL\" <F1> collapsed"}},
+       {L"client \"Vantor\"", L"edit \"Command Line\" {Vantor} focused", L"graphic \"Vantor\"",
+        L"button \"Exit\" <F10>", L"button \"Minimize\" <F9>", L"button \"Show | Hide Preferences\" <F6>",
+        L"button \"Show | Hide Add URL\" <F1> collapsed"}},
       {VK_F2,
-       {"client \"Add To List\"", "radio \"Prog.\" focused checked", "radio \"Folder\"",
-        "combo \"Drive\" {c:} collapsed", "list \"Folder\"", "list \"File\"", "edit \"Path\" {} readonly",
-        "edit \"Type a Launch Name\" {} unavailable", "button \"Add\" unavailable"}},
-      {VK_F3, {"client \"Open\"", "combo \"Drive\" {c:} focused collapsed", "button \"Open\" unavailable"}},
+       {L"client \"Add To List\"", L"radio \"Prog.\" focused checked", L"radio \"Folder\"",
+        L"combo \"Drive\" {c:} collapsed", L"list \"Folder\"", L"list \"File\"", L"edit \"Path\" {} readonly",
+        L"edit \"Type a Launch Name\" {} unavailable", L"button \"Add\" unavailable"}},
+      {VK_F3, {L"client \"Open\"", L"combo \"Drive\" {c:} focused collapsed", L"button \"Open\" unavailable"}},
       {VK_F4,
-       {"client \"List\"", "group \"Program List :\"", "combo \"Program Name\" {notepad} focused collapsed",
-        "combo \"Program Launch Path\" {" + folder.Path("a.exe") + "} collapsed", "combo \"Web URL Name\" {} collapsed",
-        "button \"Rename\" unavailable"}},
-      {VK_F5, {"client \"Orbel's Programs\"", "list \"Orbel's Programs\" focused", "button \"Open\""}},
+       {L"client \"List\"", L"group \"Program List :\"", L"combo \"Program Name\" {notepad} focused collapsed",
+        L"combo \"Program Launch Path\" {" + folder / L"a.exe" + L"} collapsed", L"combo \"Web URL Name\" {} collapsed",
+        L"button \"Rename\" unavailable"}},
+      {VK_F5, {L"client \"Orbel's Programs\"", L"list \"Orbel's Programs\" focused", L"button \"Open\""}},
       {VK_F6,
-       {"client \"Options\"", "check \"Start With Windows\" focused", "check \"Always On Top\" checked",
-        "button \"OK\" unavailable"}},
-      {VK_F7, {"client \"Help\"", "edit \"Data folder\" {" + folder.Path("Vantor") + "} readonly"}},
-      {VK_F8, {"client \"Code\"", "button \"Hide\" focused", "text \"Control Panel Commands :\""}},
+       {L"client \"Options\"", L"check \"Start With Windows\" focused", L"check \"Always On Top\" checked",
+        L"button \"OK\" unavailable"}},
+      {VK_F7, {L"client \"Help\"", L"edit \"Data folder\" {" + folder / L"Vantor" + L"} readonly"}},
+      {VK_F8, {L"client \"Code\"", L"button \"Hide\" focused", L"text \"Control Panel Commands :\""}},
       {VK_RETURN,
-       {"dialog \"Message For - Anna\"", "button \"OK\" focused", "button \"Cancel\" unavailable",
-        "text \"There was some error. Could not run the program.\""}},
+       {L"dialog \"Message For - Anna\"", L"button \"OK\" focused", L"button \"Cancel\" unavailable",
+        L"text \"There was some error. Could not run the program.\""}},
   };
   for (const auto& row : rows) {
     CAPTURE(row.Key);
     if (row.Key == VK_RETURN) program.Enter(L"p=no such program");
     if (row.Key > VK_RETURN) input::Press(row.Key);
-    HWND form = row.Key == 0 ? bar : AwaitForm(program);
-    std::multiset<std::string> lines{Heard(form)};
+    HWND const form = row.Key == 0 ? bar : awaitForm();
+    std::multiset<std::wstring> lines{Heard(form)};
     for (HWND control : window::Controls(form)) lines.insert(Heard(control));
-    for (const std::string& line : lines) {
+    for (const std::wstring& line : lines) {
       CAPTURE(line);
-      const bool named = line.find('"') != std::string::npos;
-      CHECK((named || line == "pane" || line.ends_with("invisible")));
-      CHECK(line[0] != '?');
+      const bool named = line.find(L'"') != line.npos;
+      CHECK((named || line == L"pane" || line.ends_with(L"invisible")));
+      CHECK(line[0] != L'?');
     }
-    for (const std::string& line : row.Lines) {
+    for (const std::wstring& line : row.Lines) {
       CAPTURE(line);
       CHECK(lines.contains(line));
     }
-    CheckTabs(form);
     if (row.Key == 0) continue;
     input::Press(VK_ESCAPE);
     program.AwaitBar();
@@ -163,11 +137,11 @@ TEST_CASE("every control has a role and a name for a screen reader, its state, a
   // A reader opens a panel by the default action of its button, and is told that it is open.
   HWND const button = program.Control(L"CommandMenu(4)");
   CHECK(Accessible(button).Act());
-  AwaitForm(program);
-  CHECK_BECOMES(Heard(button), "button \"Show | Hide Preferences\" <F6> pressed");
+  awaitForm();
+  CHECK_BECOMES(Heard(button), L"button \"Show | Hide Preferences\" <F6> pressed");
   CHECK(Accessible(button).Act());
   program.AwaitBar();
-  CHECK_BECOMES(Heard(button), "button \"Show | Hide Preferences\" <F6>");
+  CHECK_BECOMES(Heard(button), L"button \"Show | Hide Preferences\" <F6>");
 }
 
 }  // namespace vantor::desktop

@@ -1,7 +1,6 @@
 // The bar among other windows, and on a screen that changes.
 
-#include <doctest/doctest.h>
-
+#include "driver/Check.h"
 #include "driver/Program.h"
 
 namespace vantor::desktop {
@@ -9,7 +8,7 @@ namespace vantor::desktop {
 TEST_CASE("the bar and its list climb back above other windows, and come along when the screen gets smaller") {
   const Folder folder;
   folder.WriteSettings({.WebUpper = 1, .Left = 11100, .Top = 14250});
-  folder.WriteData("ListWeb", ListBytes({{"One", "http://one"}, {"Other", "http://other"}}));
+  folder.WriteData(L"ListWeb", ListBytes({{L"One", L"http://one"}, {L"Other", L"http://other"}}));
   const Program program(folder);
   HWND const bar = program.AwaitBar();
   program.Press(VK_F12);

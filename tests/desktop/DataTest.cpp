@@ -1,7 +1,6 @@
 // What lies in the data files afterwards: a save that is broken off, the end of the session, other copies.
 
-#include <doctest/doctest.h>
-
+#include "driver/Check.h"
 #include "driver/Program.h"
 
 namespace vantor::desktop {
@@ -12,21 +11,21 @@ namespace {
 struct FullList {
   FullList() {
     Items items;
-    for (int i = 0; i < Count; ++i) items.emplace_back("Site " + std::to_string(i), "http://www.example.org/");
+    for (int i = 0; i < Count; ++i) items.emplace_back(L"Site " + std::to_wstring(i), L"http://www.example.org/");
     New = ListBytes(items);
   }
   void Put() const {
     Place.WriteSettings({.WebUpper = Count - 1});
     std::string old = New;
     std::erase(old, '\r');
-    Place.WriteData("ListWeb", old);
+    Place.WriteData(L"ListWeb", old);
   }
   /// Whether all items are saved.
   void CheckSaved() const {
-    CHECK((Place.Data("ListWeb") == New));
-    CHECK(Place.Data("Set") == Settings{.WebUpper = Count - 1, .Folder = Place.Path()}.Bytes());
+    CHECK((Place.Data(L"ListWeb") == New));
+    CHECK(Place.Data(L"Set") == Settings{.WebUpper = Count - 1, .Folder = Place.Path}.Bytes());
     // The mark of a save under way goes by being emptied, then removed: killed in between, a save is whole.
-    const std::string mark = Place.Data("Saving");
+    const std::string mark = Place.Data(L"Saving");
     CHECK((mark.empty() || mark == "(none)"));
   }
 
@@ -39,8 +38,8 @@ struct FullList {
 
 TEST_CASE("the program killed during a save has lost nothing at its next start") {
   const FullList list;
-  const std::string saving = list.Place.Path("Vantor\\Saving.Orbel");
-  const std::string backup = list.Place.Path("Vantor\\Backup\\ListWeb.Orbel");
+  const std::wstring saving = list.Place / L"Vantor\\Saving.Orbel";
+  const std::wstring backup = list.Place / L"Vantor\\Backup\\ListWeb.Orbel";
   int brokenOff = 0;
   // The moment is Windows' choice: most hit the save, all must do no harm.
   for (int attempt = 0; attempt < 12 && brokenOff < 3; ++attempt) {
@@ -48,13 +47,13 @@ TEST_CASE("the program killed during a save has lost nothing at its next start")
     {
       const Program program(list.Place);
       PostMessageW(program.AwaitBar(), WM_CLOSE, 0, 0);
-      const std::string& sign = attempt % 2 == 0 ? saving : backup;
+      const std::wstring& sign = attempt % 2 == 0 ? saving : backup;
       CHECK(Eventually([&] { return Exists(sign) || !program.Running(); }));
     }
     brokenOff += Exists(saving) ? 1 : 0;
     Program(list.Place).Exit();
     list.CheckSaved();
-    DeleteFileW(Wide(backup).c_str());
+    DeleteFileW(backup.c_str());
   }
   CHECK(brokenOff > 0);
 }
@@ -72,7 +71,7 @@ TEST_CASE("Windows ends while a panel or a message is open: all is saved, and in
       program.Press(VK_F4);
     program.AwaitForm(message ? L"CommandOK" : L"CommandListCancel");
     if (message && OwnDesktop()) {
-      CHECK(Run("wineboot --end-session") == 0);
+      CHECK(Run(L"wineboot --end-session") == 0);
     } else {
       // What Windows sends, without ending the session of the person who runs this.
       const ULONGLONG begin = GetTickCount64();
@@ -109,7 +108,7 @@ TEST_CASE("a second copy hands over to the first, minimised or covered; of two a
     CHECK(first.AwaitBar() == bar);
     CHECK_BECOMES(IsIconic(bar), FALSE);
     CHECK_BECOMES(window::IsAbove(bar, cover), true);
-    CHECK(first.Line() == "kept");
+    CHECK(first.Line() == L"kept");
     DestroyWindow(cover);
   }
   first.Exit();

@@ -1,8 +1,10 @@
 #pragma once
 
-// The basis of the desktop tests. They use texts in UTF-8, so that a failed comparison is readable.
+// The basis of the desktop tests. Texts and paths are those of Windows, in UTF-16; the bytes of files are std::string.
 
 #include <windows.h>
+// Needs the one before it.
+#include <shlobj.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -15,8 +17,8 @@
 
 namespace vantor::desktop {
 
-inline std::wstring Wide(const std::string& text) {
-  return std::filesystem::path(std::u8string(text.begin(), text.end())).wstring();
+inline std::wstring Wide(const std::string& utf8) {
+  return std::filesystem::path(std::u8string(utf8.begin(), utf8.end())).wstring();
 }
 inline std::string Narrow(const std::wstring& text) {
   const std::u8string bytes = std::filesystem::path(text).u8string();
@@ -24,9 +26,8 @@ inline std::string Narrow(const std::wstring& text) {
 }
 
 /// The bytes of a text in UTF-16, as in files of Windows.
-inline std::string Utf16(const std::string& text) {
-  const std::wstring wide = Wide(text);
-  return {reinterpret_cast<const char*>(wide.data()), wide.size() * sizeof(wchar_t)};
+inline std::string Utf16(const std::wstring& text) {
+  return {reinterpret_cast<const char*>(text.data()), text.size() * sizeof(wchar_t)};
 }
 
 inline bool UnderWine() { return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr; }
@@ -40,41 +41,48 @@ inline bool On64Bit() {
   return IsWow64Process(GetCurrentProcess(), &guest) && guest;
 }
 
-/// The path of this program, and of a file next to it.
+/// The path of this program, of a file next to it, and of a folder of the shell (by its CSIDL).
 inline std::wstring OwnPath() {
   wchar_t own[MAX_PATH];
   return {own, GetModuleFileNameW(nullptr, own, MAX_PATH)};
 }
 inline std::wstring Beside(const std::wstring& name) { return OwnPath().substr(0, OwnPath().rfind(L'\\') + 1) + name; }
-
-inline bool Exists(const std::string& path) {
-  return GetFileAttributesW(Wide(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+inline std::wstring SystemFolder(int id) {
+  wchar_t path[MAX_PATH] = L"";
+  SHGetFolderPathW(nullptr, id, nullptr, SHGFP_TYPE_CURRENT, path);
+  return path;
 }
+
+inline bool Exists(const std::wstring& path) { return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES; }
 /// The bytes of a file; "(none)" if it does not exist.
-inline std::string BytesOf(const std::string& path) {
-  std::ifstream file(std::filesystem::path(Wide(path)), std::ios::binary);
+inline std::string BytesOf(const std::wstring& path) {
+  std::ifstream file(std::filesystem::path(path), std::ios::binary);
   if (!file) return "(none)";
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
+/// Where Windows looks for what starts with it, and the program's own entry.
+constexpr wchar_t RunKey[] = L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
+constexpr wchar_t RunValue[] = L"OrbelsLauncher";
+
 /// Reads and writes a text in the registry; "(none)" if it does not exist.
-inline std::string RegistryText(HKEY root, const std::wstring& key, const std::wstring& name) {
+inline std::wstring RegistryText(HKEY root, const std::wstring& key, const std::wstring& name) {
   wchar_t text[1024] = L"";
   DWORD bytes = sizeof text;
   const LSTATUS read = RegGetValueW(root, key.c_str(), name.c_str(), RRF_RT_REG_SZ, nullptr, text, &bytes);
-  return read == ERROR_SUCCESS ? Narrow(text) : "(none)";
+  return read == ERROR_SUCCESS ? text : L"(none)";
 }
 inline void SetRegistryText(HKEY root, const std::wstring& key, const std::wstring& name, const std::wstring& text) {
-  const std::size_t bytes = (text.size() + 1) * sizeof(wchar_t);
-  if (RegSetKeyValueW(root, key.c_str(), name.c_str(), REG_SZ, text.c_str(), static_cast<DWORD>(bytes)) !=
-      ERROR_SUCCESS)
+  const auto bytes = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
+  if (RegSetKeyValueW(root, key.c_str(), name.c_str(), REG_SZ, text.c_str(), bytes) != ERROR_SUCCESS)
     throw std::runtime_error("the registry can't be written");
 }
 
 /// Checks a condition until it is true. Returns false if that does not happen in time.
 template <class Condition>
-bool Eventually(Condition condition, DWORD milliseconds = 20000) {
-  const ULONGLONG limit = GetTickCount64() + milliseconds;
+bool Eventually(Condition condition) {
+  constexpr ULONGLONG Patience = 20000;  // milliseconds
+  const ULONGLONG limit = GetTickCount64() + Patience;
   while (!condition()) {
     if (GetTickCount64() >= limit) return false;
     // The test's own windows have to respond meanwhile.
@@ -91,45 +99,27 @@ void Await(const std::string& what, Condition condition) {
 }
 
 /// Starts a program in a folder, by default the current one.
-inline PROCESS_INFORMATION Start(const std::string& commandLine, const std::string& folder = {}) {
-  std::wstring line = Wide(commandLine);
+inline PROCESS_INFORMATION Start(std::wstring commandLine, const std::wstring& folder = {}) {
   STARTUPINFOW startup = {};
   startup.cb = sizeof startup;
   PROCESS_INFORMATION process = {};
-  if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                      folder.empty() ? nullptr : Wide(folder).c_str(), &startup, &process)) {
-    throw std::runtime_error("does not start: " + commandLine);
+  if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                      folder.empty() ? nullptr : folder.c_str(), &startup, &process)) {
+    throw std::runtime_error("does not start: " + Narrow(commandLine));
   }
   CloseHandle(process.hThread);
   return process;
 }
 
 /// Runs a program and returns its exit code.
-inline DWORD Run(const std::string& commandLine) {
+inline DWORD Run(const std::wstring& commandLine) {
   HANDLE process = Start(commandLine).hProcess;
   const bool ended = WaitForSingleObject(process, 60000) == WAIT_OBJECT_0;
   DWORD code = 0;
   GetExitCodeProcess(process, &code);
   CloseHandle(process);
-  if (!ended) throw std::runtime_error("does not end: " + commandLine);
+  if (!ended) throw std::runtime_error("does not end: " + Narrow(commandLine));
   return code;
 }
 
 }  // namespace vantor::desktop
-
-/// Checks that a value becomes the expected one in time. A failure shows the last value.
-#define CHECK_BECOMES(value, expected)                                     \
-  do {                                                                     \
-    const auto awaited = (expected);                                       \
-    (void)vantor::desktop::Eventually([&] { return (value) == awaited; }); \
-    CHECK((value) == awaited);                                             \
-  } while (false)
-
-/// Ends a test that can't be run here, and reports that.
-#define SKIP_UNLESS(condition, why)   \
-  do {                                \
-    if (!(condition)) {               \
-      MESSAGE("skipped: needs " why); \
-      return;                         \
-    }                                 \
-  } while (false)

@@ -17,8 +17,8 @@ namespace vantor::desktop {
 /// learnt as a screen reader does.
 class List {
  public:
-  explicit List(HWND window, bool drawn = false) : window_(window), combo_(window::DropDownOf(window) != nullptr) {
-    if (drawn) rows_ = std::make_unique<Accessible>(window);
+  explicit List(HWND window) : window_(window), combo_(window::DropDownOf(window) != nullptr) {
+    if (window::ClassName(window) == L"Static") rows_ = std::make_unique<Accessible>(window);
   }
 
   /// All entries; of drawn ones those in sight.

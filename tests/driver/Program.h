@@ -13,8 +13,9 @@ namespace vantor::desktop {
 /// their names in the code, and only what is shown is found.
 class Program {
  public:
-  explicit Program(const Folder& folder) : Program(folder.Path("Vantor.exe")) {}
-  explicit Program(const std::string& path) : process_(Start('"' + path + '"', path.substr(0, path.rfind('\\')))) {}
+  /// Starts the program in a folder, to which it is copied if it is not there.
+  explicit Program(const Folder& folder) : Program(CopyTo(folder)) {}
+  explicit Program(const std::wstring& path) : process_(Start(L'"' + path + L'"', path.substr(0, path.rfind(L'\\')))) {}
   ~Program() {
     if (Running()) {
       TerminateProcess(process_.hProcess, 99);
@@ -39,8 +40,7 @@ class Program {
   /// The bar, minimised or not, and the open message. The bar's buttons come last when it opens.
   [[nodiscard]] HWND Bar() const { return FormOf(L"CommandExit"); }
   [[nodiscard]] HWND Message() const { return FormOf(L"LabelMessage"); }
-  [[nodiscard]] std::string Line() const { return window::Text(Control(L"TextMain")); }
-  [[nodiscard]] List ListOf(std::wstring_view name) const { return List(Control(name), name == L"ListMatches"); }
+  [[nodiscard]] std::wstring Line() const { return window::Text(Control(L"TextMain")); }
 
   /// The form that has the input and whose control has the focus.
   [[nodiscard]] HWND Active() const {
@@ -103,7 +103,7 @@ class Program {
       else if (window::DropDownOf(Control(control)) != nullptr)
         Choose(Control(control), entry);
       else
-        input::Click(ListOf(control).AwaitEntry(entry), twice);
+        input::Click(List(Control(control)).AwaitEntry(entry), twice);
     });
   }
 
@@ -123,6 +123,11 @@ class Program {
   }
 
  private:
+  static std::wstring CopyTo(const Folder& folder) {
+    std::wstring path = folder / L"Vantor.exe";
+    if (!Exists(path)) folder.CopyProgram(L"Vantor.exe", L"Vantor.exe");
+    return path;
+  }
   /// Drops a combo box down and clicks on the entry.
   static void Choose(HWND combo, const std::wstring& entry) {
     const RECT box = window::Bounds(combo);

@@ -12,7 +12,7 @@
 namespace vantor::desktop::window {
 
 /// The title of a window or the content of a control; "" from a program that does not answer.
-inline std::string Text(HWND window) {
+inline std::wstring Text(HWND window) {
   constexpr UINT Patience = 2000;  // milliseconds
   DWORD_PTR length = 0;
   SendMessageTimeoutW(window, WM_GETTEXTLENGTH, 0, 0, SMTO_ABORTIFHUNG, Patience, &length);
@@ -21,12 +21,12 @@ inline std::string Text(HWND window) {
   SendMessageTimeoutW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()), SMTO_ABORTIFHUNG,
                       Patience, &length);
   text.resize(length);
-  return Narrow(text);
+  return text;
 }
 
-inline std::string ClassName(HWND window) {
+inline std::wstring ClassName(HWND window) {
   wchar_t name[64];
-  return Narrow(std::wstring(name, static_cast<std::size_t>(GetClassNameW(window, name, 64))));
+  return {name, static_cast<std::size_t>(GetClassNameW(window, name, 64))};
 }
 
 inline DWORD ProcessOf(HWND window) {

@@ -12,7 +12,6 @@ namespace vantor::flows {
 namespace input = desktop::input;
 namespace window = desktop::window;
 using desktop::Await;
-using desktop::Wide;
 
 /// The recorder, and a desktop that is ready for flows.
 class Stage {
@@ -23,7 +22,7 @@ class Stage {
     // Keeps the window manager of the X display away, which would take a drag for one of its own mouse.
     desktop::SetRegistryText(HKEY_CURRENT_USER, WineKey, L"Managed", L"N");
     // The first answer of Wine's management service takes up to 16 s.
-    desktop::Run("cmd /c wmic logicaldisk get size >nul");
+    desktop::Run(L"cmd /c wmic logicaldisk get size >nul");
   }
   ~Stage() { RegDeleteKeyValueW(HKEY_CURRENT_USER, WineKey, L"Managed"); }
   Stage(const Stage&) = delete;
@@ -80,15 +79,15 @@ class World : public Steps {
     std::error_code empty;  // is told as an error for a root
     for (const auto& entry : std::filesystem::directory_iterator(root, empty)) std::filesystem::remove_all(entry);
   }
-  void SetHome(const Text& letter) { home_ = std::make_unique<desktop::Folder>(Narrow(letter + L":\\")); }
+  void SetHome(const Text& letter) { home_ = std::make_unique<desktop::Folder>(letter + L":\\"); }
   [[nodiscard]] Text MeaningOf(const Text& word) const {
-    if (word == L"f") return Wide(home_->Path());
-    if (word == L"rest") return Wide(home_->Path()).substr(1);
+    if (word == L"f") return home_->Path;
+    if (word == L"rest") return home_->Path.substr(1);
     if (word == L"other") return desktop::OwnPath();
-    if (word == L"w") return Special(CSIDL_WINDOWS) + L'\\';
-    if (word == L"Desktop") return Special(CSIDL_DESKTOPDIRECTORY);
-    if (word == L"MyDocuments") return Special(CSIDL_PERSONAL);
-    return word == L"SendTo" ? Special(CSIDL_SENDTO) : Text();
+    if (word == L"w") return desktop::SystemFolder(CSIDL_WINDOWS) + L'\\';
+    if (word == L"Desktop") return desktop::SystemFolder(CSIDL_DESKTOPDIRECTORY);
+    if (word == L"MyDocuments") return desktop::SystemFolder(CSIDL_PERSONAL);
+    return word == L"SendTo" ? desktop::SystemFolder(CSIDL_SENDTO) : Text();
   }
 
   [[nodiscard]] static std::optional<std::string> InCodePage(const Text& text) {
@@ -112,7 +111,7 @@ class World : public Steps {
   }
   void MakeFile(const Text& path) { Write(path, ""); }
   void MakeProgram(const Text& path) {
-    Write(path, desktop::BytesOf(Narrow(desktop::Beside(Wide(desktop::Recorder::ProgramName())))));
+    Write(path, desktop::BytesOf(desktop::Beside(desktop::Recorder::ProgramName())));
   }
   void MakeFolder(const Text& path) { std::filesystem::create_directories(path); }
   void Remove(const Text& path) {
@@ -120,7 +119,7 @@ class World : public Steps {
     std::error_code error;
     Await("the file to go", [&] { return std::filesystem::remove(path, error), !error; });
   }
-  [[nodiscard]] std::string Read(const Text& path) { return desktop::BytesOf(Narrow(path)); }
+  [[nodiscard]] std::string Read(const Text& path) { return desktop::BytesOf(path); }
 
   void Start() {
     program_.reset();
@@ -218,14 +217,14 @@ class World : public Steps {
     if (window::Focus(program_->Active()) == window) states += L"focus,";
     return IsIconic(window) ? states + L"minimised," : states;
   }
-  [[nodiscard]] Text Title() { return Wide(window::Text(program_->Active())); }
+  [[nodiscard]] Text Title() { return window::Text(program_->Active()); }
   [[nodiscard]] Text Place() {
     const RECT bar = window::Bounds(Bar());
     return std::to_wstring(bar.left) + L' ' + std::to_wstring(bar.top);
   }
   [[nodiscard]] Text Line() {
     HWND const box = program_->Control(L"TextMain");
-    Text text = Wide(window::Text(box));
+    Text text = window::Text(box);
     const auto selection = static_cast<DWORD>(SendMessageW(box, EM_GETSEL, 0, 0));
     const std::size_t begin = LOWORD(selection);
     const std::size_t end = HIWORD(selection);
@@ -234,22 +233,22 @@ class World : public Steps {
   /// For all, or for this user.
   [[nodiscard]] Text RunValue() {
     for (HKEY root : {HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER}) {
-      const std::string value = desktop::RegistryText(root, desktop::RunKey, desktop::RunValue);
-      if (value != NoFile) return Wide(value);
+      const Text value = desktop::RegistryText(root, desktop::RunKey, desktop::RunValue);
+      if (value != L"(none)") return value;
     }
     return {};
   }
-  [[nodiscard]] Text EntriesOf(const Text& name) { return Joined(program_->ListOf(name).Entries()); }
+  [[nodiscard]] Text EntriesOf(const Text& name) { return Joined(desktop::List(program_->Control(name)).Entries()); }
   [[nodiscard]] Text TextOf(const Text& name) {
     HWND const window = program_->Control(name);
-    const bool list = name == L"ListMatches" || window::ClassName(window) == "ListBox";
-    return list ? program_->ListOf(name).Selected() : Wide(window::Text(window));
+    const bool list = name == L"ListMatches" || window::ClassName(window) == L"ListBox";
+    return list ? desktop::List(window).Selected() : window::Text(window);
   }
   [[nodiscard]] Texts Started() const {
     Texts started;
     const auto lines = recorder_.Lines();
     for (auto line = lines.begin() + static_cast<std::ptrdiff_t>(before_); line != lines.end(); ++line) {
-      Text plain = Wide(*line);
+      Text plain = *line;
       std::erase(plain, L'"');
       const Text opened = Cut(plain, L"\\recorder.exe open ").second;
       started.push_back(opened.empty() ? L"run " + plain : L"open " + opened);
@@ -261,8 +260,7 @@ class World : public Steps {
  private:
   [[nodiscard]] HWND Bar() const { return program_->Bar(); }
   [[noreturn]] static void OnlyInMemory() { throw Failure("only in memory"); }
-  static Text Special(int folder) { return Wide(desktop::SystemFolder(folder)); }
-  static Text Shortcut() { return Special(CSIDL_DESKTOPDIRECTORY) + L"\\Vantor.lnk"; }
+  static Text Shortcut() { return desktop::SystemFolder(CSIDL_DESKTOPDIRECTORY) + L"\\Vantor.lnk"; }
   /// A window of another program, which is this one.
   static HWND MakeWindow(DWORD style, POINT at) {
     return CreateWindowExW(style, L"STATIC", L"", WS_POPUP | SS_NOTIFY, at.x, at.y, 100, 100, nullptr, nullptr,

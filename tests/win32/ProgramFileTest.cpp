@@ -1,12 +1,10 @@
 // The properties of the finished Vantor.exe that matter to Windows, read from the file next to this test.
-#include <doctest/doctest.h>
-
 #include <windows.h>
 
 #include <algorithm>
 #include <string>
 
-#include "driver/Desktop.h"
+#include "driver/Check.h"
 #include "win32/base/SystemLibrary.h"
 
 using namespace vantor::desktop;

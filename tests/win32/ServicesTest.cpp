@@ -1,15 +1,13 @@
 // desktop: --root win32
 // desktop: --root win64
 
-#include <doctest/doctest.h>
-
-#include <shlobj.h>
-
 #include <algorithm>
 #include <memory>
 #include <stdexcept>
 
-#include "TestFolder.h"
+#include "WithAndWithout.h"
+#include "driver/Check.h"
+#include "driver/Folder.h"
 #include "win32/base/Com.h"
 #include "win32/base/Handle.h"
 #include "win32/base/TimedWork.h"
@@ -21,21 +19,18 @@
 #include "win32/service/WindowsServices.h"
 #include "win32/window/DropTarget.h"
 
-using namespace vantor::win32;
-using namespace vantor::desktop;
+namespace vantor::win32 {
+
+using namespace desktop;
 
 namespace {
 
 /// The data that Explorer drags for a file.
 ComPointer<IDataObject> DraggedFile(const std::wstring& path) {
-  ITEMIDLIST* item = nullptr;
-  REQUIRE(SUCCEEDED(SHParseDisplayName(path.c_str(), nullptr, &item, 0, nullptr)));
-  ComPointer<IShellFolder> folder;
-  const ITEMIDLIST* child = nullptr;
-  REQUIRE(SUCCEEDED(SHBindToParent(item, IID_IShellFolder, folder.PutVoid(), &child)));
+  ComPointer<IShellItem> item;
+  REQUIRE(SUCCEEDED(SHCreateItemFromParsingName(path.c_str(), nullptr, IID_IShellItem, item.PutVoid())));
   ComPointer<IDataObject> data;
-  REQUIRE(SUCCEEDED(folder->GetUIObjectOf(nullptr, 1, &child, IID_IDataObject, nullptr, data.PutVoid())));
-  CoTaskMemFree(item);
+  REQUIRE(SUCCEEDED(item->BindToHandler(nullptr, BHID_DataObject, IID_IDataObject, data.PutVoid())));
   return data;
 }
 
@@ -57,9 +52,7 @@ TEST_CASE("the scripting shell tells folders, and reads, writes and deletes in t
     }
     if (with) known = folders;
     CHECK(folders == known);
-    CHECK(shell.SpecialFolder(L"nosuch").empty());
-    CHECK(shell.SpecialFolder(L"").empty());
-
+    for (const wchar_t* none : {L"nosuch", L""}) CHECK(shell.SpecialFolder(none).empty());
     shell.RegistryWrite(key + L"\x00C4\x4E2D", L"C:\\\x4E2D");
     const std::pair<std::wstring, std::wstring> rows[] = {
         {key + L"\x00C4\x4E2D", L"C:\\\x4E2D"}, {key + L"none", L""}, {L"nonsense", L""}, {L"HKEY_NONE\\a\\b", L""}};
@@ -75,16 +68,16 @@ TEST_CASE("the scripting shell tells folders, and reads, writes and deletes in t
 TEST_CASE("a shortcut is saved for any letters and keys, and stands for its target as long as that is there") {
   Apartment com;
   ScriptShell shell(com);
-  const TestFolder folder;
-  vantor::service::Shortcut shortcut;
+  const Folder folder;
+  service::Shortcut shortcut;
   shortcut.File = folder / L"link.LNK";
   shortcut.Hotkey = L"CTRL+SHIFT+L";
   WithAndWithout(L"WScript.Shell", [&](bool with) {
     CAPTURE(with);
-    for (const std::string name : {"V\u00E4ntor \u4E2D\u0416.exe", "Vantor.exe"}) {
-      shortcut.TargetPath = folder.Make(Wide(name));
+    for (const std::wstring name : {L"V\u00E4ntor \u4E2D\u0416.exe", L"Vantor.exe"}) {
+      shortcut.TargetPath = folder.Write(name);
       CHECK(shell.SaveShortcut(shortcut));
-      const std::string bytes = BytesOf(Narrow(shortcut.File));
+      const std::string bytes = BytesOf(shortcut.File);
       CHECK(bytes.find(Utf16(name)) != std::string::npos);
       CHECK(bytes.substr(64, 2) == "L\x03");  // the hot key
     }
@@ -95,13 +88,13 @@ TEST_CASE("a shortcut is saved for any letters and keys, and stands for its targ
   CHECK(ShortcutTarget(shortcut.File) == shortcut.File);
   if (On64Bit() && UnderWine()) {
     // The path that Windows' shell reports to a 32-bit program for "the folder of programs".
-    const std::wstring there = L"C:\\Program Files\\only64.exe";
-    std::ofstream(std::filesystem::path(there)).close();
+    const std::filesystem::path there = L"C:\\Program Files\\only64.exe";
+    std::ofstream(there).close();
     shortcut.TargetPath = L"C:\\Program Files (x86)\\only64.exe";
     CHECK(shell.SaveShortcut(shortcut));
-    CHECK(ShortcutTarget(shortcut.File) == there);
+    CHECK(ShortcutTarget(shortcut.File) == there.wstring());
   }
-  const std::wstring broken = folder.Make(L"broken.lnk", "no shortcut");
+  const std::wstring broken = folder.Write(L"broken.lnk", "no shortcut");
   CHECK(ShortcutTarget(broken) == broken);
   shortcut.File = folder / L"none\\Vantor.lnk";
   CHECK_FALSE(shell.SaveShortcut(shortcut));
@@ -122,15 +115,15 @@ TEST_CASE("the management service and Windows both tell where a process has its 
   Processes processes;
   const auto check = [&](DWORD id, const std::wstring& path) {
     const auto managed = processes.ManagedProcesses().value();
-    CHECK(std::ranges::any_of(managed,
-                              [&](const auto& one) { return one.ProcessId == id && one.ExecutablePath == path; }));
-    CHECK(processes.ImageName(id) == path);
+    const auto found = std::ranges::find(managed, id, &service::ManagedProcess::ProcessId);
+    REQUIRE(found != managed.end());
+    CHECK((found->ExecutablePath == path && processes.ImageName(id) == path));
   };
   check(GetCurrentProcessId(), OwnPath());
   CHECK(processes.ImageName(3).empty());
   if (On64Bit()) {
     // By the name of the system folder that exists only for 32-bit programs.
-    const PROCESS_INFORMATION other = Start(R"(C:\windows\Sysnative\notepad.exe)");
+    const PROCESS_INFORMATION other = Start(LR"(C:\windows\Sysnative\notepad.exe)");
     check(other.dwProcessId, L"C:\\windows\\system32\\notepad.exe");
     TerminateProcess(other.hProcess, 0);
     CloseHandle(other.hProcess);
@@ -141,17 +134,14 @@ TEST_CASE("the management service and Windows both tell where a process has its 
   CHECK(services.All().FileSystem.FileExists(system.WindowsDirectory() + L"\\explorer.exe"));
 }
 
-TEST_CASE("disk C: tells who it is, the same each time, and nobody does without the management service") {
+TEST_CASE("disk C: tells who it is, and nobody does without the management service") {
   WithAndWithout(L"WinMgmts", [](bool with) {
-    if (with) {
-      const auto told = Management().ReadDiskIdentity().value();
-      CHECK(told.DriveType == 3);
-      CHECK(told.VolumeSerialNumber.size() == 8);
-      CHECK(told.Size > 1e6);
-      CHECK(Management().ReadDiskIdentity()->VolumeSerialNumber == told.VolumeSerialNumber);
-    } else {
+    if (!with) {
       CHECK_THROWS_AS((void)Management().ReadDiskIdentity(), std::runtime_error);
+      return;
     }
+    const auto told = Management().ReadDiskIdentity().value();
+    CHECK((told.DriveType == 3 && told.VolumeSerialNumber.size() == 8 && told.Size > 1e6));
   });
 }
 
@@ -169,9 +159,7 @@ TEST_CASE("the mark around a window is not felt by the mouse, and there is none 
 TEST_CASE("work that ends is waited for, work that does not for five seconds at most") {
   TimedWork work;
   bool done = false;
-  CHECK(work.Run([&] { done = true; }));
-  CHECK(done);
-
+  CHECK((work.Run([&] { done = true; }) && done));
   // As with a service that does not answer: the work continues in the background and ends later.
   const auto answer = std::make_shared<KernelHandle>(CreateEventW(nullptr, TRUE, FALSE, nullptr));
   const DWORD begin = GetTickCount();
@@ -185,14 +173,14 @@ TEST_CASE("work that ends is waited for, work that does not for five seconds at 
 }
 
 TEST_CASE("files that are dropped on a window arrive, those it does not want don't") {
-  const TestFolder folder;
-  const std::wstring path = folder.Make(L"\x416 it's, a 'file'.txt");
+  const Folder folder;
+  const std::wstring path = folder.Write(L"\x416 it's, a 'file'.txt");
   const WindowHandle window(
       CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr));
   bool accepts = true;
   std::vector<std::wstring> taken;
   const DropRegistration registration(
-      window.Get(), [&] { return accepts; }, [&](const vantor::form::DroppedItems& items) { taken = items.Paths; });
+      window.Get(), [&] { return accepts; }, [&](const form::DroppedItems& items) { taken = items.Paths; });
   const auto target = static_cast<IDropTarget*>(GetPropW(window.Get(), L"OleDropTargetInterface"));
   REQUIRE(target != nullptr);
 
@@ -204,8 +192,7 @@ TEST_CASE("files that are dropped on a window arrive, those it does not want don
     target->Drop(data.Get(), 0, {}, &effect);
     return effect;
   };
-  CHECK(drop(DROPEFFECT_MOVE) == DROPEFFECT_NONE);
-  CHECK(taken.empty());
+  CHECK((drop(DROPEFFECT_MOVE) == DROPEFFECT_NONE && taken.empty()));
   CHECK(drop(DROPEFFECT_MOVE | DROPEFFECT_COPY) == DROPEFFECT_COPY);
   CHECK(taken == std::vector<std::wstring>{path});
   accepts = false;
@@ -213,11 +200,13 @@ TEST_CASE("files that are dropped on a window arrive, those it does not want don
 }
 
 TEST_CASE("a web link that is a file stands for its address") {
-  const TestFolder folder;
+  const Folder folder;
   const auto address = [&](const wchar_t* name, const char* url) {
-    return WebAddressIn(folder.Make(name, std::string("[InternetShortcut]\r\nURL=") + url + "\r\n"));
+    return WebAddressIn(folder.Write(name, std::string("[InternetShortcut]\r\nURL=") + url + "\r\n"));
   };
   CHECK(address(L"site.URL", "https://example.org/?q=a,b") == L"https://example.org/?q=a,b");
   CHECK(address(L"game.url", "steam://run/1").empty());
   CHECK(address(L"site.txt", "https://example.org/").empty());
 }
+
+}  // namespace vantor::win32

@@ -1,12 +1,12 @@
 // desktop: --root win32
 // desktop: --root win64
 
-#include <doctest/doctest.h>
-
 #include <future>
 #include <thread>
 
-#include "TestFolder.h"
+#include "WithAndWithout.h"
+#include "driver/Check.h"
+#include "driver/Folder.h"
 #include "win32/base/Handle.h"
 #include "win32/base/ProgramCommand.h"
 #include "win32/service/DataFiles.h"
@@ -15,8 +15,9 @@
 #include "win32/service/System.h"
 #include "win32/window/WindowsDesktop.h"
 
-using namespace vantor::win32;
-using vantor::desktop::Eventually;
+namespace vantor::win32 {
+
+using namespace desktop;
 
 namespace {
 
@@ -24,8 +25,8 @@ struct Starts {
   Apartment Com;
   Programs Plain{Com};
   ScriptShell Shell{Com};
-  TestFolder Folder;
-  std::wstring Ran = Folder / L"ran.txt";
+  Folder Place;
+  std::wstring Ran = Place / L"ran.txt";
 };
 
 /// A batch file that creates a file next to itself when it runs.
@@ -35,9 +36,9 @@ constexpr char Leaves[] = "@echo ran>\"%~dp0ran.txt\"\r\n";
 
 TEST_CASE("a text that names a file starts exactly that file; a command line the program it begins with") {
   Starts starts;
-  const std::wstring program = starts.Folder.Make(L"my tool.cmd", Leaves);
+  const std::wstring program = starts.Place.Write(L"my tool.cmd", Leaves);
   // Windows would prefer to start this one.
-  CopyFileW(L"C:\\windows\\system32\\attrib.exe", (starts.Folder / L"my.exe").c_str(), FALSE);
+  CopyFileW(L"C:\\windows\\system32\\attrib.exe", (starts.Place / L"my.exe").c_str(), FALSE);
   const std::wstring arguments = L" /c echo ran>\"" + starts.Ran + L"\"";
   const auto ran = [&] {
     return Eventually([&] { return DataFiles().Read(starts.Ran).Bytes.value_or("").starts_with("ran"); }) &&
@@ -56,7 +57,7 @@ TEST_CASE("a text that names a file starts exactly that file; a command line the
 
 TEST_CASE("the scripting shell replaces variables, in the name of a file too; what is opened keeps its name") {
   Starts starts;
-  const std::wstring program = starts.Folder / L"my %TEMP%.exe";
+  const std::wstring program = starts.Place / L"my %TEMP%.exe";
   CopyFileW(L"C:\\windows\\system32\\attrib.exe", program.c_str(), FALSE);
   CHECK(starts.Shell.ExpandVariables(program) != program);
   CHECK_FALSE(starts.Shell.Run(L'"' + program + L'"'));
@@ -65,8 +66,8 @@ TEST_CASE("the scripting shell replaces variables, in the name of a file too; wh
 
 TEST_CASE("what can't be started is told, and nothing is started in its place") {
   Starts starts;
-  const std::wstring text = starts.Folder.Make(L"my tool.unknown", "no program");
-  starts.Folder.Make(L"my.cmd", Leaves);
+  const std::wstring text = starts.Place.Write(L"my tool.unknown", "no program");
+  starts.Place.Write(L"my.cmd", Leaves);
   // Where Windows itself would look for a program first.
   const std::wstring planted = System({}, {}).ProgramFolder() + L"\\vantor-planted.exe";
   REQUIRE(CopyFileW(L"C:\\windows\\system32\\attrib.exe", planted.c_str(), FALSE) != FALSE);
@@ -74,11 +75,11 @@ TEST_CASE("what can't be started is told, and nothing is started in its place") 
   CHECK(ParseProgramCommand(planted.substr(0, planted.size() - 4)).Path == planted);
   DeleteFileW(planted.c_str());
   for (const std::wstring& line :
-       {std::wstring(), std::wstring(L"nosuchprogram x y"), std::wstring(L"nosuch:address"), text, starts.Folder.Path,
-        starts.Folder / L"none.exe", std::wstring(2000, L'x'), std::wstring(40000, L'x')}) {
+       {std::wstring(), std::wstring(L"nosuchprogram x y"), std::wstring(L"nosuch:address"), text, starts.Place.Path,
+        starts.Place / L"none.exe", std::wstring(2000, L'x'), std::wstring(40000, L'x')}) {
     CAPTURE(line.size());
     CHECK_FALSE(starts.Plain.StartCommandLine(line));
-    if (line.empty() || line == starts.Folder.Path) continue;
+    if (line.empty() || line == starts.Place.Path) continue;
     CHECK(starts.Plain.ShellOpen(line) <= 32);
     CHECK_FALSE(starts.Shell.Run(L'"' + line + L'"'));
     CHECK_FALSE(starts.Shell.Open(line));
@@ -110,7 +111,7 @@ TEST_CASE("what only looks like a copy that runs neither holds a start up nor en
     end.get_future().wait();
   });
   CHECK(held.get_future().get());
-  Desktop desktop;
+  win32::Desktop desktop;
   desktop.SetApplicationTitle(L"Vantor Test");
   const WindowHandle bar(
       CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr));
@@ -123,3 +124,5 @@ TEST_CASE("what only looks like a copy that runs neither holds a start up nor en
   holder.join();
   CHECK_FALSE(system.PreviousInstance());
 }
+
+}  // namespace vantor::win32
