@@ -15,7 +15,7 @@ namespace vantor::fake {
 enum class Outcome { Works, Fails, Throws };
 
 /// A computer in memory, which answers for all services and keeps what it was asked to do. It has a disk D:, a stick
-/// E:, a network drive N: and an empty CD drive R:, and window 1 is that of a program that runs from C:.
+/// E:, a network drive N: and an empty CD drive R:, and window 1 is that of C:\Work\Tool.EXE.
 class Computer : public service::DataFiles,
                  public service::FileSystem,
                  public service::Language,
@@ -32,10 +32,8 @@ class Computer : public service::DataFiles,
 
   Computer() {
     Disk.Drives = {{L'C', {2}}, {L'D', {2}}, {L'E', {1, L"STICK"}}, {L'N', {3}}, {L'R', {4, L"", false}}};
-    for (const auto* root : {L"C:", L"D:", L"E:", L"N:"}) Disk.AddFile(root + std::wstring(L"\\Work\\Tool.EXE"));
-    for (const auto* file : {L"C:\\Work\\notes.txt", L"C:\\WINDOWS\\explorer.exe"}) Disk.AddFile(file);
+    for (const auto* file : {L"C:\\Work\\Tool.EXE", L"C:\\WINDOWS\\explorer.exe"}) Disk.AddFile(file);
     Disk.AddFolder(Home);
-    AddProcess(7, "tool.exe");
   }
 
   [[nodiscard]] service::Services Services() { return {*this, *this, *this, *this, *this, *this, *this, *this, *this}; }
@@ -55,12 +53,10 @@ class Computer : public service::DataFiles,
   service::DiskIdentity Identity{3, L"1A2B3C4D", 80023715840.0};
   Values Specials{{L"MyDocuments", L"C:\\Documents"}, {L"SendTo", L"C:\\Send"}, {L"Desktop", L"C:\\Work"}};
   Values Registry;
-  Texts Shared;                // the files and folders that others may write to
-  int CallError = -9;          // of a telephone call that fails
-  bool StartsAnything = true;  // otherwise only what is there, and names that don't begin with "nosuch"
-  Texts Asked;                 // what was done: "run …", "shell …", "open …", "mail …", "call …", "title …"
+  std::wstring Shared;  // the file or folder that others may write to
+  int CallError = -9;   // of a telephone call that fails
+  Texts Asked;          // what was done: "run …", "shell …", "open …", "mail …", "call …", "title …"
 
-  std::vector<service::ProcessEntry> Entries;
   std::vector<service::ManagedProcess> Managed{
       {0, std::nullopt}, {7, L"C:\\Work\\Tool.EXE"}, {8, std::nullopt}, {1, L"C:\\system.exe"}};
   service::WindowId UnderCursor{1};
@@ -70,12 +66,6 @@ class Computer : public service::DataFiles,
   service::WindowId Marked{};
   bool Target = false;
   int Held = 0;  // objects
-
-  void AddProcess(std::uint32_t id, std::string_view name) {
-    service::ProcessEntry& entry = Entries.emplace_back();
-    entry.th32ProcessID = id;
-    std::copy(name.begin(), name.end(), entry.szExeFile.begin());
-  }
 
   // --- files
 
@@ -100,9 +90,7 @@ class Computer : public service::DataFiles,
   bool CanWrite(Text path) override { return !Fails(__func__) && Disk.MayWrite(path); }
   std::optional<Texts> FolderEntries(Text path) override {
     if (Fails(__func__)) return std::nullopt;
-    Texts names;
-    for (const FakeDisk::Entry* entry : Disk.In(path)) names.push_back(entry->Name());
-    return names;
+    return Names(path);
   }
 
   bool Available() override { return !Fails(__func__); }
@@ -124,13 +112,11 @@ class Computer : public service::DataFiles,
     return drives;
   }
   bool DriveReady(Text path) override { return !Fails(__func__, path) && Disk.HasFolder(path.substr(0, 2)); }
-  Texts Folders(Text path) override { return Fails(__func__) ? Texts() : Names(path, true, L""); }
+  Texts Folders(Text path) override { return Fails(__func__) ? Texts() : Names(path, true); }
   Texts Files(Text path, Text pattern) override {
     return Fails(__func__) ? Texts() : Names(path, false, pattern == L"*.*" ? L"" : Lower(pattern.substr(1)));
   }
-  bool OthersMayWrite(Text path) override {
-    return Fails(__func__) || std::count(Shared.begin(), Shared.end(), path) > 0;
-  }
+  bool OthersMayWrite(Text path) override { return Fails(__func__) || path == Shared; }
   void BeginMany() override { ++Held; }
   void EndMany() override { --Held; }
 
@@ -138,14 +124,12 @@ class Computer : public service::DataFiles,
 
   std::wstring Lower(Text text) const override {
     std::wstring lower(text);
-    for (wchar_t& c : lower)
-      if (IsUpper(c)) c = static_cast<wchar_t>(c + 32);
+    for (wchar_t& c : lower) c += IsUpper(c) ? 32 : 0;
     return lower;
   }
   std::wstring Upper(Text text) const override {
     std::wstring upper(text);
-    for (wchar_t& c : upper)
-      if (IsUpper(c - 32)) c = static_cast<wchar_t>(c - 32);
+    for (wchar_t& c : upper) c -= IsUpper(c - 32) ? 32 : 0;
     return upper;
   }
   std::wstring FromCodePage(std::string_view bytes) const override {
@@ -201,7 +185,7 @@ class Computer : public service::DataFiles,
   // --- processes and windows
 
   std::vector<service::ProcessEntry> CreateSnapshot() override {
-    return Fails(__func__) ? std::vector<service::ProcessEntry>() : Entries;
+    return std::vector<service::ProcessEntry>(Fails(__func__) ? 0 : 1);
   }
   std::optional<std::vector<service::ManagedProcess>> ManagedProcesses() override {
     return Fails(__func__) ? std::nullopt : std::optional(Managed);
@@ -232,11 +216,11 @@ class Computer : public service::DataFiles,
     if (outcome == Outcome::Throws) throw std::runtime_error(call);
     return outcome == Outcome::Fails;
   }
-  /// Of a full path the file, or a folder, must be there.
+  /// Of a full path the file, or a folder, must be there; other names must not begin with "nosuch".
   bool IsThere(Text line) const {
     std::wstring plain(line);
     std::erase(plain, L'"');
-    if (StartsAnything || plain.find(L":\\") != 1) return StartsAnything || !plain.starts_with(L"nosuch");
+    if (plain.find(L":\\") != 1) return !plain.starts_with(L"nosuch");
     std::size_t length = plain.size();
     while (length > 2 && !Disk.HasFile(plain.substr(0, length))) --length;
     return length > 2 || Disk.HasFolder(plain);
@@ -251,11 +235,12 @@ class Computer : public service::DataFiles,
   static bool IsUpper(int c) {
     return (c >= L'A' && c <= L'Z') || (c >= 0xC0 && c <= 0xDE && c != 0xD7) || (c >= 0x410 && c <= 0x42F);
   }
-  Texts Names(Text folder, bool folders, std::wstring_view ending) const {
+  /// Of the files, the folders, or both, whose names end so.
+  Texts Names(Text folder, std::optional<bool> folders = {}, std::wstring_view ending = {}) const {
     Texts names;
     for (const FakeDisk::Entry* entry : Disk.In(folder)) {
-      if (entry->IsFolder != folders || !Lower(entry->Path).ends_with(ending)) continue;
-      names.push_back(entry->Name());
+      const bool wanted = entry->IsFolder == folders.value_or(entry->IsFolder) && Lower(entry->Path).ends_with(ending);
+      if (wanted) names.push_back(entry->Name());
     }
     return names;
   }

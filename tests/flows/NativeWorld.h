@@ -37,14 +37,7 @@ class Desk : public form::Headless {
 /// Windows, and a program has one of the two.
 class World : public Steps {
  public:
-  /// What a line that makes sense in this world alone begins with.
-  static constexpr std::wstring_view Name = L"native";
-
-  World() {
-    Computer.Disk.Remove(L"C:\\Work\\notes.txt");
-    Computer.StartsAnything = false;
-    SetHome(L"C");
-  }
+  World() { SetHome(L"C"); }
 
   /// Hears each step of a flow before the first is played; throws Skip for what had better not be done here.
   void Foresee(const Text& /*step*/) {}
@@ -52,7 +45,6 @@ class World : public Steps {
   void NeedDrive(const Text& letter, const Text& type) {
     const int number = type == L"floppy" ? 1 : type == L"network" ? 3 : type == L"fixed" ? 2 : 4;
     Computer.Disk.Drives[letter[0]] = {number, L"", type != L"empty"};
-    Computer.Disk.Remove(letter + L":\\Work\\Tool.EXE");
   }
   /// The program's folder lies on this drive.
   void SetHome(const Text& letter) {

@@ -7,9 +7,7 @@
 #include "form/Button.h"
 #include "form/FileLists.h"
 #include "form/Headless.h"
-#include "form/ListControl.h"
 #include "form/RowList.h"
-#include "form/Static.h"
 #include "form/TextBox.h"
 
 namespace vantor::form {
@@ -33,11 +31,6 @@ TEST_CASE("a window is told of each change of its control, and of nothing that i
   TextBox text(form, L"Text");
   ComboBox list(form, L"List");
   CommandButton button(form, L"Button");
-  CheckBox check(form, L"Check");
-  Label label(form, L"Label");
-  Frame frame(form, L"Frame");
-  Image image(form, L"Image");
-  PictureBox picture(form, L"Picture");
   const TenRows ten;
   RowList rowList(form, L"Rows", ten);
   fake::Computer computer;
@@ -51,15 +44,9 @@ TEST_CASE("a window is told of each change of its control, and of nothing that i
     std::function<void()> Change;
     bool Always = false;  // also when the value is as it was
   } rows[] = {
-      {text, Property::Bounds,
-       [&] {
-         text.SetBounds({1, 2, 3, 4});
-       }},
       {text, Property::Visible, [&] { text.SetVisible(false); }},
       {text, Property::Enabled, [&] { text.SetEnabled(false); }},
-      {text, Property::Colors, [&] { text.SetBackColor(Color::LineBlue); }},
       {text, Property::Colors, [&] { text.SetForeColor(Color::LineBlue); }},
-      {text, Property::ToolTip, [&] { text.SetToolTip(L"x"); }},
       {text, Property::ToolTip, [&] { text.SetAccessibleName(L"x"); }},
       {text, Property::Text, [&] { text.SetText(L"x"); }},
       {text, Property::Selection, [&] { text.SelectAll(); }, true},
@@ -70,12 +57,6 @@ TEST_CASE("a window is told of each change of its control, and of nothing that i
       {list, Property::List, [&] { list.Clear(); }, true},
       {button, Property::Caption, [&] { button.SetCaption(L"x"); }},
       {button, Property::Picture, [&] { button.SetPicture({form::Background::Normal}); }},
-      {check, Property::Caption, [&] { check.SetCaption(L"x"); }},
-      {check, Property::Value, [&] { check.SetValue(true); }},
-      {label, Property::Caption, [&] { label.SetCaption(L"x"); }},
-      {frame, Property::Caption, [&] { frame.SetCaption(L"x"); }},
-      {image, Property::Picture, [&] { image.SetPicture({form::Background::Normal}); }},
-      {picture, Property::Picture, [&] { picture.SetPicture({form::Background::Normal}); }},
       {rowList, Property::List, [&] { rowList.ShowRows(0); }, true},
       {rowList, Property::ListIndex, [&] { rowList.SetCurrentRow(1); }, true},
       {rowList, Property::Scroll, [&] { rowList.ScrollTo(3); }},
@@ -86,8 +67,6 @@ TEST_CASE("a window is told of each change of its control, and of nothing that i
       {folders, Property::ListIndex, [&] { (void)folders.SetPath(L"C:\\Work\\"); }},
       {files, Property::List, [&] { files.SetPath(L"C:\\Work"); }},
   };
-  button.SetToolTip(L"Name---F1");
-  CHECK(button.AccessibleName() == L"Name");
   for (const auto& row : rows) {
     CAPTURE(&row - rows);
     Listener window;
@@ -104,24 +83,6 @@ TEST_CASE("a window is told of each change of its control, and of nothing that i
   drives.Refresh();
   CHECK(drives.Drive() == L"e:");
   CHECK((folders.Text() == L"Work" && folders.PathOf(0) == L"C:\\"));
-}
-
-TEST_CASE("a list keeps its selection on its entry, and follows another that follows it") {
-  Headless desktop;
-  Form form(desktop, L"Form");
-  ComboBox one(form, L"One");
-  ComboBox two(form, L"Two");
-  for (ComboBox* box : {&one, &two}) {
-    for (const wchar_t* item : {L"a", L"b", L"c"}) box->AddItem(item);
-  }
-  one.Click = [&] { two.SetListIndex(one.ListIndex()); };
-  two.Click = [&] { one.SetListIndex(two.ListIndex()); };
-  two.SetListIndex(2);
-  one.RemoveItem(0);
-  two.RemoveItem(2);
-  CHECK((one.ListIndex() == 1 && one.Text() == L"c" && two.ListIndex() == -1));
-  CHECK_THROWS_AS(one.RemoveItem(2), std::out_of_range);
-  CHECK_THROWS_AS(one.SetListIndex(2), std::out_of_range);
 }
 
 }  // namespace

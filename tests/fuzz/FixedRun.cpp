@@ -14,46 +14,33 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
-namespace {
-
-/// A byte is put in, taken out or changed, or the rest becomes that of another input.
-void Change(std::string& input, const std::string& other, std::mt19937& numbers) {
-  const std::size_t at = numbers() % (input.size() + 1);
-  if (numbers() % 4 == 0)
-    input.replace(at, input.npos, other, numbers() % (other.size() + 1));
-  else
-    input.replace(at, numbers() % 2, numbers() % 2, static_cast<char>(numbers()));
+static void Run(const std::string& input) {
+  // What fails can be looked at again: the file goes into the folder of the seeds.
+  std::ofstream("walk.input", std::ios::binary) << input;
+  LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(input.data()), input.size());
+  std::filesystem::remove("walk.input");
 }
-
-void Run(const std::string& input) {
-  const std::vector<std::uint8_t> bytes(input.begin(), input.end());
-  LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
-}
-
-}  // namespace
 
 int main(int count, char** arguments) {
   if (count != 3) return 2;
-  std::vector<std::filesystem::path> paths;
-  for (const auto& entry : std::filesystem::directory_iterator(arguments[1])) paths.push_back(entry.path());
-  std::sort(paths.begin(), paths.end());
-  std::vector<std::string> seeds{""};
+  std::vector<std::filesystem::path> paths(std::filesystem::directory_iterator(arguments[1]), {});
+  std::ranges::sort(paths);
+  std::vector<std::string> seeds;
   for (const auto& path : paths) {
     std::ifstream file(path, std::ios::binary);
     seeds.emplace_back(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
-    std::fprintf(stderr, "%s\n", path.filename().c_str());
     Run(seeds.back());
   }
   std::mt19937 numbers(20);
-  // What fails can be looked at again: the file goes into the folder of the seeds.
-  const char* const kept = "walk.input";
   for (int run = std::atoi(arguments[2]); run > 0; --run) {
-    std::string input = seeds[numbers() % seeds.size()];
-    for (std::size_t changes = 1 + numbers() % 8; changes > 0; --changes)
-      Change(input, seeds[numbers() % seeds.size()], numbers);
-    std::ofstream(kept, std::ios::binary) << input;
+    // Parts of some inputs, each after bytes that are in none.
+    std::string input;
+    for (std::size_t parts = 1 + numbers() % 4; parts > 0; --parts) {
+      const std::string& seed = seeds[numbers() % seeds.size()];
+      for (std::size_t bytes = numbers() % 4; bytes > 0; --bytes) input += static_cast<char>(numbers());
+      input += seed.substr(numbers() % (seed.size() + 1), numbers() % 256);
+    }
     Run(input);
   }
-  std::filesystem::remove(kept);
   return 0;
 }

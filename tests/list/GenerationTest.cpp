@@ -20,6 +20,7 @@ Texts Loaded(const FakeDisk& disk) { return StoredList(disk).Load(); }
 /// A medium, or a fixed disk, on which a list was saved some times, so that there is an older generation too.
 FakeDisk Used(int times = 3, bool onMedium = true) {
   FakeDisk disk = fake::Computer().Disk;
+  disk.AddFile(L"E:\\Work\\Tool.EXE");
   if (onMedium) disk.AddFolder(Folder);
   for (int time = 0; time < times; ++time) {
     StoredList run(disk);

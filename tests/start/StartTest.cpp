@@ -56,7 +56,7 @@ TEST_CASE("the maker's programs are found beside this one and in the drive's roo
              L"\ngiven data MediaSet \"Vantor Media 1\" | \"Ready\" | \"Anna\"\nstart\nlook",
          [&](World& world) {
            world.Computer.Home = row.Home;
-           world.Computer.Shared = {row.Shared};
+           world.Computer.Shared = row.Shared;
            if (!world.Program) return;
            for (const auto& companion : world.Program->Environment.Companions) paths.push_back(companion.Path);
          });
