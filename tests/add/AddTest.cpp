@@ -9,34 +9,23 @@ using service::WindowId;
 using test::Play;
 using test::World;
 
-TEST_CASE("a drag that is broken off changes nothing, and the next one works") {
-  const struct {
-    std::wstring BreakOff;
-    std::function<void(fake::Computer&)> Act = {};
-    WindowId Captured = WindowId::None;  // then
-  } rows[] = {
-      {L"press Escape"},
-      {L"click CommandAddCancel\npress F2"},
-      // Another program takes the mouse.
-      {L"look\nwait 1",
-       [](fake::Computer& computer) {
-         computer.Captured = WindowId{7};
-         computer.ButtonDown = false;
-       },
-       WindowId{7}},
-      // A point outside the range of coordinates.
-      {L"look\nwait 1\nsee message Bug-Vantor-FindExecutable\npress Escape",
-       [](fake::Computer& computer) { computer.Cursor.X = 40000; }},
-  };
-  const std::wstring hold = L"\nhold CommandFindPath\nmove over other\n";
-  for (const auto& row : rows) {
-    Play(L"start\npress F2" + hold + row.BreakOff + L"\nrelease\nsee text TextAddPath\nlook" + hold +
-             L"release\nsee text TextAddPath {other}",
+TEST_CASE("a drag that another program or a point too far out breaks off changes nothing, and the next one works") {
+  const std::wstring hold = L"hold CommandFindPath\nmove over other\n";
+  for (const bool taken : {true, false}) {
+    Play(L"start\npress F2\n" + hold + L"look\nwait 1\n" +
+             (taken ? L"" : L"see message Bug-Vantor-FindExecutable\npress Escape\n") +
+             L"release\nsee text TextAddPath\nlook\n" + hold + L"release\nsee text TextAddPath {other}",
          [&](World& world) {
            fake::Computer& computer = world.Computer;
-           if (computer.Target) return row.Act(computer);
-           CHECK((computer.Captured == row.Captured && computer.Marked == WindowId::None));
-           computer.Cursor.X = 0;
+           if (!computer.Target) {
+             CHECK(computer.Captured == (taken ? WindowId{7} : WindowId::None));
+             computer.Cursor.X = 0;
+           } else if (taken) {
+             computer.Captured = WindowId{7};
+             computer.ButtonDown = false;
+           } else {
+             computer.Cursor.X = 40000;
+           }
          });
   }
 }
@@ -53,7 +42,6 @@ TEST_CASE("the computer is known again by its disk C:, and what can't be read is
       {L"3 | \"1A2B3C4D\" | 80023715841", other},
       {L"3 | \"1A2B3C4E\" | 80023715840", other},
       {L"\"3\" | \"1A2B3C4D\" | 80023715840", other},
-      {L"x | \"1A2B3C4D\" | 80023715840", other},
       {L"3 | \"1A2B3C4D\"", asked},
       {L"", asked},
       {own + L"\ngiven failing ReadDiskIdentity", other},

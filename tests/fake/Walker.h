@@ -47,10 +47,8 @@ class Walker : public flows::Player {
     }
     const command::CommandState& state = program.CommandState;
     const int open = state.OpenPanelIndex;
-    Require(open >= command::NoIndex && open < static_cast<int>(panel::menu::Count),
-            "the open panel is one of the panels");
-    Require(state.MatchedItemIndex >= command::NoIndex && state.MailTargetIndex >= command::NoIndex &&
-                state.MailTargetIndex < 3,
+    Require(open >= command::NoIndex && open < static_cast<int>(panel::menu::Count), "the open panel is there");
+    Require(std::min(state.MatchedItemIndex, state.MailTargetIndex) >= command::NoIndex && state.MailTargetIndex < 3,
             "what was completed is there");
     const form::TextBox& line = program.frmMain.TextMain;
     Require(line.SelStart() >= 0 && line.SelStart() + line.SelLength() <= static_cast<int>(line.Text().size()),

@@ -37,6 +37,9 @@ class Desk : public form::Headless {
 /// Windows, and a program has one of the two.
 class World : public Steps {
  public:
+  /// What a line that makes sense in this world alone begins with.
+  static constexpr std::wstring_view Name = L"native";
+
   World() { SetHome(L"C"); }
 
   /// Hears each step of a flow before the first is played; throws Skip for what had better not be done here.
@@ -136,6 +139,7 @@ class World : public Steps {
     if (form::Control* control = Find(held_)) {
       dynamic_cast<form::CommandButton&>(*control).InputMouseUp(form::MouseButton::Left);
     }
+    if (Computer.Target || Computer.Marked != service::WindowId::None) throw Failure("the mark stays");
   }
   void Drag(int right, int down) { Desktop->DragBy(Program->frmMain, right * 15, down * 15); }
   void Drop(const Text& dropped) {

@@ -5,7 +5,6 @@
 #include "fuzz/Wanderer.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  vantor::fuzz::Choices choices({data, size});
-  vantor::fuzz::Wanderer(choices).Run();
+  vantor::fuzz::Wanderer({reinterpret_cast<const char*>(data), size}).Run();
   return 0;
 }

@@ -1,12 +1,10 @@
 #pragma once
 
 #include <algorithm>
-#include <iterator>
 #include <string>
 #include <utility>
 
 #include "fake/Walker.h"
-#include "fuzz/Choices.h"
 
 namespace vantor::fuzz {
 
@@ -39,11 +37,7 @@ inline constexpr struct {
     {2, L"given data Set 7 | 1 | -1 | 1 | 1 | 0 | 0 | \"C:\\Work\" | 1 | -1 | 0"},
     {2, L"given data User \"Ada\""},
     {2, L"given data MediaSet \"Vantor Media 1\" | \"Ready\" | \"Ada\""},
-    {2, L"given data ListFile \"one\",\"C:\\Work\\Tool.EXE\" | \"two\",\"E:\\Work\\Tool.EXE\""},
-    {2, L"given data ListProg \"one\",\"C:\\Work\\Tool.EXE\" | \"two\",\"E:\\Work\\Tool.EXE\""},
     {2, L"given data ListWeb \"one\",\"http://a{return}b\" | \"two\",\"http://example.org\""},
-    {2, L"given data MachineFile \"one\",\"C:\\Work\\Tool.EXE\" | \"two\",\"E:\\Work\\Tool.EXE\""},
-    {2, L"given data MachineProg \"one\",\"C:\\Work\\Tool.EXE\" | \"two\",\"E:\\Work\\Tool.EXE\""},
     {4, L"given data Machine 3 | \"1A2B3C4D\" | 80023715840"},
     {8, L"given data Saving \"Saving\""},
 };
@@ -51,19 +45,23 @@ inline constexpr struct {
 /// A user who does anything, in any order, at a place and with data files and services that the first bytes choose.
 class Wanderer : public fake::Walker {
  public:
-  explicit Wanderer(Choices& choices) : choices_(choices) {
-    const unsigned flags = choices.Byte();
+  explicit Wanderer(std::string_view bytes) : bytes_(bytes) {
+    const unsigned flags = Byte();
     Do(L"given program E:\\Work\\Tool.EXE");
     for (const auto& given : Givens) {
       if ((flags & given.Bit) != 0) Do(Text(given.Step));
     }
+    for (const auto* list : {L"ListFile", L"ListProg", L"MachineFile", L"MachineProg"}) {
+      if ((flags & 2) != 0)
+        Do(Text(L"given data ") + list + L" \"one\",\"C:\\Work\\Tool.EXE\" | \"two\",\"E:\\Work\\Tool.EXE\"");
+    }
     // One file may hold anything.
     const Text file = L"\\Vantor\\" + OneOf(L"MediaSet | Machine | User | Saving | Unsaved | Set | ListWeb | ListProg");
-    if ((flags & 64) != 0) Write(Computer.Home + file + L".Orbel", choices.Take(choices.Byte()));
+    if ((flags & 64) != 0) Write(Computer.Home + file + L".Orbel", Take(Byte()));
     if ((flags & 16) == 0) return;
-    const unsigned rate = choices.Byte() / 4;  // so many calls of 256 go wrong
+    const unsigned rate = Byte() / 4;  // so many calls of 256 go wrong
     const bool mayThrow = (flags & 32) != 0;
-    Computer.Decide = [rate, mayThrow, random = choices.Byte() + 1](std::string_view /*call*/) mutable {
+    Computer.Decide = [rate, mayThrow, random = Byte() + 1](std::string_view /*call*/) mutable {
       random = random * 1664525U + 1013904223U;
       if ((random >> 24) >= rate) return fake::Outcome::Works;
       return mayThrow && ((random >> 16) & 1) != 0 ? fake::Outcome::Throws : fake::Outcome::Fails;
@@ -73,30 +71,30 @@ class Wanderer : public fake::Walker {
   /// Starts, does what the bytes say, and ends. What could be saved is there at the next start.
   void Run() {
     Do(L"start");
-    while (choices_.Left() && !Desktop->Ended()) Act();
+    while (!bytes_.empty() && !Desktop->Ended()) Act();
     const bool failing = std::exchange(Computer.Decide, {}) != nullptr;
     Do(L"close");
     Require(Desktop->Ended(), "the program ends");
     const fake::FakeDisk::DriveState& drive = *Computer.Disk.DriveOf(Computer.Home);
     if (failing || !drive.Ready || drive.WriteProtected) return;
-    const flows::Texts before = Sites(L"'");
+    const flows::Texts before = Sites();
     depth_ = DeepestMessages;  // from here on nothing is done but to close messages
     Start();
-    Require(Sites(L"\"") == before, "all sites come back");
+    Require(Sites() == before, "all sites come back");
     Do(L"close");
   }
 
  private:
   void Act() {
-    switch (choices_.Below(8)) {
+    switch (Below(8)) {
       case 0:
         return Do(L"type " + Line().substr(0, 100));  // more than that is pasted, below
       case 1:
         return Do(L"paste " + Line());
       case 2:
-        return Do(L"press F" + std::to_wstring(1 + choices_.Below(9) + choices_.Below(4)));
+        return Do(L"press F" + std::to_wstring(1 + Below(9) + Below(4)));
       case 3:
-        return Do(L"drag " + std::to_wstring(choices_.Byte() * 8) + L" -" + std::to_wstring(choices_.Byte() * 4));
+        return Do(L"drag " + std::to_wstring(Byte() * 8) + L" -" + std::to_wstring(Byte() * 4));
       case 4:
       case 5:
         return Do(OneOf(Events));
@@ -108,17 +106,17 @@ class Wanderer : public fake::Walker {
   void Use() {
     const auto& shown = Shown();
     if (shown.empty()) return;
-    const form::Control& control = *shown[choices_.Below(shown.size())];
+    const form::Control& control = *shown[Below(shown.size())];
     Text entry;
     if (const auto* list = dynamic_cast<const form::ListControl*>(&control); list != nullptr && list->ListCount() > 0)
-      entry = L' ' + list->List(static_cast<int>(choices_.Below(list->Entries().size())));
+      entry = L' ' + list->List(static_cast<int>(Below(list->Entries().size())));
     if (const auto* rows = dynamic_cast<const form::RowList*>(&control); rows != nullptr && rows->RowCount() > 0)
-      entry = L' ' + rows->RowAt(static_cast<int>(choices_.Below(4)) % rows->RowCount()).Text;
-    Do((choices_.Below(4) == 0 ? L"double-click " : entry.empty() ? L"click " : L"choose ") + control.Name() + entry);
+      entry = L' ' + rows->RowAt(static_cast<int>(Below(4)) % rows->RowCount()).Text;
+    Do((Below(4) == 0 ? L"double-click " : entry.empty() ? L"click " : L"choose ") + control.Name() + entry);
   }
   void GoOnUntil(const std::function<bool()>& closed) override {
     ++depth_;
-    for (int acts = 0; !closed() && choices_.Left() && acts < 20 && depth_ < DeepestMessages; ++acts) Act();
+    for (int acts = 0; !closed() && !bytes_.empty() && acts < 20 && depth_ < DeepestMessages; ++acts) Act();
     if (!closed()) Desktop->ModalForm()->InputClose();
     if (!closed()) Press(form::Key::Enter);
     Require(closed(), "a message can be closed");
@@ -126,27 +124,40 @@ class Wanderer : public fake::Walker {
   }
 
   /// The names of the listed sites. A quote is replaced when it is saved.
-  [[nodiscard]] flows::Texts Sites(std::wstring_view quote) const {
+  [[nodiscard]] flows::Texts Sites() const {
     flows::Texts names = Program->ListPage.ComboListWebName.Entries();
-    for (Text& name : names) {
-      for (auto at = name.find(L'"'); at != name.npos; at = name.find(L'"', at + 1)) name.replace(at, 1, quote);
-    }
+    for (Text& name : names) std::ranges::replace(name, L'"', L'\'');
     return names;
   }
   Text OneOf(std::wstring_view texts) {
     const flows::Texts all = flows::Split(texts, L" | ");
-    return all[choices_.Below(all.size())];
+    return all[Below(all.size())];
   }
   Text Line() {
     Text line;
-    for (std::size_t words = 1 + choices_.Below(2); words > 0; --words) {
-      const std::size_t what = choices_.Below(20);
-      line += what == 0 ? Text(2000, L'x') : what < 8 ? Text(1, static_cast<wchar_t>(choices_.Byte())) : OneOf(Lines);
+    for (std::size_t words = 1 + Below(2); words > 0; --words) {
+      const std::size_t what = Below(20);
+      line += what == 0 ? Text(2000, L'x') : what < 8 ? Text(1, static_cast<wchar_t>(Byte())) : OneOf(Lines);
     }
     return line;
   }
 
-  Choices& choices_;
+  // The bytes as decisions, one after another; zeros when there are no more.
+
+  /// At most so many of the next bytes.
+  std::string Take(std::size_t most) {
+    const std::string taken(bytes_.substr(0, most));
+    bytes_.remove_prefix(taken.size());
+    return taken;
+  }
+  unsigned Byte() { return static_cast<unsigned char>(Take(1)[0]); }
+  /// 0 to count - 1.
+  std::size_t Below(std::size_t count) {
+    const std::size_t number = count > 256 ? Byte() * 256 + Byte() : Byte();
+    return count > 0 ? number % count : 0;
+  }
+
+  std::string_view bytes_;
   int depth_ = 0;
 };
 

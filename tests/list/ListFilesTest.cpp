@@ -13,28 +13,6 @@ using test::Texts;
 
 std::wstring DataFile(std::wstring_view name) { return L"C:\\Vantor\\Vantor\\" + std::wstring(name) + L".Orbel"; }
 
-TEST_CASE("a damaged settings file gives what could be read of it") {
-  const struct {
-    std::string_view Bytes;
-    int Values[4];  // some of them
-    bool Whole = false;
-  } rows[] = {
-      {"", {2, -1, 0, -1}},
-      {"5", {5, -1, 0, -1}},
-      {"5\r\n3\r", {5, 3, 0, -1}},
-      {"5\n3\n-1\n-1\n-1\n70\n80\n\"x\"\n0\n0\n9", {5, 3, 70, 9}, true},
-      {"5\r\n99999\r\n0\r\nabc\r\n0\r\n7\r\n8\r\n\"\"\r\n1\r\n1\r\n1\r\nmore\r\n", {5, -1, 7, 1}},
-      {"5\r\n0\r\n0\r\n0\r\n0\r\n7\r\n8\r\n\"not closed\r\n1\r\n1\r\n1\r\n", {5, 0, 7, -1}},
-  };
-  for (const auto& row : rows) {
-    CAPTURE(row.Bytes);
-    Settings read;
-    CHECK(ReadSettings(std::wstring(row.Bytes.begin(), row.Bytes.end()), read) == row.Whole);
-    const int values[] = {read.OptionMask, read.FileUpper, read.Left, read.MachineProgUpper};
-    CHECK(std::ranges::equal(values, row.Values));
-  }
-}
-
 TEST_CASE("a file keeps every character, in the code page or in UTF-8 with its mark") {
   fake::Computer computer;
   const std::wstring halfPairs{L'x', static_cast<wchar_t>(0xDE00), static_cast<wchar_t>(0xD83D)};

@@ -1,7 +1,6 @@
 #include <doctest/doctest.h>
 
 #include "fake/Play.h"
-#include "start/Places.h"
 
 namespace vantor::start {
 namespace {
@@ -9,24 +8,6 @@ namespace {
 using flows::Text;
 using test::Play;
 using test::World;
-
-TEST_CASE("folders have a root, and the Windows folder ends in one backslash") {
-  for (const auto* folder : {L"E:\\", L"E:\\Work\\x\\"}) CHECK(DriveRootOf(folder) == L"E:\\");
-  for (const auto* folder : {L"\\\\server\\share\\", L"\\\\server\\share\\a\\b\\"})
-    CHECK(DriveRootOf(folder) == L"\\\\server\\share\\");
-  const Text longest = L"C:\\" + Text(251, L'w');
-  const std::pair<Text, Text> rows[] = {
-      {L"C:\\Windows", L"C:\\Windows\\"}, {L"D:\\", L"D:\\"}, {longest, longest + L"\\"}, {longest + L"w", L""}};
-  for (const auto& [given, expected] : rows) {
-    fake::Computer computer;
-    computer.Windows = given;
-    state::Environment environment;
-    GetWindowsFolder(computer, computer, environment);
-    CHECK(environment.WindowsFolder == expected);
-    CHECK(environment.WindowsFolderUpper == computer.Upper(expected));
-    CHECK(environment.WindowsDriveLetter == expected.substr(0, 1));
-  }
-}
 
 TEST_CASE("the maker's programs are found beside this one and in the drive's root, each once, the help last") {
   const struct {
@@ -46,7 +27,6 @@ TEST_CASE("the maker's programs are found beside this one and in the drive's roo
       {L"C:", L"C:\\VantorHelp.exe | C:\\Draw\\Draw.exe", L"C:\\VantorHelp.exe"},
       // What somebody else may have put there is accepted only on a medium.
       {L"C:\\Vantor", L"C:\\Orbel\\Draw\\Draw.exe", L"", L"C:\\Orbel\\"},
-      {L"C:\\Vantor", L"C:\\Orbel\\Draw\\Draw.exe", L"", L"C:\\Orbel\\Draw\\"},
       {L"C:\\Vantor", L"C:\\Orbel\\Draw\\Draw.exe", L"", L"C:\\Orbel\\Draw\\Draw.exe"},
       {L"E:\\Vantor", L"E:\\Orbel\\Draw\\Draw.exe", L"E:\\Orbel\\Draw\\Draw.exe", L"E:\\Orbel\\"},
   };
@@ -71,8 +51,19 @@ TEST_CASE("a share is refused without contacting it, as is an unknown drive; the
       world.Computer.Disk.Drives[L'C'].Type = 0;
     });
   }
-  for (const auto* windows : {L"c:\\vantor", L"C:\\VANTOR\\", L"C:\\Van", L""})
-    Play(L"look\nstart\nsee line [Vantor]", [&](World& world) { world.Computer.Windows = windows; });
+  const Text longest = L"C:\\" + Text(251, L'w');
+  for (const auto& [windows, folder] : {std::pair<Text, Text>(L"c:\\vantor", L"c:\\vantor\\"),
+                                        {L"C:\\VANTOR\\", L"C:\\VANTOR\\"},
+                                        {L"", L""},
+                                        {longest, longest + L"\\"},
+                                        {longest + L"w", L""}}) {
+    Text found;
+    Play(L"look\nstart\nlook\nsee line [Vantor]", [&, given = windows](World& world) {
+      world.Computer.Windows = given;
+      if (world.Program) found = world.Program->Environment.WindowsFolder;
+    });
+    CHECK(found == folder);
+  }
 }
 
 TEST_CASE("a second copy hands over to the first, or goes on when that has no window") {
