@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -16,31 +17,32 @@
 
 namespace vantor::flows {
 
-/// A desktop whose user, while a message is open, goes on with the flow.
-class Desk : public form::Headless {
- public:
-  explicit Desk(Steps& steps) : steps_(steps) {}
-
-  void RunModal(form::Form& form) override {
-    steps_.GoOnUntil([&] { return !form.Visible() || Ended(); });
-    if (form.Visible()) End();  // the flow has failed meanwhile
-  }
-
-  using UserInterface::Forms;
-
- private:
-  Steps& steps_;
-};
-
 /// The computer in memory with the headless desktop, and a person who uses it: a flow takes a few milliseconds.
 /// Controls go by their names, files by full paths. README.md says what the steps do; RealWorld.h has the same for
 /// Windows, and a program has one of the two.
-class World : public Steps {
+class World {
  public:
   /// What a line that makes sense in this world alone begins with.
   static constexpr std::wstring_view Name = L"native";
 
+  /// A desktop whose user, while a message is open, goes on with the flow.
+  class Desk : public form::Headless {
+   public:
+    explicit Desk(World& world) : world_(world) {}
+    void RunModal(form::Form& form) override {
+      world_.GoOnUntil([&] { return !form.Visible() || Ended(); });
+      if (form.Visible()) End();  // the flow has failed meanwhile
+    }
+    using UserInterface::Forms;
+
+   private:
+    World& world_;
+  };
+
   World() { SetHome(L"C"); }
+  virtual ~World() = default;
+  /// Goes on with the flow until the condition holds: a message keeps the step that opened it from ending.
+  virtual void GoOnUntil(const std::function<bool()>& condition) = 0;
 
   /// Hears each step of a flow before the first is played; throws Skip for what had better not be done here.
   void Foresee(const Text& /*step*/) {}
@@ -49,8 +51,9 @@ class World : public Steps {
     const int number = type == L"floppy" ? 1 : type == L"network" ? 3 : type == L"fixed" ? 2 : 4;
     Computer.Disk.Drives[letter[0]] = {number, L"", type != L"empty"};
   }
-  /// The program's folder lies on this drive.
-  void SetHome(const Text& letter) {
+  /// The program's folder lies on this drive, of which nothing else is asked without a type.
+  void SetHome(const Text& letter, const Text& type = {}) {
+    if (!type.empty()) NeedDrive(letter, type);
     Computer.Home[0] = letter[0];
     MakeProgram(Computer.Home + L"\\Vantor.exe");
   }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -40,12 +41,12 @@ class Stage {
 /// The real program, and a person with real keys and a real mouse. Needs nothing but Windows; what would change an
 /// installation that is not the test's own, or needs drives of certain kinds, is left to Wine. NativeWorld.h says what
 /// the functions are for.
-class World : public Steps {
+class World {
  public:
   static constexpr std::wstring_view Name = L"real";
 
   World() = default;
-  ~World() override {
+  virtual ~World() {
     for (HWND window : {other_, front_}) DestroyWindow(window);
     // What a failed flow has left behind.
     if (GetAsyncKeyState(VK_LBUTTON) < 0) input::LetGo(mouse_);
@@ -59,6 +60,7 @@ class World : public Steps {
   World(const World&) = delete;
   World& operator=(const World&) = delete;
 
+  virtual void GoOnUntil(const std::function<bool()>& condition) = 0;
   void Foresee(const Text& step) {
     if (!runBefore_.empty() && step.starts_with(L"see run value"))
       throw Skip("Vantor starts with this Windows already");
@@ -79,7 +81,10 @@ class World : public Steps {
     std::error_code empty;  // is told as an error for a root
     for (const auto& entry : std::filesystem::directory_iterator(root, empty)) std::filesystem::remove_all(entry);
   }
-  void SetHome(const Text& letter) { home_ = std::make_unique<desktop::Folder>(letter + L":\\"); }
+  void SetHome(const Text& letter, const Text& type) {
+    NeedDrive(letter, type);
+    home_ = std::make_unique<desktop::Folder>(letter + L":\\");
+  }
   [[nodiscard]] Text MeaningOf(const Text& word) const {
     if (word == L"f") return home_->Path;
     if (word == L"rest") return home_->Path.substr(1);

@@ -3,7 +3,6 @@
 // The words of a line of a flow: its parts, and the names of keys and settings.
 
 #include <algorithm>
-#include <functional>
 #include <iterator>
 #include <stdexcept>
 #include <string>
@@ -26,17 +25,6 @@ struct Failure : std::runtime_error {
 /// Why a flow can't be played here.
 struct Skip : std::runtime_error {
   using runtime_error::runtime_error;
-};
-
-/// What goes on with a flow, for a world in which a message keeps the step that opened it from ending.
-class Steps {
- public:
-  Steps() = default;
-  virtual ~Steps() = default;
-  Steps(const Steps&) = delete;
-  Steps& operator=(const Steps&) = delete;
-  /// Plays the next steps until the condition holds.
-  virtual void GoOnUntil(const std::function<bool()>& condition) = 0;
 };
 
 /// Stands for the bytes of a file that does not exist.
@@ -92,23 +80,22 @@ inline form::Key KeyOf(const Text& word) {
 }
 
 /// The settings file's values in its order, as they are when nothing else is said.
-inline constexpr std::wstring_view UsualSettings =
+inline constexpr wchar_t UsualSettings[] =
     L"OptionMask=2 FileUpper=-1 FoldUpper=-1 ProgUpper=-1 WebUpper=-1 Left=0 Top=0 Folder= MachineFileUpper=-1 "
     L"MachineFoldUpper=-1 MachineProgUpper=-1";
 
 /// The text of the settings file, with what is said in the place of the usual values: "OptionMask=6 Left=600".
-inline Text SettingsText(const Text& changes, std::wstring_view folder) {
-  std::vector<std::pair<Text, Text>> values;
-  for (const Text& usual : Words(Text(UsualSettings))) values.push_back(Cut(usual, L"="));
-  std::ranges::find(values, L"Folder", &std::pair<Text, Text>::first)->second = folder;
-  for (const Text& change : Words(changes)) {
-    const auto [name, value] = Cut(change, L"=");
-    const auto found = std::ranges::find(values, name, &std::pair<Text, Text>::first);
-    if (found == values.end()) throw Failure("no such setting: " + Narrow(name));
-    found->second = value;
-  }
+inline Text SettingsText(const Text& changes, const Text& folder) {
   Text text;
-  for (const auto& [name, value] : values) text += (name == L"Folder" ? L'"' + value + L'"' : value) + L"\r\n";
+  for (const Text& usual : Words(UsualSettings)) {
+    const auto [name, value] = Cut(usual, L"=");
+    const Text said = Cut(L' ' + changes + L' ', L' ' + name + L'=').second;
+    if (name == L"Folder")
+      text += L'"' + (said.empty() ? folder : Cut(said).first) + L'"';
+    else
+      text += said.empty() ? value : Cut(said).first;
+    text += L"\r\n";
+  }
   return text;
 }
 
