@@ -117,6 +117,7 @@ class Player : public World {
       {L"enter", L"line < | press Enter"},
       {L"completes", L"line < | see line >"},
       {L"starts", L"enter < | see started > | see line"},
+      {L"find", L"hold CommandFindPath | move over < | release"},
       {L"told", L"see message < | press Enter"},
       {L"see no message", L"see hidden LabelMessage"},
       {L"see nothing started", L"see started"}};
