@@ -17,6 +17,7 @@ TEST_CASE("a drag that another program or a point too far out breaks off changes
              L"release\nsee text TextAddPath\nlook\n" + hold + L"release\nsee text TextAddPath {other}",
          [&](World& world) {
            fake::Computer& computer = world.Computer;
+           CHECK(computer.Marked == (computer.Target ? WindowId{1} : WindowId::None));
            if (!computer.Target) {
              CHECK(computer.Captured == (taken ? WindowId{7} : WindowId::None));
              computer.Cursor.X = 0;

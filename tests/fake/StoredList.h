@@ -55,9 +55,11 @@ struct StoredList {
   void Add(list::LaunchGroup group, std::wstring_view name, std::wstring_view path) {
     List.Of(group).AddItem({name, path});
   }
-  void Clear(list::LaunchGroup group) {
-    List.Of(group).Name.Clear();
-    List.Of(group).Path.Clear();
+  void Clear() {
+    for (const list::LaunchGroup group : list::LaunchGroups) {
+      List.Of(group).Name.Clear();
+      List.Of(group).Path.Clear();
+    }
   }
 
   fake::Computer Computer;

@@ -17,38 +17,30 @@ const std::wstring Mark = Folder + L"Saving.Orbel";
 
 Texts Loaded(const FakeDisk& disk) { return StoredList(disk).Load(); }
 
-/// A medium, or a fixed disk, on which a list was saved some times, so that there is an older generation too.
-FakeDisk Used(int times = 3, bool onMedium = true) {
-  FakeDisk disk = fake::Computer().Disk;
-  disk.AddFile(L"E:\\Work\\Tool.EXE");
-  if (onMedium) disk.AddFolder(Folder);
-  for (int time = 0; time < times; ++time) {
-    StoredList run(disk);
-    run.Load();
-    run.Clear(LaunchGroup::Prog);
-    run.Add(LaunchGroup::Prog, std::to_wstring(time), L"E:\\Work\\Tool.EXE");
-    run.Add(LaunchGroup::Prog, L"of the computer", L"C:\\Work\\Tool.EXE");
-    run.Add(LaunchGroup::Web, L"first", L"http://first");
-    run.Save();
-    disk = run.Disk;
-  }
-  return disk;
-}
-
-/// The disk after a run that changes the list (longer, shorter, and a group that was empty) while it breaks.
-FakeDisk Saved(const FakeDisk& disk, Fault fault = Fault::None, std::size_t bytes = 0) {
+/// The disk after the run of this number while it breaks: each makes one list longer and one shorter, and the
+/// fourth adds to an empty one.
+FakeDisk Saved(const FakeDisk& disk, std::int16_t number = 3, Fault fault = Fault::None, std::size_t bytes = 0) {
   StoredList run(disk);
   run.Load();
-  run.Settings.OptionMask = 6;
-  run.Clear(LaunchGroup::Web);
-  run.Add(LaunchGroup::Web, L"second", L"http://second");
-  run.Add(LaunchGroup::Prog, L"on the medium", L"E:\\Work\\Tool.EXE");
-  run.Add(LaunchGroup::Prog, L"on the computer", L"C:\\Work\\Tool.EXE");
-  run.Add(LaunchGroup::File, L"new", L"E:\\Work\\Tool.EXE");
+  run.Settings.OptionMask = number;
+  run.Clear();
+  for (int item = 0; item < number; ++item) run.Add(LaunchGroup::Prog, L"on the medium", L"E:\\Work\\Tool.EXE");
+  for (int item = number; item < 4; ++item) run.Add(LaunchGroup::Web, L"site", L"http://site");
+  run.Add(LaunchGroup::Prog, L"of the computer " + std::to_wstring(number), L"C:\\Work\\Tool.EXE");
+  if (number == 3) run.Add(LaunchGroup::File, L"new", L"E:\\Work\\Tool.EXE");
   run.Disk.Break(fault, bytes);
   run.Save();
   run.Disk.Mend();
   return run.Disk;
+}
+
+/// A medium, or a fixed disk, after some runs, so that there is an older generation too.
+FakeDisk Used(int runs = 3, bool onMedium = true) {
+  FakeDisk disk = fake::Computer().Disk;
+  disk.AddFile(L"E:\\Work\\Tool.EXE");
+  if (onMedium) disk.AddFolder(Folder);
+  for (std::int16_t run = 0; run < runs; ++run) disk = Saved(disk, run);
+  return disk;
 }
 
 /// A save that is broken off at any byte, and what the runs after it find.
@@ -74,7 +66,7 @@ void BreakEverywhere(bool onMedium, Fault fault) {
   for (std::size_t back = 0; back <= most - least; back += step, ++cases) {
     const std::size_t bytes = most - back;
     CAPTURE(bytes);
-    const FakeDisk broken = Saved(used, fault, bytes);
+    const FakeDisk broken = Saved(used, 3, fault, bytes);
     StoredList start(broken);
     const Texts state = start.Load();
     REQUIRE_FALSE(isMarked(start.Disk));
@@ -111,7 +103,7 @@ void BreakEverywhere(bool onMedium, Fault fault) {
     const Texts kept = Loaded(marked);
     REQUIRE((kept == older || kept == before || kept == state));
     // And from there on all goes as if nothing had been.
-    REQUIRE(Loaded(Saved(broken)).back() == L"6");
+    REQUIRE(Loaded(Saved(broken)) == after);
   }
   CHECK(old > 1);
   CHECK(old < cases);
@@ -166,7 +158,7 @@ TEST_CASE(
       CHECK(StoredList(run.Disk).Files.SavedElsewhere() == (released ? L"" : rescue));
       if (!released) CHECK(Loaded(run.Disk) == before);
       // What was rescued stays as it is in later runs.
-      FakeDisk later = Saved(Saved(run.Disk));
+      FakeDisk later = Saved(Saved(run.Disk, 1));
       later.CopyFiles(rescue, Folder);
       const Texts back = Loaded(later);
       CHECK((released ? back == before : std::ranges::count(back, L"new>http://new") == 1));
@@ -180,10 +172,11 @@ TEST_CASE("the generation kept is a whole one, and only what changed is written"
   run.Disk.Written.clear();
   run.Save();
   CHECK(run.Disk.Written.empty());
-  run.Settings.OptionMask = 3;
+  run.Settings.OptionMask = 5;
   run.Save();
   Texts expected;
-  for (const auto* name : {L"Backup\\ListProg", L"Backup\\ListWeb", L"Backup\\Set", L"Saving", L"Set", L"Saving"})
+  for (const auto* name :
+       {L"Backup\\ListProg", L"Backup\\ListWeb", L"Backup\\MachineProg", L"Backup\\Set", L"Saving", L"Set", L"Saving"})
     expected.push_back(Folder + name + L".Orbel");
   CHECK(run.Disk.Written == expected);
 
@@ -192,8 +185,8 @@ TEST_CASE("the generation kept is a whole one, and only what changed is written"
   for (const bool fails : {false, true}) {
     StoredList next(run.Disk);
     const Texts loaded = next.Load();
-    CHECK(loaded.size() == before.size() - 1);
-    next.Settings.OptionMask = fails ? 1 : 3;
+    CHECK(loaded.size() == before.size() - 2);
+    next.Settings.OptionMask = fails ? 1 : 5;
     next.Disk.At(Folder + L"Set.Orbel").Writable = !fails;
     next.Save();
     CHECK(next.Disk.At(Folder + L"Backup\\ListProg.Orbel").Bytes == list);
