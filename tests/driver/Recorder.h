@@ -8,27 +8,52 @@
 
 namespace vantor::desktop {
 
-/// Sees what the program starts, by the recorder program standing in its place.
+/// Sees what the program starts, by the recorder program standing in its place, on a desktop that is ready for flows.
 class Recorder {
  public:
-  /// Puts the recorder into the folder as recorder.exe, and behind the documents whose names end in .vantortest.
-  explicit Recorder(const Folder& folder) : folder_(folder) {
+  /// Puts the recorder behind the documents whose names end in .vantortest; on a desktop of the test's own also in the
+  /// place of system programs, and behind web and mail addresses.
+  Recorder() {
     folder_.CopyProgram(ProgramName(), L"recorder.exe");
     SetEnvironmentVariableW(L"VANTOR_RECORD", folder_.Write(RecordName).c_str());
     SetRegistryText(ClassesRoot(), Classes + L".vantortest", L"", L"VantorTest");
     SetRegistryText(ClassesRoot(), Classes + LR"(VantorTest\shell\open\command)", L"", Quoted() + LR"( open "%1")");
+    if (OwnDesktop()) ReplaceSystem();
+    if (!UnderWine()) return;
+    // Keeps the window manager of the X display away, which would take a drag for one of its own mouse.
+    SetRegistryText(HKEY_CURRENT_USER, WineKey, L"Managed", L"N");
+    Run(L"cmd /c wmic logicaldisk get size >nul");  // the first answer of Wine's management service takes up to 16 s
   }
   ~Recorder() {
-    RegDeleteTreeW(ClassesRoot(), (Classes + L".vantortest").c_str());
-    RegDeleteTreeW(ClassesRoot(), (Classes + L"VantorTest").c_str());
+    for (const auto* kind : {L".vantortest", L"VantorTest"}) RegDeleteTreeW(ClassesRoot(), (Classes + kind).c_str());
+    RegDeleteKeyValueW(HKEY_CURRENT_USER, WineKey, L"Managed");
   }
   Recorder(const Recorder&) = delete;
   Recorder& operator=(const Recorder&) = delete;
 
   /// On a desktop of the test's own the one that may stand in for the system's programs.
   static std::wstring ProgramName() { return OwnDesktop() && On64Bit() ? L"recorder64.exe" : L"recorder.exe"; }
-  /// Only on a desktop of the test's own: puts it in the place of Explorer and rundll32, and behind web and mail
-  /// addresses.
+  /// All that was started so far: "run COMMAND" or "open TARGET", without quotes.
+  [[nodiscard]] std::vector<std::wstring> Starts() const {
+    std::istringstream records(folder_.Read(RecordName));
+    std::vector<std::wstring> starts;
+    for (std::string record; std::getline(records, record);) {
+      std::wstring line = Wide(record);
+      std::erase(line, L'"');
+      const std::wstring opens = L"\\recorder.exe open ";
+      const auto at = line.find(opens);
+      starts.push_back(at == line.npos ? L"run " + line : L"open " + line.substr(at + opens.size()));
+    }
+    return starts;
+  }
+
+ private:
+  static constexpr wchar_t RecordName[] = L"record.txt";
+  static constexpr wchar_t WineKey[] = L"Software\\Wine\\X11 Driver";
+  static inline const std::wstring Classes = L"Software\\Classes\\";
+
+  /// Where document kinds are told: for the user alone, but Wine looks at the machine's only.
+  static HKEY ClassesRoot() { return UnderWine() ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER; }
   void ReplaceSystem() const {
     const std::filesystem::path windows = SystemFolder(CSIDL_WINDOWS);
     const auto system = windows / (On64Bit() ? L"Sysnative" : L"system32");
@@ -45,23 +70,9 @@ class Recorder {
       SetRegistryText(HKEY_CURRENT_USER, L"Software\\Wine\\DllOverrides", program, L"native");
     SetRegistryText(HKEY_CURRENT_USER, L"Software\\Wine\\DllOverrides", L"tapi32", L"");  // nobody is called
   }
-  /// The command lines recorded so far.
-  [[nodiscard]] std::vector<std::wstring> Lines() const {
-    std::istringstream records(folder_.Read(RecordName));
-    std::vector<std::wstring> lines;
-    for (std::string line; std::getline(records, line);) lines.push_back(Wide(line));
-    return lines;
-  }
-
- private:
-  static constexpr wchar_t RecordName[] = L"record.txt";
-  static inline const std::wstring Classes = L"Software\\Classes\\";
-
-  /// Where document kinds are told: for the user alone, but Wine looks at the machine's only.
-  static HKEY ClassesRoot() { return UnderWine() ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER; }
   [[nodiscard]] std::wstring Quoted() const { return L'"' + (folder_ / L"recorder.exe") + L'"'; }
 
-  const Folder& folder_;
+  Folder folder_;
 };
 
 }  // namespace vantor::desktop

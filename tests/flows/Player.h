@@ -255,7 +255,7 @@ class Player : public World {
   Text settings_;
   std::map<Text, Text> items_;  // records by the list file's name
   bool firstStart_ = false;
-  std::size_t seenStarts_ = 0;
+  std::size_t seenStarts_ = Started().size();
 };
 
 /// Plays the flows of files. Tells the first difference from what each says, those that can't be played here, and at

@@ -14,30 +14,6 @@ namespace input = desktop::input;
 namespace window = desktop::window;
 using desktop::Await;
 
-/// The recorder, and a desktop that is ready for flows.
-class Stage {
- public:
-  Stage() {
-    if (desktop::OwnDesktop()) Starts.ReplaceSystem();
-    if (!desktop::UnderWine()) return;
-    // Keeps the window manager of the X display away, which would take a drag for one of its own mouse.
-    desktop::SetRegistryText(HKEY_CURRENT_USER, WineKey, L"Managed", L"N");
-    // The first answer of Wine's management service takes up to 16 s.
-    desktop::Run(L"cmd /c wmic logicaldisk get size >nul");
-  }
-  ~Stage() { RegDeleteKeyValueW(HKEY_CURRENT_USER, WineKey, L"Managed"); }
-  Stage(const Stage&) = delete;
-  Stage& operator=(const Stage&) = delete;
-
- private:
-  static constexpr wchar_t WineKey[] = L"Software\\Wine\\X11 Driver";
-
-  desktop::Folder place_;
-
- public:
-  desktop::Recorder Starts{place_};
-};
-
 /// The real program, and a person with real keys and a real mouse. Needs nothing but Windows; what would change an
 /// installation that is not the test's own, or needs drives of certain kinds, is left to Wine. NativeWorld.h says what
 /// the functions are for.
@@ -249,16 +225,10 @@ class World {
     const bool list = name == L"ListMatches" || window::ClassName(window) == L"ListBox";
     return list ? desktop::List(window).Selected() : window::Text(window);
   }
-  [[nodiscard]] Texts Started() const {
-    Texts started;
-    const auto lines = recorder_.Lines();
-    for (auto line = lines.begin() + static_cast<std::ptrdiff_t>(before_); line != lines.end(); ++line) {
-      Text plain = *line;
-      std::erase(plain, L'"');
-      const Text opened = Cut(plain, L"\\recorder.exe open ").second;
-      started.push_back(opened.empty() ? L"run " + plain : L"open " + opened);
-    }
-    return started;
+  /// The first call makes the desktop ready.
+  [[nodiscard]] static Texts Started() {
+    static const desktop::Recorder recorder;
+    return recorder.Starts();
   }
   static bool Becomes(const std::function<bool()>& condition) { return desktop::Eventually(condition); }
 
@@ -271,13 +241,7 @@ class World {
     return CreateWindowExW(style, L"STATIC", L"", WS_POPUP | SS_NOTIFY, at.x, at.y, 100, 100, nullptr, nullptr,
                            GetModuleHandleW(nullptr), nullptr);
   }
-  static const desktop::Recorder& OnStage() {
-    static const Stage stage;
-    return stage.Starts;
-  }
 
-  const desktop::Recorder& recorder_ = OnStage();
-  std::size_t before_ = recorder_.Lines().size();  // what was recorded before this flow
   std::unique_ptr<desktop::Folder> home_ = std::make_unique<desktop::Folder>();
   std::unique_ptr<desktop::Program> program_;
   HWND other_ = MakeWindow(WS_EX_TOPMOST | WS_EX_NOACTIVATE, {700, 300});
