@@ -41,7 +41,7 @@ class Computer : public service::DataFiles,
   /// Whether a call fails in the way described by its interface, or throws an unexpected exception.
   std::function<Outcome(std::string_view call)> Decide;
   /// From now on this is the outcome of the calls of one name; of all for "".
-  void Let(std::string_view name, Outcome outcome) {
+  void Let(const std::string& name, Outcome outcome) {
     Decide = [=](std::string_view call) { return name.empty() || call == name ? outcome : Outcome::Works; };
   }
 
@@ -95,8 +95,8 @@ class Computer : public service::DataFiles,
 
   bool Available() override { return !Fails(__func__); }
   std::optional<int> DriveType(Text root) override {
-    if (Fails(__func__, root) || Disk.DriveOf(root) == nullptr) return std::nullopt;
-    return Disk.DriveOf(root)->Type;
+    const int type = Disk.DriveOf(root).Type;
+    return Fails(__func__, root) || type < 0 ? std::nullopt : std::optional(type);
   }
   bool FileExists(Text path) override { return !Fails(__func__, path) && Disk.HasFile(path); }
   bool FolderExists(Text path) override { return !Fails(__func__, path) && Disk.HasFolder(path); }
@@ -173,10 +173,10 @@ class Computer : public service::DataFiles,
   std::wstring SpecialFolder(Text name) override { return Fails(__func__) ? L"" : Specials[std::wstring(name)]; }
   std::wstring RegistryRead(Text name) override { return Fails(__func__) ? L"" : Registry[std::wstring(name)]; }
   void RegistryWrite(Text name, Text value) override {
-    if (!Fails(__func__) && !Fails(RootOf(name))) Registry[std::wstring(name)] = value;
+    if (!RegistryFails(__func__, name)) Registry[std::wstring(name)] = value;
   }
   void RegistryDelete(Text name) override {
-    if (!Fails(__func__) && !Fails(RootOf(name))) Registry.erase(std::wstring(name));
+    if (!RegistryFails(__func__, name)) Registry.erase(std::wstring(name));
   }
   bool SaveShortcut(const service::Shortcut& shortcut) override {
     return !Fails(__func__) && Disk.Write(shortcut.File, "", false);
@@ -229,8 +229,8 @@ class Computer : public service::DataFiles,
     Asked.push_back(std::wstring(how).append(what));
     return true;
   }
-  static const char* RootOf(Text value) {
-    return value.starts_with(L"HKEY_LOCAL_MACHINE") ? "HKEY_LOCAL_MACHINE" : "HKEY_CURRENT_USER";
+  bool RegistryFails(const char* call, Text name) const {
+    return Fails(call) || Fails(name.starts_with(L"HKEY_LOCAL_MACHINE") ? "HKEY_LOCAL_MACHINE" : "HKEY_CURRENT_USER");
   }
   static bool IsUpper(int c) {
     return (c >= L'A' && c <= L'Z') || (c >= 0xC0 && c <= 0xDE && c != 0xD7) || (c >= 0x410 && c <= 0x42F);

@@ -69,24 +69,18 @@ class FakeDisk {
 
   // Questions of the services.
 
-  [[nodiscard]] const DriveState* DriveOf(std::wstring_view path) const {
-    if (path.size() < 2 || path[1] != L':') return nullptr;
-    const auto found = Drives.find(Key(path)[0]);
-    return found == Drives.end() ? nullptr : &found->second;
+  [[nodiscard]] DriveState DriveOf(std::wstring_view path) const {
+    const auto found = Drives.find(path.substr(0, 2).ends_with(L':') ? Key(path)[0] : L'\0');
+    return found == Drives.end() ? DriveState{-1, L"", false} : found->second;
   }
   /// The file or folder, if its drive is ready.
   [[nodiscard]] const Entry* Find(std::wstring_view path) const {
-    const DriveState* drive = DriveOf(path);
     const auto found = entries_.find(Key(path));
-    return (drive && !drive->Ready) || found == entries_.end() ? nullptr : &found->second;
+    return !DriveOf(path).Ready || found == entries_.end() ? nullptr : &found->second;
   }
-  [[nodiscard]] bool HasFile(std::wstring_view path) const {
-    const Entry* entry = Find(path);
-    return entry && !entry->IsFolder;
-  }
+  [[nodiscard]] bool HasFile(std::wstring_view path) const { return Find(path) && !Find(path)->IsFolder; }
   [[nodiscard]] bool HasFolder(std::wstring_view path) const {
-    if (IsRoot(path)) return DriveOf(path) && DriveOf(path)->Ready;
-    return Find(path) && !HasFile(path);
+    return IsRoot(path) ? DriveOf(path).Ready : Find(path) && Find(path)->IsFolder;
   }
   /// The direct contents of a folder, sorted without regard to case.
   [[nodiscard]] std::vector<const Entry*> In(std::wstring_view folder) const {
@@ -110,7 +104,7 @@ class FakeDisk {
     return fits;
   }
   [[nodiscard]] bool MayWrite(std::wstring_view path) const {
-    return HasFile(path) && Find(path)->Writable && !DriveOf(path)->WriteProtected;
+    return HasFile(path) && Find(path)->Writable && !DriveOf(path).WriteProtected;
   }
   bool Move(std::wstring_view from, std::wstring_view to) {
     if (!MayWrite(from) || !CanWrite(to) || (Find(to) && !MayWrite(to))) return false;
@@ -157,8 +151,7 @@ class FakeDisk {
   /// Whether a call may write: only to an existing folder on a writable drive.
   bool CanWrite(std::wstring_view path) {
     Spend(path, 1);
-    const DriveState* drive = DriveOf(path);
-    return (!drive || (drive->Ready && !drive->WriteProtected)) && HasFolder(Parent(path));
+    return !DriveOf(path).WriteProtected && HasFolder(Parent(path));
   }
   void Spend(std::wstring_view path, std::size_t bytes) {
     Used += bytes;

@@ -279,13 +279,11 @@ class World {
   /// From now on calls of a service (all for ""), or writing to a drive ("C:"), go wrong.
   void Let(const Text& call, fake::Outcome outcome) {
     for (auto& [letter, drive] : Computer.Disk.Drives) drive.WriteProtected = call == Text{letter, L':'};
-    broken_.assign(call.begin(), call.end());
-    Computer.Let(broken_, outcome);
+    Computer.Let(Narrow(call), outcome);
   }
 
   form::Screen screen_ = form::Headless().Desktop;
   Text held_;
-  std::string broken_;  // the call that goes wrong
 };
 
 }  // namespace vantor::flows

@@ -26,21 +26,20 @@ inline constexpr std::wstring_view Events =
     L"turn ListMatches 3 | turn TextMain -3 | drop C:\\Work\\Tool.EXE | drop E:\\Work | drop http://x | "
     L"hold CommandFindPath | move over other | move over nothing | move over system | release | "
     L"given screen 800 600 | given screen 1600 900 | given drive E empty | given drive E floppy | "
-    L"given read-only C:\\ | given writable C:\\ | given no file C:\\Work\\Tool.EXE";
+    L"given failing C: | given nothing failing | given no file C:\\Work\\Tool.EXE";
 
-/// The data that there may be, by bits of a choice.
-inline constexpr struct {
-  unsigned Bit;
-  std::wstring_view Step;
-} Givens[] = {
-    {1, L"given home E"},
-    {2, L"given data Set 7 | 1 | -1 | 1 | 1 | 0 | 0 | \"C:\\Work\" | 1 | -1 | 0"},
-    {2, L"given data User \"Ada\""},
-    {2, L"given data MediaSet \"Vantor Media 1\" | \"Ready\" | \"Ada\""},
-    {2, L"given data ListWeb \"one\",\"http://a{return}b\" | \"two\",\"http://example.org\""},
-    {4, L"given data Machine 3 | \"1A2B3C4D\" | 80023715840"},
-    {8, L"given data Saving \"Saving\""},
-};
+/// The data that there may be, by bits of a choice; several steps are separated by line ends.
+inline constexpr std::wstring_view Givens[] = {L"given home E",
+                                               LR"(given data Set 7 | 1 | -1 | 1 | 1 | 0 | 0 | "C:\Work" | 1 | -1 | 0
+given data User "Ada"
+given data MediaSet "Vantor Media 1" | "Ready" | "Ada"
+given data ListFile "one","C:\Work\Tool.EXE" | "two","E:\Work\Tool.EXE"
+given data ListProg "one","C:\Work\Tool.EXE" | "two","E:\Work\Tool.EXE"
+given data ListWeb "one","http://a{return}b" | "two","http://example.org"
+given data MachineFile "one","C:\Work\Tool.EXE" | "two","E:\Work\Tool.EXE"
+given data MachineProg "one","C:\Work\Tool.EXE" | "two","E:\Work\Tool.EXE")",
+                                               L"given data Machine 3 | \"1A2B3C4D\" | 80023715840",
+                                               L"given data Saving \"Saving\""};
 
 /// A user who does anything, in any order, at a place and with data files and services that the first bytes choose.
 class Wanderer : public fake::Walker {
@@ -48,12 +47,8 @@ class Wanderer : public fake::Walker {
   explicit Wanderer(std::string_view bytes) : bytes_(bytes) {
     const unsigned flags = Byte();
     Do(L"given program E:\\Work\\Tool.EXE");
-    for (const auto& given : Givens) {
-      if ((flags & given.Bit) != 0) Do(Text(given.Step));
-    }
-    for (const auto* list : {L"ListFile", L"ListProg", L"MachineFile", L"MachineProg"}) {
-      if ((flags & 2) != 0)
-        Do(Text(L"given data ") + list + L" \"one\",\"C:\\Work\\Tool.EXE\" | \"two\",\"E:\\Work\\Tool.EXE\"");
+    for (unsigned bit = 0; bit < std::size(Givens); ++bit) {
+      for (const Text& step : flows::Split((flags >> bit) % 2 != 0 ? Givens[bit] : L"", L"\n")) Do(step);
     }
     // One file may hold anything.
     const Text file = L"\\Vantor\\" + OneOf(L"MediaSet | Machine | User | Saving | Unsaved | Set | ListWeb | ListProg");
@@ -75,7 +70,7 @@ class Wanderer : public fake::Walker {
     const bool failing = std::exchange(Computer.Decide, {}) != nullptr;
     Do(L"close");
     Require(Desktop->Ended(), "the program ends");
-    const fake::FakeDisk::DriveState& drive = *Computer.Disk.DriveOf(Computer.Home);
+    const auto drive = Computer.Disk.DriveOf(Computer.Home);
     if (failing || !drive.Ready || drive.WriteProtected) return;
     const flows::Texts before = Sites();
     depth_ = DeepestMessages;  // from here on nothing is done but to close messages
@@ -86,21 +81,12 @@ class Wanderer : public fake::Walker {
 
  private:
   void Act() {
-    switch (Below(8)) {
-      case 0:
-        return Do(L"type " + Line().substr(0, 100));  // more than that is pasted, below
-      case 1:
-        return Do(L"paste " + Line());
-      case 2:
-        return Do(L"press F" + std::to_wstring(1 + Below(9) + Below(4)));
-      case 3:
-        return Do(L"drag " + std::to_wstring(Byte() * 8) + L" -" + std::to_wstring(Byte() * 4));
-      case 4:
-      case 5:
-        return Do(OneOf(Events));
-      default:
-        Use();
-    }
+    const std::size_t what = Below(8);
+    if (what == 0) return Do(L"type " + Line().substr(0, 100));  // more than that is pasted
+    if (what == 1) return Do(L"paste " + Line());
+    if (what == 2) return Do(L"press F" + std::to_wstring(1 + Below(9) + Below(4)));
+    if (what == 3) return Do(L"drag " + std::to_wstring(Byte() * 8) + L" -" + std::to_wstring(Byte() * 4));
+    what < 6 ? Do(OneOf(Events)) : Use();
   }
   /// Clicks on something that is shown.
   void Use() {

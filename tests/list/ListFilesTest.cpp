@@ -83,18 +83,5 @@ TEST_CASE("four groups of 32,767 items come back whole, the last of them is comp
       });
 }
 
-TEST_CASE("the computer's own items are kept beside a full list on the medium, and the nearest place that fits") {
-  fake::FakeDisk disk;
-  disk.Drives[L'E'] = {1};
-  disk.AddFolder(L"E:\\Vantor");
-  StoredList run(disk);
-  for (int i = 0; i < 32767; ++i) run.Add(LaunchGroup::Prog, L"Item", L"E:\\Tool.EXE");
-  run.Add(LaunchGroup::Prog, L"Own", L"C:\\Work\\Tool.EXE");
-  run.Files.SaveLaunchList(run.List, 40000, -40000);
-  CHECK((run.Settings.Left == 32767 && run.Settings.Top == -32768));
-  CHECK((run.Settings.ProgUpper == 32766 && run.Settings.MachineProgUpper == 0));
-  CHECK(run.Disk.At(run.Environment.Files.MachineProg).Bytes == "\"Own\",\"C:\\Work\\Tool.EXE\"\r\n");
-}
-
 }  // namespace
 }  // namespace vantor::list
