@@ -55,19 +55,13 @@ int wmain(int argc, wchar_t** argv) {
   for (int i = 2; i < argc; ++i) contestants.push_back(FromArgument(argv[i]));
   MeasureStarts(contestants, rounds);
   int status = 0;
-  const Figures floorPaint = FiguresOf(contestants.front().Paints);
-  const Figures floorKey = FiguresOf(contestants.front().Keys);
   for (const Contestant& contestant : contestants) {
     if (contestant.Absent) {
       std::fprintf(stderr, "%ls showed no text box that took a key\n", contestant.Name.c_str());
       status = 1;
       continue;
     }
-    const Figures paint = FiguresOf(contestant.Paints);
-    const Figures key = FiguresOf(contestant.Keys);
-    std::printf("%6.1f %6.1f %5.2f %5.2f   %6.1f %6.1f %5.2f %5.2f   %ls\n", paint.Median, paint.Quickest,
-                paint.Median / floorPaint.Median, paint.Quickest / floorPaint.Quickest, key.Median, key.Quickest,
-                key.Median / floorKey.Median, key.Quickest / floorKey.Quickest, contestant.Name.c_str());
+    std::fputs(LineOf(contestant, contestants.front()).c_str(), stdout);
   }
   return status;
 }

@@ -5,6 +5,7 @@
 // so that other load on the machine affects all of them equally.
 
 #include <algorithm>
+#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -121,4 +122,17 @@ inline void MeasureStarts(std::vector<Contestant>& contestants, int rounds) {
       contestant.Keys.push_back(key);
     }
   }
+}
+
+/// One line: median and fastest, also as multiples of those of `first`, for paint and key.
+inline std::string LineOf(const Contestant& contestant, const Contestant& first) {
+  const Figures paint = FiguresOf(contestant.Paints);
+  const Figures key = FiguresOf(contestant.Keys);
+  const Figures firstPaint = FiguresOf(first.Paints);
+  const Figures firstKey = FiguresOf(first.Keys);
+  char line[160];
+  std::snprintf(line, sizeof line, "%6.1f %6.1f %5.2f %5.2f   %6.1f %6.1f %5.2f %5.2f   %ls\n", paint.Median,
+                paint.Quickest, paint.Median / firstPaint.Median, paint.Quickest / firstPaint.Quickest, key.Median,
+                key.Quickest, key.Median / firstKey.Median, key.Quickest / firstKey.Quickest, contestant.Name.c_str());
+  return line;
 }

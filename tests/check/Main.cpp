@@ -10,6 +10,7 @@
 #include <doctest/doctest.h>
 
 #include <cstdio>
+#include <functional>
 #include <sstream>
 
 #include "../../bench/win32/Starts.h"
@@ -24,28 +25,6 @@ namespace {
 using namespace desktop;
 
 constexpr int Rounds = 10;
-
-/// Shown on the console as it comes, and kept.
-class Report {
- public:
-  Report() : file_(Path) {
-    if (!file_) {  // on a medium that can't be written to
-      Path = std::filesystem::temp_directory_path() / Path.filename();
-      file_.open(Path);
-    }
-    if (!file_) throw std::runtime_error("the report can't be written");
-  }
-  void Add(const std::string& text) {
-    file_ << text << std::flush;  // what is there stays, whatever comes
-    std::fputs(text.c_str(), stdout);
-    std::fflush(stdout);
-  }
-
-  std::filesystem::path Path = Beside(L"VantorCheck-report.txt");
-
- private:
-  std::ofstream file_;
-};
 
 std::string Describe() {
   wchar_t locale[LOCALE_NAME_MAX_LENGTH] = L"";
@@ -81,37 +60,33 @@ std::string MeasureStarts() {
   ::MeasureStarts(contestants, Rounds);
   std::string table;
   for (const Contestant& one : contestants) {
-    const Figures paint = FiguresOf(one.Paints);
-    const Figures key = FiguresOf(one.Keys);
-    char line[128];
-    std::snprintf(line, sizeof line, "%6.0f %6.0f   %6.0f %6.0f   %ls%s\n", paint.Median, paint.Quickest, key.Median,
-                  key.Quickest, one.Name.c_str(), one.Absent ? ": showed no text box that took a key" : "");
-    table += line;
+    table += one.Absent ? Narrow(one.Name + L" showed no text box that took a key\n") : LineOf(one, contestants[0]);
   }
   return table;
 }
 
-bool DoEverything(Report& report) {
+/// Tests and measures. Tells what is found as it comes, and returns whether all is well.
+bool DoEverything(const std::function<void(const std::string&)>& tell) {
   const auto begin = GetTickCount64();
-  report.Add("Please send this report to " + Narrow(std::wstring(product::BugReportAddress)) + "\n\n" + Describe());
-  report.Add("\n== What a user does\n");
+  tell("Please send this report to " + Narrow(std::wstring(product::BugReportAddress)) + "\n\n" + Describe());
+  tell("\n== What a user does\n");
   std::vector<std::filesystem::path> files;
   for (const auto& entry : std::filesystem::directory_iterator(Beside(L"flows"))) files.push_back(entry.path());
   std::ranges::sort(files);
-  const bool flows = flows::PlayAll(files, [&](const std::string& line) { report.Add(line + '\n'); });
+  const bool flows = flows::PlayAll(files, [&](const std::string& line) { tell(line + '\n'); });
 
-  report.Add("\n== What only windows show: seconds, and what was not as it should be\n");
+  tell("\n== What only windows show: seconds, and what was not as it should be\n");
   std::ostringstream told;
   doctest::Context context;
   for (const char* option : {"no-intro", "no-colors", "duration"}) context.setOption(option, true);
   context.setCout(&told);
   const bool tests = context.run() == 0;
-  report.Add(told.str());
+  tell(told.str());
 
-  report.Add("\n== From the start of a process, in ms, to its first paint (median of " + std::to_string(Rounds) +
-             ", quickest) and to its first key (the same)\n" + MeasureStarts());
-  report.Add(std::string("\n== ") + (flows && tests ? "All passed" : "Something failed") + ", in " +
-             std::to_string((GetTickCount64() - begin) / 1000) + " s\n");
+  tell("\n== From the start of a process, in ms, to its first paint (median of " + std::to_string(Rounds) +
+       ", quickest, both as multiples of the first program's) and to its first key (the same)\n" + MeasureStarts());
+  tell(std::string("\n== ") + (flows && tests ? "All passed" : "Something failed") + ", in " +
+       std::to_string((GetTickCount64() - begin) / 1000) + " s\n");
   return flows && tests;
 }
 
@@ -130,11 +105,19 @@ int Main(bool asks) {
           L"done. What it writes lies in folders of its own, which it removes.",
           MB_OKCANCEL | MB_ICONINFORMATION);
   if (answer != IDOK) return 2;
+  std::filesystem::path path = Beside(L"VantorCheck-report.txt");
+  std::ofstream report(path);
+  // On a medium that can't be written to.
+  if (!report) report.open(path = std::filesystem::temp_directory_path() / path.filename());
+  if (!report) throw std::runtime_error("the report can't be written");
   ShowWindow(GetConsoleWindow(), SW_MINIMIZE);
-  Report report;
-  const bool passed = DoEverything(report);
+  const bool passed = DoEverything([&](const std::string& text) {
+    report << text << std::flush;  // what is there stays, whatever comes
+    std::fputs(text.c_str(), stdout);
+    std::fflush(stdout);
+  });
   ShowWindow(GetConsoleWindow(), SW_RESTORE);
-  say(L"Done. The report is\n" + report.Path.wstring(), MB_ICONINFORMATION);
+  say(L"Done. The report is\n" + path.wstring(), MB_ICONINFORMATION);
   return passed ? 0 : 1;
 }
 

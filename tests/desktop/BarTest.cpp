@@ -15,8 +15,7 @@ TEST_CASE("the bar and its list climb back above other windows, and come along w
   program.Type(L"w-o");
   CHECK_BECOMES(program.FormOf(L"ListMatches") != nullptr, true);
   CHECK_BECOMES(window::IsTopMost(bar), true);
-  HWND const other = CreateWindowExW(WS_EX_TOPMOST | WS_EX_NOACTIVATE, L"STATIC", L"other", WS_POPUP, 0, 0, 1280, 1024,
-                                     nullptr, nullptr, nullptr, nullptr);
+  HWND const other = window::Make(WS_EX_TOPMOST | WS_EX_NOACTIVATE, {0, 0}, {1280, 1024});
   SetWindowPos(other, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
   CHECK(window::IsAbove(other, bar));
   CHECK_BECOMES(window::IsAbove(bar, other), true);

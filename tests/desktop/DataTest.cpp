@@ -9,11 +9,6 @@ namespace {
 /// A full list whose lines end differently from what the program writes, so that every save has to rewrite the file,
 /// and what is loaded from the old and the new is the same.
 struct FullList {
-  FullList() {
-    Items items;
-    for (int i = 0; i < Count; ++i) items.emplace_back(L"Site " + std::to_wstring(i), L"http://www.example.org/");
-    New = ListBytes(items);
-  }
   void Put() const {
     Place.WriteSettings({.WebUpper = Count - 1});
     std::string old = New;
@@ -31,7 +26,7 @@ struct FullList {
 
   static constexpr int Count = 32767;
   Folder Place;
-  std::string New;
+  std::string New = ListBytes(Items(Count, {L"Site", L"http://www.example.org/"}));
 };
 
 }  // namespace
@@ -65,10 +60,7 @@ TEST_CASE("Windows ends while a panel or a message is open: all is saved, and in
     list.Put();
     const Program program(list.Place);
     HWND const bar = program.AwaitBar();
-    if (message)
-      program.Enter(L"p=nosuchprogram");
-    else
-      program.Press(VK_F4);
+    message ? program.Enter(L"p=nosuchprogram") : program.Press(VK_F4);
     program.AwaitForm(message ? L"CommandOK" : L"CommandListCancel");
     if (message && OwnDesktop()) {
       CHECK(Run(L"wineboot --end-session") == 0);
@@ -100,8 +92,8 @@ TEST_CASE("a second copy hands over to the first, minimised or covered; of two a
     CAPTURE(minimised);
     if (minimised) first.Press(VK_F9);
     CHECK_BECOMES(IsIconic(bar) != FALSE, minimised);
-    HWND const cover = CreateWindowExW(0, L"STATIC", L"cover", WS_POPUP | WS_VISIBLE, 0, 0, 700, 300, nullptr, nullptr,
-                                       GetModuleHandleW(nullptr), nullptr);
+    HWND const cover = window::Make(0, {0, 0}, {700, 300});
+    ShowWindow(cover, SW_SHOW);
     SetForegroundWindow(cover);
     CHECK_BECOMES(GetForegroundWindow(), cover);
     CHECK(Program(folder).AwaitEnd() == 0);

@@ -7,6 +7,8 @@
 #include <stdexcept>
 #include <string>
 
+#include "win32/base/Com.h"
+
 namespace vantor::desktop {
 
 /// A window as seen by a screen reader. Its parts are numbered from 1; 0 is the window itself.
@@ -14,15 +16,10 @@ class Accessible {
  public:
   explicit Accessible(HWND window) {
     CoInitialize(nullptr);
-    void* object = nullptr;
-    if (FAILED(AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible, &object))) {
+    constexpr auto Client = static_cast<DWORD>(OBJID_CLIENT);
+    if (FAILED(AccessibleObjectFromWindow(window, Client, IID_IAccessible, object_.PutVoid())))
       throw std::runtime_error("a window is not accessible");
-    }
-    object_ = static_cast<IAccessible*>(object);
   }
-  ~Accessible() { object_->Release(); }
-  Accessible(const Accessible&) = delete;
-  Accessible& operator=(const Accessible&) = delete;
 
   [[nodiscard]] LONG Role(LONG part = 0) const { return Number(&IAccessible::get_accRole, part); }
   [[nodiscard]] LONG State(LONG part = 0) const { return Number(&IAccessible::get_accState, part); }
@@ -55,19 +52,17 @@ class Accessible {
     return part;
   }
   std::wstring Text(HRESULT (STDMETHODCALLTYPE IAccessible::*question)(VARIANT, BSTR*), LONG part) const {
-    BSTR text = nullptr;
-    (object_->*question)(Part(part), &text);
-    std::wstring told = text != nullptr ? text : L"";
-    SysFreeString(text);
-    return told;
+    win32::ComText text;
+    (object_.Get()->*question)(Part(part), text.Put());
+    return text ? text.Get() : L"";
   }
   LONG Number(HRESULT (STDMETHODCALLTYPE IAccessible::*question)(VARIANT, VARIANT*), LONG part) const {
     VARIANT number{};
-    (object_->*question)(Part(part), &number);
+    (object_.Get()->*question)(Part(part), &number);
     return number.vt == VT_I4 ? number.lVal : -1;
   }
 
-  IAccessible* object_ = nullptr;
+  win32::ComPointer<IAccessible> object_;
 };
 
 }  // namespace vantor::desktop

@@ -6,20 +6,15 @@
 // Needs the one before it.
 #include <shlobj.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
 #include <string>
-#include <tuple>
-#include <vector>
 
 namespace vantor::desktop {
 
-inline std::wstring Wide(const std::string& utf8) {
-  return std::filesystem::path(std::u8string(utf8.begin(), utf8.end())).wstring();
-}
+/// A text in UTF-8.
 inline std::string Narrow(const std::wstring& text) {
   const std::u8string bytes = std::filesystem::path(text).u8string();
   return {bytes.begin(), bytes.end()};

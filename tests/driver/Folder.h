@@ -37,13 +37,13 @@ inline std::string ListBytes(const Items& items) {
 class Folder {
  public:
   /// In the temporary folder, or in the root of a drive (L"E:\\").
-  explicit Folder(const std::wstring& root = std::filesystem::temp_directory_path()) {
+  explicit Folder(const std::wstring& root = std::filesystem::temp_directory_path(), const std::wstring& ending = {}) {
     static int count = 0;
     // In its long form, as the program and the shell report paths.
     wchar_t parent[MAX_PATH];
     GetLongPathNameW(root.c_str(), parent, MAX_PATH);
     const std::wstring name = L"vantor" + std::to_wstring(GetCurrentProcessId()) + L'-' + std::to_wstring(++count);
-    Path = std::filesystem::path(parent) / name;
+    Path = std::filesystem::path(parent) / (name + ending);
     std::filesystem::create_directory(Path);
   }
   ~Folder() {

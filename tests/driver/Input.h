@@ -56,13 +56,10 @@ inline void Paste(const std::wstring& text) {
 
 /// Moves the mouse, and moves or presses its left button there.
 inline void Mouse(POINT at, DWORD flags = 0) {
-  INPUT input = {};
-  input.type = INPUT_MOUSE;
   // Whole pixels, at the middle of each.
-  input.mi.dx = (at.x * 65536 + 32768) / GetSystemMetrics(SM_CXSCREEN);
-  input.mi.dy = (at.y * 65536 + 32768) / GetSystemMetrics(SM_CYSCREEN);
-  input.mi.dwFlags = flags | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
-  SendInput(1, &input, sizeof input);
+  const auto place = [](LONG pixel, int size) { return static_cast<DWORD>((pixel * 65536 + 32768) / size); };
+  mouse_event(flags | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, place(at.x, GetSystemMetrics(SM_CXSCREEN)),
+              place(at.y, GetSystemMetrics(SM_CYSCREEN)), 0, 0);
 }
 /// Turns the wheel at the position of the mouse by a multiple of 3 rows; positive is down.
 inline void Wheel(int rows) {

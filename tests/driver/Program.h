@@ -38,7 +38,7 @@ class Program {
   /// The form with a control.
   [[nodiscard]] HWND FormOf(std::wstring_view control) const { return GetAncestor(Control(control), GA_ROOT); }
   /// The bar, minimised or not, and the open message. The bar's buttons come last when it opens.
-  [[nodiscard]] HWND Bar() const { return FormOf(L"CommandExit"); }
+  [[nodiscard]] HWND Bar() const { return FormOf(BarControl); }
   [[nodiscard]] HWND Message() const { return FormOf(L"LabelMessage"); }
   [[nodiscard]] std::wstring Line() const { return window::Text(Control(L"TextMain")); }
 
@@ -50,15 +50,12 @@ class Program {
   void AwaitInput() const {
     Await("the program to have the input", [this] { return Active() != nullptr; });
   }
-  HWND AwaitBar() const {
-    Await("the bar to have the input", [this] { return Bar() != nullptr && Active() == Bar(); });
-    return Bar();
-  }
   /// Waits for the message, or the panel, that a control is on.
   HWND AwaitForm(std::wstring_view control) const {
     Await("a form to have the input", [&] { return FormOf(control) != nullptr && Active() == FormOf(control); });
     return FormOf(control);
   }
+  HWND AwaitBar() const { return AwaitForm(BarControl); }
 
   /// Waits until the input so far is handled: Windows lets a program paint when there is nothing else left for it.
   void AwaitHandled() const {
@@ -123,6 +120,8 @@ class Program {
   }
 
  private:
+  static constexpr std::wstring_view BarControl = L"CommandExit";
+
   static std::wstring CopyTo(const Folder& folder) {
     std::wstring path = folder / L"Vantor.exe";
     if (!Exists(path)) folder.CopyProgram(L"Vantor.exe", L"Vantor.exe");

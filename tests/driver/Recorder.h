@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "driver/Folder.h"
+#include "text/Utf8.h"
 
 namespace vantor::desktop {
 
@@ -38,7 +39,7 @@ class Recorder {
     std::istringstream records(folder_.Read(RecordName));
     std::vector<std::wstring> starts;
     for (std::string record; std::getline(records, record);) {
-      std::wstring line = Wide(record);
+      std::wstring line = text::FromUtf8(record);
       std::erase(line, L'"');
       const std::wstring opens = L"\\recorder.exe open ";
       const auto at = line.find(opens);

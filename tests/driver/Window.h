@@ -11,13 +11,17 @@
 /// Windows of other programs, looked at from outside. Only what is shown is found.
 namespace vantor::desktop::window {
 
+/// A window of this program, which is another one for Vantor. It is hidden at first.
+inline HWND Make(DWORD style, POINT at, SIZE size) {
+  return CreateWindowExW(style, L"STATIC", L"", WS_POPUP | SS_NOTIFY, at.x, at.y, size.cx, size.cy, nullptr, nullptr,
+                         GetModuleHandleW(nullptr), nullptr);
+}
+
 /// The title of a window or the content of a control; "" from a program that does not answer.
 inline std::wstring Text(HWND window) {
   constexpr UINT Patience = 2000;  // milliseconds
+  std::wstring text(0x8000, L'\0');
   DWORD_PTR length = 0;
-  SendMessageTimeoutW(window, WM_GETTEXTLENGTH, 0, 0, SMTO_ABORTIFHUNG, Patience, &length);
-  std::wstring text(length + 1, L'\0');
-  length = 0;
   SendMessageTimeoutW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()), SMTO_ABORTIFHUNG,
                       Patience, &length);
   text.resize(length);
@@ -72,15 +76,13 @@ inline GUITHREADINFO ThreadOf(HWND window) {
   GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &thread);
   return thread;
 }
-/// The window that has the focus in this one's program; null when none has.
-inline HWND FocusOf(HWND window) { return ThreadOf(window).hwndFocus; }
 /// Whether Windows drags the window with the mouse.
 inline bool IsDragged(HWND window) { return (ThreadOf(window).flags & GUI_INMOVESIZE) != 0; }
 
 /// The control, or the window itself, that has the input; null when another window is in the foreground.
 inline HWND Focus(HWND window) {
   if (!window || GetForegroundWindow() != window) return nullptr;
-  HWND const focus = FocusOf(window);
+  HWND const focus = ThreadOf(window).hwndFocus;
   return focus == window || IsChild(window, focus) ? focus : nullptr;
 }
 

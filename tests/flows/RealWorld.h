@@ -236,16 +236,11 @@ class World {
   [[nodiscard]] HWND Bar() const { return program_->Bar(); }
   [[noreturn]] static void OnlyInMemory() { throw Failure("only in memory"); }
   static Text Shortcut() { return desktop::SystemFolder(CSIDL_DESKTOPDIRECTORY) + L"\\Vantor.lnk"; }
-  /// A window of another program, which is this one.
-  static HWND MakeWindow(DWORD style, POINT at) {
-    return CreateWindowExW(style, L"STATIC", L"", WS_POPUP | SS_NOTIFY, at.x, at.y, 100, 100, nullptr, nullptr,
-                           GetModuleHandleW(nullptr), nullptr);
-  }
 
   std::unique_ptr<desktop::Folder> home_ = std::make_unique<desktop::Folder>();
   std::unique_ptr<desktop::Program> program_;
-  HWND other_ = MakeWindow(WS_EX_TOPMOST | WS_EX_NOACTIVATE, {700, 300});
-  HWND front_ = MakeWindow(0, {700, 500});
+  HWND other_ = window::Make(WS_EX_TOPMOST | WS_EX_NOACTIVATE, {700, 300}, {100, 100});
+  HWND front_ = window::Make(0, {700, 500}, {100, 100});
   Text runBefore_ = RunValue();
   bool shortcutBefore_ = std::filesystem::exists(Shortcut());
   POINT mouse_{};

@@ -1,10 +1,10 @@
-#include <doctest/doctest.h>
 #include <windows.h>
 
 #include <algorithm>
 #include <cmath>
 #include <vector>
 
+#include "driver/Check.h"
 #include "driver/Window.h"
 #include "form/Button.h"
 #include "form/Form.h"
@@ -45,21 +45,21 @@ HWND WindowOf(const form::Control& control) { return win32::ControlWindow::Of(&c
 
 /// Whether everything of the form has the size and place that its twips have at a resolution.
 void CheckPixels(const win32::Desktop& desktop, const SampleForm& sample, int dpi) {
-  const auto pixels = [dpi](form::Twips twips) { return MulDiv(twips, dpi, 1440); };
+  CAPTURE(dpi);
+  const auto check = [dpi](const RECT& place, int left, int top, int width, int height) {
+    const auto pixels = [dpi](form::Twips twips) { return MulDiv(twips, dpi, 1440); };
+    CHECK((place.left == pixels(left) && place.right - place.left == pixels(width)));
+    CHECK((place.top == pixels(top) && place.bottom - place.top == pixels(height)));
+  };
   RECT inside;
   GetClientRect(WindowOf(sample), &inside);
-  CHECK(inside.right == pixels(sample.Inside().Width));
-  CHECK(inside.bottom == pixels(sample.Inside().Height));
+  check(inside, 0, 0, sample.Inside().Width, sample.Inside().Height);
   LOGFONTW font{};
   for (const form::Control* control : sample.Controls()) {
-    CAPTURE(dpi);
     const HWND window = WindowOf(*control);
     RECT place = desktop::window::Bounds(window);
     MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&place), 2);
-    CHECK(place.left == pixels(control->Left()));
-    CHECK(place.top == pixels(control->Top()));
-    CHECK(place.right - place.left == pixels(control->Width()));
-    CHECK(place.bottom - place.top == pixels(control->Height()));
+    check(place, control->Left(), control->Top(), control->Width(), control->Height());
     GetObjectW(reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)), sizeof font, &font);
     CHECK(font.lfHeight == desktop.Screens().MessageFont(dpi).lfHeight);
   }
@@ -111,37 +111,35 @@ TEST_CASE("larger texts enlarge what holds them, as far as it fits the screen, a
 }
 
 TEST_CASE("texts and edges stand out from what they are on") {
+  const win32::Screens screens;
+  const win32::Theme theme(screens);
   const auto luminance = [](COLORREF color) {
     const auto linear = [](int part) {
       return part <= 10 ? part / 3294.6 : std::pow((part / 255.0 + 0.055) / 1.055, 2.4);
     };
     return 0.2126 * linear(GetRValue(color)) + 0.7152 * linear(GetGValue(color)) + 0.0722 * linear(GetBValue(color));
   };
-  const win32::Screens screens;
-  const win32::Theme theme(screens);
+  const auto check = [&](double least, COLORREF front, const std::vector<COLORREF>& grounds) {
+    for (const COLORREF ground : grounds) {
+      CAPTURE(front);
+      CAPTURE(ground);
+      const auto [darker, lighter] = std::minmax({luminance(front), luminance(ground)});
+      CHECK((lighter + 0.05) / (darker + 0.05) >= least);
+    }
+  };
   const win32::Palette& of = theme.Colors();
   constexpr COLORREF Panel = RGB(240, 240, 240);
   constexpr COLORREF Silver = RGB(192, 192, 192);
   constexpr COLORREF White = RGB(255, 255, 255);
   constexpr double Text = 4.5;
   constexpr double Edge = 3;
-  const std::tuple<double, COLORREF, std::vector<COLORREF>> rows[] = {
-      {Text, of.Disabled.Text, {of.Disabled.Fill, Panel}},
-      {Text, theme.TextColor(form::Color::WindowText, false, Silver), {Silver}},
-      {Text, of.Letter, {of.Normal.Fill, of.Hot.Fill, of.Pressed.Fill, of.Open.Fill}},
-      {Edge, of.Line, {Panel, White}},
-      {Edge, of.Outline, {Panel, White, RGB(32, 32, 32)}},
-      {Edge, of.Open.Edge, {of.Open.Fill, Panel}},
-      {Edge, of.Normal.Edge, {of.Normal.Fill, Panel}}};
-  for (const auto& row : rows) {
-    const double front = luminance(std::get<1>(row)) + 0.05;
-    for (const COLORREF ground : std::get<2>(row)) {
-      CAPTURE(&row - rows);
-      CAPTURE(ground);
-      const double behind = luminance(ground) + 0.05;
-      CHECK(std::max(front, behind) / std::min(front, behind) >= std::get<0>(row));
-    }
-  }
+  check(Text, of.Disabled.Text, {of.Disabled.Fill, Panel});
+  check(Text, theme.TextColor(form::Color::WindowText, false, Silver), {Silver});
+  check(Text, of.Letter, {of.Normal.Fill, of.Hot.Fill, of.Pressed.Fill, of.Open.Fill});
+  check(Edge, of.Line, {Panel, White});
+  check(Edge, of.Outline, {Panel, White, RGB(32, 32, 32)});
+  check(Edge, of.Open.Edge, {of.Open.Fill, Panel});
+  check(Edge, of.Normal.Edge, {of.Normal.Fill, Panel});
 }
 
 TEST_CASE("a text is set in lines no wider than their room, and its second columns stand under each other") {

@@ -7,6 +7,7 @@
 #include "WithAndWithout.h"
 #include "driver/Check.h"
 #include "driver/Folder.h"
+#include "driver/Window.h"
 #include "win32/base/Handle.h"
 #include "win32/base/ProgramCommand.h"
 #include "win32/service/DataFiles.h"
@@ -44,7 +45,8 @@ TEST_CASE("a text that names a file starts exactly that file; a command line the
     return Eventually([&] { return DataFiles().Read(starts.Ran).Bytes.value_or("").starts_with("ran"); }) &&
            Eventually([&] { return DeleteFileW(starts.Ran.c_str()) != FALSE; });
   };
-  for (const std::wstring& line : {program, L"cmd" + arguments, L"\"C:\\windows\\system32\\cmd.exe\"" + arguments})
+  const std::wstring command = L"C:\\windows\\system32\\cmd.exe";
+  for (const std::wstring& line : {program, L"cmd" + arguments, command + arguments, L'"' + command + L'"' + arguments})
     CHECK((starts.Plain.StartCommandLine(line) && ran()));
   CHECK((starts.Plain.ShellOpen(program) > 32 && ran()));
   WithAndWithout(L"WScript.Shell", [&](bool with) {
@@ -88,19 +90,6 @@ TEST_CASE("what can't be started is told, and nothing is started in its place") 
   CHECK(starts.Plain.RequestMakeCall(L"", L"Vantor") <= 0);
 }
 
-TEST_CASE("a command line is parted where Windows would") {
-  const wchar_t* lines[][3] = {{L"\"C:\\a b\\c.exe\"  /x \"y\"", L"C:\\a b\\c.exe", L"/x \"y\""},
-                               {L"C:\\windows\\system32\\cmd.exe /c a b", L"C:\\windows\\system32\\cmd.exe", L"/c a b"},
-                               {L"nosuch one", L"nosuch", L"one"},
-                               {L"\"open", L"open", L""},
-                               {L"", L"", L""}};
-  for (const auto& [line, program, arguments] : lines) {
-    const ProgramCommand parts = ParseProgramCommand(line);
-    CHECK(parts.Program == program);
-    CHECK(parts.Arguments == arguments);
-  }
-}
-
 TEST_CASE("what only looks like a copy that runs neither holds a start up nor ends it") {
   // The name is held by another thread of this process, which has a window like that of a copy, but is not a copy.
   std::promise<bool> held;
@@ -113,8 +102,8 @@ TEST_CASE("what only looks like a copy that runs neither holds a start up nor en
   CHECK(held.get_future().get());
   win32::Desktop desktop;
   desktop.SetApplicationTitle(L"Vantor Test");
-  const WindowHandle bar(
-      CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr));
+  const WindowHandle bar(window::Make(0, {0, 0}, {9, 9}));
+  ShowWindow(bar.Get(), SW_SHOW);
   System system(L"Vantor Test", {});
   CHECK(system.PreviousInstance());
   const DWORD begin = GetTickCount();
