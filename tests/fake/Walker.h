@@ -42,8 +42,8 @@ class Walker : public flows::Player {
     const start::Program& program = *this->Program;
     const bool ended = Desktop->Ended();
     for (const list::LaunchGroup group : list::LaunchGroups) {
-      const list::GroupBoxes& boxes = program.ListPage.List.Of(group);
-      Require(boxes.Name.ListCount() == boxes.Path.ListCount(), "names and targets stay paired");
+      const auto& [names, targets] = program.ListPage.List.Of(group);
+      Require(names.ListCount() == targets.ListCount(), "names and targets stay paired");
     }
     const command::CommandState& state = program.CommandState;
     const int open = state.OpenPanelIndex;
