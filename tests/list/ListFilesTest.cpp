@@ -69,9 +69,9 @@ TEST_CASE("four groups of 32,767 items come back whole, the last of them is comp
   test::Play(
       L"given settings FileUpper=32766 FoldUpper=32766 ProgUpper=32766 WebUpper=32766\nlook\nstart\n"
       L"starts f-item 32766 > open //host/32766\nstarts d-item 32766 > run {w}explorer.exe //host/32766\n"
-      L"starts p-item 32766 > run //host/32766\nstarts w-item 32766 > open //host/32766\ncompletes w-item 3276 > "
-      L"w-Item "
-      L"3276\npress F1\nclick TextWebUrl\ntype http://new\nclick TextWebName\nanswer new\ntold This list is full.\n"
+      L"starts p-item 32766 > run //host/32766\nstarts w-item 32766 > open //host/32766\n"
+      L"completes w-item 3276 > w-Item 3276\npress F1\nclick TextWebUrl\ntype http://new\nclick TextWebName\n"
+      L"answer new\ntold This list is full.\n"
       L"exit > see settings FileUpper=32766 FoldUpper=32766 ProgUpper=32766 WebUpper=32766",
       [](test::World& world) {
         std::string records;

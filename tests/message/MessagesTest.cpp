@@ -37,8 +37,8 @@ TEST_CASE("a message is in the middle of the screen, or where it leaves the bar 
 TEST_CASE("messages that open over others take nothing from them, and errors do not pile up") {
   int looks = 0;
   Play(
-      L"start\nlook\ntype Eve\nlook\nsee message Bug-Vantor-Tick\nlook\npress Escape\nwait 5 > see not on top\nanswer "
-      L"7\nlook",
+      L"start\nlook\ntype Eve\nlook\nsee message Bug-Vantor-Tick\nlook\npress Escape\nwait 5 > see not on top\n"
+      L"answer 7\nlook",
       [&](World& world) {
         Messages& shown = world.Program->Messages;
         switch (looks++) {

@@ -33,10 +33,9 @@ fake::FakeDisk Filled(bool onMedium) {
 /// Everything that can be done with the program. On a medium, items of a computer are accepted only after the computer
 /// is remembered.
 constexpr std::wstring_view Browse =
-    L"press F2 | drop C:\\Work\\Tool.EXE | choose FileWork Tool.EXE | answer Second | choose DriveWork d: | choose "
-    L"DriveWork c: | "
-    L"double-click DirWork | drop C:\\Work | answer Folder | press F3 | choose FileWork Tool.EXE | click "
-    L"CommandSelectOK";
+    L"press F2 | drop C:\\Work\\Tool.EXE | choose FileWork Tool.EXE | answer Second | choose DriveWork d: | "
+    L"choose DriveWork c: | double-click DirWork | drop C:\\Work | answer Folder | press F3 | "
+    L"choose FileWork Tool.EXE | click CommandSelectOK";
 constexpr std::wstring_view Everything[] = {
     L"enter p=notepad | enter f=notes.txt | enter d=C:\\ | enter d.sendto | enter c.mouse | enter e=a@b | enter e.bug",
     L"enter t=12 | enter w=x | enter g/x | press F1 | click TextWebUrl | type http://site | click TextWebName",
@@ -103,7 +102,7 @@ Texts Loaded(const fake::FakeDisk& disk) {
 
 bool Contains(const Texts& items, const std::wstring& item) { return std::ranges::count(items, item) > 0; }
 
-/// That nothing is lost by a walk: what the next start loads, also with each of the rescued lists restored.
+/// Checks that a walk lost nothing: what the next start loads, also with each of the rescued lists restored.
 void CheckKept(const Walk& walk, const Texts& before, bool expected) {
   Walk second(walk.Computer.Disk);
   for (const auto* step : {L"start", L"drag 40 40", L"close"}) second.Do(step);
