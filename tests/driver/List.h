@@ -13,11 +13,11 @@
 
 namespace vantor::desktop {
 
-/// A list as a person meets it: a list box, that of a combo box, or a list whose rows are only drawn, which are read
-/// as a screen reader does.
+/// A list as a person meets it: a list box, a combo box, whose own list may lag behind, or a list whose rows are only
+/// drawn, which are read as a screen reader does.
 class List {
  public:
-  explicit List(HWND window) : window_(window::DropDownOf(window) ? window::DropDownOf(window) : window) {
+  explicit List(HWND window) : window_(window), combo_(window::DropDownOf(window) != nullptr) {
     if (window::ClassName(window) == L"Static") rows_ = std::make_unique<Accessible>(window);
   }
 
@@ -32,7 +32,7 @@ class List {
   /// The selected entry's text; of a drawn one all that is said of it. "" for none.
   [[nodiscard]] std::wstring Selected() const {
     if (rows_) return rows_->Selected() > 0 ? rows_->Name(rows_->Selected()) : L"";
-    const LONG selected = Ask(LB_GETCURSEL);
+    const LONG selected = Ask(CB_GETCURSEL, LB_GETCURSEL);
     return selected >= 0 ? Text(selected) : L"";
   }
   /// Where an entry is on the screen, once it is there.
@@ -45,31 +45,32 @@ class List {
     });
     if (rows_) return rows_->Middle(index + 1);
     RECT item = {};
-    Ask(LB_GETITEMRECT, index, &item);
+    Ask(0, LB_GETITEMRECT, index, &item);
     POINT middle{(item.left + item.right) / 2, (item.top + item.bottom) / 2};
     ClientToScreen(window_, &middle);
     return middle;
   }
 
  private:
-  LONG Ask(UINT question, LONG index = 0, void* answer = nullptr) const {
+  LONG Ask(UINT combo, UINT list, LONG index = 0, void* answer = nullptr) const {
     const auto to = reinterpret_cast<LPARAM>(answer);
-    return static_cast<LONG>(SendMessageW(window_, question, static_cast<WPARAM>(index), to));
+    return static_cast<LONG>(SendMessageW(window_, combo_ ? combo : list, static_cast<WPARAM>(index), to));
   }
-  [[nodiscard]] LONG Count() const { return rows_ ? rows_->Count() : Ask(LB_GETCOUNT); }
+  [[nodiscard]] LONG Count() const { return rows_ ? rows_->Count() : Ask(CB_GETCOUNT, LB_GETCOUNT); }
   [[nodiscard]] bool InSight(LONG row) const { return !rows_ || (rows_->State(row + 1) & STATE_SYSTEM_OFFSCREEN) == 0; }
   [[nodiscard]] std::wstring Text(LONG index) const {
     if (rows_) {
       const std::wstring said = rows_->Name(index + 1);
       return said.substr(0, said.rfind(L", "));
     }
-    std::wstring text(static_cast<std::size_t>(std::max(Ask(LB_GETTEXTLEN, index), 0L)) + 1, L'\0');
-    Ask(LB_GETTEXT, index, text.data());
+    std::wstring text(static_cast<std::size_t>(std::max(Ask(CB_GETLBTEXTLEN, LB_GETTEXTLEN, index), 0L)) + 1, L'\0');
+    Ask(CB_GETLBTEXT, LB_GETTEXT, index, text.data());
     text.pop_back();
     return text;
   }
 
   HWND window_;
+  bool combo_;
   std::unique_ptr<Accessible> rows_;
 };
 

@@ -57,15 +57,6 @@ TEST_CASE("a text that names a file starts exactly that file; a command line the
   });
 }
 
-TEST_CASE("the scripting shell replaces variables, in the name of a file too; what is opened keeps its name") {
-  Starts starts;
-  const std::wstring program = starts.Place / L"my %TEMP%.exe";
-  CopyFileW(L"C:\\windows\\system32\\attrib.exe", program.c_str(), FALSE);
-  CHECK(starts.Shell.ExpandVariables(program) != program);
-  CHECK_FALSE(starts.Shell.Run(L'"' + program + L'"'));
-  CHECK(starts.Shell.Open(program));
-}
-
 TEST_CASE("what can't be started is told, and nothing is started in its place") {
   Starts starts;
   const std::wstring text = starts.Place.Write(L"my tool.unknown", "no program");
