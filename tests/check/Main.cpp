@@ -48,13 +48,12 @@ std::string Describe() {
 std::string MeasureStarts() {
   const Folder empty;
   const Folder full;
-  for (const Folder* folder : {&empty, &full}) folder->CopyProgram(L"Vantor.exe", L"Vantor.exe");
   empty.WriteSettings({});
   full.WriteSettings({.WebUpper = 399});
   full.WriteData(L"ListWeb", ListBytes(Items(400, {L"Site", L"http://www.example.org"})));
   std::vector<Contestant> contestants = {{L"a bare window with a text box", Beside(L"Floor.exe")},
-                                         {L"Vantor, no items", empty / L"Vantor.exe"},
-                                         {L"Vantor, 400 items", full / L"Vantor.exe"},
+                                         {L"Vantor, no items", empty.CopyProgram(L"Vantor.exe", L"Vantor.exe")},
+                                         {L"Vantor, 400 items", full.CopyProgram(L"Vantor.exe", L"Vantor.exe")},
                                          {L"Notepad", L"notepad.exe"}};
   for (Contestant& one : contestants) one.Command = L'"' + one.Command + L'"';
   ::MeasureStarts(contestants, Rounds);

@@ -73,6 +73,19 @@ inline void SetRegistryText(HKEY root, const std::wstring& key, const std::wstri
     throw std::runtime_error("the registry can't be written");
 }
 
+/// Runs a check with a scripting or management object (true) and then, if the registry belongs to the test, without it,
+/// as after an administrator has removed its class (false).
+template <class Action>
+void WithAndWithout(const std::wstring& className, Action action) {
+  action(true);
+  if (!OwnDesktop()) return;
+  const std::wstring key = L"Software\\Classes\\" + className + L"\\CLSID";
+  const std::wstring id = RegistryText(HKEY_LOCAL_MACHINE, key, L"");
+  SetRegistryText(HKEY_LOCAL_MACHINE, key, L"", L"{00000000-1111-2222-3333-444444444444}");
+  action(false);
+  SetRegistryText(HKEY_LOCAL_MACHINE, key, L"", id);
+}
+
 /// Checks a condition until it is true. Returns false if that does not happen in time.
 template <class Condition>
 bool Eventually(Condition condition) {

@@ -62,9 +62,9 @@ class Folder {
     return path;
   }
   [[nodiscard]] std::string Read(const std::wstring& name) const { return BytesOf(*this / name); }
-  /// Copies a program that was built in the same folder as this one.
-  void CopyProgram(const std::wstring& program, const std::wstring& name) const {
-    Write(name, BytesOf(Beside(program)));
+  /// Copies a program that was built in the same folder as this one, unless it is there. Returns its path.
+  std::wstring CopyProgram(const std::wstring& program, const std::wstring& name) const {
+    return Exists(*this / name) ? *this / name : Write(name, BytesOf(Beside(program)));
   }
   /// A data file, by its name without the ending.
   void WriteData(const std::wstring& name, const std::string& bytes) const {

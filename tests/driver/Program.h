@@ -14,7 +14,7 @@ namespace vantor::desktop {
 class Program {
  public:
   /// Starts the program in a folder, to which it is copied if it is not there.
-  explicit Program(const Folder& folder) : Program(CopyTo(folder)) {}
+  explicit Program(const Folder& folder) : Program(folder.CopyProgram(L"Vantor.exe", L"Vantor.exe")) {}
   explicit Program(const std::wstring& path) : process_(Start(L'"' + path + L'"', path.substr(0, path.rfind(L'\\')))) {}
   ~Program() {
     if (Running()) {
@@ -122,11 +122,6 @@ class Program {
  private:
   static constexpr std::wstring_view BarControl = L"CommandExit";
 
-  static std::wstring CopyTo(const Folder& folder) {
-    std::wstring path = folder / L"Vantor.exe";
-    if (!Exists(path)) folder.CopyProgram(L"Vantor.exe", L"Vantor.exe");
-    return path;
-  }
   /// Drops a combo box down and clicks on the entry.
   static void Choose(HWND combo, const std::wstring& entry) {
     const RECT box = window::Bounds(combo);

@@ -5,7 +5,6 @@
 #include <memory>
 #include <stdexcept>
 
-#include "WithAndWithout.h"
 #include "driver/Check.h"
 #include "driver/Folder.h"
 #include "driver/Window.h"

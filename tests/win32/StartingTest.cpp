@@ -4,7 +4,6 @@
 #include <future>
 #include <thread>
 
-#include "WithAndWithout.h"
 #include "driver/Check.h"
 #include "driver/Folder.h"
 #include "driver/Window.h"
