@@ -78,6 +78,10 @@ TEST_CASE("a window is told of each change of its control, and of nothing that i
     CHECK(window.Told.empty());
     row.Of.AttachWindow(nullptr);
   }
+  int clicks = 0;
+  rowList.Click = [&](int /*row*/) { ++clicks; };
+  for (const int row : {-1, 9, 10}) desktop.ClickRow(rowList, row);
+  CHECK(clicks == 1);
   CHECK_THROWS_AS(list.SetListIndex(0), std::out_of_range);
   // A chosen drive that is gone stays chosen; a folder's entry is that of the folder.
   computer.Disk.Drives.erase(L'E');

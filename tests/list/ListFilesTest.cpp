@@ -3,6 +3,7 @@
 #include "fake/Play.h"
 #include "fake/StoredList.h"
 #include "list/DataFile.h"
+#include "text/Utf8.h"
 
 namespace vantor::list {
 namespace {
@@ -26,6 +27,9 @@ TEST_CASE("a file keeps every character, in the code page or in UTF-8 with its m
     CHECK(EncodeText(writer, computer) == bytes);
     CHECK(DecodeText(bytes, computer) == L"\"" + text + L"\"\r\n");
   }
+  std::string pair;  // of halves, as Windows has such characters
+  text::AppendUtf8(pair, std::wstring{static_cast<wchar_t>(0xD83D), static_cast<wchar_t>(0xDE00)});
+  CHECK(pair == "\xF0\x9F\x98\x80");
   CHECK(DecodeText("\xEF\xBB\xBF!\xC3(\xF5\x80\x80\x80", computer) == L"!\uFFFD(\uFFFD\uFFFD\uFFFD\uFFFD");
 }
 
