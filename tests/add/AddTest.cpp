@@ -6,15 +6,16 @@ namespace vantor::add {
 namespace {
 
 using service::WindowId;
+using test::Concat;
 using test::Play;
 using test::World;
 
 TEST_CASE("a drag that another program or a point too far out breaks off changes nothing, and the next one works") {
   const std::wstring hold = L"hold CommandFindPath\nmove over other\n";
   for (const bool taken : {true, false}) {
-    Play(L"start\npress F2\n" + hold + L"look\nwait 1\n" +
-             (taken ? L"" : L"see message Bug-Vantor-FindExecutable\npress Escape\n") +
-             L"release\nsee text TextAddPath\nlook\n" + hold + L"release\nsee text TextAddPath {other}",
+    Play(Concat({L"start\npress F2\n", hold, L"look\nwait 1\n",
+                 taken ? L"" : L"see message Bug-Vantor-FindExecutable\npress Escape\n",
+                 L"release\nsee text TextAddPath\nlook\n", hold, L"release\nsee text TextAddPath {other}"}),
          [&](World& world) {
            fake::Computer& computer = world.Computer;
            CHECK(computer.Marked == (computer.Target ? WindowId{1} : WindowId::None));
@@ -49,10 +50,8 @@ TEST_CASE("the computer is known again by its disk C:, and what can't be read is
       {own + L"\ngiven throwing ReadDiskIdentity", asked},
   };
   for (const auto& [file, seen] : rows) {
-    Play(
-        L"given home E\ngiven program {other}\ngiven data MediaSet \"Vantor Media 1\" | \"Ready\" | \"Ada\"\n"
-        L"given item MachineProg Disk > {other}\ngiven data Machine " +
-        file + L"\nstart\n" + seen);
+    Play(Concat({L"given home E\ngiven program {other}\ngiven data MediaSet \"Vantor Media 1\" | \"Ready\" | \"Ada\"\n",
+                 L"given item MachineProg Disk > {other}\ngiven data Machine ", file, L"\nstart\n", seen}));
   }
 }
 

@@ -7,6 +7,7 @@
 namespace vantor::bar {
 namespace {
 
+using test::Concat;
 using test::Play;
 using test::World;
 
@@ -18,8 +19,8 @@ TEST_CASE(
                                                                        {L"Left=-60 Top=0", L"-4 0", L"0 28"},
                                                                        {L"Left=9000 Top=900", L"600 60", L"304 60"}};
   for (const auto& [saved, place, smaller] : rows) {
-    Play(L"given settings " + saved + L"\ngiven screen 1024 768\nstart > see place " + place +
-         L"\ngiven screen 1024 768\nsee place " + place + L"\ngiven screen 800 600\nsee place " + smaller);
+    Play(Concat({L"given settings ", saved, L"\ngiven screen 1024 768\nstart > see place ", place,
+                 L"\ngiven screen 1024 768\nsee place ", place, L"\ngiven screen 800 600\nsee place ", smaller}));
   }
 }
 

@@ -3,8 +3,10 @@
 #include <doctest/doctest.h>
 
 #include <functional>
+#include <initializer_list>
 #include <sstream>
 #include <string>
+#include <string_view>
 
 #include "flows/Player.h"
 
@@ -19,6 +21,12 @@ inline void Play(const std::wstring& flow, const std::function<void(World&)>& lo
   flows::Player player(steps.str());
   player.Look = look;
   CHECK_NOTHROW(player.Play(steps));
+}
+
+inline std::wstring Concat(std::initializer_list<std::wstring_view> parts) {
+  std::wstring all;
+  for (const std::wstring_view part : parts) all += part;
+  return all;
 }
 
 }  // namespace vantor::test

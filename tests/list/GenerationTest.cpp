@@ -35,7 +35,7 @@ FakeDisk Saved(const FakeDisk& disk, std::int16_t number = 3, Fault fault = Faul
 }
 
 /// A medium, or a fixed disk, after some runs, so that there is an older generation too.
-FakeDisk Used(int runs = 3, bool onMedium = true) {
+FakeDisk Used(std::int16_t runs = 3, bool onMedium = true) {
   FakeDisk disk = fake::Computer().Disk;
   disk.AddFile(L"E:\\Work\\Tool.EXE");
   if (onMedium) disk.AddFolder(Folder);
