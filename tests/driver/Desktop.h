@@ -68,7 +68,7 @@ inline std::wstring RegistryText(HKEY root, const std::wstring& key, const std::
   return read == ERROR_SUCCESS ? text : L"(none)";
 }
 inline void SetRegistryText(HKEY root, const std::wstring& key, const std::wstring& name, const std::wstring& text) {
-  const auto bytes = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
+  const auto bytes = static_cast<DWORD>(text.size() + 1) * static_cast<DWORD>(sizeof(wchar_t));
   if (RegSetKeyValueW(root, key.c_str(), name.c_str(), REG_SZ, text.c_str(), bytes) != ERROR_SUCCESS)
     throw std::runtime_error("the registry can't be written");
 }

@@ -29,7 +29,7 @@ struct Settings {
 using Items = std::vector<std::pair<std::wstring, std::wstring>>;
 inline std::string ListBytes(const Items& items) {
   std::string bytes;
-  for (const auto& [name, target] : items) bytes += Narrow(L'"' + name + L"\",\"" + target + L"\"\r\n");
+  for (const auto& [name, target] : items) bytes += '"' + Narrow(name) + "\",\"" + Narrow(target) + "\"\r\n";
   return bytes;
 }
 
