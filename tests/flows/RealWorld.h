@@ -214,7 +214,7 @@ class World {
   /// For all, or for this user.
   [[nodiscard]] Text RunValue() {
     for (HKEY root : {HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER}) {
-      const Text value = desktop::RegistryText(root, desktop::RunKey, desktop::RunValue);
+      Text value = desktop::RegistryText(root, desktop::RunKey, desktop::RunValue);
       if (value != L"(none)") return value;
     }
     return {};

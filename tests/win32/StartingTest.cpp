@@ -45,7 +45,8 @@ TEST_CASE("a text that names a file starts exactly that file; a command line the
            Eventually([&] { return DeleteFileW(starts.Ran.c_str()) != FALSE; });
   };
   const std::wstring command = L"C:\\windows\\system32\\cmd.exe";
-  for (const std::wstring& line : {program, L"cmd" + arguments, command + arguments, L'"' + command + L'"' + arguments})
+  const std::wstring quoted = L'"' + command + L'"';
+  for (const std::wstring& line : {program, L"cmd" + arguments, command + arguments, quoted + arguments})
     CHECK((starts.Plain.StartCommandLine(line) && ran()));
   CHECK((starts.Plain.ShellOpen(program) > 32 && ran()));
   WithAndWithout(L"WScript.Shell", [&](bool with) {
