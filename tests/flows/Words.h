@@ -86,16 +86,17 @@ inline constexpr wchar_t UsualSettings[] =
 
 /// The text of the settings file, with what is said in the place of the usual values: "OptionMask=6 Left=600".
 inline Text SettingsText(const Text& changes, const Text& folder) {
+  std::vector<std::pair<Text, Text>> values;
+  for (const Text& usual : Words(UsualSettings)) values.push_back(Cut(usual, L"="));
+  const auto valueOf = [&](const Text& name) -> Text& {
+    const auto found = std::ranges::find(values, name, &std::pair<Text, Text>::first);
+    if (found == values.end()) throw Failure("no such setting: " + Narrow(name));
+    return found->second;
+  };
+  valueOf(L"Folder") = folder;
+  for (const Text& change : Words(changes)) valueOf(Cut(change, L"=").first) = Cut(change, L"=").second;
   Text text;
-  for (const Text& usual : Words(UsualSettings)) {
-    const auto [name, value] = Cut(usual, L"=");
-    const Text said = Cut(L' ' + changes + L' ', L' ' + name + L'=').second;
-    if (name == L"Folder")
-      text += L'"' + (said.empty() ? folder : Cut(said).first) + L'"';
-    else
-      text += said.empty() ? value : Cut(said).first;
-    text += L"\r\n";
-  }
+  for (const auto& [name, value] : values) text += (name == L"Folder" ? L'"' + value + L'"' : value) + L"\r\n";
   return text;
 }
 
