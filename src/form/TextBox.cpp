@@ -51,8 +51,10 @@ int TextBox::WordStart() const {
 
 void TextBox::InputEdited(std::wstring_view text, int selStart, int selLength) {
   if (!AcceptsInput() || locked_) return;
+  // Letters typed over the same ones, as over the last one of a completion, are an edit, too.
+  const bool typedOver = selLength_ > 0 && selLength == 0;
   InputSelection(selStart, selLength);
-  if (text_ == text) return;
+  if (text_ == text && !typedOver) return;
   text_ = text;
   Change();
 }
