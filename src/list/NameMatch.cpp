@@ -29,8 +29,8 @@ bool NameMatch::StandsAt(std::wstring_view name, std::size_t start) const {
   return true;
 }
 
-NameMatch::Place NameMatch::Find(std::wstring_view name) const {
-  Place inside;
+NameMatch::Match NameMatch::Find(std::wstring_view name) const {
+  Match inside;
   const wchar_t first = lower_.empty() ? L'\0' : lower_.front();
   for (std::size_t start = 0; start + lower_.size() <= name.size(); ++start) {
     const wchar_t c = name[start];

@@ -25,12 +25,12 @@ class NameMatch {
   /// Whether the name equals the text.
   [[nodiscard]] bool Equals(std::wstring_view name) const { return name.size() == lower_.size() && Begins(name); }
 
-  struct Place {
+  struct Match {
     Fit How = Fit::None;
     std::size_t Start = 0;  // of the matching characters
   };
   /// The position of the text in the name: the first of its best matches.
-  [[nodiscard]] Place Find(std::wstring_view name) const;
+  [[nodiscard]] Match Find(std::wstring_view name) const;
 
  private:
   struct Remembered {

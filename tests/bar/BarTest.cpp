@@ -1,5 +1,7 @@
 #include <doctest/doctest.h>
 
+#include <set>
+
 #include "fake/Play.h"
 #include "fake/StoredList.h"
 #include "panel/PanelPlace.h"
@@ -12,7 +14,7 @@ using test::Play;
 using test::World;
 
 TEST_CASE(
-    "the bar stands as it was left, if that is on the screen, and comes along when that or the room on it shrinks") {
+    "the bar opens where it was left, if that is on the screen, and moves when the screen or the room on it shrinks") {
   const std::tuple<std::wstring, std::wstring, std::wstring> rows[] = {{L"Left=30000 Top=0", L"528 0", L"304 28"},
                                                                        {L"Left=-30000 Top=0", L"0 0", L"0 28"},
                                                                        {L"Left=0 Top=20000", L"0 692", L"0 524"},
@@ -39,7 +41,7 @@ TEST_CASE("the open panel follows the bar, and closes when the bar is minimised 
            form::Form* panel = &program.frmChoose;
            if (program.frmBrowse.Visible()) panel = &program.frmBrowse;
            const form::Rect place = panel->Bounds();
-           program.Panels.PlaceByBar(*panel);
+           program.Panels.PlaceByBar(*panel);  // changes nothing: it is where it belongs
            CHECK((panel->Bounds() == place && (looks != 4 || place.Left == 0)));
            CHECK(bar.CommandWeb.State() == (looks <= 2 ? form::ButtonState::Folded : form::ButtonState::Unfolded));
          });
@@ -124,7 +126,20 @@ void CheckFits(const World& world) {
   }
 }
 
-TEST_CASE("everything has its texts whole and apart in narrow and wide, low and high fonts") {
+/// Goes once around the form by Tab, which reaches everything that can be used, and nothing else.
+void CheckTabs(World& world) {
+  const form::Form& form = *world.Desktop->ActiveForm();
+  std::set<const form::Control*> usable;
+  for (const form::Control* control : world.Shown()) {
+    if (&control->OwnerForm() == &form && control->IsFocusable() && control->TabStop() && control->AcceptsInput())
+      usable.insert(control);
+  }
+  std::set<const form::Control*> reached;
+  while (reached.insert(form.ActiveControl()).second) world.Press(form::Key::Tab);
+  CHECK(reached == usable);
+}
+
+TEST_CASE("every control shows its whole text, overlaps no other and is reached by Tab, in all kinds of fonts") {
   // The letters at 9 points, on average, in twips: Tahoma, Arial (by Liberation Sans) and Verdana (by DejaVu Sans).
   for (const form::Size font : {form::Size{99, 210}, {105, 225}, {111, 240}}) {
     CAPTURE(font.Width);
@@ -134,7 +149,9 @@ TEST_CASE("everything has its texts whole and apart in narrow and wide, low and 
         L"press F7\nlook\npress F8\nlook\npress F1\nlook\nenter p=nosuchprogram\nlook\npress Enter",
         [&](World& world) {
           world.Font = font;
-          if (world.Desktop) CheckFits(world);
+          if (!world.Desktop) return;
+          CheckFits(world);
+          CheckTabs(world);
         });
   }
 }

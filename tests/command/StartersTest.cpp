@@ -35,12 +35,13 @@ TEST_CASE("a name or an address is opened for what it is, and for nothing that a
     if (!started.empty()) expected.push_back(started);
   }
   Play(flow + L"line w-t\nlook", [&](World& world) {
+    // Taken, so that nothing is left at the end that the flow has not seen.
     CHECK(std::exchange(world.Computer.Asked, {}) == expected);
     CHECK(world.Program->frmMatches.ListMatches.RowAt(0).Detail == L"http://news.example/\xFFFDgpj\xFFFD\x202F");
   });
 }
 
-TEST_CASE("why a telephone call fails is told") {
+TEST_CASE("the message says why a telephone call fails") {
   const std::pair<int, std::wstring> rows[] = {
       {-4, L"The phone number is not valid."},
       {-3, L"The queue of pending Windows Telephony dialing requests is full."},

@@ -83,8 +83,9 @@ TEST_CASE("every control has a role and a name for a screen reader, its key and 
   const Program program(folder);
   HWND const bar = program.AwaitBar();
   const auto awaitForm = [&] {
-    Await("a form", [&] { return program.Active() != nullptr && program.Active() != bar; });
-    return program.Active();
+    HWND form = nullptr;  // of one look: a moment later the focus may be with nobody
+    Await("a form", [&] { return (form = program.Active()) != nullptr && form != bar; });
+    return form;
   };
   const struct {
     WORD Key;  // opens the form; 0 for the bar itself

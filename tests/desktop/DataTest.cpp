@@ -79,7 +79,7 @@ TEST_CASE("Windows ends while a panel or a message is open: all is saved, and in
   }
 }
 
-TEST_CASE("a second copy hands over to the first, minimised or covered; of two at one moment one stays") {
+TEST_CASE("a second copy hands over to the first, minimised or covered; of two started at once, one stays") {
   const Folder folder;
   folder.WriteSettings({.OptionMask = 0, .Left = 600, .Top = 600});
   const Program one(folder);

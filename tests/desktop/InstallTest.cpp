@@ -81,6 +81,7 @@ TEST_CASE("install, upgrade over a running copy, uninstall and come back, in a f
     it.CheckSaved();
     CHECK_BECOMES(RunningProcess() != 0, true);
     CHECK(Run(L'"' + it.Program + L'"') == 0);  // a third copy brings the bar to the front
+    CHECK_BECOMES(window::ProcessOf(window::Focus(GetForegroundWindow())), RunningProcess());
     input::Press(VK_F10);
     CHECK_BECOMES(RunningProcess(), DWORD{0});
   }

@@ -22,12 +22,14 @@ class Walker : public flows::Player {
     try {
       Player::Do(step);
     } catch (const flows::Failure&) {
-      // was impossible
+      ++Impossible;
     } catch (...) {
       Require(false, "no exception leaves the program");
     }
     if (outermost) CheckState();
   }
+
+  int Impossible = 0;  // the steps that could not be done
 
  protected:
   void Require(bool condition, const char* what) const {

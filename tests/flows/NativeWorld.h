@@ -180,6 +180,7 @@ class World {
     Text states = Program->frmMain.Visible() && !Desktop->Ended() ? L"," : L",end,";
     states += Desktop->IsTopMost(form) ? L"on top," : L"not on top,";
     if (form.WindowState() == form::WindowState::Minimized) states += L"minimised,";
+    if (control == nullptr && !name.empty() && !Exists(name)) throw Failure("no control has this name");
     if (control == nullptr) return states + L"hidden,";
     states += control->Enabled() ? L"shown,enabled," : L"shown,disabled,";
     if (Desktop->ActiveForm() == &form && form.ActiveControl() == control) states += L"focus,";
@@ -264,6 +265,12 @@ class World {
   std::unique_ptr<start::Program> Program;
 
  private:
+  /// Whether a form has a control of this name. That of messages is only there while one is open.
+  [[nodiscard]] bool Exists(const Text& name) const {
+    return name == L"LabelMessage" || std::ranges::any_of(Desktop->Forms(), [&](const form::Form* form) {
+             return std::ranges::any_of(form->Controls(), [&](const auto* control) { return control->Name() == name; });
+           });
+  }
   [[nodiscard]] form::TextBox& FocusedBox() const {
     const form::Form* const form = Desktop->ActiveForm();
     auto* const box = form != nullptr ? dynamic_cast<form::TextBox*>(form->ActiveControl()) : nullptr;

@@ -30,6 +30,10 @@ class Player : public World {
   void Play(std::istream& script) {
     std::size_t number = 1;
     for (std::string line; std::getline(script, line); ++number) Take(text::FromUtf8(line), number);
+    const auto done = std::ranges::find_if(steps_, [](const auto& step) {
+      return !After(L"given", step.second) && !After(L"only", step.second) && step.second != L"look";
+    });
+    if (done == steps_.end() || done->second != L"start") throw Failure(name_ + ": does not start the program first");
     // Whatever the flow was about.
     for (const auto* step : {L"see no message", L"see nothing started", L"close", L"see end"}) Take(step, number);
     for (const auto& [line, step] : steps_) Foresee(step);

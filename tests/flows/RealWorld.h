@@ -81,7 +81,7 @@ class World {
     return back == text ? std::optional(bytes) : std::nullopt;
   }
   void Write(const Text& path, const std::string& bytes) {
-    if (!desktop::OwnDesktop() && path.starts_with(MeaningOf(L"w"))) throw Skip("writes into the Windows folder");
+    MayChange(path);
     void* redirection = nullptr;
     const bool redirected = Wow64DisableWow64FsRedirection(&redirection) != FALSE;  // as 64-bit programs see folders
     const std::filesystem::path place = path;
@@ -94,8 +94,12 @@ class World {
   void MakeProgram(const Text& path) {
     Write(path, desktop::BytesOf(desktop::Beside(desktop::Recorder::ProgramName())));
   }
-  void MakeFolder(const Text& path) { std::filesystem::create_directories(path); }
+  void MakeFolder(const Text& path) {
+    MayChange(path);
+    std::filesystem::create_directories(path);
+  }
   void Remove(const Text& path) {
+    MayChange(path);
     // What was started has to end before its file can go.
     std::error_code error;
     Await("the file to go", [&] { return std::filesystem::remove(path, error), !error; });
@@ -234,6 +238,11 @@ class World {
 
  private:
   [[nodiscard]] HWND Bar() const { return program_->Bar(); }
+  /// On a user's own Windows nothing is changed but the test's folder, and a shortcut that was not there.
+  void MayChange(const Text& path) const {
+    if (!desktop::OwnDesktop() && !path.starts_with(home_->Path + L'\\') && path != Shortcut())
+      throw Skip("changes what is not the test's");
+  }
   [[noreturn]] static void OnlyInMemory() { throw Failure("only in memory"); }
   static Text Shortcut() { return desktop::SystemFolder(CSIDL_DESKTOPDIRECTORY) + L"\\Vantor.lnk"; }
 

@@ -136,7 +136,9 @@ TEST_CASE("a file that may not be written leaves the old list whole, and the new
 }
 
 TEST_CASE(
-    "what is held at the start is waited for, or copied before it is replaced, or left and the new put elsewhere") {
+    "a file held at the start is waited for, then copied before it is replaced, or else left alone, and the new list "
+    "is "
+    "saved elsewhere") {
   const Texts before = Loaded(Used());
   for (const auto* name : {L"Set", L"ListWeb", L"MachineProg", L"Saving"}) {
     for (const bool released : {true, false}) {

@@ -10,7 +10,7 @@ namespace {
 using test::Play;
 using test::World;
 
-TEST_CASE("the first-start help tells of a missing button only") {
+TEST_CASE("the first-start help mentions only a button that is missing") {
   Play(L"given first start\ngiven program C:\\Orbel\\Sketch\\Sketch.exe\nstart\nanswer Ada\nlook\npress Enter",
        [](World& world) { CHECK(world.TextOf(L"LabelMessage").find(L"\r\n\r\n\r\n\r\nYou") != std::wstring::npos); });
 }

@@ -140,6 +140,7 @@ TEST_CASE("each call of a service that goes wrong loses no item, and the program
     Walk usual(filled);
     usual.Run();
     REQUIRE((usual.Desktop->Ended() && usual.BugQuestions == 0));
+    REQUIRE(usual.Impossible == (onMedium && !remembered ? 0 : 1));  // is there a computer to remember?
     REQUIRE(usual.Items().size() == usual.Loaded.size() + 2);
     calls += usual.Calls;
     for (int wrong = 0; wrong < usual.Calls; wrong += test::Stride) {

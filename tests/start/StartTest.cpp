@@ -42,7 +42,7 @@ TEST_CASE("the maker's programs are found beside this one and in the drive's roo
   }
 }
 
-TEST_CASE("a share is refused without contacting it, as is an unknown drive; the Windows folder is not") {
+TEST_CASE("a share or an unknown drive is refused, without contacting a server; the Windows folder is accepted") {
   for (const auto* home : {L"\\\\server\\share\\Vantor", L"\\\\?\\Volume{1}\\Vantor", L"C:\\Vantor"}) {
     Play(L"given first start\nlook\nstart\ntold The Program encountered a problem > see end", [&](World& world) {
       world.Computer.Home = home;
@@ -74,7 +74,7 @@ TEST_CASE("a second copy hands over to the first, or goes on when that has no wi
   CHECK((titles.size() == 3 && titles[2] == titles[0]));
 }
 
-TEST_CASE("a first run from a medium that can't write is refused, and takes back what it made if it can") {
+TEST_CASE("a first run from a medium that can't be written to is refused, and removes what it made if it can") {
   // The disk counts each call and the bytes that it writes.
   constexpr std::size_t Calls = 2;
   constexpr std::size_t Settings = 52;

@@ -30,9 +30,8 @@ TEST_CASE("the program file asks for the mitigations, the rights and the librari
 
   // Only libraries that Windows loads from its own folder, whatever is next to the program. The common controls are
   // loaded later, from Windows' store of them.
-  const char* const known[] = {"advapi32.dll", "comdlg32.dll", "gdi32.dll", "imm32.dll",
-                               "kernel32.dll", "msvcrt.dll",   "ole32.dll", "oleaut32.dll",
-                               "shell32.dll",  "shlwapi.dll",  "user32.dll"};
+  const char* const known[] = {"advapi32.dll", "gdi32.dll",    "kernel32.dll", "msvcrt.dll",
+                               "ole32.dll",    "oleaut32.dll", "user32.dll"};
   const DWORD imports = headers.OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress;
   for (const auto* library = reinterpret_cast<const IMAGE_IMPORT_DESCRIPTOR*>(base + imports); library->Name != 0;
        ++library) {

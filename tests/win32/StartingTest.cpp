@@ -57,7 +57,7 @@ TEST_CASE("a text that names a file starts exactly that file; a command line the
   });
 }
 
-TEST_CASE("what can't be started is told, and nothing is started in its place") {
+TEST_CASE("what can't be started is reported, and nothing is started in its place") {
   Starts starts;
   const std::wstring text = starts.Place.Write(L"my tool.unknown", "no program");
   starts.Place.Write(L"my.cmd", Leaves);

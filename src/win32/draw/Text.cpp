@@ -8,8 +8,8 @@
 
 namespace vantor::win32 {
 
-// Texts are measured on a context of their own, as wide as on the screen's. For the screen's Windows has to find out
-// what of the desktop can be seen, and a start measures dozens of texts.
+// Texts are measured on a context of their own, as wide as on the screen's. For the screen's own context Windows has to
+// find out which parts of the desktop are visible, and a start measures dozens of texts.
 
 SIZE TextSize(std::wstring_view text, HFONT font) {
   const MemoryDcHandle dc(CreateCompatibleDC(nullptr));
