@@ -52,8 +52,9 @@ class Program {
   }
   /// Waits for the message, or the panel, that a control is on.
   HWND AwaitForm(std::wstring_view control) const {
-    Await("a form to have the input", [&] { return FormOf(control) != nullptr && Active() == FormOf(control); });
-    return FormOf(control);
+    HWND form = nullptr;  // of one look: a moment later it may be another one, or none
+    Await("a form to have the input", [&] { return (form = FormOf(control)) != nullptr && Active() == form; });
+    return form;
   }
   HWND AwaitBar() const { return AwaitForm(BarControl); }
 
@@ -61,7 +62,8 @@ class Program {
   void AwaitHandled() const {
     HWND painting = nullptr;
     Await("the input to be handled", [&] {
-      HWND const form = Active() != nullptr ? Active() : Bar();
+      HWND const active = Active();
+      HWND const form = active != nullptr ? active : Bar();
       if (form == nullptr || IsIconic(form)) return true;
       const bool again = form == painting;
       if (!again) RedrawWindow(form, nullptr, nullptr, RDW_INVALIDATE);
