@@ -173,11 +173,13 @@ struct Soak {
   void Panel(int number) const {
     constexpr WPARAM keys[] = {VK_F2, VK_F3, VK_F4, VK_F6, VK_F7, VK_F8};
     const WPARAM key = keys[static_cast<std::size_t>(number) % std::size(keys)];
+    // Both keys go to a window known to be there: the keyboard may be with none while the window manager moves it.
+    HWND focused = Running.Control(L"TextMain");
     for (const bool open : {true, false}) {
-      Key(Focused(), key);
-      // The next key waits for the window manager, which would otherwise take the focus away in the meantime.
+      Key(focused, key);
       Await("the panel", [&] {
-        const HWND front = GetAncestor(Focused(), GA_ROOT);
+        focused = Focused();
+        const HWND front = GetAncestor(focused, GA_ROOT);
         return front != nullptr && (front != Bar) == open && IsWindowVisible(front);
       });
     }

@@ -48,8 +48,7 @@ class World {
   void Foresee(const Text& /*step*/) {}
   /// A drive of this type is there, with nothing on it; throws Skip if not.
   void NeedDrive(const Text& letter, const Text& type) {
-    const int number = type == L"floppy" ? 1 : type == L"network" ? 3 : type == L"fixed" ? 2 : 4;
-    Computer.Disk.Drives[letter[0]] = {number, L"", type != L"empty"};
+    Computer.Disk.Drives[letter[0]] = {DriveType(type), L"", type != L"empty"};
   }
   /// The program's folder lies on this drive, of which nothing else is asked without a type.
   void SetHome(const Text& letter, const Text& type = {}) {
@@ -161,10 +160,10 @@ class World {
   /// Its width and height in pixels, and the dots per inch if they are not 96.
   void SetScreen(const Text& size) {
     const Texts numbers = Words(size);
-    const double twips = numbers.size() > 2 ? 1440.0 / std::stoi(numbers[2]) : 15;
+    const double twips = numbers.size() > 2 ? 1440.0 / Number(numbers[2]) : 15;
     const auto length = [&](int pixels) { return static_cast<form::Twips>(pixels * twips); };
-    const form::Twips right = length(std::stoi(numbers.at(0)));
-    const form::Twips bottom = length(std::stoi(numbers.at(1)));
+    const form::Twips right = length(Number(numbers.at(0)));
+    const form::Twips bottom = length(Number(numbers.at(1)));
     screen_ = {{0, 0, right, bottom}, {0, length(28), right, bottom - length(28)}, twips, twips};  // under a taskbar
     if (!Desktop) return;
     Desktop->Desktop = screen_;

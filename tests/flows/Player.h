@@ -83,7 +83,7 @@ class Player : public World {
   struct Given {
     const Text& Written;
     operator const Text&() const { return Written; }
-    operator int() const { return std::stoi(Written); }
+    operator int() const { return Number(Written); }
   };
   /// How a step begins, and the function that does what it says, with all that follows, with the first word and the
   /// rest, or with one path after the other; or the one that looks, and must then see what follows.

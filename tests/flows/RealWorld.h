@@ -48,10 +48,7 @@ class World {
     }
   }
   void NeedDrive(const Text& letter, const Text& type) {
-    const UINT wanted = type == L"floppy"    ? DRIVE_REMOVABLE
-                        : type == L"network" ? DRIVE_REMOTE
-                        : type == L"fixed"   ? DRIVE_FIXED
-                                             : DRIVE_CDROM;
+    const auto wanted = static_cast<UINT>(DriveType(type) + 1);
     const Text root = letter + L":\\";
     if (!desktop::OwnDesktop() || GetDriveTypeW(root.c_str()) != wanted) throw Skip("needs a drive of another kind");
     std::error_code empty;  // is told as an error for a root

@@ -71,12 +71,32 @@ inline constexpr std::pair<std::wstring_view, form::Key> Keys[] = {
     {L"PageDown", form::Key::PageDown}, {L"Left", form::Key::Left},
     {L"Right", form::Key::Right},       {L"Delete", form::Key::Delete}};
 
+inline int Number(const Text& word) {
+  try {
+    std::size_t read = 0;
+    const int number = std::stoi(word, &read);
+    if (read == word.size()) return number;
+  } catch (const std::logic_error&) {  // not even the first character
+  }
+  throw Failure("not a number: " + Narrow(word));
+}
+
+/// The scripting file system's number for a type of drive; Windows' own is one more.
+inline int DriveType(const Text& type) {
+  constexpr std::wstring_view types[] = {L"floppy", L"fixed", L"network", L"cdrom", L"empty"};
+  const auto* const found = std::ranges::find(types, type);
+  if (found == std::end(types)) throw Failure("no such type of drive: " + Narrow(type));
+  return type == L"empty" ? DriveType(L"cdrom") : static_cast<int>(found - types) + 1;
+}
+
 /// A key by its name, its letter, or F and its number.
 inline form::Key KeyOf(const Text& word) {
   const auto* const key = std::ranges::find(Keys, word, &std::pair<std::wstring_view, form::Key>::first);
   if (key != std::end(Keys)) return key->second;
   if (word.size() == 1) return static_cast<form::Key>(word[0]);
-  return static_cast<form::Key>(static_cast<int>(form::Key::F1) - 1 + std::stoi(word.substr(1)));
+  const int number = word.starts_with(L'F') ? Number(word.substr(1)) : 0;
+  if (number < 1 || number > 12) throw Failure("no such key: " + Narrow(word));
+  return static_cast<form::Key>(static_cast<int>(form::Key::F1) - 1 + number);
 }
 
 /// The settings file's values in its order, as they are when nothing else is said.
