@@ -256,7 +256,7 @@ void frmBrowse::CommandAddOK_Click() {
   if (result == list::AddResult::PathListed || (result == list::AddResult::Added && !ChoosesFolder()))
     FileWork.Refresh();
   if (result == list::AddResult::PathListed) PathSource().SetFocus();
-  if (result == list::AddResult::Added) context_.Host.ClearLine();
+  if (result == list::AddResult::Added) context_.Host.ItemAdded();
 }
 
 form::Control& frmBrowse::PathSource() {

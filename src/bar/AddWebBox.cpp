@@ -102,7 +102,7 @@ void AddWebBox::CommandAddWeb_Click() {
   const AddResult result =
       list::AddUnlessListed(box, list_, list::LaunchGroup::Web, AddedCaption, messages_, language_);
   if (result == AddResult::PathListed || result == AddResult::Full) TextWebUrl.SetFocus();
-  if (result == AddResult::Added) host_.ClearLine();
+  if (result == AddResult::Added) host_.ItemAdded();
 }
 
 }  // namespace vantor::bar

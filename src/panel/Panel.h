@@ -26,6 +26,8 @@ class Panel {
   [[nodiscard]] virtual message::MessageKey Refusal() { return {}; }
   virtual void Open() = 0;
   virtual void Close() { window_.Hide(); }
+  /// An item was added to the launch list while the panel is open.
+  virtual void ItemAdded() {}
   /// The bar has moved: moves the panel with it.
   void Follow() { host_.PlaceByBar(window_); }
 

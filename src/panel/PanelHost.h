@@ -21,8 +21,9 @@ class PanelHost {
   virtual void OpenPanel(std::size_t index) = 0;
   /// Closes the open panel, if there is one, and goes back to an empty command line.
   virtual void ClosePanel() = 0;
-  /// Goes back to an empty command line without closing the panel, unless the bar is hidden or minimised.
-  virtual void ClearLine() = 0;
+  /// An item was added to the launch list: brings the open panel up to date, and goes back to an empty command line,
+  /// unless the bar is hidden or minimised.
+  virtual void ItemAdded() = 0;
   /// An item of the launch list was removed or renamed.
   virtual void ListChanged() = 0;
   /// Does what a function key does on the bar. Other keys do nothing.

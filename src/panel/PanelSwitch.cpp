@@ -57,6 +57,11 @@ void PanelSwitch::ClosePanel() {
   bar_->ClearLine();
 }
 
+void PanelSwitch::ItemAdded() {
+  if (Panel* const open = OpenOne()) open->ItemAdded();
+  bar_->ClearLine();
+}
+
 void PanelSwitch::BarMoved() const {
   if (Panel* const open = OpenOne()) open->Follow();
 }

@@ -54,7 +54,7 @@ class PanelSwitch final : public PanelHost {
   [[nodiscard]] std::int16_t OpenPanelIndex() const override { return state_.OpenPanelIndex; }
   void OpenPanel(std::size_t index) override;
   void ClosePanel() override;
-  void ClearLine() override { bar_->ClearLine(); }
+  void ItemAdded() override;
   void ListChanged() override { bar_->ListChanged(); }
   void HotKey(form::Key key) override { bar_->HotKey(key); }
   void PlaceByBar(form::Form& window) const override;

@@ -87,6 +87,10 @@ TEST_CASE("every control has a role and a name for a screen reader, its key and 
     Await("a form", [&] { return (form = program.Active()) != nullptr && form != bar; });
     return form;
   };
+  std::wstring label(MAX_PATH + 1, L'\0');
+  GetVolumeInformationW(L"C:\\", label.data(), MAX_PATH + 1, nullptr, nullptr, nullptr, nullptr, 0);
+  label.resize(label.find(L'\0'));
+  const std::wstring drive = L"combo \"Drive\" {c:" + (label.empty() ? L"" : L" [" + label + L"]") + L'}';
   const struct {
     WORD Key;  // opens the form; 0 for the bar itself
     std::vector<std::wstring> Lines;
@@ -96,10 +100,10 @@ TEST_CASE("every control has a role and a name for a screen reader, its key and 
         L"button \"Exit\" <F10>", L"button \"Minimize\" <F9>", L"button \"Show | Hide Preferences\" <F6>",
         L"button \"Show | Hide Add URL\" <F1> collapsed"}},
       {VK_F2,
-       {L"client \"Add To List\"", L"radio \"Prog.\" focused checked", L"radio \"Folder\"",
-        L"combo \"Drive\" {c:} collapsed", L"list \"Folder\"", L"list \"File\"", L"edit \"Path\" {} readonly",
+       {L"client \"Add To List\"", L"radio \"Prog.\" focused checked", L"radio \"Folder\"", drive + L" collapsed",
+        L"list \"Folder\"", L"list \"File\"", L"edit \"Path\" {} readonly",
         L"edit \"Type a Launch Name\" {} unavailable", L"button \"Add\" unavailable"}},
-      {VK_F3, {L"client \"Open\"", L"combo \"Drive\" {c:} focused collapsed", L"button \"Open\" unavailable"}},
+      {VK_F3, {L"client \"Open\"", drive + L" focused collapsed", L"button \"Open\" unavailable"}},
       {VK_F4,
        {L"client \"List\"", L"group \"Program List :\"", L"combo \"Program Name\" {notepad} focused collapsed",
         L"combo \"Program Launch Path\" {" + folder / L"a.exe" + L"} collapsed", L"combo \"Web URL Name\" {} collapsed",

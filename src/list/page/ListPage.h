@@ -36,6 +36,7 @@ class ListPage : public panel::Page {
   [[nodiscard]] message::MessageKey Refusal() override;
   void Load() override;
   void Prepare() override;
+  void ItemAdded() override { Prepare(); }
   form::Size LayOut() override;
   form::Control* First() override;
 
