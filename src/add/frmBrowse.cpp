@@ -76,12 +76,16 @@ void frmBrowse::Open(BrowseUse use) {
     Load();
     use_ = use;
     const BrowseUse before = std::exchange(lastUse_, use);
+    if (before == BrowseUse::Add) addFolder_ = DirWork.Path();
     ReadLists();
     if (Opening()) {
       FrameAddedInfo.SetVisible(false);
       OfferFiles(EveryFile, true);
-    } else if (before == BrowseUse::Open || (ChoosesFolder() && TextAddPath.Text().empty())) {
-      ShowChosenKind();  // the path may belong to a folder that is no longer shown, or may have been added
+    } else {
+      OfferKind();
+      // The path may belong to a folder that is no longer shown, or may have been added.
+      const bool moved = before == BrowseUse::Open && DirWork.Path() != addFolder_;
+      if (moved || TextAddPath.Text().empty()) StartPath();
     }
     CommandSelectOK.SetEnabled(false);
     LayOut();
@@ -124,6 +128,13 @@ void frmBrowse::OptionBrowse_Click(AddKind kind) {
 }
 
 void frmBrowse::ShowChosenKind() {
+  OfferKind();
+  if (!Adding()) return;
+  StartPath();
+  TextAddName.SetFocus();
+}
+
+void frmBrowse::OfferKind() {
   const bool folder = ChoosesFolder();
   const bool program = state_.WhatToAdd == AddKind::Program;
   CommandFindPath.SetEnabled(program);
@@ -131,10 +142,11 @@ void frmBrowse::ShowChosenKind() {
   LabelFindResult.SetEnabled(program);
   if (folder) FileWork.SetListIndex(-1);
   OfferFiles(state_.WhatToAdd == AddKind::File ? EveryFile : Programs, !folder);
-  if (!Adding()) return;
-  TextAddPath.SetText(folder ? DirWork.Path() : std::wstring());
-  EnableNameBox(folder || FileWork.ListIndex() != -1);
-  TextAddName.SetFocus();
+}
+
+void frmBrowse::StartPath() {
+  TextAddPath.SetText(ChoosesFolder() ? DirWork.Path() : std::wstring());
+  EnableNameBox(ChoosesFolder() || FileWork.ListIndex() != -1);
 }
 
 void frmBrowse::OfferFiles(std::wstring_view pattern, bool enabled) {
@@ -248,14 +260,15 @@ void frmBrowse::CommandAddOK_Click() {
   PictureNo.SetFocus();
   const std::wstring path = TextAddPath.Text();
   if (path.empty()) return FileWork.SetFocus();  // a name is left over, but nothing is chosen
-  if (RefusedByPlace(path)) return PathSource().SetFocus();
+  form::Control& source = PathSource();
+  if (RefusedByPlace(path)) return source.SetFocus();
   const list::LaunchGroup group = GroupOf(context_.Services, state_.WhatToAdd, path);
   const list::AddBox box{TextAddPath, TextAddName, FrameAddedInfo};
   const list::AddResult result =
       list::AddUnlessListed(box, list_, group, BannerOf(group), context_.Messages, context_.Services.Language);
   if (result == list::AddResult::PathListed || (result == list::AddResult::Added && !ChoosesFolder()))
     FileWork.Refresh();
-  if (result == list::AddResult::PathListed) PathSource().SetFocus();
+  if (result == list::AddResult::PathListed || result == list::AddResult::Full) source.SetFocus();
   if (result == list::AddResult::Added) context_.Host.ItemAdded();
 }
 

@@ -107,6 +107,9 @@ class frmBrowse : public form::Form {
   [[nodiscard]] bool Opening() const { return use_ == BrowseUse::Open; }
   [[nodiscard]] form::Control& FirstControl();
   void ShowChosenKind();
+  void OfferKind();
+  /// The path of a kind for which nothing is chosen yet.
+  void StartPath();
   void OfferFiles(std::wstring_view pattern, bool enabled);
   void EnableNameBox(bool enable);
   void ReadLists();
@@ -128,6 +131,7 @@ class frmBrowse : public form::Form {
   Finder finder_;
   BrowseUse use_ = BrowseUse::None;
   BrowseUse lastUse_ = BrowseUse::None;  // None: it has not been opened yet
+  std::wstring addFolder_;               // where the user was when the box was last used for adding
 };
 
 /// The browse box as a panel for one of its uses.

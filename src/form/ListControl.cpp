@@ -22,8 +22,7 @@ std::wstring ListControl::Text() const { return listIndex_ == -1 ? std::wstring(
 void ListControl::InputSelect(int index, ListInput how) {
   if (!AcceptsInput()) return;
   const Scoped input(input_, how);
-  const bool walkedHere = std::exchange(walked_, how == ListInput::Walk) && index == listIndex_ && index != -1;
-  if (walkedHere && how != ListInput::Walk)
+  if (index == listIndex_ && index != -1 && how != ListInput::Walk)
     EntrySelected();
   else
     SetListIndex(index);

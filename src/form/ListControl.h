@@ -47,6 +47,7 @@ class ListControl : public Control {
 
   // What the user does, as reported by the back end.
 
+  /// A click on the selected entry selects it again; walking to it does not.
   void InputSelect(int index, ListInput how = ListInput::Click);
   /// Moves to an entry, or to the nearest one that is ready: first looking further on, then back. An index beyond the
   /// ends counts as the end.
@@ -71,7 +72,6 @@ class ListControl : public Control {
   void ChooseEntry();
 
   ListInput input_ = ListInput::None;
-  bool walked_ = false;  // the selected entry was reached by Walk and has not been clicked
 };
 
 /// A list that shows its selected entry, and all entries when it is dropped down.
