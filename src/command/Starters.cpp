@@ -12,6 +12,9 @@ namespace {
 
 constexpr message::MessageKey StartError = message::MessageProgramStartError;
 
+/// Whether quotes would cut off the end of an address.
+bool IsCutByQuotes(std::wstring_view target) { return target.ends_with(L'\\') && target.find(L"://") != target.npos; }
+
 /// A target in the form that the shell takes as one word. A double quote would end it.
 std::wstring Quoted(std::wstring_view target) {
   // A backslash before the closing quote would make the quote part of the name. A drive's root has to keep its own.
@@ -57,7 +60,9 @@ message::MessageKey Starters::OpenWithShell(std::wstring_view target) const {
 }
 
 message::MessageKey Starters::OpenWebAddress(std::wstring_view address) const {
-  return Outcome(IsPlain(address) && services_.ScriptShell.Run(Quoted(address)), StartError);
+  service::ScriptShell& shell = services_.ScriptShell;
+  const auto open = [&] { return IsCutByQuotes(address) ? shell.Open(address) : shell.Run(Quoted(address)); };
+  return Outcome(IsPlain(address) && open(), StartError);
 }
 
 message::MessageKey Starters::OpenItem(std::wstring_view target) const {
@@ -66,7 +71,8 @@ message::MessageKey Starters::OpenItem(std::wstring_view target) const {
 
 bool Starters::OpenExactly(std::wstring_view target) const {
   service::ScriptShell& shell = services_.ScriptShell;
-  return shell.ExpandVariables(target) == target ? shell.Run(Quoted(target)) : shell.Open(target);
+  return shell.ExpandVariables(target) == target && !IsCutByQuotes(target) ? shell.Run(Quoted(target))
+                                                                           : shell.Open(target);
 }
 
 message::MessageKey Starters::SendMailTo(std::wstring_view address, std::wstring_view subject,

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 #include "form/Keys.h"
 #include "text/Ascii.h"
@@ -55,6 +56,7 @@ void TextBox::InputEdited(std::wstring_view text, int selStart, int selLength) {
   const bool typedOver = selLength_ > 0 && selLength == 0;
   InputSelection(selStart, selLength);
   if (text_ == text && !typedOver) return;
+  composed_ = composing_;
   text_ = text;
   Change();
 }
@@ -67,8 +69,7 @@ void TextBox::InputSelection(int selStart, int selLength) {
 void TextBox::InputComposing(bool composing) {
   if (composing_ == composing) return;
   composing_ = composing;
-  if (composing_) textBeforeComposing_ = text_;
-  if (composing_ || text_ == textBeforeComposing_) {
+  if (!std::exchange(composed_, false)) {
     Compose(composing_);
   } else {
     Change();

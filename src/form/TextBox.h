@@ -43,7 +43,7 @@ class TextBox : public Control {
   /// composing, because the keys are meant for it.
   Event<Key&> KeyDown;
   Event<int /*rows*/> Wheel;  // turned over the box; positive is down
-  /// An input method starts composing (true), or ends without having changed the text (false).
+  /// An input method starts composing (true), or ends without an edit (false).
   Event<bool> Compose;
   /// A character key or an editing key has taken effect, if it had any.
   Event<> KeyDone;
@@ -64,7 +64,7 @@ class TextBox : public Control {
   /// The text after an edit by the user.
   void InputEdited(std::wstring_view text, int selStart, int selLength);
   void InputSelection(int selStart, int selLength);
-  /// Composing starts or ends. If it ends with a different text than it started with, Change is raised once more.
+  /// Composing starts or ends. If the text was edited meanwhile, Change is raised once more, even if it is the same.
   void InputComposing(bool composing);
   void InputDblClick() override;
   void InputCharacter(wchar_t character) override;
@@ -77,7 +77,7 @@ class TextBox : public Control {
   int selStart_ = 0;
   int selLength_ = 0;
   bool composing_ = false;
-  std::wstring textBeforeComposing_;
+  bool composed_ = false;  // the text has been edited since composing started
   bool locked_ = false;
 };
 

@@ -11,6 +11,7 @@ using test::World;
 TEST_CASE("a name or an address is opened for what it is, and for nothing that a part or a variable of it names") {
   const std::pair<std::wstring, std::wstring> rows[] = {
       {L"w;x.example", L"shell \"http://www.x.example\""},
+      {L"w=http://x/?a\\", L"open http://x/?a\\"},
       {L"w=%TEMP%", L"shell \"%TEMP%\""},
       {L"w-N", L"shell \"http://news.example/?%22%TEMP%22\""},
       {L"w-v", L"open http://news.example/%TEMP%"},
