@@ -81,17 +81,12 @@ void ActiveStart::PrepareData() {
   state::Environment& environment = program_.Environment;
   SetDataFiles(environment);
   program_.ListFiles.Restore();
-  if (!environment.RunMode) {
-    canSave_ = PrepareDataFolder(program_.Services, environment);
-    LoadName();
-    return;
-  }
-  if (const message::MessageKey refusal = PrepareMedia(program_.Services, environment); !refusal.empty()) {
-    Stop(refusal);
-    return;
-  }
+  const auto prepare = environment.RunMode ? PrepareMedia : PrepareDataFolder;
+  const DataFolderState folder = prepare(program_.Services, environment);
+  if (!folder.Refusal.empty()) return Stop(folder.Refusal);
+  canSave_ = folder.CanSave;
   LoadName();
-  list::IdentifyMachine(program_.Services, program_.Messages, environment);
+  if (environment.RunMode) list::IdentifyMachine(program_.Services, program_.Messages, environment);
 }
 
 void ActiveStart::LoadName() {
@@ -146,6 +141,9 @@ void ActiveStart::TellWhereSaved() {
   if (!program_.Ui.Ended()) program_.ListFiles.ForgetSavedElsewhere();
 }
 
-void ActiveStart::Stop(message::MessageKey key) { program_.Messages.ShowStopMessage(key); }
+void ActiveStart::Stop(message::MessageKey key) {
+  files_.reset();  // the user may take hours to answer
+  program_.Messages.ShowStopMessage(key);
+}
 
 }  // namespace vantor::start

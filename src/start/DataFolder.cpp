@@ -89,25 +89,26 @@ bool CreateMedia(const service::Services& services, const state::Environment& en
 
 }  // namespace
 
-bool PrepareDataFolder(const service::Services& services, state::Environment& environment) {
+DataFolderState PrepareDataFolder(const service::Services& services, state::Environment& environment) {
   const std::wstring_view found = FindData(services, environment);
-  if (!found.empty()) return services.DataFiles.CanWrite(found);
+  if (!found.empty()) return {{}, services.DataFiles.CanWrite(found)};
   environment.FirstStart = true;
-  return services.DataFiles.MakeFolder(environment.DataFolder) && WriteFirstSettings(services, environment);
+  return {{}, services.DataFiles.MakeFolder(environment.DataFolder) && WriteFirstSettings(services, environment)};
 }
 
-message::MessageKey PrepareMedia(const service::Services& services, state::Environment& environment) {
+DataFolderState PrepareMedia(const service::Services& services, state::Environment& environment) {
   if (IsFresh(services, environment)) {
     environment.FirstStart = true;
-    return CreateMedia(services, environment) ? message::MessageKey() : message::MessageMediaCreateError;
+    return {CreateMedia(services, environment) ? message::MessageKey() : message::MessageMediaCreateError};
   }
   // If it can't be read just now, the medium has been used before.
   const auto media = ReadMediaSet(services, environment);
-  if (media && media->State.empty()) return message::MessageRecreateMedia;
-  if (media && media->State == MediaSetup) return message::MessageMediaRunCancel;
-  if (!FindData(services, environment).empty()) return {};
+  if (media && media->State.empty()) return {message::MessageRecreateMedia};
+  if (media && media->State == MediaSetup) return {message::MessageMediaRunCancel};
+  if (const std::wstring_view found = FindData(services, environment); !found.empty())
+    return {{}, services.DataFiles.CanWrite(found)};
   environment.FirstStart = true;
-  return WriteFirstSettings(services, environment) ? message::MessageKey() : message::MessageMediaCreateError;
+  return {WriteFirstSettings(services, environment) ? message::MessageKey() : message::MessageMediaCreateError};
 }
 
 std::optional<std::wstring> LoadUserName(const service::Services& services, const state::Environment& environment) {

@@ -10,13 +10,17 @@
 
 namespace vantor::start {
 
-/// Fixed-disk mode: creates the data folder with its first settings file if there is none, and then sets FirstStart.
-/// Returns false if nothing can be saved there; for an existing file, this is determined without writing.
-[[nodiscard]] bool PrepareDataFolder(const service::Services& services, state::Environment& environment);
+struct DataFolderState {
+  message::MessageKey Refusal;  // of the stop message that says why the program can't run; "" if it can
+  bool CanSave = true;          // for an existing file, this is determined without writing
+};
 
-/// Removable-media mode: the same on the medium, plus a check of existing data. Returns the key of the stop message
-/// that says why the program can't run from it, "" if it can.
-[[nodiscard]] message::MessageKey PrepareMedia(const service::Services& services, state::Environment& environment);
+/// Fixed-disk mode: creates the data folder with its first settings file if there is none, and then sets FirstStart.
+/// Refuses nothing.
+[[nodiscard]] DataFolderState PrepareDataFolder(const service::Services& services, state::Environment& environment);
+
+/// Removable-media mode: the same on the medium, plus a check of existing data.
+[[nodiscard]] DataFolderState PrepareMedia(const service::Services& services, state::Environment& environment);
 
 /// The stored name of the user, "" if there is none. Nothing if it can't be read now.
 [[nodiscard]] std::optional<std::wstring> LoadUserName(const service::Services& services,
