@@ -55,7 +55,8 @@ std::string MeasureStarts() {
   full.WriteData(L"ListWeb", ListBytes(Items(400, {L"Site", L"http://www.example.org"})));
   std::vector<Contestant> contestants = {{L"a bare window with a text box", Beside(L"Floor.exe")},
                                          {L"Vantor, no items", empty.CopyProgram(L"Vantor.exe", L"Vantor.exe")},
-                                         {L"Vantor, 400 items", full.CopyProgram(L"Vantor.exe", L"Vantor.exe")}};
+                                         {L"Vantor, 400 items", full.CopyProgram(L"Vantor.exe", L"Vantor.exe")},
+                                         {L"the system's Run dialog", Beside(L"RunDialog.exe")}};
   for (Contestant& one : contestants) one.Command = L'"' + one.Command + L'"';
   ::MeasureStarts(contestants, Rounds);
   std::string table;

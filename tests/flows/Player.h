@@ -179,19 +179,29 @@ class Player : public World {
   void Only(const Text& world) {
     if (world != Name) throw Skip("only " + Narrow(world));
   }
+  void NeedNoStart() const {
+    if (started_) throw Failure("comes after the start");
+  }
   void GiveItems(const Text& list, const Text& items) {
+    NeedNoStart();
     for (const Text& item : Split(items, L" | ")) {
       const auto [name, target] = Cut(item, L" > ");
       const Text path = target.empty() ? PathOf(L"tool.exe") : target;
       items_[list].append(L"\"").append(name).append(L"\",\"").append(path).append(L"\" | ");
     }
   }
-  void GiveSettings(const Text& changes) { settings_ = changes; }
-  void GiveFirstStart() { firstStart_ = true; }
+  void GiveSettings(const Text& changes) {
+    NeedNoStart();
+    settings_ = changes;
+  }
+  void GiveFirstStart() {
+    NeedNoStart();
+    firstStart_ = true;
+  }
   void GiveData(const Text& name, const Text& records) { Write(DataPath(name), Records(records)); }
   /// With what the program finds if it is not its first start.
   void Begin() {
-    if (!std::exchange(firstStart_, true)) {
+    if (!std::exchange(started_, true) && !firstStart_) {
       MakeProgram(PathOf(L"tool.exe"));
       for (const auto& [list, records] : items_) {
         GiveData(list, records);
@@ -259,6 +269,7 @@ class Player : public World {
   Text settings_;
   std::map<Text, Text> items_;  // records by the list file's name
   bool firstStart_ = false;
+  bool started_ = false;
   std::size_t seenStarts_ = Started().size();
 };
 

@@ -137,10 +137,7 @@ TEST_CASE("a file that may not be written leaves the old list whole, and the new
   }
 }
 
-TEST_CASE(
-    "a file held at the start is waited for, then copied before it is replaced, or else left alone, and the new list "
-    "is "
-    "saved elsewhere") {
+TEST_CASE("a file held at the start is waited for, and copied before it is replaced, or the new list goes elsewhere") {
   const Texts before = Loaded(Used());
   for (const auto* name : {L"Set", L"ListWeb", L"MachineProg", L"Saving"}) {
     for (const bool released : {true, false}) {
