@@ -12,9 +12,6 @@ namespace {
 
 constexpr message::MessageKey StartError = message::MessageProgramStartError;
 
-/// Whether quotes would cut off the end of an address.
-bool IsCutByQuotes(std::wstring_view target) { return target.ends_with(L'\\') && target.find(L"://") != target.npos; }
-
 /// A target in the form that the shell takes as one word. A double quote would end it.
 std::wstring Quoted(std::wstring_view target) {
   // A backslash before the closing quote would make the quote part of the name. A drive's root has to keep its own.
@@ -22,6 +19,12 @@ std::wstring Quoted(std::wstring_view target) {
   std::wstring quoted = L"\"";
   for (const wchar_t c : target) quoted += c == L'"' ? std::wstring(L"%22") : std::wstring(1, c);
   return quoted += L'"';
+}
+
+bool RunQuoted(service::ScriptShell& shell, std::wstring_view target) {
+  // Quotes would cut off the end of such an address.
+  const bool cut = target.ends_with(L'\\') && target.find(L"://") != target.npos;
+  return cut ? shell.Open(target) : shell.Run(Quoted(target));
 }
 
 message::MessageKey Outcome(bool started, message::MessageKey failure) {
@@ -60,9 +63,7 @@ message::MessageKey Starters::OpenWithShell(std::wstring_view target) const {
 }
 
 message::MessageKey Starters::OpenWebAddress(std::wstring_view address) const {
-  service::ScriptShell& shell = services_.ScriptShell;
-  const auto open = [&] { return IsCutByQuotes(address) ? shell.Open(address) : shell.Run(Quoted(address)); };
-  return Outcome(IsPlain(address) && open(), StartError);
+  return Outcome(IsPlain(address) && RunQuoted(services_.ScriptShell, address), StartError);
 }
 
 message::MessageKey Starters::OpenItem(std::wstring_view target) const {
@@ -71,8 +72,7 @@ message::MessageKey Starters::OpenItem(std::wstring_view target) const {
 
 bool Starters::OpenExactly(std::wstring_view target) const {
   service::ScriptShell& shell = services_.ScriptShell;
-  return shell.ExpandVariables(target) == target && !IsCutByQuotes(target) ? shell.Run(Quoted(target))
-                                                                           : shell.Open(target);
+  return shell.ExpandVariables(target) == target ? RunQuoted(shell, target) : shell.Open(target);
 }
 
 message::MessageKey Starters::SendMailTo(std::wstring_view address, std::wstring_view subject,
