@@ -83,10 +83,11 @@ inline int Number(const Text& word) {
 
 /// The scripting file system's number for a type of drive; Windows' own is one more.
 inline int DriveType(const Text& type) {
-  constexpr std::wstring_view types[] = {L"floppy", L"fixed", L"network", L"cdrom", L"empty"};
-  const auto* const found = std::ranges::find(types, type);
+  using Named = std::pair<std::wstring_view, int>;
+  constexpr Named types[] = {{L"floppy", 1}, {L"fixed", 2}, {L"network", 3}, {L"cdrom", 4}, {L"empty", 4}};
+  const auto* const found = std::ranges::find(types, type, &Named::first);
   if (found == std::end(types)) throw Failure("no such type of drive: " + Narrow(type));
-  return type == L"empty" ? DriveType(L"cdrom") : static_cast<int>(found - types) + 1;
+  return found->second;
 }
 
 /// A key by its name, its letter, or F and its number.

@@ -88,7 +88,7 @@ void BreakEverywhere(bool onMedium, Fault fault) {
       const std::wstring& web = kept.Environment.Files.ListWeb;
       const bool isProtected = again % 2 == 0 && kept.Disk.HasFile(web);
       if (isProtected) kept.Disk.At(web).Writable = false;
-      // Either save of a run may be the one.
+      // The save that is broken off may also be the second one of its run.
       if (again % 3 == 0) kept.Save();
       kept.Settings.OptionMask = 1;
       kept.Disk.Break(Fault::Gone, again);
